@@ -1,0 +1,40 @@
+# Functions that make this project's targets, so that each of them is stated once.
+
+# What every target of this project has in common.
+function(orvcad_configure_target target)
+    target_compile_features(${target} PUBLIC cxx_std_17)
+    set_target_properties(${target} PROPERTIES
+        CXX_EXTENSIONS OFF
+        CXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON)
+    target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:ORVCADDeveloper>)
+endfunction()
+
+# orvcad_add_library(<target> <name in the package>)
+# A shared library without sources; the folders add theirs with target_sources.
+function(orvcad_add_library target export_name)
+    add_library(${target} SHARED)
+    add_library(ORVCADModelData::${export_name} ALIAS ${target})
+    orvcad_configure_target(${target})
+    generate_export_header(${target} EXPORT_FILE_NAME ${PROJECT_BINARY_DIR}/include/${target}Export.h)
+    target_sources(${target} PRIVATE ${PROJECT_BINARY_DIR}/include/${target}Export.h)
+    target_include_directories(${target} PUBLIC
+        $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>
+        $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/include>
+        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/ORVCADModelData>)
+    set_target_properties(${target} PROPERTIES
+        EXPORT_NAME ${export_name}
+        LINKER_LANGUAGE CXX
+        VERSION ${PROJECT_VERSION}
+        SOVERSION ${PROJECT_VERSION_MAJOR}
+        INSTALL_RPATH "$ORIGIN")
+endfunction()
+
+# orvcad_add_folders(<folder>...): those that have something to build.
+macro(orvcad_add_folders)
+    foreach(folder IN ITEMS ${ARGN})
+        if(EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/CMakeLists.txt)
+            add_subdirectory(${folder})
+        endif()
+    endforeach()
+endmacro()

@@ -1,0 +1,48 @@
+# Test programs, one per folder below tests/, and the check that no test file is left out of them.
+
+include(GoogleTest)
+
+# orvcad_add_tests(<name> SOURCES <file>... [LIBRARIES <target>...] [EMBEDDED])
+# Makes the program <name>Tests; its tests carry the label <name>. EMBEDDED: the sources use the embedded host, so the
+# program is left out where a vendor's platform takes its place.
+function(orvcad_add_tests name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "EMBEDDED" "" "SOURCES;LIBRARIES")
+    if(arg_UNPARSED_ARGUMENTS OR NOT arg_SOURCES)
+        message(FATAL_ERROR "orvcad_add_tests(${name}): SOURCES missing, or not understood: ${arg_UNPARSED_ARGUMENTS}")
+    endif()
+    list(TRANSFORM arg_SOURCES PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/ OUTPUT_VARIABLE sources)
+    set_property(GLOBAL APPEND PROPERTY ORVCAD_TEST_SOURCES ${sources})
+    if(arg_EMBEDDED AND ORVCAD_PLATFORM_TARGET)
+        return()
+    endif()
+
+    set(program ${name}Tests)
+    add_executable(${program} ${sources})
+    orvcad_configure_target(${program})
+    target_link_libraries(${program} PRIVATE ORVCADTestSupport ${arg_LIBRARIES})
+
+    set(work ${PROJECT_BINARY_DIR}/tests/work/${name})
+    file(MAKE_DIRECTORY ${work})
+    gtest_discover_tests(${program}
+        DISCOVERY_MODE PRE_TEST
+        DISCOVERY_TIMEOUT 60
+        WORKING_DIRECTORY ${work}
+        PROPERTIES LABELS ${name} TIMEOUT 300)
+endfunction()
+
+# A test file that stands in the tree and is in no program is an error with ORVCAD_WERROR, else a warning.
+function(orvcad_check_all_tests_are_built)
+    get_property(built GLOBAL PROPERTY ORVCAD_TEST_SOURCES)
+    file(GLOB_RECURSE forgotten CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*Test.cpp)
+    if(built)
+        list(REMOVE_ITEM forgotten ${built})
+    endif()
+    if(forgotten)
+        list(JOIN forgotten "\n  " lines)
+        set(severity WARNING)
+        if(ORVCAD_WERROR)
+            set(severity FATAL_ERROR)
+        endif()
+        message(${severity} "Tests that stand in the tree and are in no orvcad_add_tests:\n  ${lines}")
+    endif()
+endfunction()
