@@ -1,0 +1,246 @@
+#include "platform/geometry/CArc2d.h"
+
+#include "platform/geometry/GeometryText.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace vks {
+
+namespace {
+
+constexpr double kPi = 3.14159265358979323846;
+constexpr double kFullTurn = 2 * kPi;
+constexpr double kFullTurnTolerance = 1e-9; // rad; a sweep this close to a full turn is one
+constexpr double kSmallSweep = 1e-2;        // rad; below this sin needs its series to keep its digits
+
+/** sweep - sin(sweep), to full precision for small sweeps, too. */
+double sweepMinusSine(double sweep)
+{
+    if (std::fabs(sweep) > kSmallSweep)
+        return sweep - std::sin(sweep);
+    const double square = sweep * sweep;
+    return sweep * square / 6 * (1 - square / 20 * (1 - square / 42));
+}
+
+/** A value brought into [0, turn). */
+double withinTurn(double value, double turn)
+{
+    const double rest = std::fmod(value, turn);
+    return rest < 0 ? rest + turn : rest;
+}
+
+} // namespace
+
+CArc2d::CArc2d(const CVec2<double> &start, const CVec2<double> &end, double bulge) : m_start(start), m_end(end)
+{
+    const CVec2<double> chord = end - start;
+    m_middle = start + chord / 2 - chord.Left() * (bulge / 2);
+    const CVec2<double> toCentre = chord / 2 + chord.Left() * ((1 - bulge * bulge) / (4 * bulge));
+    setCircle(toCentre, 4 * std::atan(bulge));
+}
+
+CArc2d::CArc2d(const CVec2<double> &centre, double radius, double startAngle, double endAngle)
+{
+    const double size = std::fabs(radius);
+    const auto pointAt = [&](double angle) { return centre + CVec2<double>(size, 0).Rotated(angle); };
+    const double sweep = std::clamp(endAngle - startAngle, -kFullTurn, kFullTurn);
+    const bool full = std::fabs(sweep) >= kFullTurn - kFullTurnTolerance;
+    m_start = pointAt(startAngle);
+    m_middle = full ? centre * 2.0 - m_start : pointAt(startAngle + sweep / 2);
+    m_end = full ? m_start : pointAt(startAngle + sweep);
+    setCircle(centre - m_start, full ? std::copysign(kFullTurn, sweep) : sweep);
+}
+
+CArc2d::CArc2d(const CVec2<double> &start, const CVec2<double> &middle, const CVec2<double> &end)
+    : m_start(start), m_middle(middle), m_end(end)
+{
+    if (start == end) {
+        setCircle((middle - start) / 2, kFullTurn);
+        return;
+    }
+    const CVec2<double> a = middle - start;
+    const CVec2<double> b = end - start;
+    const double cross = a.Cross(b); // positive for a counter-clockwise arc
+    const CVec2<double> toCentre =
+        CVec2<double>(b.y * a.SqrLength() - a.y * b.SqrLength(), a.x * b.SqrLength() - b.x * a.SqrLength()) /
+        (2 * cross);
+    const CVec2<double> toStart = start - middle;
+    const CVec2<double> toEnd = end - middle;
+    const double angleAtMiddle = std::atan2(std::fabs(toStart.Cross(toEnd)), toStart.Dot(toEnd));
+    setCircle(toCentre, std::copysign(kFullTurn - 2 * angleAtMiddle, cross));
+}
+
+void CArc2d::setCircle(const CVec2<double> &toCentre, double sweep)
+{
+    const double radius = toCentre.Length();
+    const double length = radius * std::fabs(sweep);
+    if (std::isfinite(length) && sweep != 0.0) {
+        m_toCentre = toCentre;
+        m_radius = radius;
+        m_sweep = sweep;
+        m_length = length;
+    } else {
+        constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+        m_toCentre = {nan, nan};
+        m_radius = std::numeric_limits<double>::infinity();
+        m_sweep = 0.0;
+        m_length = m_start.DistanceTo(m_end);
+    }
+    resetRange(m_length);
+}
+
+double CArc2d::GetBulge() const
+{
+    return IsClosed() ? std::copysign(std::numeric_limits<double>::infinity(), m_sweep) : std::tan(SweepAngle() / 4);
+}
+
+double CArc2d::StartAngle() const
+{
+    const CVec2<double> outwards = StartPoint() - CenterPt();
+    return std::atan2(outwards.y, outwards.x);
+}
+
+double CArc2d::SweepAngle() const
+{
+    return m_length > 0.0 ? m_sweep * (Length() / m_length) : m_sweep;
+}
+
+bool CArc2d::IsFlat() const
+{
+    return m_sweep == 0.0;
+}
+
+CRefPtr<CCurve2d> CArc2d::Clone() const
+{
+    return new CArc2d(*this);
+}
+
+CVec2<double> CArc2d::GetPoint(double t) const
+{
+    if (t == 0.0 || !(m_length > 0.0))
+        return m_start;
+    if (t == m_length)
+        return m_end;
+    if (IsFlat())
+        return m_start + (m_end - m_start) * (t / m_length);
+    // By the chord from the start, which keeps its digits however far away the centre lies.
+    const double turned = m_sweep * (t / m_length);
+    return m_start + startDirection().Rotated(turned / 2) * (2 * m_radius * std::sin(std::fabs(turned) / 2));
+}
+
+CVec2<double> CArc2d::startDirection() const
+{
+    const CVec2<double> tangent = m_toCentre.Left() / m_radius;
+    return m_sweep > 0 ? -tangent : tangent;
+}
+
+CVec2<double> CArc2d::GetDirection(double t) const
+{
+    if (IsFlat())
+        return (m_end - m_start).Normalized();
+    return m_length > 0.0 ? startDirection().Rotated(m_sweep * (t / m_length)) : CVec2<double>();
+}
+
+bool CArc2d::IsClosed() const
+{
+    return !IsEmpty() && std::fabs(SweepAngle()) >= kFullTurn - kFullTurnTolerance;
+}
+
+double CArc2d::NearestT(const CVec2<double> &point) const
+{
+    if (IsEmpty() || !(m_length > 0.0))
+        return StartT();
+    if (IsFlat())
+        return std::clamp((point - m_start).Dot((m_end - m_start).Normalized()), StartT(), EndT());
+    // The angle from the start, by products that keep their digits however far away the centre lies.
+    const CVec2<double> fromStart = point - m_start;
+    const double angle = std::atan2(fromStart.Cross(m_toCentre), m_toCentre.SqrLength() - fromStart.Dot(m_toCentre));
+    const double circle = kFullTurn * m_radius;
+    const double t = withinTurn(m_sweep > 0 ? angle : -angle, kFullTurn) * m_radius;
+    for (const double candidate : {t, t - circle, t + circle})
+        if (candidate >= StartT() && candidate <= EndT())
+            return candidate;
+    return withinTurn(t - EndT(), circle) < withinTurn(StartT() - t, circle) ? EndT() : StartT();
+}
+
+double CArc2d::TwiceSegmentArea() const
+{
+    return IsFlat() || IsEmpty() ? 0.0 : m_radius * m_radius * sweepMinusSine(SweepAngle());
+}
+
+CVec2<double> CArc2d::SegmentCentroid() const
+{
+    const double sweep = std::fabs(SweepAngle());
+    if (IsFlat() || IsEmpty() || sweep < kSmallSweep)
+        return MidPoint();
+    const double sine = std::sin(sweep / 2);
+    const double distance = 4 * sine * sine * sine / (3 * sweepMinusSine(sweep)); // in parts of the radius
+    return CenterPt() + (MidPoint() - CenterPt()) * distance;
+}
+
+void CArc2d::Reverse()
+{
+    const double sweep = SweepAngle();
+    const CVec2<double> centre = CenterPt();
+    const CVec2<double> newEnd = StartPoint();
+    m_middle = textMiddle();
+    m_start = EndPoint();
+    m_end = newEnd;
+    setCircle(centre - m_start, -sweep);
+}
+
+CVec2<double> CArc2d::textMiddle() const
+{
+    return StartT() == 0.0 && EndT() == m_length ? m_middle : MidPoint();
+}
+
+CBox2<double> CArc2d::Box() const
+{
+    CBox2<double> box;
+    if (IsEmpty())
+        return box;
+    box.Add(StartPoint());
+    box.Add(EndPoint());
+    if (IsFlat())
+        return box;
+    const CVec2<double> toSides[] = {{m_radius, 0}, {0, m_radius}, {-m_radius, 0}, {0, -m_radius}};
+    const double from = m_sweep > 0 ? StartAngle() : StartAngle() + SweepAngle();
+    for (int side = 0; side < 4; ++side)
+        if (withinTurn(side * kPi / 2 - from, kFullTurn) <= std::fabs(SweepAngle()))
+            box.Add(CenterPt() + toSides[side]);
+    return box;
+}
+
+void CArc2d::Translate(const CVec2<double> &move)
+{
+    for (CVec2<double> *point : {&m_start, &m_middle, &m_end})
+        *point += move;
+}
+
+void CArc2d::Rotate(const CVec2<double> &centre, double angle)
+{
+    for (CVec2<double> *point : {&m_start, &m_middle, &m_end})
+        *point = centre + (*point - centre).Rotated(angle);
+    m_toCentre = m_toCentre.Rotated(angle);
+}
+
+void CArc2d::MirrorX()
+{
+    for (CVec2<double> *point : {&m_start, &m_middle, &m_end, &m_toCentre})
+        point->x = -point->x;
+    m_sweep = -m_sweep;
+}
+
+double CArc2d::longestRange() const
+{
+    return IsFlat() ? std::numeric_limits<double>::max() : kFullTurn * m_radius;
+}
+
+void CArc2d::writeText(std::string &text) const
+{
+    GeometryText::appendArc(text, StartPoint(), textMiddle(), EndPoint());
+}
+
+} // namespace vks

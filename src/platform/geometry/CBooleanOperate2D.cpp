@@ -1,0 +1,187 @@
+#include "platform/geometry/CBooleanOperate2D.h"
+
+#include "platform/geometry/ArcChords.h"
+#include "platform/geometry/OverlayArea.h"
+#include "platform/geometry/RingWeld.h"
+
+#include <algorithm>
+#include <geos_c.h>
+
+namespace vks {
+
+namespace {
+
+/** Vertices nearer to each other are welded before overlay, mm. */
+constexpr double kWeldTolerance = 1e-3;
+/** A part or hole with an area below this times its perimeter is a sliver, mm. */
+constexpr double kSliverWidth = 0.01;
+/** Grids of the precision road, mm: the coarser one when GEOS fails on the finer one. */
+constexpr double kGrids[] = {kOverlayGrid, 10 * kOverlayGrid};
+
+/** What lies farther from the origin is no drawing, and would keep GEOS busy for ever, mm. */
+constexpr double kFarthest = 1e12;
+
+using Polygons = std::vector<const CPolygon *>;
+using Rings = std::vector<Ring>;
+
+enum class Operation { Unite, Subtract, Intersect };
+
+bool counts(const CPolygon *polygon)
+{
+    const CBox2<double> box = polygon ? polygon->Box() : CBox2<double>();
+    constexpr CBox2<double> range({-kFarthest, -kFarthest}, {kFarthest, kFarthest});
+    return box.IsValid() && range.Contains(box.minPt) && range.Contains(box.maxPt);
+}
+
+template <typename Visit>
+void forEachCurve(const CPolygon &polygon, Visit visit)
+{
+    for (int i = 0; i < polygon.LoopCount(); ++i)
+        for (const CRefPtr<CCurve2d> &curve : polygon.GetLoop(i)->Curves())
+            visit(*curve);
+}
+
+Rings ringsOf(const CPolygon &polygon, const CVec2<double> &origin, const ArcChords &chords)
+{
+    Rings rings(polygon.LoopCount());
+    for (int i = 0; i < polygon.LoopCount(); ++i) {
+        const auto &curves = polygon.GetLoop(i)->Curves();
+        rings[i].reserve(curves.size());
+        for (std::size_t k = 0; k < curves.size(); ++k) {
+            chords.appendCorners(*curves[k], rings[i]);
+            // A loop with a gap keeps both of its sides; welding makes one point of them where they agree.
+            if (curves[k]->EndPoint() != curves[(k + 1) % curves.size()]->StartPoint())
+                rings[i].push_back(curves[k]->EndPoint() - origin);
+        }
+    }
+    return rings;
+}
+
+/** One overlay: its polygons as rings about a common origin, far places being as good as near ones. */
+class Overlay
+{
+public:
+    Overlay(Operation operation, const Polygons &polygons);
+    CRefPtr<CPolygon> run() const;
+
+private:
+    std::vector<Rings> welded() const;
+    geos::Geometry overlay(const std::vector<Rings> &polygons, double grid) const;
+    geos::Geometry combine(const GEOSGeometry *a, const GEOSGeometry *b, double grid) const;
+    OverlayResult onGrid() const;
+
+    Operation m_operation;
+    CVec2<double> m_origin;
+    bool m_hasArcs = false;
+    std::size_t m_cornerCount = 0;
+    std::vector<Rings> m_polygons;
+};
+
+Overlay::Overlay(Operation operation, const Polygons &polygons) : m_operation(operation)
+{
+    CBox2<double> box;
+    for (const CPolygon *polygon : polygons)
+        box.Add(polygon->Box());
+    const CVec2<double> centre = box.minPt + (box.maxPt - box.minPt) / 2;
+    m_origin = {std::nearbyint(centre.x), std::nearbyint(centre.y)}; // whole, so that the grid stays where it is
+    ArcChords chords(m_origin);
+    for (const CPolygon *polygon : polygons)
+        forEachCurve(*polygon, [&chords](const CCurve2d &curve) { chords.learn(curve); });
+    m_hasArcs = chords.hasArcs();
+    for (const CPolygon *polygon : polygons) {
+        m_polygons.push_back(ringsOf(*polygon, m_origin, chords));
+        for (const Ring &ring : m_polygons.back())
+            m_cornerCount += ring.size();
+    }
+}
+
+std::vector<Rings> Overlay::welded() const
+{
+    RingWeld weld(m_cornerCount, kWeldTolerance, kOverlayGrid);
+    std::vector<Rings> polygons = m_polygons;
+    for (Rings &rings : polygons)
+        for (Ring &ring : rings)
+            std::transform(ring.begin(), ring.end(), ring.begin(),
+                           [&weld](const CVec2<double> &point) { return weld.weld(point); });
+    return polygons;
+}
+
+geos::Geometry Overlay::combine(const GEOSGeometry *a, const GEOSGeometry *b, double grid) const
+{
+    using Floating = GEOSGeometry *(*)(GEOSContextHandle_t, const GEOSGeometry *, const GEOSGeometry *);
+    using Precise = GEOSGeometry *(*)(GEOSContextHandle_t, const GEOSGeometry *, const GEOSGeometry *, double);
+    static constexpr Floating floating[] = {GEOSUnion_r, GEOSDifference_r, GEOSIntersection_r};
+    static constexpr Precise precise[] = {GEOSUnionPrec_r, GEOSDifferencePrec_r, GEOSIntersectionPrec_r};
+    const auto row = static_cast<std::size_t>(m_operation);
+    return geos::Geometry(grid > 0.0 ? precise[row](geos::context(), a, b, grid)
+                                     : floating[row](geos::context(), a, b));
+}
+
+/** Null when GEOS fails; also when an operand could not be made, so that the next road is tried. */
+geos::Geometry Overlay::overlay(const std::vector<Rings> &polygons, double grid) const
+{
+    std::vector<geos::Geometry> areas;
+    for (const Rings &rings : polygons) {
+        areas.push_back(areaOf(rings));
+        if (!areas.back())
+            return nullptr;
+    }
+    if (areas.size() == 2)
+        return combine(areas[0].get(), areas[1].get(), grid);
+    const geos::Geometry all = geos::collectionOf(std::move(areas));
+    return geos::Geometry(grid > 0.0 ? GEOSUnaryUnionPrec_r(geos::context(), all.get(), grid)
+                                     : GEOSUnaryUnion_r(geos::context(), all.get()));
+}
+
+OverlayResult Overlay::onGrid() const
+{
+    geos::Geometry result;
+    for (const double grid : kGrids)
+        if (!result)
+            result = overlay(m_polygons, grid);
+    OverlayResult polygons(result.get());
+    // What is thinner than the corners are exact is no part of the result: half the width of it is area / perimeter.
+    polygons.dropSlivers((m_hasArcs ? kChordSagitta : kOverlayGrid) / 2);
+    return polygons;
+}
+
+CRefPtr<CPolygon> Overlay::run() const
+{
+    const geos::Geometry result = overlay(welded(), 0.0);
+    const OverlayResult polygons(result.get());
+    if (result && !polygons.hasSliver(kSliverWidth))
+        return polygons.polygon(m_origin);
+    return onGrid().polygon(m_origin);
+}
+
+CRefPtr<CPolygon> overlaid(Operation operation, const Polygons &polygons)
+{
+    return polygons.empty() ? nullptr : Overlay(operation, polygons).run();
+}
+
+} // namespace
+
+CRefPtr<CPolygon> CBooleanOperate2D::MultUnite(const std::vector<CPolygon *> &polygons)
+{
+    Polygons counted;
+    std::copy_if(polygons.begin(), polygons.end(), std::back_inserter(counted), counts);
+    return overlaid(Operation::Unite, counted);
+}
+
+CRefPtr<CPolygon> CBooleanOperate2D::Subtract(const CPolygon *a, const CPolygon *b)
+{
+    if (!counts(a))
+        return nullptr;
+    if (!counts(b) || !a->Box().Intersects(b->Box()))
+        return overlaid(Operation::Unite, {a});
+    return overlaid(Operation::Subtract, {a, b});
+}
+
+CRefPtr<CPolygon> CBooleanOperate2D::Intersect(const CPolygon *a, const CPolygon *b)
+{
+    if (!counts(a) || !counts(b) || !a->Box().Intersects(b->Box()))
+        return nullptr;
+    return overlaid(Operation::Intersect, {a, b});
+}
+
+} // namespace vks

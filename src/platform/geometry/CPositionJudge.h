@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/geometry/CCurve2d.h"
+
+namespace vks {
+
+/** How two curves lie to each other. */
+enum EnCurveCurvePosition {
+    kCurvesInvalid = -1, ///< one of them is null, empty or of no length
+    kCurvesApart = 0,
+    kCurvesMeet = 1,     ///< meeting in points only
+    kCurvesOverlap = 2   ///< sharing a stretch
+};
+
+/** Judges the relation of curves within a distance tolerance. */
+class ORVCADPLATFORM_EXPORT CPositionJudge
+{
+public:
+    /** Starts with g_DistEpsilon. */
+    CPositionJudge();
+    /** mm; a value that is not above zero counts as g_DefaultDistEpsilon. */
+    void SetDistEpsilon(double tolerance);
+    /** 2 when a stretch of either curve longer than the tolerance lies within the tolerance of the other, 1 when they
+     *  come within the tolerance of each other otherwise. */
+    EnCurveCurvePosition GetCurveCurvePosition(const CCurve2d *a, const CCurve2d *b) const;
+
+private:
+    double m_distEpsilon;
+};
+
+} // namespace vks

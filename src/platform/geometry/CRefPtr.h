@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstddef>
+#include <type_traits>
+#include <utility>
+
+namespace vks {
+
+/** Holder of a CRefObject: the object lives as long as one holder does. Null is allowed.
+ *  Turns into a plain pointer by itself, which then is only valid while a holder exists. */
+template <typename T>
+class CRefPtr
+{
+public:
+    CRefPtr() noexcept = default;
+    CRefPtr(std::nullptr_t) noexcept {}
+    CRefPtr(T *object) noexcept : m_object(object) { hold(); }
+    CRefPtr(const CRefPtr &other) noexcept : m_object(other.m_object) { hold(); }
+    CRefPtr(CRefPtr &&other) noexcept : m_object(std::exchange(other.m_object, nullptr)) {}
+    template <typename U, typename = std::enable_if_t<std::is_convertible_v<U *, T *>>>
+    CRefPtr(const CRefPtr<U> &other) noexcept : m_object(other.get())
+    {
+        hold();
+    }
+    ~CRefPtr() { letGo(); }
+
+    CRefPtr &operator=(CRefPtr other) noexcept
+    {
+        std::swap(m_object, other.m_object);
+        return *this;
+    }
+
+    T *get() const noexcept { return m_object; }
+    T *operator->() const noexcept { return m_object; }
+    T &operator*() const noexcept { return *m_object; }
+    operator T *() const noexcept { return m_object; }
+
+private:
+    void hold() noexcept
+    {
+        if (m_object)
+            m_object->AddRef();
+    }
+    void letGo() noexcept
+    {
+        if (m_object)
+            m_object->Release();
+    }
+
+    T *m_object = nullptr;
+};
+
+} // namespace vks

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cmath>
+
+namespace vks {
+
+/** Point or vector in the plan; lengths in millimetres. */
+template <typename T>
+struct CVec2
+{
+    T x = T();
+    T y = T();
+
+    constexpr CVec2() = default;
+    constexpr CVec2(T xValue, T yValue) : x(xValue), y(yValue) {}
+
+    constexpr CVec2 operator+(const CVec2 &other) const { return {x + other.x, y + other.y}; }
+    constexpr CVec2 operator-(const CVec2 &other) const { return {x - other.x, y - other.y}; }
+    constexpr CVec2 operator-() const { return {-x, -y}; }
+    constexpr CVec2 operator*(T factor) const { return {x * factor, y * factor}; }
+    constexpr CVec2 operator/(T divisor) const { return {x / divisor, y / divisor}; }
+    CVec2 &operator+=(const CVec2 &other) { return *this = *this + other; }
+    CVec2 &operator-=(const CVec2 &other) { return *this = *this - other; }
+    /** Exact, term by term. */
+    constexpr bool operator==(const CVec2 &other) const { return x == other.x && y == other.y; }
+    constexpr bool operator!=(const CVec2 &other) const { return !(*this == other); }
+
+    constexpr T Dot(const CVec2 &other) const { return x * other.x + y * other.y; }
+    /** Positive when other lies to the left of this. */
+    constexpr T Cross(const CVec2 &other) const { return x * other.y - y * other.x; }
+    constexpr T SqrLength() const { return Dot(*this); }
+    T Length() const { return std::hypot(x, y); }
+    T DistanceTo(const CVec2 &other) const { return (other - *this).Length(); }
+    /** The same direction with length 1; (0, 0) stays as it is. */
+    CVec2 Normalized() const
+    {
+        const T length = Length();
+        return length > T() ? *this / length : *this;
+    }
+    /** A quarter turn counter-clockwise. */
+    constexpr CVec2 Left() const { return {-y, x}; }
+    /** Turned counter-clockwise about the origin, rad. */
+    CVec2 Rotated(T angle) const
+    {
+        const T c = std::cos(angle);
+        const T s = std::sin(angle);
+        return {x * c - y * s, x * s + y * c};
+    }
+    bool IsFinite() const { return std::isfinite(x) && std::isfinite(y); }
+};
+
+template <typename T>
+constexpr CVec2<T> operator*(T factor, const CVec2<T> &vector)
+{
+    return vector * factor;
+}
+
+} // namespace vks

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "ORVCADPlatformExport.h"
+
+namespace vks {
+
+/** Distance within which two points are one, mm. */
+extern ORVCADPLATFORM_EXPORT double g_DistEpsilon;
+/** What g_DistEpsilon starts with, mm. */
+extern ORVCADPLATFORM_EXPORT double g_DefaultDistEpsilon;
+/** Angle within which two directions are one, rad. */
+extern ORVCADPLATFORM_EXPORT double g_AngleEpsilon;
+/** Angle within which two lines are parallel, rad. */
+extern ORVCADPLATFORM_EXPORT double g_ParallelEpsilon;
+
+/** Arcs go into overlay as chords that leave the arc by no more than this, mm. */
+constexpr double kChordSagitta = 0.01;
+/** Resolution of polygon overlay and least tolerance of polygon relations, mm. */
+constexpr double kOverlayResolution = 0.01;
+
+} // namespace vks

@@ -1,0 +1,282 @@
+#include "platform/geometry/PolygonRelation.h"
+
+#include "platform/geometry/CurveRelation.h"
+#include "platform/geometry/CurveZone.h"
+
+#include <algorithm>
+
+namespace vks {
+
+namespace {
+
+/** Distances exactly at a tolerance are within it, whatever double arithmetic makes of them 10 km from the origin, mm. */
+constexpr double kNoise = 1e-7;
+
+using Point = CVec2<double>;
+
+/** Sound in itself; whether edges cross is asked separately, since it takes longer. */
+bool isSound(const CPolygon *polygon)
+{
+    return polygon && polygon->IsValid(CPolygon::kNotEmpty | CPolygon::kClosed | CPolygon::kHasArea, nullptr, nullptr);
+}
+
+bool crossesItself(const CPolygon &polygon)
+{
+    return !polygon.IsValid(CPolygon::kNoCrossing, nullptr, nullptr);
+}
+
+/** One loop of straight sides that turns one way all along; asked of polygons that do not cross themselves. */
+bool isConvex(const CPolygon &polygon)
+{
+    if (polygon.LoopCount() != 1)
+        return false;
+    const auto &curves = polygon.GetLoop(0)->Curves();
+    bool left = false;
+    bool right = false;
+    for (std::size_t i = 0; i < curves.size(); ++i) {
+        const CRefPtr<CCurve2d> &next = curves[(i + 1) % curves.size()];
+        if (curves[i]->Type() != CCurve2d::kLine)
+            return false;
+        const double turn = curves[i]->EndVt().Cross(next->StartVt());
+        left = left || turn > 0.0;
+        right = right || turn < 0.0;
+    }
+    return left != right;
+}
+
+template <typename Test>
+bool anyCurve(const CPolygon &polygon, Test test)
+{
+    for (int i = 0; i < polygon.LoopCount(); ++i) {
+        const auto &curves = polygon.GetLoop(i)->Curves();
+        if (std::any_of(curves.begin(), curves.end(), [&test](const CRefPtr<CCurve2d> &curve) { return test(*curve); }))
+            return true;
+    }
+    return false;
+}
+
+/** The curves of a polygon that come near a box, with their boxes. */
+std::vector<CurveZone::Piece> curvesNear(const CPolygon &polygon, const CBox2<double> &box)
+{
+    CurveZone zone(box);
+    zone.addPolygon(polygon, 0.0);
+    return zone.border();
+}
+
+bool boundariesWithin(const CPolygon &a, const CPolygon &b, double distance)
+{
+    const std::vector<CurveZone::Piece> curvesOfB = curvesNear(b, a.Box().Grown(distance));
+    Point onA;
+    Point onB;
+    return anyCurve(a, [&](const CCurve2d &curve) {
+        const CBox2<double> box = curve.Box();
+        return std::any_of(curvesOfB.begin(), curvesOfB.end(), [&](const CurveZone::Piece &other) {
+            return box.Intersects(other.box, distance) &&
+                   GeometryDistance(&curve, other.curve, onA, onB, distance) <= distance;
+        });
+    });
+}
+
+/** Asks of a point that it lies on one side of a polygon, a distance clear of the boundary. */
+struct Demand
+{
+    const CPolygon &polygon;
+    bool inside;
+    double clearance; // mm; 0 lets the boundary itself pass
+
+    bool isMetBy(const Point &point) const
+    {
+        const int place = polygon.Locate(point, std::max(clearance - kNoise / 2, kNoise / 2));
+        return clearance > 0.0 ? place == (inside ? 1 : -1) : place != -1;
+    }
+};
+
+/** Whether any point meets two demands; the first one is for the inside of its polygon.
+ *
+ *  The points that do are closed areas, and their boundaries run along curves at a clearance from the polygons'. These
+ *  are cut wherever they meet; each piece then meets the demands as a whole or not at all. */
+class PointSearch
+{
+public:
+    PointSearch(const Demand &first, const Demand &second)
+        : m_first(first), m_second(second), m_range(rangeOf(first, second))
+    {
+    }
+
+    bool succeeds() const
+    {
+        if (!m_range.IsValid())
+            return false;
+        if (isMetBy(m_range.Center()))
+            return true;
+        CurveZone zone(m_range);
+        zone.addPolygon(m_first.polygon, m_first.clearance);
+        zone.addPolygon(m_second.polygon, m_second.clearance);
+        return std::any_of(zone.border().begin(), zone.border().end(),
+                           [&](const CurveZone::Piece &piece) { return anyOf(*piece.curve, zone.cuts(*piece.curve)); });
+    }
+
+private:
+    /** Box of the points that can meet the demands. */
+    static CBox2<double> rangeOf(const Demand &first, const Demand &second)
+    {
+        CBox2<double> box = first.polygon.Box().Grown(-first.clearance);
+        if (second.inside) {
+            const CBox2<double> other = second.polygon.Box().Grown(-second.clearance);
+            box.minPt = {std::max(box.minPt.x, other.minPt.x), std::max(box.minPt.y, other.minPt.y)};
+            box.maxPt = {std::min(box.maxPt.x, other.maxPt.x), std::min(box.maxPt.y, other.maxPt.y)};
+        }
+        return box;
+    }
+
+    bool isMetBy(const Point &point) const
+    {
+        return m_range.Contains(point, kNoise) && m_first.isMetBy(point) && m_second.isMetBy(point);
+    }
+
+    bool anyOf(const CCurve2d &curve, const std::vector<double> &cuts) const
+    {
+        for (std::size_t i = 1; i < cuts.size(); ++i)
+            if (isMetBy(curve.GetPoint((cuts[i - 1] + cuts[i]) / 2)))
+                return true;
+        return false;
+    }
+
+    Demand m_first;
+    Demand m_second;
+    CBox2<double> m_range;
+};
+
+/** How far two polygons reach into and beyond each other, within a tolerance. */
+class PolygonPair
+{
+public:
+    PolygonPair(const CPolygon &a, const CPolygon &b, double tolerance, bool byThickness)
+        : m_a(a), m_b(b), m_tolerance(tolerance), m_byThickness(byThickness)
+    {
+    }
+
+    EnPolygonPolygonPosition position() const
+    {
+        const bool touching = boundariesWithin(m_a, m_b, m_tolerance + kNoise);
+        if (!touching) {
+            const EnPolygonPolygonPosition clear = positionWhenClear();
+            if (clear != kPolygonsOverlap)
+                return clear;
+        }
+        const bool aInB = isInside(m_a, m_b);
+        const bool bInA = isInside(m_b, m_a);
+        if (aInB && bInA)
+            return kPolygonsSame;
+        if (aInB)
+            return touching ? kPolygonInsideTouching : kPolygonInside;
+        if (bInA)
+            return touching ? kPolygonHoldsTouching : kPolygonHolds;
+        const double radius = m_tolerance / 2 + kNoise;
+        if (PointSearch({m_a, true, radius}, {m_b, true, radius}).succeeds())
+            return kPolygonsOverlap;
+        return touching ? kPolygonsTouch : kPolygonsApart;
+    }
+
+private:
+    /** Number of loops of a polygon that lie inside another one, no boundary of which comes near. */
+    static int loopsInside(const CPolygon &loops, const CPolygon &polygon)
+    {
+        int count = 0;
+        for (int i = 0; i < loops.LoopCount(); ++i)
+            count += polygon.Locate(loops.GetCurve(0) ? loops.GetLoop(i)->GetCurve(0)->StartPoint() : Point(), 0.0) > 0;
+        return count;
+    }
+
+    /** Boundaries clear of each other need their loops counted only. Overlap stands for what that does not settle. */
+    EnPolygonPolygonPosition positionWhenClear() const
+    {
+        const int ofA = loopsInside(m_a, m_b);
+        const int ofB = loopsInside(m_b, m_a);
+        if (ofA == 0 && ofB == 0)
+            return kPolygonsApart;
+        if (ofA == m_a.LoopCount() && ofB == 0)
+            return kPolygonInside;
+        return ofB == m_b.LoopCount() && ofA == 0 ? kPolygonHolds : kPolygonsOverlap;
+    }
+
+    /** By distance: no point of inner is farther than the tolerance outside outer. By thickness: what of inner lies
+     *  outside outer holds no disc of more than the tolerance across. */
+    bool isInside(const CPolygon &inner, const CPolygon &outer) const
+    {
+        const double reach = m_byThickness ? kNoise : m_tolerance + kNoise;
+        const auto reachesOut = [&](const CCurve2d &curve) { return outer.Locate(curve.StartPoint(), reach) < 0; };
+        const bool cornersInside = !anyCurve(inner, reachesOut);
+        if (!m_byThickness && !cornersInside)
+            return false;
+        const auto isArc = [](const CCurve2d &curve) { return curve.Type() == CCurve2d::kArc; };
+        if (cornersInside && isConvex(outer) && !anyCurve(inner, isArc))
+            return true;
+        const double radius = m_tolerance / 2 + kNoise;
+        return m_byThickness ? !PointSearch({inner, true, radius}, {outer, false, radius}).succeeds()
+                             : !PointSearch({inner, true, 0.0}, {outer, false, reach}).succeeds();
+    }
+
+    const CPolygon &m_a;
+    const CPolygon &m_b;
+    double m_tolerance; // mm
+    bool m_byThickness;
+};
+
+/** The same without touching. */
+EnPolygonPolygonPosition untouched(EnPolygonPolygonPosition position)
+{
+    switch (position) {
+    case kPolygonInsideTouching:
+        return kPolygonInside;
+    case kPolygonHoldsTouching:
+        return kPolygonHolds;
+    case kPolygonsTouch:
+        return kPolygonsApart;
+    default:
+        return position;
+    }
+}
+
+} // namespace
+
+EnPolygonPolygonPosition PolygonPolygonPosition(const CPolygon *a, const CPolygon *b, double tolerance)
+{
+    if (!isSound(a) || !isSound(b) || std::isnan(tolerance))
+        return kPolygonsInvalid;
+    const double distance = std::max(std::fabs(tolerance), kOverlayResolution);
+    if (!a->Box().Intersects(b->Box(), distance + kNoise))
+        return kPolygonsApart;
+    if (crossesItself(*a) || crossesItself(*b))
+        return kPolygonsInvalid;
+    const bool byThickness = tolerance < 0.0;
+    const EnPolygonPolygonPosition position = PolygonPair(*a, *b, distance, byThickness).position();
+    return byThickness ? untouched(position) : position;
+}
+
+EnCurvePolygonPosition CurvePolygonPosition(const CCurve2d *curve, const CPolygon *polygon, double tolerance)
+{
+    if (!curve || !(curve->Length() > 0.0) || !isSound(polygon) || std::isnan(tolerance))
+        return kCurveInvalid;
+    const double distance = std::max(tolerance, kOverlayResolution) + kNoise;
+    const CBox2<double> range = curve->Box().Grown(distance);
+    if (!range.Intersects(polygon->Box()))
+        return range.IsValid() ? kCurveOut : kCurveInvalid;
+    if (crossesItself(*polygon))
+        return kCurveInvalid;
+    CurveZone zone(range);
+    zone.addPolygon(*polygon, distance);
+    const std::vector<double> cuts = zone.cuts(*curve);
+    bool found[3] = {}; // out, on, in
+    for (std::size_t i = 1; i < cuts.size(); ++i)
+        found[polygon->Locate(curve->GetPoint((cuts[i - 1] + cuts[i]) / 2), distance) + 1] = true;
+    if (found[0] && found[2])
+        return kCurveInAndOut;
+    if (found[2])
+        return found[1] ? kCurveInTouching : kCurveIn;
+    if (found[0])
+        return found[1] ? kCurveOutTouching : kCurveOut;
+    return kCurveOnBoundary;
+}
+
+} // namespace vks

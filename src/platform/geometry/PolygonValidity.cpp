@@ -1,0 +1,91 @@
+#include "platform/geometry/PolygonValidity.h"
+
+#include "platform/geometry/EdgeCrossings.h"
+#include "platform/geometry/KernelTolerance.h"
+#include "platform/geometry/LoopNesting.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace vks {
+
+namespace {
+
+template <typename Test>
+bool everyCurve(const std::vector<CRefPtr<CLoop>> &loops, Test test)
+{
+    return std::all_of(loops.begin(), loops.end(), [&](const auto &loop) {
+        return std::all_of(loop->Curves().begin(), loop->Curves().end(), test);
+    });
+}
+
+} // namespace
+
+bool PolygonValidity::passes(unsigned mask) const
+{
+    struct Check
+    {
+        unsigned bit;
+        bool (PolygonValidity::*passed)() const;
+    };
+    constexpr Check checks[] = {
+        {CPolygon::kNotEmpty, &PolygonValidity::isNotEmpty},      {CPolygon::kClosed, &PolygonValidity::isClosed},
+        {CPolygon::kNoShortEdge, &PolygonValidity::hasNoShortEdge}, {CPolygon::kHasArea, &PolygonValidity::hasArea},
+        {CPolygon::kNoCrossing, &PolygonValidity::hasNoCrossing}, {CPolygon::kHolesInside, &PolygonValidity::hasHolesInside},
+    };
+    return isFinite() && std::all_of(std::begin(checks), std::end(checks), [&](const Check &check) {
+               return (mask & check.bit) == 0 || (this->*check.passed)();
+           });
+}
+
+bool PolygonValidity::isFinite() const
+{
+    return everyCurve(m_loops, [](const auto &curve) {
+        return curve->StartPoint().IsFinite() && curve->MidPoint().IsFinite() && curve->EndPoint().IsFinite() &&
+               std::isfinite(curve->Length());
+    });
+}
+
+bool PolygonValidity::isNotEmpty() const
+{
+    return !m_loops.empty() &&
+           std::all_of(m_loops.begin(), m_loops.end(), [](const auto &loop) { return loop->CurveCount() > 0; }) &&
+           everyCurve(m_loops, [](const auto &curve) { return !curve->IsEmpty(); });
+}
+
+bool PolygonValidity::isClosed() const
+{
+    return std::all_of(m_loops.begin(), m_loops.end(), [](const auto &loop) { return loop->IsClosed(g_DistEpsilon); });
+}
+
+bool PolygonValidity::hasNoShortEdge() const
+{
+    return everyCurve(m_loops, [](const auto &curve) { return curve->Length() >= g_DistEpsilon; });
+}
+
+bool PolygonValidity::hasNoCrossing() const
+{
+    return !edgesCross(m_loops, g_DistEpsilon);
+}
+
+bool PolygonValidity::hasHolesInside() const
+{
+    for (std::size_t i = 1; i < m_loops.size(); ++i) {
+        if (!liesIn(*m_loops[i], *m_loops[0]))
+            return false;
+        for (std::size_t j = 1; j < m_loops.size(); ++j)
+            if (i != j && liesIn(*m_loops[i], *m_loops[j]))
+                return false;
+    }
+    return true;
+}
+
+bool PolygonValidity::hasArea() const
+{
+    CPolygon polygon;
+    for (const auto &loop : m_loops)
+        polygon.AddLoop(loop, true);
+    return polygon.Area() > g_DistEpsilon * g_DistEpsilon;
+}
+
+} // namespace vks

@@ -1,0 +1,75 @@
+#include "platform/geometry/RingCrossing.h"
+
+#include "platform/geometry/CBox2.h"
+
+#include <algorithm>
+
+namespace vks {
+
+namespace {
+
+struct Edge
+{
+    CVec2<double> start;
+    CVec2<double> end;
+    CBox2<double> box;
+    const Ring *ring;
+    std::size_t index;
+};
+
+std::vector<Edge> edgesByLeftEnd(const std::vector<Ring> &rings)
+{
+    std::vector<Edge> edges;
+    for (const Ring &ring : rings)
+        for (std::size_t i = 0; i < ring.size(); ++i) {
+            Edge edge{ring[i], ring[(i + 1) % ring.size()], {}, &ring, i};
+            edge.box.Add(edge.start);
+            edge.box.Add(edge.end);
+            edges.push_back(edge);
+        }
+    std::sort(edges.begin(), edges.end(), [](const Edge &a, const Edge &b) { return a.box.minPt.x < b.box.minPt.x; });
+    return edges;
+}
+
+/** 1 and -1 for the sides of an edge, 0 on its line. */
+int sideOf(const Edge &edge, const CVec2<double> &point)
+{
+    const double cross = (edge.end - edge.start).Cross(point - edge.start);
+    return (cross > 0.0) - (cross < 0.0);
+}
+
+bool isNext(const Edge &edge, const Edge &next)
+{
+    return edge.ring == next.ring && next.index == (edge.index + 1) % edge.ring->size();
+}
+
+/** An edge that runs back on the one before it. */
+bool turnsBack(const Edge &edge, const Edge &next)
+{
+    const CVec2<double> along = next.end - next.start;
+    const CVec2<double> before = edge.end - edge.start;
+    return before.Cross(along) == 0.0 && before.Dot(along) < 0.0;
+}
+
+bool meetWrongly(const Edge &a, const Edge &b)
+{
+    if (isNext(a, b))
+        return turnsBack(a, b);
+    if (isNext(b, a))
+        return turnsBack(b, a);
+    return sideOf(a, b.start) * sideOf(a, b.end) <= 0 && sideOf(b, a.start) * sideOf(b, a.end) <= 0;
+}
+
+} // namespace
+
+bool ringsCross(const std::vector<Ring> &rings)
+{
+    const std::vector<Edge> edges = edgesByLeftEnd(rings);
+    for (std::size_t i = 0; i < edges.size(); ++i)
+        for (std::size_t j = i + 1; j < edges.size() && edges[j].box.minPt.x <= edges[i].box.maxPt.x; ++j)
+            if (edges[i].box.Intersects(edges[j].box) && meetWrongly(edges[i], edges[j]))
+                return true;
+    return false;
+}
+
+} // namespace vks
