@@ -1,0 +1,17 @@
+#pragma once
+
+#include "ORVCADPlatformExport.h"
+
+#include <QString>
+
+#include <stdexcept>
+
+/** What the host throws when a write cannot be done: a name that is taken, a value of the wrong kind. */
+class ORVCADPLATFORM_EXPORT HBXModelException : public std::runtime_error
+{
+public:
+    explicit HBXModelException(const QString &reason);
+    ~HBXModelException() override;
+
+    QString reason() const;
+};

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "ORVCADPlatformExport.h"
+
+#include <QList>
+#include <QSet>
+
+class IHBXElement;
+class IHBXElementDrawObj;
+class IHBXFloor;
+
+/** Draw object store of a model. Queries answer with entered objects, in id order, and replace what out held. */
+class ORVCADPLATFORM_EXPORT IHBXDrawObjs
+{
+public:
+    virtual ~IHBXDrawObjs() = default;
+
+    /** Makes a draw object of an element on a floor. It has an id at once and joins counts, queries and checks when
+     *  addDrawObj enters it; until then remove() gives it back. Null without a floor or an element. */
+    virtual IHBXElementDrawObj *createDrawObj(IHBXFloor *floor, IHBXElement *element, bool on) = 0;
+    /** Enters a new draw object; null and an entered one change nothing. */
+    virtual void addDrawObj(IHBXElementDrawObj *drawObj) = 0;
+    /** Entered or not; null for an unknown id. */
+    virtual IHBXElementDrawObj *drawObjById(qint64 id) = 0;
+    virtual void queryDrawObjs(QList<IHBXElementDrawObj *> &out, const QSet<qint64> &floorIds,
+                               const QSet<qint64> &elementTypes, bool on) = 0;
+    /** Sub-type -1 or 65535 asks for all. */
+    virtual void queryDrawObjsOfFloor(QList<IHBXElementDrawObj *> &out, int floorId, int elementType, int subType,
+                                      bool on) = 0;
+
+    virtual int count() const = 0;
+    /** Null for a position out of range. */
+    virtual IHBXElementDrawObj *at(int position) = 0;
+};

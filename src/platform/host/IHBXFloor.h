@@ -1,0 +1,35 @@
+#pragma once
+
+#include "ORVCADPlatformExport.h"
+
+#include <QList>
+#include <QSet>
+#include <QString>
+
+class IHBXElementDrawObj;
+class IHBXRegion;
+
+/** A storey of a region. Elevations and height are metres above the building's zero. */
+class ORVCADPLATFORM_EXPORT IHBXFloor
+{
+public:
+    virtual ~IHBXFloor() = default;
+
+    virtual int id() const = 0;
+    /** Short text of the floor: "0" the foundation floor, "1", "2", … upwards, "-1" a basement. Fills and returns out. */
+    virtual QString &code(QString &out) const = 0;
+    virtual QString name() const = 0;
+    virtual double bottomElev() const = 0;
+    virtual double height() const = 0;
+    /** Number of storeys that this floor stands for. */
+    virtual int standardFloorCount() const = 0;
+    /** bottomElev plus height. */
+    virtual double topElev() const = 0;
+    /** True for a foundation floor. */
+    virtual bool flag() const = 0;
+    /** Fills out with the entered draw objects of those types on this floor, in id order; what it held is dropped. */
+    virtual void drawObjsOfTypes(QList<IHBXElementDrawObj *> &out, const QSet<qint64> &types, bool on) = 0;
+
+    virtual IHBXRegion *region() const = 0;
+    virtual QString remark() const = 0;
+};

@@ -1,0 +1,3 @@
+#include "platform/host/IHBXModel.h"
+
+bool IHBXModel::g_bDefaultAutoCalc = true;
