@@ -1,0 +1,56 @@
+#pragma once
+
+#include "ORVCADModelDataExport.h"
+
+#include <QJsonObject>
+#include <QString>
+
+/** One storey of the building as the recognition feature sees it; elevations and heights in metres, like the host's.
+ *  Its JSON form is one object of the floors document; schema: schemas/floors.schema.json. */
+class ORVCADMODELDATA_EXPORT ORVCADFloor
+{
+public:
+    ORVCADFloor() = default;
+    ORVCADFloor(const QString &name, double btmElev, double height);
+    ORVCADFloor(const QString &name, double btmElev, double height, int stdCount, const QString &remark);
+
+    const QString &name() const { return m_name; }
+    const QString &code() const { return m_code; }
+    double btmElev() const { return m_btmElev; }
+    double height() const { return m_height; }
+    int stdCount() const { return m_stdCount; }
+    const QString &remark() const { return m_remark; }
+    int rowID() const { return m_rowID; }
+
+    /** Bottom elevation plus height, plus 3.0 where no height is set. The number of standard storeys plays no part. */
+    double topElev() const;
+    /** The name contains "基础", or the code is "0". */
+    bool isBaseFloor() const;
+    /** The code or the name is "1", or the floor spans elevation zero: bottom at or below it, top above. */
+    bool isFirstFloor() const;
+
+    void setName(const QString &name) { m_name = name; }
+    void setCode(const QString &code) { m_code = code; }
+    void setBtmElev(double elevation) { m_btmElev = elevation; }
+    void setHeight(double height) { m_height = height; }
+    void setStdCount(int count) { m_stdCount = count; }
+    void setRemark(const QString &remark) { m_remark = remark; }
+    void setRowID(int row) { m_rowID = row; }
+
+    /** All fields but the row number. */
+    QJsonObject toJson() const;
+    /** A new floor, which belongs to the caller; null when "Name", "BottomElev", "Height", "StdCount" or "Remark" is
+     *  missing. A value of another type reads as 0 or empty. "Code" is never read, so the code of the new floor is empty. */
+    static ORVCADFloor *fromJson(const QJsonObject &json);
+
+private:
+    struct Fields; // the one list, in the source
+
+    QString m_name;         ///< as shown to the user
+    QString m_code;         ///< "0" marks the base floor, "1" the first one
+    double m_btmElev = 0.0; ///< m
+    double m_height = 0.0;  ///< m; 0 means that no height is set
+    int m_stdCount = 1;     ///< standard storeys that this floor stands for
+    QString m_remark;
+    int m_rowID = 0; ///< not persisted
+};

@@ -1,0 +1,240 @@
+#pragma once
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QList>
+#include <QString>
+#include <QVariant>
+
+#include <cmath>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+
+/** The one list of a record's fields, from which it is written to and read from a JSON object.
+ *
+ *  A record keeps a constexpr std::tuple of rows in a nested struct of its source:
+ *
+ *      struct Hole::Fields {
+ *          static constexpr auto table = std::make_tuple(
+ *              field(key::outline, &Hole::m_outline),
+ *              fieldOr(key::grade, &Hole::m_grade, "C30"_key),
+ *              fieldRequired(key::name, &Hole::m_name),
+ *              field(key::id, &Hole::m_id, Flow::WriteOnly)); // meant: a hole in a reply is a new one
+ *      };
+ *
+ *  and calls writeFields(*this, Fields::table, json) and readFields(json, Fields::table, record). */
+namespace encoding {
+
+/** Which of the two directions a row takes part in. */
+enum class Flow { Both, ReadOnly, WriteOnly };
+
+/** How one type of field becomes a JSON value and is read from one. A kind has
+ *    static QJsonValue toValue(const T &value);
+ *    static T fromValue(const QJsonValue &json, const T &fallback);  // fallback for a missing or mistyped value
+ *  A further type (polygon, enumeration) is one more specialisation; another way of reading a type that has one
+ *  already is a struct of its own, named in fieldAs. */
+template <typename T, typename = void> struct ValueKind;
+
+template <> struct ValueKind<QString>
+{
+    static QJsonValue toValue(const QString &value) { return value; }
+    static QString fromValue(const QJsonValue &json, const QString &fallback) { return json.toString(fallback); }
+};
+
+/** A number that is not whole or does not fit into 32 bits counts as mistyped. */
+template <> struct ValueKind<int>
+{
+    static QJsonValue toValue(int value) { return value; }
+    static int fromValue(const QJsonValue &json, int fallback) { return json.toInt(fallback); }
+};
+
+/** A number parsed from text keeps its 64 bits; one put into an object keeps 53 of them, as Qt holds it as a double.
+ *  A number that is not whole is rounded, one beyond 64 bits counts as mistyped. */
+template <> struct ValueKind<qint64>
+{
+    static QJsonValue toValue(qint64 value) { return value; }
+    static qint64 fromValue(const QJsonValue &json, qint64 fallback)
+    {
+        constexpr double firstBeyond = 9223372036854775808.0; // 2 to the 63rd
+        if (!json.isDouble())
+            return fallback;
+        const QVariant number = json.toVariant(); // of the type qlonglong or double
+        const bool fits = number.userType() == QMetaType::LongLong || std::fabs(json.toDouble()) < firstBeyond;
+        return fits ? number.toLongLong() : fallback;
+    }
+};
+
+/** A number that is not finite is written as null, as JSON knows no other way, and so reads as mistyped. */
+template <> struct ValueKind<double>
+{
+    static QJsonValue toValue(double value) { return value; }
+    static double fromValue(const QJsonValue &json, double fallback) { return json.toDouble(fallback); }
+};
+
+template <> struct ValueKind<bool>
+{
+    static QJsonValue toValue(bool value) { return value; }
+    static bool fromValue(const QJsonValue &json, bool fallback) { return json.toBool(fallback); }
+};
+
+/** A record inside a record: its toJson() and its static fromJson(object). An object without keys is still read. */
+template <typename T>
+struct ValueKind<T, std::void_t<decltype(std::declval<const T &>().toJson()), decltype(T::fromJson(QJsonObject()))>>
+{
+    static QJsonValue toValue(const T &value) { return value.toJson(); }
+    static T fromValue(const QJsonValue &json, const T &fallback)
+    {
+        return json.isObject() ? T::fromJson(json.toObject()) : fallback;
+    }
+};
+
+/** Array of the elements in list order. */
+template <typename T> struct ValueKind<QList<T>>
+{
+    static QJsonValue toValue(const QList<T> &values)
+    {
+        QJsonArray array;
+        for (const T &value : values)
+            array.append(ValueKind<T>::toValue(value));
+        return array;
+    }
+    /** A mistyped element reads as T(). */
+    static QList<T> fromValue(const QJsonValue &json, const QList<T> &fallback)
+    {
+        if (!json.isArray())
+            return fallback;
+        QList<T> values;
+        const QJsonArray array = json.toArray();
+        values.reserve(array.size());
+        for (const QJsonValue element : array)
+            values.append(ValueKind<T>::fromValue(element, T()));
+        return values;
+    }
+};
+
+/** Array of records that the list's owner deletes; null pointers are not written. */
+template <typename T> struct ValueKind<QList<T *>>
+{
+    static QJsonValue toValue(const QList<T *> &records)
+    {
+        QJsonArray array;
+        for (const T *record : records)
+            if (record)
+                array.append(record->toJson());
+        return array;
+    }
+    /** New records; an element that T::fromJson refuses with null is left out. */
+    static QList<T *> fromValue(const QJsonValue &json, const QList<T *> &fallback)
+    {
+        if (!json.isArray())
+            return fallback;
+        QList<T *> records;
+        const QJsonArray array = json.toArray();
+        records.reserve(array.size());
+        for (const QJsonValue element : array)
+            if (T *record = T::fromJson(element.toObject()))
+                records.append(record);
+        return records;
+    }
+};
+
+namespace detail {
+
+struct KeepPresent
+{};
+struct UseZero
+{};
+
+template <typename T> const T &fallbackOf(KeepPresent, const T &present) { return present; }
+template <typename T> T fallbackOf(UseZero, const T &) { return T(); }
+template <typename T, typename Given> T fallbackOf(const Given &given, const T &) { return T(given); }
+
+} // namespace detail
+
+/** One row of a table. */
+template <typename Kind, typename Record, typename T, typename Fallback> struct FieldRow
+{
+    using Value = T;
+
+    QLatin1String key;
+    T Record::*member;
+    Fallback fallback;
+    Flow flow;
+    bool required;
+
+    /** False only when the key is required and missing; the record is untouched then. */
+    template <typename Target> bool read(const QJsonObject &json, Target &record) const
+    {
+        const QJsonValue value = json.value(key);
+        if (required && value.isUndefined())
+            return false;
+        T &present = record.*member;
+        present = Kind::fromValue(value, detail::fallbackOf(fallback, std::as_const(present)));
+        return true;
+    }
+    template <typename Source> void write(const Source &record, QJsonObject &json) const
+    {
+        json.insert(key, Kind::toValue(record.*member));
+    }
+};
+
+/** A missing or mistyped key leaves the field as it is: the default of the declaration in a fresh record. */
+template <typename Record, typename T>
+constexpr auto field(QLatin1String key, T Record::*member, Flow flow = Flow::Both)
+{
+    return FieldRow<ValueKind<T>, Record, T, detail::KeepPresent>{key, member, {}, flow, false};
+}
+
+/** A missing or mistyped key sets the field to 0, false or empty. */
+template <typename Record, typename T> constexpr auto fieldOr(QLatin1String key, T Record::*member)
+{
+    return FieldRow<ValueKind<T>, Record, T, detail::UseZero>{key, member, {}, Flow::Both, false};
+}
+
+/** A missing or mistyped key sets the field to the given value. */
+template <typename Record, typename T, typename Fallback>
+constexpr auto fieldOr(QLatin1String key, T Record::*member, Fallback fallback, Flow flow = Flow::Both)
+{
+    return FieldRow<ValueKind<T>, Record, T, Fallback>{key, member, fallback, flow, false};
+}
+
+/** A missing key makes readFields fail; a mistyped value sets the field to 0, false or empty. */
+template <typename Record, typename T>
+constexpr auto fieldRequired(QLatin1String key, T Record::*member, Flow flow = Flow::Both)
+{
+    return FieldRow<ValueKind<T>, Record, T, detail::UseZero>{key, member, {}, flow, true};
+}
+
+/** As field, by a kind other than the one that the type has by itself. */
+template <typename Kind, typename Record, typename T>
+constexpr auto fieldAs(QLatin1String key, T Record::*member, Flow flow = Flow::Both)
+{
+    return FieldRow<Kind, Record, T, detail::KeepPresent>{key, member, {}, flow, false};
+}
+
+/** Calls visit(row) for each row in order: what other text forms of the same record walk. */
+template <typename Table, typename Visit> constexpr void forEachField(const Table &table, Visit &&visit)
+{
+    std::apply([&visit](const auto &...rows) { (visit(rows), ...); }, table);
+}
+
+/** Puts every row that is not read-only into the object; keys that are there already are overwritten. */
+template <typename Record, typename Table> void writeFields(const Record &record, const Table &table, QJsonObject &json)
+{
+    forEachField(table, [&](const auto &row) {
+        if (row.flow != Flow::ReadOnly)
+            row.write(record, json);
+    });
+}
+
+/** Reads every row that is not write-only, in order.
+ *  @return false when a required key is missing; rows behind it are not read then, those before it are */
+template <typename Table, typename Record> bool readFields(const QJsonObject &json, const Table &table, Record &record)
+{
+    const auto readRow = [&](const auto &row) { return row.flow == Flow::WriteOnly || row.read(json, record); };
+    return std::apply([&](const auto &...rows) { return (readRow(rows) && ...); }, table);
+}
+
+} // namespace encoding
