@@ -40,7 +40,8 @@ public:
     /** All fields but the row number. */
     QJsonObject toJson() const;
     /** A new floor, which belongs to the caller; null when "Name", "BottomElev", "Height", "StdCount" or "Remark" is
-     *  missing. A value of another type reads as 0 or empty. "Code" is never read, so the code of the new floor is empty. */
+     *  missing. A value of another type reads as 0 or empty. "Code" is never read, so the code of the new floor is
+     *  empty. */
     static ORVCADFloor *fromJson(const QJsonObject &json);
 
 private:

@@ -11,8 +11,8 @@
  *  elevation (m, equal within 1e-12), not by order, but where they say so.
  *  Its JSON form is the floors document; schema: schemas/floors.schema.json, docs/formats/floors.md.
  *
- *  The set owns its floors and deletes them. A copy holds the very same floors and the same current floor, so only one of
- *  the two may be destroyed while its list still has them. */
+ *  The set owns its floors and deletes them. A copy holds the very same floors and the same current floor, so only one
+ *  of the two may be destroyed while its list still has them. */
 class ORVCADMODELDATA_EXPORT ORVCADFloors
 {
 public:
@@ -45,13 +45,13 @@ public:
      *  for; null if there is none and for null. */
     ORVCADFloor *getUpstairFloor(const ORVCADFloor *floor) const;
     /** First floor in list order whose top elevation is the given one's bottom; null if there is none and for null.
-     *  The candidate counts as one storey, though the way up counts all: the two are not inverse for a standard floor. */
+     *  The candidate counts as one storey, though the way up counts all: no inverse for a standard floor. */
     ORVCADFloor *getDownstairFloor(const ORVCADFloor *floor) const;
     /** The first floor at or above elevation zero on the way up from the lowest; null when the way has a gap before, or
      *  leads in a circle. */
     ORVCADFloor *getMinGreaterZeroFloor() const;
-    /** The floor next above the one at a list index, by bottom elevation, the later in the list among equals; null for an
-     *  index out of range and when none lies above. */
+    /** The floor next above the one at a list index, by bottom elevation, the later in the list among equals; null for
+     *  an index out of range and when none lies above. */
     ORVCADFloor *getHighOneFloor(int index) const;
 
     /** Borrowed; null until set. Nothing checks that it is in the list. */
@@ -62,8 +62,8 @@ public:
 
     /** Area name and floors, in list order. */
     QJsonObject toJson() const;
-    /** A new set, which belongs to the caller; null when "AreaName" or "Floors" is missing. A floor that lacks a required
-     *  key is left out. */
+    /** A new set, which belongs to the caller; null when "AreaName" or "Floors" is missing. A floor that lacks a
+     *  required key is left out. */
     static ORVCADFloors *fromJson(const QJsonObject &json);
 
 private:

@@ -43,8 +43,8 @@ public:
      *  @param numbers  place for as many numbers as there are parts */
     static bool reconstructCurve_StringToDouble(const QStringList &parts, double *numbers);
 
-    /** Any polygon form. A text of digits, signs, commas and semicolons is a simplified one; every other text is given to
-     *  the kernel. */
+    /** Any polygon form. A text of digits, signs, commas and semicolons is a simplified one; every other text is given
+     *  to the kernel. */
     static bool reconstructPoly(const QString &text, Polygon &polygon);
     /** Text of a single curve; only a closed one is a polygon. */
     static bool reconstructPoly_Simplified_NoSemicolon(const QString &text, Polygon &polygon);

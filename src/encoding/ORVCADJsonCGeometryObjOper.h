@@ -15,8 +15,8 @@
  *  "x,y,x,y"; a circle "x,y,radius"; an arc "x,y,bulge,x,y"; a polygon "x,y;x,y,bulge;" by the starts of its edges.
  *  All lengths are in millimetres. docs/formats/geometry-text.md tells them in full.
  *
- *  Bad text is told by a false result, a null pointer or an empty value, never by an exception. What is written does not
- *  read back bit for bit, because of the six digits. Objects of this class have no state to be seen. */
+ *  Bad text is told by a false result, a null pointer or an empty value, never by an exception. What is written does
+ *  not read back bit for bit, because of the six digits. Objects of this class have no state to be seen. */
 class ORVCADMODELDATA_EXPORT ORVCADJsonCGeometryObjOper
 {
 public:
@@ -25,7 +25,7 @@ public:
     ORVCADJsonCGeometryObjOper(const ORVCADJsonCGeometryObjOper &) = delete;
     ORVCADJsonCGeometryObjOper &operator=(const ORVCADJsonCGeometryObjOper &) = delete;
 
-    /** Line, Circle or Arc of a text; null when the text is bad. Zero radius and zero length are built as they stand. */
+    /** Line, Circle or Arc of a text; null when the text is bad. Zero radius and zero length are built as told. */
     vks::CRefPtr<vks::CCurve2d> getCurveInfo(const QString &text) const;
     /** Text of a curve; empty for null. */
     QString getCurveInfo(vks::CCurve2d *curve) const;

@@ -31,10 +31,7 @@ bool isRound(const CCurve2d &curve)
     return curve.Type() == CCurve2d::kArc && !static_cast<const CArc2d &>(curve).IsFlat();
 }
 
-double angleOf(const CVec2<double> &vector)
-{
-    return std::atan2(vector.y, vector.x);
-}
+double angleOf(const CVec2<double> &vector) { return std::atan2(vector.y, vector.x); }
 
 /** The way from a start angle to another one in the direction of a sweep, rad; within 0 and the full circle. */
 double wayTo(double angle, double start, double sweep)

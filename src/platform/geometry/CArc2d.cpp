@@ -14,14 +14,23 @@ constexpr double kPi = 3.14159265358979323846;
 constexpr double kFullTurn = 2 * kPi;
 constexpr double kFullTurnTolerance = 1e-9; // rad; a sweep this close to a full turn is one
 constexpr double kSmallSweep = 1e-2;        // rad; below this sin needs its series to keep its digits
+constexpr double kSliverSweep = 1e-4;       // rad; below this a segment is a piece of a parabola
 
-/** sweep - sin(sweep), to full precision for small sweeps, too. */
-double sweepMinusSine(double sweep)
+/** (sweep - sin(sweep)) / sweep², to full precision for small sweeps, too. */
+double segmentFactor(double sweep)
 {
-    if (std::fabs(sweep) > kSmallSweep)
-        return sweep - std::sin(sweep);
     const double square = sweep * sweep;
-    return sweep * square / 6 * (1 - square / 20 * (1 - square / 42));
+    if (std::fabs(sweep) > kSmallSweep)
+        return (sweep - std::sin(sweep)) / square;
+    return sweep / 6 * (1 - square / 20 * (1 - square / 42));
+}
+
+/** How far a circle reaches to one side of one of its points, in terms of the way from that point to the centre: along
+ *  that side and across it. */
+double reachOfCircle(double along, double across, double radius)
+{
+    // The two terms would cancel each other when the centre lies far off to the other side.
+    return along < 0 ? across * (across / (radius - along)) : along + radius;
 }
 
 /** A value brought into [0, turn). */
@@ -44,13 +53,14 @@ CArc2d::CArc2d(const CVec2<double> &start, const CVec2<double> &end, double bulg
 CArc2d::CArc2d(const CVec2<double> &centre, double radius, double startAngle, double endAngle)
 {
     const double size = std::fabs(radius);
+    const CVec2<double> outwards = CVec2<double>(size, 0).Rotated(startAngle);
     const auto pointAt = [&](double angle) { return centre + CVec2<double>(size, 0).Rotated(angle); };
     const double sweep = std::clamp(endAngle - startAngle, -kFullTurn, kFullTurn);
     const bool full = std::fabs(sweep) >= kFullTurn - kFullTurnTolerance;
-    m_start = pointAt(startAngle);
+    m_start = centre + outwards;
     m_middle = full ? centre * 2.0 - m_start : pointAt(startAngle + sweep / 2);
     m_end = full ? m_start : pointAt(startAngle + sweep);
-    setCircle(centre - m_start, full ? std::copysign(kFullTurn, sweep) : sweep);
+    setCircle(-outwards, full ? std::copysign(kFullTurn, sweep) : sweep);
 }
 
 CArc2d::CArc2d(const CVec2<double> &start, const CVec2<double> &middle, const CVec2<double> &end)
@@ -76,19 +86,32 @@ void CArc2d::setCircle(const CVec2<double> &toCentre, double sweep)
 {
     const double radius = toCentre.Length();
     const double length = radius * std::fabs(sweep);
-    if (std::isfinite(length) && sweep != 0.0) {
-        m_toCentre = toCentre;
-        m_radius = radius;
-        m_sweep = sweep;
-        m_length = length;
-    } else {
-        constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-        m_toCentre = {nan, nan};
-        m_radius = std::numeric_limits<double>::infinity();
-        m_sweep = 0.0;
-        m_length = m_start.DistanceTo(m_end);
+    if (!std::isfinite(length) || sweep == 0.0) {
+        setFlat();
+        return;
     }
-    resetRange(m_length);
+    m_toCentre = toCentre;
+    m_radius = radius;
+    m_sweep = sweep;
+    m_length = length;
+    resetRange(m_length, circumference());
+}
+
+void CArc2d::setFlat()
+{
+    constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+    m_toCentre = {nan, nan};
+    m_radius = std::numeric_limits<double>::infinity();
+    m_sweep = 0.0;
+    m_length = m_start.DistanceTo(m_end);
+    if (!m_middle.IsFinite())
+        m_middle = m_start + (m_end - m_start) / 2; // else the text would not read back
+    resetRange(m_length, m_length > 0.0 ? std::numeric_limits<double>::max() : 0.0);
+}
+
+double CArc2d::circumference() const
+{
+    return kFullTurn * m_radius;
 }
 
 double CArc2d::GetBulge() const
@@ -112,6 +135,12 @@ bool CArc2d::IsFlat() const
     return m_sweep == 0.0;
 }
 
+bool CArc2d::CircleHolds(const CVec2<double> &point) const
+{
+    const CVec2<double> fromStart = point - m_start;
+    return fromStart.Dot(fromStart - m_toCentre * 2.0) < 0;
+}
+
 CRefPtr<CCurve2d> CArc2d::Clone() const
 {
     return new CArc2d(*this);
@@ -125,6 +154,8 @@ CVec2<double> CArc2d::GetPoint(double t) const
         return m_end;
     if (IsFlat())
         return m_start + (m_end - m_start) * (t / m_length);
+    if (t > StartT() && t == StartT() + circumference())
+        return GetPoint(StartT()); // a full circle ends where it starts, to the last bit
     // By the chord from the start, which keeps its digits however far away the centre lies.
     const double turned = m_sweep * (t / m_length);
     return m_start + startDirection().Rotated(turned / 2) * (2 * m_radius * std::sin(std::fabs(turned) / 2));
@@ -156,10 +187,11 @@ double CArc2d::NearestT(const CVec2<double> &point) const
         return std::clamp((point - m_start).Dot((m_end - m_start).Normalized()), StartT(), EndT());
     // The angle from the start, by products that keep their digits however far away the centre lies.
     const CVec2<double> fromStart = point - m_start;
-    const double angle = std::atan2(fromStart.Cross(m_toCentre), m_toCentre.SqrLength() - fromStart.Dot(m_toCentre));
-    const double circle = kFullTurn * m_radius;
-    const double t = withinTurn(m_sweep > 0 ? angle : -angle, kFullTurn) * m_radius;
-    for (const double candidate : {t, t - circle, t + circle})
+    const CVec2<double> unit = m_toCentre / m_radius;
+    const double angle = std::atan2(fromStart.Cross(unit), m_radius - fromStart.Dot(unit));
+    const double circle = circumference();
+    const double t = std::copysign(angle, m_sweep * angle) * m_radius;
+    for (const double candidate : {t, t + circle, t - circle})
         if (candidate >= StartT() && candidate <= EndT())
             return candidate;
     return withinTurn(t - EndT(), circle) < withinTurn(StartT() - t, circle) ? EndT() : StartT();
@@ -167,28 +199,33 @@ double CArc2d::NearestT(const CVec2<double> &point) const
 
 double CArc2d::TwiceSegmentArea() const
 {
-    return IsFlat() || IsEmpty() ? 0.0 : m_radius * m_radius * sweepMinusSine(SweepAngle());
+    return IsFlat() || IsEmpty() ? 0.0 : Length() * Length() * segmentFactor(SweepAngle());
 }
 
 CVec2<double> CArc2d::SegmentCentroid() const
 {
     const double sweep = std::fabs(SweepAngle());
-    if (IsFlat() || IsEmpty() || sweep < kSmallSweep)
+    if (IsFlat() || IsEmpty() || sweep == 0.0)
         return MidPoint();
     const double sine = std::sin(sweep / 2);
-    const double distance = 4 * sine * sine * sine / (3 * sweepMinusSine(sweep)); // in parts of the radius
-    return CenterPt() + (MidPoint() - CenterPt()) * distance;
+    const double quarterSine = std::sin(sweep / 4);
+    const double fromCentre = 4 * sine * sine * sine / (3 * sweep * sweep * segmentFactor(sweep)); // parts of the radius
+    const double fromArc = sweep < kSliverSweep ? 0.8 * quarterSine * quarterSine : 1 - fromCentre; // likewise
+    const CVec2<double> left = GetDirection((StartT() + EndT()) / 2).Left();
+    return MidPoint() + (m_sweep > 0 ? left : -left) * (m_radius * fromArc);
 }
 
 void CArc2d::Reverse()
 {
+    if (IsEmpty())
+        return;
     const double sweep = SweepAngle();
-    const CVec2<double> centre = CenterPt();
-    const CVec2<double> newEnd = StartPoint();
+    const CVec2<double> newStart = EndPoint();
+    const CVec2<double> toCentre = m_toCentre + (m_start - newStart);
     m_middle = textMiddle();
-    m_start = EndPoint();
-    m_end = newEnd;
-    setCircle(centre - m_start, -sweep);
+    m_end = StartPoint();
+    m_start = newStart;
+    setCircle(toCentre, -sweep);
 }
 
 CVec2<double> CArc2d::textMiddle() const
@@ -203,14 +240,24 @@ CBox2<double> CArc2d::Box() const
         return box;
     box.Add(StartPoint());
     box.Add(EndPoint());
-    if (IsFlat())
-        return box;
-    const CVec2<double> toSides[] = {{m_radius, 0}, {0, m_radius}, {-m_radius, 0}, {0, -m_radius}};
-    const double from = m_sweep > 0 ? StartAngle() : StartAngle() + SweepAngle();
-    for (int side = 0; side < 4; ++side)
-        if (withinTurn(side * kPi / 2 - from, kFullTurn) <= std::fabs(SweepAngle()))
-            box.Add(CenterPt() + toSides[side]);
+    if (!IsFlat())
+        addExtremes(box);
     return box;
+}
+
+void CArc2d::addExtremes(CBox2<double> &box) const
+{
+    const double from = m_sweep > 0 ? StartAngle() : StartAngle() + SweepAngle();
+    const auto hasAngle = [&](double angle) { return withinTurn(angle - from, kFullTurn) <= std::fabs(SweepAngle()); };
+    const CVec2<double> &way = m_toCentre;
+    if (hasAngle(0))
+        box.maxPt.x = std::max(box.maxPt.x, m_start.x + reachOfCircle(way.x, way.y, m_radius));
+    if (hasAngle(kPi / 2))
+        box.maxPt.y = std::max(box.maxPt.y, m_start.y + reachOfCircle(way.y, way.x, m_radius));
+    if (hasAngle(kPi))
+        box.minPt.x = std::min(box.minPt.x, m_start.x - reachOfCircle(-way.x, way.y, m_radius));
+    if (hasAngle(3 * kPi / 2))
+        box.minPt.y = std::min(box.minPt.y, m_start.y - reachOfCircle(-way.y, way.x, m_radius));
 }
 
 void CArc2d::Translate(const CVec2<double> &move)
@@ -231,11 +278,6 @@ void CArc2d::MirrorX()
     for (CVec2<double> *point : {&m_start, &m_middle, &m_end, &m_toCentre})
         point->x = -point->x;
     m_sweep = -m_sweep;
-}
-
-double CArc2d::longestRange() const
-{
-    return IsFlat() ? std::numeric_limits<double>::max() : kFullTurn * m_radius;
 }
 
 void CArc2d::writeText(std::string &text) const

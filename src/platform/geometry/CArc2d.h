@@ -9,7 +9,7 @@ class ORVCADPLATFORM_EXPORT CArc2d : public CCurve2d
 {
 public:
     /** From start to end with a bulge: the tangent of a quarter of the swept angle, positive when counter-clockwise.
-     *  Bulge 0 is a flat arc: still of type 2, straight in shape. */
+     *  Bulge 0 is a flat arc: still of type 2, straight in shape; so is a bulge of which no finite circle comes. */
     CArc2d(const CVec2<double> &start, const CVec2<double> &end, double bulge);
     /** About a centre from one angle to the other, rad; counter-clockwise when endAngle is the greater one. A sweep of
      *  2 pi or more is a full circle. */
@@ -27,6 +27,9 @@ public:
     double StartAngle() const;
     double SweepAngle() const;
     bool IsFlat() const;
+    /** True for a point inside the arc's whole circle, to the last digits for the flattest arc, too; false for a flat
+     *  arc. */
+    bool CircleHolds(const CVec2<double> &point) const;
     /** Centroid of the area between the arc and its chord; the middle of the arc for an arc without such an area. */
     CVec2<double> SegmentCentroid() const;
 
@@ -46,14 +49,17 @@ public:
 
 protected:
     void writeText(std::string &text) const override;
-    double longestRange() const override;
 
 private:
     /** Sets what is worked out from the three points; a circle that is not finite makes a flat arc. */
     void setCircle(const CVec2<double> &toCentre, double sweep);
+    void setFlat();
+    double circumference() const;
     CVec2<double> startDirection() const;
     /** The middle as kept, or that of the trimmed arc. */
     CVec2<double> textMiddle() const;
+    /** Widens a box by the farthest points of the circle that lie on the arc. */
+    void addExtremes(CBox2<double> &box) const;
 
     // The three points are what text carries, so they are kept as given. The circle is told from the start, where it
     // keeps its digits however far away the centre lies.

@@ -2,6 +2,7 @@
 
 #include "platform/geometry/ArcChords.h"
 #include "platform/geometry/OverlayArea.h"
+#include "platform/geometry/RingNoding.h"
 #include "platform/geometry/RingWeld.h"
 
 #include <algorithm>
@@ -21,20 +22,28 @@ constexpr double kGrids[] = {kOverlayGrid, 10 * kOverlayGrid};
 /** What lies farther from the origin is no drawing, and would keep GEOS busy for ever, mm. */
 constexpr double kFarthest = 1e12;
 
-using Polygons = std::vector<const CPolygon *>;
+/** A polygon with its box, which takes a while to find. */
+struct Operand
+{
+    const CPolygon *polygon;
+    CBox2<double> box;
+
+    explicit Operand(const CPolygon *source) : polygon(source), box(source ? source->Box() : CBox2<double>()) {}
+
+    bool counts() const
+    {
+        constexpr CBox2<double> range({-kFarthest, -kFarthest}, {kFarthest, kFarthest});
+        return box.IsValid() && range.Contains(box.minPt) && range.Contains(box.maxPt);
+    }
+    bool meets(const Operand &other) const { return box.Intersects(other.box); }
+};
+
+using Operands = std::vector<Operand>;
 using Rings = std::vector<Ring>;
 
 enum class Operation { Unite, Subtract, Intersect };
 
-bool counts(const CPolygon *polygon)
-{
-    const CBox2<double> box = polygon ? polygon->Box() : CBox2<double>();
-    constexpr CBox2<double> range({-kFarthest, -kFarthest}, {kFarthest, kFarthest});
-    return box.IsValid() && range.Contains(box.minPt) && range.Contains(box.maxPt);
-}
-
-template <typename Visit>
-void forEachCurve(const CPolygon &polygon, Visit visit)
+template <typename Visit> void forEachCurve(const CPolygon &polygon, Visit visit)
 {
     for (int i = 0; i < polygon.LoopCount(); ++i)
         for (const CRefPtr<CCurve2d> &curve : polygon.GetLoop(i)->Curves())
@@ -61,7 +70,7 @@ Rings ringsOf(const CPolygon &polygon, const CVec2<double> &origin, const ArcCho
 class Overlay
 {
 public:
-    Overlay(Operation operation, const Polygons &polygons);
+    Overlay(Operation operation, const Operands &operands);
     CRefPtr<CPolygon> run() const;
 
 private:
@@ -77,19 +86,19 @@ private:
     std::vector<Rings> m_polygons;
 };
 
-Overlay::Overlay(Operation operation, const Polygons &polygons) : m_operation(operation)
+Overlay::Overlay(Operation operation, const Operands &operands) : m_operation(operation)
 {
     CBox2<double> box;
-    for (const CPolygon *polygon : polygons)
-        box.Add(polygon->Box());
+    for (const Operand &operand : operands)
+        box.Add(operand.box);
     const CVec2<double> centre = box.minPt + (box.maxPt - box.minPt) / 2;
     m_origin = {std::nearbyint(centre.x), std::nearbyint(centre.y)}; // whole, so that the grid stays where it is
     ArcChords chords(m_origin);
-    for (const CPolygon *polygon : polygons)
-        forEachCurve(*polygon, [&chords](const CCurve2d &curve) { chords.learn(curve); });
+    for (const Operand &operand : operands)
+        forEachCurve(*operand.polygon, [&chords](const CCurve2d &curve) { chords.learn(curve); });
     m_hasArcs = chords.hasArcs();
-    for (const CPolygon *polygon : polygons) {
-        m_polygons.push_back(ringsOf(*polygon, m_origin, chords));
+    for (const Operand &operand : operands) {
+        m_polygons.push_back(ringsOf(*operand.polygon, m_origin, chords));
         for (const Ring &ring : m_polygons.back())
             m_cornerCount += ring.size();
     }
@@ -103,6 +112,8 @@ std::vector<Rings> Overlay::welded() const
         for (Ring &ring : rings)
             std::transform(ring.begin(), ring.end(), ring.begin(),
                            [&weld](const CVec2<double> &point) { return weld.weld(point); });
+    // Rounded corners leave the edges that they stood on: without this, gaps as thin as the grid would stay open.
+    nodeRings(polygons, kWeldTolerance);
     return polygons;
 }
 
@@ -154,34 +165,39 @@ CRefPtr<CPolygon> Overlay::run() const
     return onGrid().polygon(m_origin);
 }
 
-CRefPtr<CPolygon> overlaid(Operation operation, const Polygons &polygons)
+CRefPtr<CPolygon> overlaid(Operation operation, const Operands &operands)
 {
-    return polygons.empty() ? nullptr : Overlay(operation, polygons).run();
+    return operands.empty() ? nullptr : Overlay(operation, operands).run();
 }
 
 } // namespace
 
 CRefPtr<CPolygon> CBooleanOperate2D::MultUnite(const std::vector<CPolygon *> &polygons)
 {
-    Polygons counted;
-    std::copy_if(polygons.begin(), polygons.end(), std::back_inserter(counted), counts);
-    return overlaid(Operation::Unite, counted);
+    Operands operands(polygons.begin(), polygons.end());
+    operands.erase(std::remove_if(operands.begin(), operands.end(), [](const Operand &each) { return !each.counts(); }),
+                   operands.end());
+    return overlaid(Operation::Unite, operands);
 }
 
 CRefPtr<CPolygon> CBooleanOperate2D::Subtract(const CPolygon *a, const CPolygon *b)
 {
-    if (!counts(a))
+    const Operand from(a);
+    const Operand taken(b);
+    if (!from.counts())
         return nullptr;
-    if (!counts(b) || !a->Box().Intersects(b->Box()))
-        return overlaid(Operation::Unite, {a});
-    return overlaid(Operation::Subtract, {a, b});
+    if (!taken.counts() || !from.meets(taken))
+        return overlaid(Operation::Unite, {from});
+    return overlaid(Operation::Subtract, {from, taken});
 }
 
 CRefPtr<CPolygon> CBooleanOperate2D::Intersect(const CPolygon *a, const CPolygon *b)
 {
-    if (!counts(a) || !counts(b) || !a->Box().Intersects(b->Box()))
+    const Operand first(a);
+    const Operand second(b);
+    if (!first.counts() || !second.counts() || !first.meets(second))
         return nullptr;
-    return overlaid(Operation::Intersect, {a, b});
+    return overlaid(Operation::Intersect, {first, second});
 }
 
 } // namespace vks

@@ -1,6 +1,5 @@
 #include "platform/geometry/CCurve2d.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace vks {
@@ -8,19 +7,20 @@ namespace vks {
 void CCurve2d::SetStartT(double t)
 {
     if (std::isfinite(t))
-        m_startT = std::max(t, m_endT - longestRange());
+        m_startT = t;
 }
 
 void CCurve2d::SetEndT(double t)
 {
     if (std::isfinite(t))
-        m_endT = std::min(t, m_startT + longestRange());
+        m_endT = t;
 }
 
-void CCurve2d::resetRange(double length)
+void CCurve2d::resetRange(double length, double longest)
 {
     m_startT = 0.0;
     m_endT = length;
+    m_longest = longest;
 }
 
 } // namespace vks

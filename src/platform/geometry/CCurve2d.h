@@ -2,13 +2,15 @@
 
 #include "platform/geometry/CGeometry.h"
 
+#include <algorithm>
+
 namespace vks {
 
 /** Directed curve in the plan: a line (CLine2d) or an arc of a circle (CArc2d).
  *
  *  The parameter of a curve is the length along it from the start it was made with, in mm. StartT is 0 and EndT the
  *  length until SetStartT or SetEndT trim it. Trimming keeps the parameter of every point. A curve whose StartT lies
- *  beyond its EndT is empty: it has no length, no box and no relation to anything. */
+ *  beyond its EndT is empty: it has no length, no box and no relation to anything; its text is that of its two ends. */
 class ORVCADPLATFORM_EXPORT CCurve2d : public CGeometry
 {
 public:
@@ -19,25 +21,26 @@ public:
     virtual CRefPtr<CCurve2d> Clone() const = 0;
 
     double StartT() const { return m_startT; }
-    double EndT() const { return m_endT; }
-    /** Moves an end along the curve, mm; a line may also be lengthened, an arc up to its full circle.
-     *  A value that is not finite changes nothing. */
+    /** Never farther from StartT than the curve can reach: once around an arc's circle. */
+    double EndT() const { return std::min(m_endT, m_startT + m_longest); }
+    /** Moves an end along the curve, mm, in whichever order; a line may also be lengthened, an arc up to its full
+     *  circle. A value that is not finite changes nothing, and a line of no length keeps none. */
     void SetStartT(double t);
     void SetEndT(double t);
-    bool IsEmpty() const { return !(m_startT <= m_endT); }
+    bool IsEmpty() const { return !(m_startT <= EndT()); }
 
     /** Length between the ends, mm; 0 for an empty curve. */
-    double Length() const { return IsEmpty() ? 0.0 : m_endT - m_startT; }
+    double Length() const { return IsEmpty() ? 0.0 : EndT() - m_startT; }
     /** Point at a parameter; beyond the ends on the curve's extension. */
     virtual CVec2<double> GetPoint(double t) const = 0;
     /** Unit direction of travel at a parameter; (0, 0) for a line of no length. */
     virtual CVec2<double> GetDirection(double t) const = 0;
     CVec2<double> StartPoint() const { return GetPoint(m_startT); }
-    CVec2<double> EndPoint() const { return GetPoint(m_endT); }
-    CVec2<double> MidPoint() const { return GetPoint((m_startT + m_endT) / 2); }
+    CVec2<double> EndPoint() const { return GetPoint(EndT()); }
+    CVec2<double> MidPoint() const { return GetPoint((m_startT + EndT()) / 2); }
     /** Unit directions at the ends, along the curve. */
     CVec2<double> StartVt() const { return GetDirection(m_startT); }
-    CVec2<double> EndVt() const { return GetDirection(m_endT); }
+    CVec2<double> EndVt() const { return GetDirection(EndT()); }
 
     /** True for a full circle. */
     virtual bool IsClosed() const = 0;
@@ -48,18 +51,18 @@ public:
     /** Twice the signed area between the curve and its chord, mm²; positive for a curve that turns left. */
     virtual double TwiceSegmentArea() const = 0;
 
-    /** Turns the direction of travel around in place. Start and end change places, the parameter starts at 0 again. */
+    /** Turns the direction of travel around in place. Start and end change places, the parameter starts at 0 again.
+     *  An empty curve stays as it is. */
     virtual void Reverse() = 0;
 
 protected:
-    /** The parameter range of a fresh curve of that length. */
-    void resetRange(double length);
-    /** Largest length that the trimmed curve may have, mm. */
-    virtual double longestRange() const = 0;
+    /** The parameter range of a fresh curve of that length, and the most that it may be lengthened to, mm. */
+    void resetRange(double length, double longest);
 
 private:
     double m_startT = 0.0;
-    double m_endT = 0.0;
+    double m_endT = 0.0; // as set, so that the order of setting means nothing
+    double m_longest = 0.0;
 };
 
 } // namespace vks

@@ -23,7 +23,7 @@ void CLine2d::assign(const CVec2<double> &start, const CVec2<double> &end)
     m_start = start;
     m_end = end;
     m_length = start.DistanceTo(end);
-    resetRange(m_length);
+    resetRange(m_length, m_length > 0.0 ? std::numeric_limits<double>::max() : 0.0);
 }
 
 CRefPtr<CCurve2d> CLine2d::Clone() const
@@ -51,7 +51,8 @@ double CLine2d::NearestT(const CVec2<double> &point) const
 
 void CLine2d::Reverse()
 {
-    assign(EndPoint(), StartPoint());
+    if (!IsEmpty())
+        assign(EndPoint(), StartPoint());
 }
 
 CBox2<double> CLine2d::Box() const
@@ -80,11 +81,6 @@ void CLine2d::MirrorX()
 {
     m_start.x = -m_start.x;
     m_end.x = -m_end.x;
-}
-
-double CLine2d::longestRange() const
-{
-    return std::numeric_limits<double>::max();
 }
 
 void CLine2d::writeText(std::string &text) const

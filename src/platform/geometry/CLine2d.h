@@ -28,7 +28,6 @@ public:
 
 protected:
     void writeText(std::string &text) const override;
-    double longestRange() const override;
 
 private:
     /** Makes the line from its two ends, untrimmed. */

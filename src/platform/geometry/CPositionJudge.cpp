@@ -44,7 +44,8 @@ bool isShared(const Stretch &stretch, const CCurve2d &curve, const CCurve2d &oth
     const double from = other.NearestT(curve.GetPoint(stretch.start));
     const double to = other.NearestT(curve.GetPoint(stretch.end));
     const auto atEndOfOther = [&other](double t) {
-        return !other.IsClosed() && (t - other.StartT() <= g_DefaultDistEpsilon || other.EndT() - t <= g_DefaultDistEpsilon);
+        return !other.IsClosed() &&
+               (t - other.StartT() <= g_DefaultDistEpsilon || other.EndT() - t <= g_DefaultDistEpsilon);
     };
     const bool starts = stretch.start <= curve.StartT() || atEndOfOther(from);
     const bool ends = stretch.end >= curve.EndT() || atEndOfOther(to);

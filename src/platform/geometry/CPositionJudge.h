@@ -8,8 +8,8 @@ namespace vks {
 enum EnCurveCurvePosition {
     kCurvesInvalid = -1, ///< one of them is null, empty or of no length
     kCurvesApart = 0,
-    kCurvesMeet = 1,     ///< meeting in points only
-    kCurvesOverlap = 2   ///< sharing a stretch
+    kCurvesMeet = 1,   ///< meeting in points only
+    kCurvesOverlap = 2 ///< sharing a stretch
 };
 
 /** Judges the relation of curves within a distance tolerance. */

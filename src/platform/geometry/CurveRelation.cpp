@@ -6,6 +6,7 @@
 #include "platform/geometry/KernelTolerance.h"
 
 #include <algorithm>
+#include <array>
 #include <limits>
 
 namespace vks {
@@ -29,8 +30,7 @@ class Gathering
 public:
     Gathering(const CCurve2d &a, const CCurve2d &b, bool extendA, double tolerance)
         : m_a(a), m_b(b), m_supportA(a), m_extendA(extendA), m_tolerance(tolerance)
-    {
-    }
+    {}
 
     std::vector<CVec2<double>> points()
     {
@@ -84,7 +84,8 @@ private:
         for (std::size_t i = 0; i < m_candidates.size(); ++i) {
             if (!m_candidates[i].crossing)
                 continue;
-            const bool left = i > 0 && !m_candidates[i - 1].crossing && runsTogether(m_candidates[i - 1], m_candidates[i]);
+            const bool left =
+                i > 0 && !m_candidates[i - 1].crossing && runsTogether(m_candidates[i - 1], m_candidates[i]);
             const bool right = i + 1 < m_candidates.size() && !m_candidates[i + 1].crossing &&
                                runsTogether(m_candidates[i], m_candidates[i + 1]);
             if (!left && !right)
@@ -122,21 +123,30 @@ struct NearestPair
     }
 };
 
-/** Where two curves that do not meet are nearest: an end of one, or on the line through the centres. */
-std::vector<CVec2<double>> nearestSeeds(const CCurve2d &a, const CCurve2d &b, const CurveSupport &onA,
-                                        const CurveSupport &onB)
+/** Points that are nearest, or whose nearest points are, where two curves do not meet: the ends, and for circles
+ *  points on the line through the centres. */
+class NearestSeeds
 {
-    std::vector<CVec2<double>> seeds{a.StartPoint(), a.EndPoint(), b.StartPoint(), b.EndPoint()};
-    if (!onA.isLine())
-        seeds.push_back(onA.centre());
-    if (!onB.isLine())
-        seeds.push_back(onB.centre());
-    if (!onA.isLine() && !onB.isLine()) {
-        seeds.push_back(onA.centre() * 2.0 - onB.centre());
-        seeds.push_back(onB.centre() * 2.0 - onA.centre());
+public:
+    NearestSeeds(const CCurve2d &a, const CCurve2d &b, const CurveSupport &onA, const CurveSupport &onB)
+        : m_points{a.StartPoint(), a.EndPoint(), b.StartPoint(), b.EndPoint()}
+    {
+        if (!onA.isLine())
+            m_points[m_count++] = onA.centre();
+        if (!onB.isLine())
+            m_points[m_count++] = onB.centre();
+        if (!onA.isLine() && !onB.isLine()) {
+            m_points[m_count++] = onA.centre() * 2.0 - onB.centre();
+            m_points[m_count++] = onB.centre() * 2.0 - onA.centre();
+        }
     }
-    return seeds;
-}
+    const CVec2<double> *begin() const { return m_points.data(); }
+    const CVec2<double> *end() const { return m_points.data() + m_count; }
+
+private:
+    std::array<CVec2<double>, 8> m_points;
+    std::size_t m_count = 4;
+};
 
 NearestPair nearestPair(const CCurve2d &a, const CCurve2d &b)
 {
@@ -146,7 +156,7 @@ NearestPair nearestPair(const CCurve2d &a, const CCurve2d &b)
         if (a.DistanceTo(point) <= kArithmeticNoise && b.DistanceTo(point) <= kArithmeticNoise)
             return {0.0, point, point};
     NearestPair nearest;
-    for (const CVec2<double> &seed : nearestSeeds(a, b, onA, onB)) {
+    for (const CVec2<double> &seed : NearestSeeds(a, b, onA, onB)) {
         const CVec2<double> first = nearestOn(a, seed);
         nearest.offer(first, nearestOn(b, first));
         const CVec2<double> second = nearestOn(b, seed);

@@ -48,9 +48,8 @@ SupportPoints circleMeetsCircle(const CurveSupport &a, const CurveSupport &b, do
         return result;
     const CVec2<double> unit = way / distance;
     if (std::fabs(distance - sum) <= tolerance || std::fabs(distance - std::fabs(difference)) <= tolerance) {
-        result.add(a.centre() + unit * (distance < std::fabs(difference) + tolerance && difference < 0.0
-                                            ? -a.radius()
-                                            : a.radius()));
+        result.add(a.centre() + unit * (distance < std::fabs(difference) + tolerance && difference < 0.0 ? -a.radius()
+                                                                                                         : a.radius()));
         return result;
     }
     const double along = (distance + sum * difference / distance) / 2;

@@ -16,7 +16,7 @@ constexpr double kLeastTurn = 1e-9;
 /** A meeting this far off a piece of border still cuts, mm: more cuts than needed do no harm. */
 constexpr double kCutMargin = 1e-4;
 /** Cuts nearer to each other are one, mm. */
-constexpr double kLeastPiece = 1e-7;
+constexpr double kLeastPiece = 1e-8;
 
 } // namespace
 

@@ -20,15 +20,22 @@ struct Edge
     int count; ///< edges of the loop
 };
 
+/** Edges of a loop that have a length, counted as if the others were not there. */
+void appendEdges(const CLoop &loop, std::size_t loopIndex, double tolerance, std::vector<Edge> &edges)
+{
+    const std::size_t first = edges.size();
+    for (const auto &curve : loop.Curves())
+        if (curve->Length() > tolerance)
+            edges.push_back({curve.get(), curve->Box(), loopIndex, static_cast<int>(edges.size() - first), 0});
+    for (std::size_t i = first; i < edges.size(); ++i)
+        edges[i].count = static_cast<int>(edges.size() - first);
+}
+
 std::vector<Edge> edgesByX(const std::vector<CRefPtr<CLoop>> &loops, double tolerance)
 {
     std::vector<Edge> edges;
     for (std::size_t i = 0; i < loops.size(); ++i)
-        for (int place = 0; place < loops[i]->CurveCount(); ++place) {
-            const CCurve2d *curve = loops[i]->GetCurve(place);
-            if (curve->Length() > tolerance)
-                edges.push_back({curve, curve->Box(), i, place, loops[i]->CurveCount()});
-        }
+        appendEdges(*loops[i], i, tolerance, edges);
     std::sort(edges.begin(), edges.end(), [](const Edge &a, const Edge &b) { return a.box.minPt.x < b.box.minPt.x; });
     return edges;
 }

@@ -43,8 +43,7 @@ std::vector<GEOSGeometry *> released(std::vector<Geometry> &parts)
 Geometry gathered(int kind, std::vector<Geometry> &parts)
 {
     std::vector<GEOSGeometry *> plain = released(parts);
-    return Geometry(
-        GEOSGeom_createCollection_r(context(), kind, plain.data(), static_cast<unsigned>(plain.size())));
+    return Geometry(GEOSGeom_createCollection_r(context(), kind, plain.data(), static_cast<unsigned>(plain.size())));
 }
 
 Ring ringOf(const GEOSGeometry *ring)
@@ -70,10 +69,7 @@ GEOSContextHandle_HS *context()
     return threadContext.handle;
 }
 
-void Release::operator()(GEOSGeom_t *geometry) const noexcept
-{
-    GEOSGeom_destroy_r(context(), geometry);
-}
+void Release::operator()(GEOSGeom_t *geometry) const noexcept { GEOSGeom_destroy_r(context(), geometry); }
 
 Geometry polygonOf(const Ring &shell, const std::vector<const Ring *> &holes)
 {
@@ -88,15 +84,9 @@ Geometry polygonOf(const Ring &shell, const std::vector<const Ring *> &holes)
     return Geometry(GEOSGeom_createPolygon_r(context(), outer.release(), plain.data(), count));
 }
 
-Geometry collectionOf(std::vector<Geometry> parts)
-{
-    return gathered(GEOS_GEOMETRYCOLLECTION, parts);
-}
+Geometry collectionOf(std::vector<Geometry> parts) { return gathered(GEOS_GEOMETRYCOLLECTION, parts); }
 
-Geometry multiPolygonOf(std::vector<Geometry> polygons)
-{
-    return gathered(GEOS_MULTIPOLYGON, polygons);
-}
+Geometry multiPolygonOf(std::vector<Geometry> polygons) { return gathered(GEOS_MULTIPOLYGON, polygons); }
 
 std::vector<const GEOSGeom_t *> polygonsIn(const GEOSGeom_t *geometry)
 {

@@ -2,7 +2,7 @@
 
 #include "platform/geometry/CArc2d.h"
 #include "platform/geometry/CLine2d.h"
-#include "platform/geometry/CurveSupport.h"
+#include "platform/geometry/EdgeCrossings.h"
 #include "platform/geometry/KernelTolerance.h"
 
 #include <algorithm>
@@ -171,6 +171,13 @@ Curves joinedCurves(Curves curves, const CleaningTolerance &tolerance)
     return result;
 }
 
+/** Parts of a loop that crosses itself, which takes three edges, may cancel in its area. */
+bool holdsArea(const CRefPtr<CLoop> &loop)
+{
+    return loop->Area() > g_DefaultDistEpsilon * loop->Length() ||
+           (loop->CurveCount() > 2 && edgesCross({loop}, g_DistEpsilon));
+}
+
 } // namespace
 
 std::vector<CRefPtr<CLoop>> cleanedLoops(const CLoop &loop, RingWeld &weld, const CleaningTolerance &tolerance)
@@ -180,7 +187,7 @@ std::vector<CRefPtr<CLoop>> cleanedLoops(const CLoop &loop, RingWeld &weld, cons
         CRefPtr<CLoop> cleaned(new CLoop);
         for (const CRefPtr<CCurve2d> &curve : joinedCurves(part, tolerance))
             cleaned->AddCurve(curve, false);
-        if (cleaned->Area() > g_DefaultDistEpsilon * cleaned->Length())
+        if (holdsArea(cleaned))
             loops.push_back(cleaned);
     }
     std::stable_sort(loops.begin(), loops.end(),

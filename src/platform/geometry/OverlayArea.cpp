@@ -22,7 +22,7 @@ double perimeterOf(const Ring &ring)
 {
     double sum = 0.0;
     for (std::size_t i = 0; i < ring.size(); ++i)
-        sum += ring[i].DistanceTo(ring[(i + 1) % ring.size()]);
+        sum += std::sqrt((ring[(i + 1) % ring.size()] - ring[i]).SqrLength());
     return sum;
 }
 
@@ -44,6 +44,8 @@ bool holds(const Ring &ring, const CVec2<double> &point)
     return inside;
 }
 
+bool isDegenerate(const Ring &ring) { return ring.size() < 3; }
+
 std::vector<Ring> withoutDegenerate(const std::vector<Ring> &rings)
 {
     std::vector<Ring> result;
@@ -51,7 +53,7 @@ std::vector<Ring> withoutDegenerate(const std::vector<Ring> &rings)
         ring.erase(std::unique(ring.begin(), ring.end()), ring.end());
         while (ring.size() > 1 && ring.front() == ring.back())
             ring.pop_back();
-        if (ring.size() > 2)
+        if (!isDegenerate(ring))
             result.push_back(std::move(ring));
     }
     return result;
@@ -105,6 +107,20 @@ private:
     std::vector<std::ptrdiff_t> m_depths; // number of rings around
 };
 
+/** Corners of a result nearer to the one before are that one: GEOS places crossings beside the grid, mm. */
+constexpr double kLeastEdge = kOverlayGrid / 2;
+
+Ring withoutShortEdges(Ring ring)
+{
+    const auto near = [](const CVec2<double> &a, const CVec2<double> &b) {
+        return (b - a).SqrLength() < kLeastEdge * kLeastEdge;
+    };
+    ring.erase(std::unique(ring.begin(), ring.end(), near), ring.end());
+    while (ring.size() > 1 && near(ring.front(), ring.back()))
+        ring.pop_back();
+    return ring;
+}
+
 /** Leaves out corners on the straight way between their neighbours. */
 Ring withoutFlatCorners(const Ring &ring)
 {
@@ -113,8 +129,8 @@ Ring withoutFlatCorners(const Ring &ring)
         const CVec2<double> &before = result.empty() ? ring.back() : result.back();
         const CVec2<double> way = ring[(i + 1) % ring.size()] - before;
         const CVec2<double> step = ring[i] - before;
-        const bool flat = std::fabs(way.Cross(step)) <= g_DefaultDistEpsilon * way.Length() && way.Dot(step) > 0.0 &&
-                          way.Dot(step) < way.SqrLength();
+        const bool flat = std::fabs(way.Cross(step)) <= g_DefaultDistEpsilon * std::sqrt(way.SqrLength()) &&
+                          way.Dot(step) > 0.0 && way.Dot(step) < way.SqrLength();
         if (!flat)
             result.push_back(ring[i]);
     }
@@ -155,7 +171,9 @@ OverlayResult::OverlayResult(const GEOSGeom_t *geometry)
 {
     for (const GEOSGeom_t *polygon : geos::polygonsIn(geometry)) {
         std::vector<Ring> rings = geos::ringsOf(polygon);
-        if (!rings.front().empty())
+        std::transform(rings.begin(), rings.end(), rings.begin(), withoutShortEdges);
+        rings.erase(std::remove_if(rings.begin() + 1, rings.end(), isDegenerate), rings.end());
+        if (!isDegenerate(rings.front()))
             m_parts.push_back(std::move(rings));
     }
 }

@@ -14,38 +14,57 @@ constexpr double kNoise = 1e-7;
 
 using Point = CVec2<double>;
 
+/** What can be told of a polygon by its box. */
+bool holdsArea(const CBox2<double> &box)
+{
+    const double area = box.Width() * box.Height();
+    return box.IsValid() && area > 0.0 && std::isfinite(area);
+}
+
 /** Sound in itself; whether edges cross is asked separately, since it takes longer. */
 bool isSound(const CPolygon *polygon)
 {
     return polygon && polygon->IsValid(CPolygon::kNotEmpty | CPolygon::kClosed | CPolygon::kHasArea, nullptr, nullptr);
 }
 
-bool crossesItself(const CPolygon &polygon)
+bool isSound(const CCurve2d *curve)
 {
-    return !polygon.IsValid(CPolygon::kNoCrossing, nullptr, nullptr);
+    if (!curve || !(curve->Length() > 0.0))
+        return false;
+    const CBox2<double> box = curve->Box();
+    return box.IsValid() && (box.maxPt - box.minPt).IsFinite();
 }
 
-/** One loop of straight sides that turns one way all along; asked of polygons that do not cross themselves. */
+/** One loop of straight sides that turns one way all along, once around: it does so when it changes between going left
+ *  and going right no more than twice. */
 bool isConvex(const CPolygon &polygon)
 {
     if (polygon.LoopCount() != 1)
         return false;
     const auto &curves = polygon.GetLoop(0)->Curves();
-    bool left = false;
-    bool right = false;
-    for (std::size_t i = 0; i < curves.size(); ++i) {
-        const CRefPtr<CCurve2d> &next = curves[(i + 1) % curves.size()];
-        if (curves[i]->Type() != CCurve2d::kLine)
-            return false;
-        const double turn = curves[i]->EndVt().Cross(next->StartVt());
-        left = left || turn > 0.0;
-        right = right || turn < 0.0;
+    if (std::any_of(curves.begin(), curves.end(), [](const auto &curve) { return curve->Type() != CCurve2d::kLine; }))
+        return false;
+    bool turns[2] = {}; // right, left
+    int changes = 0;
+    Point before = curves.back()->EndVt();
+    double lastX = 0.0;
+    for (std::size_t i = 0; i < 2 * curves.size(); ++i) { // twice around, so that the first change is seen too
+        const Point along = curves[i % curves.size()]->EndVt();
+        const double turn = before.Cross(along);
+        turns[turn > 0.0] = turns[turn > 0.0] || turn != 0.0 || before.Dot(along) < 0.0;
+        changes += lastX * along.x < 0.0;
+        lastX = along.x != 0.0 ? along.x : lastX;
+        before = along;
     }
-    return left != right;
+    return turns[0] != turns[1] && changes <= 4;
 }
 
-template <typename Test>
-bool anyCurve(const CPolygon &polygon, Test test)
+bool crossesItself(const CPolygon &polygon)
+{
+    return !isConvex(polygon) && !polygon.IsValid(CPolygon::kNoCrossing, nullptr, nullptr);
+}
+
+template <typename Test> bool anyCurve(const CPolygon &polygon, Test test)
 {
     for (int i = 0; i < polygon.LoopCount(); ++i) {
         const auto &curves = polygon.GetLoop(i)->Curves();
@@ -100,8 +119,7 @@ class PointSearch
 public:
     PointSearch(const Demand &first, const Demand &second)
         : m_first(first), m_second(second), m_range(rangeOf(first, second))
-    {
-    }
+    {}
 
     bool succeeds() const
     {
@@ -153,8 +171,7 @@ class PolygonPair
 public:
     PolygonPair(const CPolygon &a, const CPolygon &b, double tolerance, bool byThickness)
         : m_a(a), m_b(b), m_tolerance(tolerance), m_byThickness(byThickness)
-    {
-    }
+    {}
 
     EnPolygonPolygonPosition position() const
     {
@@ -184,7 +201,7 @@ private:
     {
         int count = 0;
         for (int i = 0; i < loops.LoopCount(); ++i)
-            count += polygon.Locate(loops.GetCurve(0) ? loops.GetLoop(i)->GetCurve(0)->StartPoint() : Point(), 0.0) > 0;
+            count += polygon.Locate(loops.GetLoop(i)->GetCurve(0)->StartPoint(), 0.0) > 0;
         return count;
     }
 
@@ -242,12 +259,14 @@ EnPolygonPolygonPosition untouched(EnPolygonPolygonPosition position)
 
 EnPolygonPolygonPosition PolygonPolygonPosition(const CPolygon *a, const CPolygon *b, double tolerance)
 {
-    if (!isSound(a) || !isSound(b) || std::isnan(tolerance))
+    const CBox2<double> boxOfA = a ? a->Box() : CBox2<double>();
+    const CBox2<double> boxOfB = b ? b->Box() : CBox2<double>();
+    if (!holdsArea(boxOfA) || !holdsArea(boxOfB) || std::isnan(tolerance))
         return kPolygonsInvalid;
     const double distance = std::max(std::fabs(tolerance), kOverlayResolution);
-    if (!a->Box().Intersects(b->Box(), distance + kNoise))
+    if (!boxOfA.Intersects(boxOfB, distance + kNoise))
         return kPolygonsApart;
-    if (crossesItself(*a) || crossesItself(*b))
+    if (!isSound(a) || !isSound(b) || crossesItself(*a) || crossesItself(*b))
         return kPolygonsInvalid;
     const bool byThickness = tolerance < 0.0;
     const EnPolygonPolygonPosition position = PolygonPair(*a, *b, distance, byThickness).position();
@@ -256,12 +275,12 @@ EnPolygonPolygonPosition PolygonPolygonPosition(const CPolygon *a, const CPolygo
 
 EnCurvePolygonPosition CurvePolygonPosition(const CCurve2d *curve, const CPolygon *polygon, double tolerance)
 {
-    if (!curve || !(curve->Length() > 0.0) || !isSound(polygon) || std::isnan(tolerance))
+    if (!isSound(curve) || !isSound(polygon) || std::isnan(tolerance))
         return kCurveInvalid;
     const double distance = std::max(tolerance, kOverlayResolution) + kNoise;
     const CBox2<double> range = curve->Box().Grown(distance);
     if (!range.Intersects(polygon->Box()))
-        return range.IsValid() ? kCurveOut : kCurveInvalid;
+        return kCurveOut;
     if (crossesItself(*polygon))
         return kCurveInvalid;
     CurveZone zone(range);

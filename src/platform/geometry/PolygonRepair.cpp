@@ -2,9 +2,9 @@
 
 #include "platform/geometry/CBooleanOperate2D.h"
 #include "platform/geometry/CurveRelation.h"
+#include "platform/geometry/EdgeCrossings.h"
 #include "platform/geometry/LoopCleaning.h"
-
-#include <algorithm>
+#include "platform/geometry/LoopNesting.h"
 
 namespace vks {
 
@@ -44,11 +44,7 @@ Loops cleaned(const CPolygon &polygon, const CleaningTolerance &tolerance)
     return loops;
 }
 
-bool cross(const Loops &loops)
-{
-    const CRefPtr<CPolygon> polygon = polygonOf(loops);
-    return polygon && !polygon->IsValid(CPolygon::kNoCrossing, nullptr, nullptr);
-}
+bool cross(const Loops &loops) { return edgesCross(loops, g_DistEpsilon); }
 
 bool curvesMeet(const CLoop &a, const CLoop &b)
 {
@@ -93,25 +89,13 @@ Loops takenApart(const Loops &loops, const CleaningTolerance &tolerance)
     return result;
 }
 
-/** Whether a loop lies in another one, by the first of its points that is not on it. */
-bool liesIn(const CLoop &loop, const CLoop &other)
-{
-    for (const CRefPtr<CCurve2d> &curve : loop.Curves())
-        for (const CVec2<double> &point : {curve->StartPoint(), curve->MidPoint()})
-            if (const int place = other.Locate(point, g_DistEpsilon))
-                return place > 0;
-    return false;
-}
-
 void orient(const Loops &loops)
 {
-    for (const CRefPtr<CLoop> &loop : loops) {
-        const auto around = std::count_if(loops.begin(), loops.end(), [&loop](const CRefPtr<CLoop> &other) {
-            return other.get() != loop.get() && liesIn(*loop, *other);
-        });
-        const bool outer = around % 2 == 0;
-        if ((loop->SignedArea() > 0.0) != outer)
-            loop->Reverse();
+    const std::vector<int> depths = loopDepths(loops);
+    for (std::size_t i = 0; i < loops.size(); ++i) {
+        const bool outer = depths[i] % 2 == 0;
+        if ((loops[i]->SignedArea() > 0.0) != outer)
+            loops[i]->Reverse();
     }
 }
 

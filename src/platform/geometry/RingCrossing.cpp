@@ -1,7 +1,5 @@
 #include "platform/geometry/RingCrossing.h"
 
-#include "platform/geometry/CBox2.h"
-
 #include <algorithm>
 
 namespace vks {
@@ -12,23 +10,31 @@ struct Edge
 {
     CVec2<double> start;
     CVec2<double> end;
-    CBox2<double> box;
     const Ring *ring;
     std::size_t index;
+
+    double left() const { return std::min(start.x, end.x); }
+    double right() const { return std::max(start.x, end.x); }
 };
 
 std::vector<Edge> edgesByLeftEnd(const std::vector<Ring> &rings)
 {
     std::vector<Edge> edges;
+    std::size_t count = 0;
     for (const Ring &ring : rings)
-        for (std::size_t i = 0; i < ring.size(); ++i) {
-            Edge edge{ring[i], ring[(i + 1) % ring.size()], {}, &ring, i};
-            edge.box.Add(edge.start);
-            edge.box.Add(edge.end);
-            edges.push_back(edge);
-        }
-    std::sort(edges.begin(), edges.end(), [](const Edge &a, const Edge &b) { return a.box.minPt.x < b.box.minPt.x; });
+        count += ring.size();
+    edges.reserve(count);
+    for (const Ring &ring : rings)
+        for (std::size_t i = 0; i < ring.size(); ++i)
+            edges.push_back({ring[i], ring[i + 1 < ring.size() ? i + 1 : 0], &ring, i});
+    std::sort(edges.begin(), edges.end(), [](const Edge &a, const Edge &b) { return a.left() < b.left(); });
     return edges;
+}
+
+bool shareHeight(const Edge &a, const Edge &b)
+{
+    return std::max(a.start.y, a.end.y) >= std::min(b.start.y, b.end.y) &&
+           std::max(b.start.y, b.end.y) >= std::min(a.start.y, a.end.y);
 }
 
 /** 1 and -1 for the sides of an edge, 0 on its line. */
@@ -40,7 +46,7 @@ int sideOf(const Edge &edge, const CVec2<double> &point)
 
 bool isNext(const Edge &edge, const Edge &next)
 {
-    return edge.ring == next.ring && next.index == (edge.index + 1) % edge.ring->size();
+    return edge.ring == next.ring && next.index == (edge.index + 1 < edge.ring->size() ? edge.index + 1 : 0);
 }
 
 /** An edge that runs back on the one before it. */
@@ -65,10 +71,12 @@ bool meetWrongly(const Edge &a, const Edge &b)
 bool ringsCross(const std::vector<Ring> &rings)
 {
     const std::vector<Edge> edges = edgesByLeftEnd(rings);
-    for (std::size_t i = 0; i < edges.size(); ++i)
-        for (std::size_t j = i + 1; j < edges.size() && edges[j].box.minPt.x <= edges[i].box.maxPt.x; ++j)
-            if (edges[i].box.Intersects(edges[j].box) && meetWrongly(edges[i], edges[j]))
+    for (std::size_t i = 0; i < edges.size(); ++i) {
+        const double right = edges[i].right();
+        for (std::size_t j = i + 1; j < edges.size() && edges[j].left() <= right; ++j)
+            if (shareHeight(edges[i], edges[j]) && meetWrongly(edges[i], edges[j]))
                 return true;
+    }
     return false;
 }
 

@@ -1,7 +1,8 @@
 #include "platform/geometry/RingWeld.h"
 
+#include <algorithm>
 #include <cmath>
-#include <functional>
+#include <cstdint>
 
 namespace vks {
 
@@ -18,10 +19,14 @@ std::size_t tableSize(std::size_t expected)
     return size;
 }
 
-double rounded(double value, double grid)
+/** Cells beyond what an integer holds share the last one. */
+std::uint64_t cellNumber(double cell)
 {
-    return grid > 0.0 ? std::nearbyint(value / grid) * grid : value;
+    constexpr double last = 9e18;
+    return static_cast<std::uint64_t>(static_cast<std::int64_t>(std::max(-last, std::min(last, cell))));
 }
+
+double rounded(double value, double grid) { return grid > 0.0 ? std::nearbyint(value / grid) * grid : value; }
 
 } // namespace
 
@@ -34,10 +39,9 @@ RingWeld::RingWeld(std::size_t expected, double tolerance, double grid)
 
 std::size_t RingWeld::slotOf(double column, double row) const
 {
-    constexpr std::size_t mixer = 0x9E3779B97F4A7C15ULL;
-    const std::hash<double> hash;
-    const std::size_t mixed = (hash(column) * mixer ^ hash(row)) * mixer;
-    return (mixed >> 32) & (m_heads.size() - 1);
+    constexpr std::uint64_t mixer = 0x9E3779B97F4A7C15ULL;
+    const std::uint64_t mixed = (cellNumber(column) * mixer ^ cellNumber(row)) * mixer;
+    return static_cast<std::size_t>(mixed >> 32) & (m_heads.size() - 1);
 }
 
 void RingWeld::searchCell(std::size_t slot, const CVec2<double> &point, int &found) const

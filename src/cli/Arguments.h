@@ -1,0 +1,49 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+#include <QString>
+
+#include <memory>
+#include <string>
+
+namespace orvcad {
+
+/** The arguments that verbs share; one object per verb, filled while arguments are read. */
+struct Arguments
+{
+    std::string project;
+    std::string region;
+    std::string floor;
+    std::string input;
+    std::string output;
+    bool strict = false;
+
+    static QString text(const std::string &value) { return QString::fromStdString(value); }
+};
+
+/** A verb with arguments of its own. */
+inline std::shared_ptr<Arguments> newArguments()
+{
+    return std::make_shared<Arguments>();
+}
+
+inline void addProject(CLI::App *verb, const std::shared_ptr<Arguments> &arguments)
+{
+    verb->add_option("PROJECT", arguments->project, "Project file (.hbxdb)")->required();
+}
+
+inline void addOutput(CLI::App *verb, const std::shared_ptr<Arguments> &arguments, const std::string &what)
+{
+    verb->add_option("-o,--output", arguments->output, what + "; standard output if absent");
+}
+
+inline void addPlace(CLI::App *verb, const std::shared_ptr<Arguments> &arguments, bool floorRequired)
+{
+    verb->add_option("--region", arguments->region, "Name of the region; may be absent where there is only one");
+    auto *floor = verb->add_option("--floor", arguments->floor, "Name or code of the floor");
+    if (floorRequired)
+        floor->required();
+}
+
+} // namespace orvcad

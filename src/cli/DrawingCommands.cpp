@@ -1,0 +1,115 @@
+#include "cli/Arguments.h"
+#include "cli/Command.h"
+#include "cli/Files.h"
+#include "cli/ProjectInfo.h"
+#include "platform/dwgx/DWGXModel.h"
+#include "platform/dwgx/HBXCADFileHelper.h"
+#include "platform/dwgx/HBXCADIOperator.h"
+#include "platform/embedded/HBXFloorDrawing.h"
+#include "platform/host/IHBXFloor.h"
+#include "platform/host/IHBXRegion.h"
+#include "platform/host/IHBXService.h"
+
+#include <QJsonArray>
+#include <QStringList>
+
+#include <memory>
+
+namespace orvcad {
+
+namespace {
+
+std::unique_ptr<HBXCADIOperator> newOperator()
+{
+    return std::unique_ptr<HBXCADIOperator>(HBXCADFileHelper::getInstance()->createCADIOperator());
+}
+
+[[noreturn]] void fail(const QString &path, const HBXCADIOperator &fileOperator)
+{
+    throw CommandFailure(kBadInput, path, fileOperator.lastErrorPlace(), fileOperator.lastErrorReason());
+}
+
+QString countsOf(const dwgx::DWGXModel &drawing)
+{
+    return QStringLiteral("%1, %2, %3")
+        .arg(counted(static_cast<int>(drawing.layers().size()), QStringLiteral("layer")),
+             counted(drawing.lineCount(), QStringLiteral("line")), counted(drawing.textCount(), QStringLiteral("text")));
+}
+
+QJsonObject describe(const dwgx::DWGXModel &drawing)
+{
+    QJsonArray layers;
+    for (const dwgx::DWGXLayer &layer : drawing.layers())
+        layers.append(QJsonObject{{"name", layer.name},
+                                  {"color", layer.color},
+                                  {"lines", static_cast<int>(layer.lines.size())},
+                                  {"texts", static_cast<int>(layer.texts.size())}});
+    return {{"title", drawing.getTitle()},
+            {"remark", drawing.getRemark()},
+            {"layers", layers},
+            {"lines", drawing.lineCount()},
+            {"texts", drawing.textCount()}};
+}
+
+QString toText(const dwgx::DWGXModel &drawing)
+{
+    QStringList lines{QStringLiteral("%1: %2").arg(drawing.getTitle(), countsOf(drawing))};
+    for (const dwgx::DWGXLayer &layer : drawing.layers())
+        lines.append(QStringLiteral("  %1 colour %2 %3 lines %4 texts")
+                         .arg(layer.name, -24)
+                         .arg(layer.color, 3)
+                         .arg(layer.lines.size(), 6)
+                         .arg(layer.texts.size(), 6));
+    const vks::CBox2<double> box = drawing.box();
+    if (box.IsValid())
+        lines.append(QStringLiteral("  extends over %1 x %2 m").arg(box.Width() / 1000).arg(box.Height() / 1000));
+    return lines.join('\n');
+}
+
+Summary makeDrawing(const Arguments &arguments)
+{
+    const auto project = openProject(Arguments::text(arguments.project));
+    IHBXRegion &region = requireRegion(*project, Arguments::text(arguments.region));
+    IHBXFloor &floor = requireFloor(*project, region, Arguments::text(arguments.floor));
+    const auto drawing = hbx::embedded::makeFloorDrawing(project->service()->model(), &floor);
+    const QString output = Arguments::text(arguments.output);
+    const auto fileOperator = newOperator();
+    const QString title = QStringLiteral("%1, %2").arg(region.name(), floor.name());
+    if (!fileOperator->write(output, drawing.get(), title, project->name()))
+        fail(output, *fileOperator);
+    QJsonObject json = describe(*drawing);
+    json["output"] = output;
+    return {QStringLiteral("Drew %1 into %2: %3").arg(title, output, countsOf(*drawing)), json};
+}
+
+Summary showDrawing(const Arguments &arguments)
+{
+    const QString input = Arguments::text(arguments.input);
+    const std::unique_ptr<dwgx::DWGXModel> drawing(dwgx::DWGXModel::createObject());
+    const auto fileOperator = newOperator();
+    if (!fileOperator->read(input, drawing.get()))
+        fail(input, *fileOperator);
+    return {toText(*drawing), describe(*drawing)};
+}
+
+} // namespace
+
+void addDrawingCommands(CLI::App &app, Command &command)
+{
+    CLI::App *group = app.add_subcommand("drawing", "Drawing files (.cadi2)");
+    group->require_subcommand(1);
+
+    auto arguments = newArguments();
+    CLI::App *verb = group->add_subcommand("make", "Draw a floor as layers, lines and texts");
+    addProject(verb, arguments);
+    addPlace(verb, arguments, true);
+    verb->add_option("-o,--output", arguments->output, "Drawing file to make (.cadi2)")->required();
+    verb->callback([&command, arguments] { command = [arguments] { return makeDrawing(*arguments); }; });
+
+    arguments = newArguments();
+    verb = group->add_subcommand("show", "What a drawing file holds");
+    verb->add_option("DRAWING", arguments->input, "Drawing file (.cadi2)")->required();
+    verb->callback([&command, arguments] { command = [arguments] { return showDrawing(*arguments); }; });
+}
+
+} // namespace orvcad

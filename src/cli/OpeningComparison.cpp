@@ -1,0 +1,106 @@
+#include "cli/OpeningComparison.h"
+
+#include "cli/Files.h"
+#include "cli/Openings.h"
+#include "cli/ProjectInfo.h"
+#include "doorwindow/DoorWindowKeys.h"
+#include "platform/host/IHBXElement.h"
+#include "platform/host/IHBXElementDrawObj.h"
+#include "platform/host/IHBXFloor.h"
+#include "platform/host/IHBXModel.h"
+#include "platform/host/IHBXService.h"
+
+#include <QJsonArray>
+#include <QList>
+
+#include <algorithm>
+
+using hbx::embedded::HBXProject;
+
+namespace orvcad {
+
+namespace {
+
+QJsonArray membersWithoutIds(const HBXProject &project)
+{
+    OpeningOutcome counts;
+    const QJsonObject reply =
+        openingReply(*project.service()->model(), pickFloors(project, QString(), QString()), counts);
+    QJsonArray members = openingMembers(reply, project.path());
+    for (QJsonValueRef member : members) {
+        QJsonObject object = member.toObject();
+        if (object.contains(doorwindow::key::elementId))
+            object[doorwindow::key::elementId] = 0;
+        member = object;
+    }
+    return members;
+}
+
+/** Name and place among its element's objects of the wall that an opening stands in. */
+QString wallOf(const IHBXElementDrawObj &opening)
+{
+    IHBXElementDrawObj *wall = opening.parent();
+    if (!wall)
+        return QStringLiteral("no wall");
+    QString name;
+    wall->element()->name(name);
+    QList<IHBXElementDrawObj *> pieces;
+    wall->element()->drawObjs(pieces, 0);
+    return QStringLiteral("wall %1, piece %2").arg(name).arg(pieces.indexOf(wall));
+}
+
+std::vector<IHBXElementDrawObj *> allOpenings(const HBXProject &project)
+{
+    std::vector<IHBXElementDrawObj *> openings;
+    for (IHBXFloor *floor : pickFloors(project, QString(), QString())) {
+        const auto placed = placedOpenings(*floor);
+        openings.insert(openings.end(), placed.begin(), placed.end());
+    }
+    return openings;
+}
+
+QString nameOf(const IHBXElementDrawObj &opening)
+{
+    QString name;
+    return QStringLiteral("%1 on %2").arg(opening.element()->name(name), opening.floor()->name());
+}
+
+} // namespace
+
+QString OpeningComparison::text() const
+{
+    QStringList lines{
+        QStringLiteral("Compared with the original: %1, %2; %3")
+            .arg(counted(compared, QStringLiteral("opening")),
+                 sameDocument ? QStringLiteral("the payload written again is the same but for ids")
+                              : QStringLiteral("the payload written again DIFFERS"),
+                 deviations.isEmpty() ? QStringLiteral("each in the wall it came from")
+                                      : counted(deviations.size(), QStringLiteral("deviation")))};
+    return (lines + deviations).join(QStringLiteral("\n  "));
+}
+
+QJsonObject OpeningComparison::toJson() const
+{
+    return {{"compared", compared},
+            {"sameDocument", sameDocument},
+            {"deviations", QJsonArray::fromStringList(deviations)}};
+}
+
+OpeningComparison compareOpenings(const HBXProject &expected, const HBXProject &found)
+{
+    const auto before = allOpenings(expected);
+    const auto after = allOpenings(found);
+    OpeningComparison comparison;
+    comparison.compared = static_cast<int>(before.size());
+    comparison.sameDocument = membersWithoutIds(expected) == membersWithoutIds(found);
+    if (before.size() != after.size())
+        comparison.deviations.append(
+            QStringLiteral("%1 openings where there were %2").arg(after.size()).arg(before.size()));
+    for (std::size_t i = 0; i < std::min(before.size(), after.size()); ++i)
+        if (wallOf(*before[i]) != wallOf(*after[i]))
+            comparison.deviations.append(QStringLiteral("%1: in %2, was in %3")
+                                             .arg(nameOf(*before[i]), wallOf(*after[i]), wallOf(*before[i])));
+    return comparison;
+}
+
+} // namespace orvcad

@@ -1,0 +1,189 @@
+#include "cli/OpeningReplyCheck.h"
+
+#include "doorwindow/DoorWindowKeys.h"
+#include "platform/host/IHBXElement.h"
+#include "platform/host/IHBXElements.h"
+#include "platform/host/IHBXFloor.h"
+#include "platform/host/IHBXFloors.h"
+#include "platform/host/IHBXModel.h"
+#include "platform/host/IHBXRegion.h"
+#include "platform/host/IHBXRegions.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <iterator>
+#include <limits>
+
+using namespace doorwindow;
+
+namespace orvcad {
+
+namespace {
+
+enum class Expected { Text, Integer, Number };
+
+struct KeyKind
+{
+    QLatin1String key;
+    Expected kind;
+};
+constexpr KeyKind kElementKeys[] = {
+    {key::name, Expected::Text},           {key::elementType, Expected::Integer},
+    {key::elementSubType, Expected::Integer}, {key::height, Expected::Integer},
+    {key::width, Expected::Integer},       {key::heightFromFloor, Expected::Integer},
+    {key::floorName, Expected::Text},      {key::regionName, Expected::Text},
+};
+constexpr KeyKind kPlacedKeys[] = {
+    {key::elementName, Expected::Text},        {key::x, Expected::Number},       {key::y, Expected::Number},
+    {key::heightFromFloor, Expected::Integer}, {key::floorName, Expected::Text}, {key::regionName, Expected::Text},
+};
+constexpr qint64 kOpeningTypes[] = {type::door, type::window, type::combined, type::wallOpening};
+
+bool isOpening(qint64 elementType)
+{
+    return std::find(std::begin(kOpeningTypes), std::end(kOpeningTypes), elementType) != std::end(kOpeningTypes);
+}
+
+bool isInteger(const QJsonValue &value)
+{
+    // Two defaults that differ: only a number that fits gives the same for both.
+    return value.isDouble() && value.toInt(0) == value.toInt(1);
+}
+
+bool fits(const QJsonValue &value, Expected kind)
+{
+    switch (kind) {
+    case Expected::Text:
+        return value.isString();
+    case Expected::Integer:
+        return isInteger(value);
+    case Expected::Number:
+        return value.isDouble();
+    }
+    return false;
+}
+
+QString wordFor(Expected kind)
+{
+    constexpr const char *words[] = {"text", "a whole number of 32 bits", "a number"};
+    return QString::fromLatin1(words[static_cast<int>(kind)]);
+}
+
+template <std::size_t Count>
+QString mistypedKey(const QJsonObject &member, const KeyKind (&keys)[Count])
+{
+    for (const KeyKind &expected : keys)
+        if (member.contains(expected.key) && !fits(member[expected.key], expected.kind))
+            return QStringLiteral("%1 is not %2").arg(expected.key, wordFor(expected.kind));
+    return {};
+}
+
+QString elementNameOf(const QJsonObject &member)
+{
+    return member[member.contains(key::elementId) ? key::name : key::elementName].toString();
+}
+
+} // namespace
+
+QString OpeningReplyCheck::LeftOut::text() const
+{
+    return QStringLiteral("member %1 (%2): %3").arg(index).arg(name.isEmpty() ? QStringLiteral("no name") : name, reason);
+}
+
+QJsonObject OpeningReplyCheck::LeftOut::toJson() const
+{
+    return {{"index", index}, {"name", name}, {"reason", reason}};
+}
+
+OpeningReplyCheck::OpeningReplyCheck(IHBXModel &model, const QJsonArray &members)
+    : m_model(model), m_memberCount(members.size())
+{
+    noteElementPlaces(members);
+    for (int index = 0; index < members.size(); ++index) {
+        const QJsonObject member = members[index].toObject();
+        const QString reason = members[index].isObject() ? whyNot(index, member) : QStringLiteral("is no object");
+        if (reason.isEmpty())
+            m_sound.append(member);
+        else
+            m_leftOut.push_back({index, elementNameOf(member), reason});
+    }
+}
+
+void OpeningReplyCheck::noteElementPlaces(const QJsonArray &members)
+{
+    for (int index = 0; index < members.size(); ++index) {
+        const QJsonObject member = members[index].toObject();
+        QString reason;
+        IHBXFloor *floor = member.contains(key::elementId) ? floorOf(member, reason) : nullptr;
+        const PlacedName place(floor ? floor->id() : 0, elementNameOf(member));
+        if (floor && !m_elementPlaces.contains(place))
+            m_elementPlaces.insert(place, index);
+    }
+}
+
+QString OpeningReplyCheck::whyNot(int index, const QJsonObject &member)
+{
+    const bool isElement = member.contains(key::elementId);
+    const QString mistyped = isElement ? mistypedKey(member, kElementKeys) : mistypedKey(member, kPlacedKeys);
+    if (!mistyped.isEmpty())
+        return mistyped;
+    return isElement ? whyNotElement(member) : whyNotPlaced(index, member);
+}
+
+IHBXFloor *OpeningReplyCheck::floorOf(const QJsonObject &member, QString &reason) const
+{
+    const QString regionName = member[key::regionName].toString();
+    const QString floorCode = member[key::floorName].toString();
+    IHBXRegion *region = m_model.regions()->find(regionName);
+    IHBXFloor *floor = region ? region->floors()->findByCode(floorCode) : nullptr;
+    if (!region)
+        reason = QStringLiteral("unknown region \"%1\"").arg(regionName);
+    else if (!floor)
+        reason = QStringLiteral("unknown floor code \"%1\" in region \"%2\"").arg(floorCode, regionName);
+    return floor;
+}
+
+QString OpeningReplyCheck::whyNotElement(const QJsonObject &member)
+{
+    const QString name = member[key::name].toString();
+    if (name.isEmpty())
+        return QStringLiteral("has no name");
+    const int elementType = member[key::elementType].toInt();
+    if (!isOpening(elementType))
+        return QStringLiteral("type %1 is no door or window (4, 5, 6, 7)").arg(elementType);
+    QString reason;
+    IHBXFloor *floor = floorOf(member, reason);
+    if (!floor)
+        return reason;
+    const PlacedName place(floor->id(), name);
+    if (m_soundElements.contains(place))
+        return QStringLiteral("member %1 has that name on the floor already").arg(m_elementPlaces.value(place));
+    if (m_model.elements()->findElement(name, floor->id(), -1, true, 0))
+        return QStringLiteral("the floor has an element of that name already; it is kept as it is");
+    m_soundElements.insert(place);
+    return {};
+}
+
+QString OpeningReplyCheck::whyNotPlaced(int index, const QJsonObject &member) const
+{
+    QString reason;
+    IHBXFloor *floor = floorOf(member, reason);
+    if (!floor)
+        return reason;
+    const QString name = member[key::elementName].toString();
+    const PlacedName place(floor->id(), name);
+    if (m_soundElements.contains(place))
+        return {};
+    const IHBXElement *element = m_model.elements()->findElement(name, floor->id(), -1, true, 0);
+    if (element)
+        return isOpening(element->type()) ? QString() : QStringLiteral("element \"%1\" is no door or window").arg(name);
+    const int elementPlace = m_elementPlaces.value(place, -1);
+    if (elementPlace > index)
+        return QStringLiteral("its element \"%1\" stands behind it, as member %2").arg(name).arg(elementPlace);
+    if (elementPlace >= 0)
+        return QStringLiteral("its element \"%1\", member %2, was left out").arg(name).arg(elementPlace);
+    return QStringLiteral("the floor has no element \"%1\", and the reply makes none").arg(name);
+}
+
+} // namespace orvcad

@@ -1,0 +1,153 @@
+#include "cli/Openings.h"
+
+#include "cli/Command.h"
+#include "cli/ProjectInfo.h"
+#include "doorwindow/DoorWindowKeys.h"
+#include "doorwindow/JsonDoorWin2HBX.h"
+#include "doorwindow/ORVCADWindoorDataOutputModel.h"
+#include "platform/host/HBXBatch.h"
+#include "platform/host/IHBXDrawObjs.h"
+#include "platform/host/IHBXElement.h"
+#include "platform/host/IHBXElementDrawObj.h"
+#include "platform/host/IHBXElements.h"
+#include "platform/host/IHBXFloor.h"
+#include "platform/host/IHBXModel.h"
+#include "platform/host/IHBXService.h"
+
+using namespace doorwindow;
+using hbx::embedded::HBXProject;
+
+namespace orvcad {
+
+namespace {
+
+constexpr int kMostLinesOfLeftOut = 20;
+
+const QSet<qint64> &openingTypes()
+{
+    static const QSet<qint64> types{type::door, type::window, type::combined, type::wallOpening};
+    return types;
+}
+
+std::vector<IHBXElement *> openingElements(IHBXModel &model)
+{
+    std::vector<IHBXElement *> elements;
+    for (int i = 0; i < model.elements()->count(); ++i)
+        if (openingTypes().contains(model.elements()->at(i)->type()))
+            elements.push_back(model.elements()->at(i));
+    return elements;
+}
+
+/** Counts what has come since the model had so many elements and draw objects: ids only ever grow. */
+void countNew(IHBXModel &model, int elementsBefore, int drawObjsBefore, OpeningOutcome &outcome)
+{
+    outcome.elements = model.elements()->count() - elementsBefore;
+    outcome.placed = model.drawObjects()->count() - drawObjsBefore;
+    for (int i = drawObjsBefore; i < model.drawObjects()->count(); ++i)
+        if (model.drawObjects()->at(i)->parent())
+            ++outcome.attached;
+}
+
+} // namespace
+
+QString OpeningOutcome::text() const
+{
+    QString text = QStringLiteral("%1 read: %2 made, %3 placed (%4 in a wall, %5 in none), %6 left out")
+                       .arg(counted(members, QStringLiteral("member")), counted(elements, QStringLiteral("element")),
+                            counted(placed, QStringLiteral("opening")))
+                       .arg(attached)
+                       .arg(placed - attached)
+                       .arg(leftOut.size());
+    int lines = 0;
+    for (const auto &member : leftOut) {
+        if (++lines > kMostLinesOfLeftOut) {
+            text += QStringLiteral("\n  … and %1 more; --json lists all").arg(int(leftOut.size()) - kMostLinesOfLeftOut);
+            break;
+        }
+        text += QStringLiteral("\n  left out: ") + member.text();
+    }
+    return text;
+}
+
+QJsonObject OpeningOutcome::toJson() const
+{
+    QJsonArray leftOutJson;
+    for (const auto &member : leftOut)
+        leftOutJson.append(member.toJson());
+    return {{"members", members},   {"elementsMade", elements},      {"placed", placed},
+            {"attached", attached}, {"unattached", placed - attached}, {"leftOut", leftOutJson}};
+}
+
+QJsonObject openingReply(IHBXModel &model, const std::vector<IHBXFloor *> &floors, OpeningOutcome &counts)
+{
+    QSet<qint64> floorIds;
+    for (const IHBXFloor *floor : floors)
+        floorIds.insert(floor->id());
+    QList<IHBXElement *> elements;
+    model.elements()->queryElements(elements, floorIds, openingTypes(), true);
+    QList<IHBXElementDrawObj *> openings;
+    model.drawObjects()->queryDrawObjs(openings, floorIds, openingTypes(), true);
+
+    ORVCADWindoorDataOutputModel output;
+    for (IHBXElement *element : qAsConst(elements))
+        output.elements.emplace_back().loadFromHBX(element);
+    for (IHBXElementDrawObj *opening : qAsConst(openings)) {
+        output.edos.emplace_back().loadFromEdo(opening);
+        counts.attached += opening->parent() ? 1 : 0;
+    }
+    counts.elements = elements.size();
+    counts.placed = openings.size();
+    counts.members = counts.elements + counts.placed;
+
+    QJsonObject reply;
+    output.saveToJson(key::elementsAndEdos, &reply);
+    return {{key::reply, reply}};
+}
+
+QJsonArray openingMembers(const QJsonObject &reply, const QString &file)
+{
+    const QJsonValue openings = reply[key::reply];
+    if (!openings.isObject())
+        throw CommandFailure(kBadInput, file, key::reply, QStringLiteral("no object of that key: no reply of openings"));
+    const QJsonValue members = openings.toObject()[key::elementsAndEdos];
+    if (!members.isArray())
+        throw CommandFailure(kBadInput, file, QStringLiteral("%1.%2").arg(key::reply, key::elementsAndEdos),
+                             QStringLiteral("is no array"));
+    return members.toArray();
+}
+
+OpeningOutcome applyOpenings(HBXProject &project, const QJsonArray &members)
+{
+    IHBXModel &model = *project.service()->model();
+    const OpeningReplyCheck check(model, members);
+    OpeningOutcome outcome;
+    outcome.members = check.memberCount();
+    outcome.leftOut = check.leftOut();
+
+    const int elementsBefore = model.elements()->count();
+    const int drawObjsBefore = model.drawObjects()->count();
+    const HBXBatch batch(model, "orvcad opening apply");
+    const QJsonObject sound{{key::elementsAndEdos, check.sound()}};
+    jsonDoorWin2HBX(project.service(), {{key::reply, sound}});
+    countNew(model, elementsBefore, drawObjsBefore, outcome);
+    return outcome;
+}
+
+std::vector<IHBXElementDrawObj *> placedOpenings(IHBXFloor &floor)
+{
+    QList<IHBXElementDrawObj *> openings;
+    floor.drawObjsOfTypes(openings, openingTypes(), true);
+    return {openings.cbegin(), openings.cend()};
+}
+
+int removeOpenings(HBXProject &project)
+{
+    IHBXModel &model = *project.service()->model();
+    const HBXBatch batch(model, "orvcad remove openings");
+    const std::vector<IHBXElement *> elements = openingElements(model);
+    for (IHBXElement *element : elements)
+        element->remove();
+    return static_cast<int>(elements.size());
+}
+
+} // namespace orvcad

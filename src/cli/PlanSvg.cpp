@@ -1,0 +1,344 @@
+#include "cli/PlanSvg.h"
+
+#include "cli/PlanLabels.h"
+#include "cli/PlanStyle.h"
+#include "cli/ProjectInfo.h"
+#include "cli/SvgPage.h"
+#include "platform/geometry/OrientProjectCurve2d.h"
+#include "platform/host/IHBXAxisGrid.h"
+#include "platform/host/IHBXDrawObjs.h"
+#include "platform/host/IHBXElement.h"
+#include "platform/host/IHBXElementDrawObj.h"
+#include "platform/host/IHBXFloor.h"
+#include "platform/host/IHBXLineShape2D.h"
+#include "platform/host/IHBXModel.h"
+#include "platform/host/IHBXRegion.h"
+#include "platform/services/HBXElementTypeTable.h"
+
+#include <QMap>
+
+#include <memory>
+#include <vector>
+
+namespace orvcad {
+
+namespace {
+
+// The page, mm of paper: A3 with a column for the legend on the right.
+constexpr double kPageWidth = 420.0;
+constexpr double kPageHeight = 297.0;
+constexpr double kMargin = 12.0;
+constexpr double kLegendWidth = 62.0;
+constexpr double kPlanWidth = kPageWidth - 2 * kMargin - kLegendWidth;
+constexpr double kPlanHeight = kPageHeight - 2 * kMargin;
+constexpr double kLegendX = kPageWidth - kMargin - kLegendWidth + 6.0;
+constexpr double kLineStep = 6.0;
+constexpr double kNameHeight = 1.3; // capital letter of a name
+constexpr double kBubbleRadius = 3.2;
+constexpr double kBarLength = 50.0; // most of the scale bar
+
+constexpr double kScales[] = {10, 20, 25, 50, 75, 100, 125, 150, 200, 250, 300, 400, 500, 750, 1000, 2000, 5000, 10000};
+constexpr double kBarSteps[] = {50, 20, 10, 5, 2, 1, 0.5, 0.2, 0.1}; // m
+
+constexpr char kPageStyle[] = "text{font-family:'DejaVu Sans','Noto Sans CJK SC','Noto Sans',sans-serif;fill:#222}"
+                              ".names text{paint-order:stroke;stroke:#fff;stroke-width:.5;stroke-linejoin:round}";
+
+struct Axis
+{
+    QString label;
+    vks::CRefPtr<vks::CCurve2d> line;
+};
+
+struct Placed
+{
+    IHBXElementDrawObj *object = nullptr;
+    vks::CRefPtr<vks::CPolygon> outline; ///< world; null for a curve
+    vks::CRefPtr<vks::CCurve2d> curve;   ///< world; of plan lines
+    std::vector<Axis> axes;              ///< world; of grids
+
+    bool hasGeometry() const { return outline || curve || !axes.empty(); }
+};
+
+vks::CRefPtr<vks::CCurve2d> toPlan(IHBXShape &shape, const vks::CCurve2d *curve)
+{
+    vks::CCoord3<double> frame;
+    shape.coordinates(frame, IHBXModel::g_bDefaultAutoCalc);
+    return vks::OrientProjectCurve2d(frame, curve, vks::CCoord3<double>(), {0, 0, 1}, true);
+}
+
+std::vector<Axis> axesOf(IHBXElementDrawObj &object)
+{
+    std::vector<Axis> lines;
+    const std::unique_ptr<IHBXAxisGrid> grid(IHBXAxisGrid::createFromObj(&object));
+    if (!grid)
+        return lines;
+    grid->prepare();
+    for (int group = 0; group < IHBXAxisGrid::kGroupCount; ++group) {
+        std::vector<HBXAxis> axes;
+        grid->axes(axes, group);
+        for (const HBXAxis &axis : axes)
+            for (const auto &curve : axis.curves)
+                if (auto line = toPlan(*object.shape(), curve))
+                    lines.push_back({axis.label, line});
+    }
+    return lines;
+}
+
+Placed placedOf(IHBXElementDrawObj &object)
+{
+    Placed placed;
+    placed.object = &object;
+    IHBXShape *shape = object.shape();
+    if (!shape)
+        return placed;
+    placed.axes = axesOf(object);
+    if (auto *planLine = dynamic_cast<IHBXLineShape2D *>(shape)) {
+        vks::CRefPtr<vks::CCurve2d> curve;
+        placed.curve = toPlan(*shape, planLine->curve(curve));
+    } else if (placed.axes.empty()) {
+        shape->worldPoly(placed.outline, IHBXModel::g_bDefaultAutoCalc);
+    }
+    return placed;
+}
+
+/** Draws one floor onto one page. */
+class PlanPainter
+{
+public:
+    PlanPainter(IHBXModel &model, IHBXFloor &floor, const QString &building)
+        : m_floor(floor), m_building(building), m_page(kPageWidth, kPageHeight)
+    {
+        collect(model);
+        layOut();
+    }
+
+    PlanSvg paint()
+    {
+        m_page.addRectangle(0, 0, kPageWidth, kPageHeight, QStringLiteral("fill=\"#fff\""));
+        paintObjects();
+        paintNames();
+        paintTitle();
+        paintLegend();
+        paintScaleBar();
+        PlanSvg plan;
+        plan.document = m_page.document(title(), kPageStyle);
+        plan.scale = m_scale;
+        plan.drawn = static_cast<int>(m_objects.size());
+        plan.left = m_left;
+        return plan;
+    }
+
+private:
+    void collect(IHBXModel &model);
+    void layOut();
+    void paintObjects();
+    void paintObject(const Placed &placed, const PlanStyle &style, const QString &colour);
+    void paintAxis(const Axis &axis, const QString &colour);
+    void paintNames();
+    void paintName(PlanLabels &labels, const Placed &placed);
+    void paintTitle();
+    void paintLegend();
+    void paintScaleBar();
+    void add(const Placed &placed);
+    QString title() const;
+
+    IHBXFloor &m_floor;
+    QString m_building;
+    SvgPage m_page;
+    std::vector<Placed> m_objects; // from the bottom to the top
+    QMap<int, QPair<qint64, int>> m_counts; // by place from the bottom: type and number
+    vks::CBox2<double> m_box;
+    double m_scale = 100.0;
+    int m_left = 0;
+};
+
+QString colourOf(qint64 type)
+{
+    const hbx::ElementTypeInfo *info = hbx::elementTypeInfo(type);
+    return QStringLiteral("#%1").arg(info ? info->colour : 0x888888, 6, 16, QLatin1Char('0'));
+}
+
+bool isOpening(qint64 type)
+{
+    return type >= 4 && type <= 7;
+}
+
+const PlanStyle &styleOf(qint64 type)
+{
+    static constexpr PlanStyle plain{-1, 0.2, 0.13, false};
+    const PlanStyle *style = planStyle(type);
+    return style ? *style : plain;
+}
+
+void PlanPainter::add(const Placed &placed)
+{
+    vks::CBox2<double> box;
+    if (placed.outline)
+        m_box.Add(placed.outline->Box());
+    if (placed.curve)
+        m_box.Add(placed.curve->Box());
+    for (const Axis &axis : placed.axes)
+        m_box.Add(axis.line->Box());
+    m_objects.push_back(placed);
+    const qint64 type = placed.object->type();
+    auto &count = m_counts[planOrder(type)];
+    count = {type, count.second + 1};
+}
+
+void PlanPainter::collect(IHBXModel &model)
+{
+    QList<IHBXElementDrawObj *> objects;
+    model.drawObjects()->queryDrawObjsOfFloor(objects, m_floor.id(), -1, -1, true);
+    std::stable_sort(objects.begin(), objects.end(),
+                     [](const auto *a, const auto *b) { return planOrder(a->type()) < planOrder(b->type()); });
+    for (IHBXElementDrawObj *object : qAsConst(objects)) {
+        const Placed placed = placedOf(*object);
+        if (placed.hasGeometry())
+            add(placed);
+        else
+            ++m_left;
+    }
+}
+
+void PlanPainter::layOut()
+{
+    if (!m_box.IsValid())
+        m_box = {{0, 0}, {10000, 10000}};
+    const double room = 2 * kBubbleRadius; // for the bubbles at the ends of axes
+    const auto fits = [&](double scale) {
+        return m_box.Width() / scale <= kPlanWidth - 2 * room && m_box.Height() / scale <= kPlanHeight - 2 * room;
+    };
+    const auto *place = std::find_if(std::begin(kScales), std::end(kScales), fits);
+    m_scale = place == std::end(kScales) ? std::max(m_box.Width(), m_box.Height()) / (kPlanHeight - 2 * room) : *place;
+    m_page.setPlan(m_box.Center(), {kMargin + kPlanWidth / 2, kMargin + kPlanHeight / 2}, m_scale);
+}
+
+void PlanPainter::paintObjects()
+{
+    qint64 type = -1;
+    m_page.beginGroup(QStringLiteral("plan"));
+    for (const Placed &placed : m_objects) {
+        if (placed.object->type() != type) {
+            type = placed.object->type();
+            m_page.endGroup();
+            m_page.beginGroup(QStringLiteral("type-%1").arg(type));
+        }
+        paintObject(placed, styleOf(type), colourOf(type));
+    }
+    m_page.endGroup();
+}
+
+void PlanPainter::paintObject(const Placed &placed, const PlanStyle &style, const QString &colour)
+{
+    const QString stroke = QStringLiteral("stroke=\"%1\" stroke-width=\"%2\"%3")
+                               .arg(colour)
+                               .arg(style.stroke)
+                               .arg(style.dashed ? QStringLiteral(" stroke-dasharray=\"1.6 .8\"") : QString());
+    if (placed.outline) {
+        const QString fill = isOpening(placed.object->type()) ? QStringLiteral("#fff") : colour;
+        m_page.addPolygon(*placed.outline, QStringLiteral("fill=\"%1\" fill-opacity=\"%2\" %3")
+                                               .arg(fill)
+                                               .arg(style.fillOpacity)
+                                               .arg(stroke));
+    }
+    if (placed.curve)
+        m_page.addCurve(*placed.curve, stroke);
+    for (const Axis &axis : placed.axes)
+        paintAxis(axis, colour);
+}
+
+void PlanPainter::paintAxis(const Axis &axis, const QString &colour)
+{
+    m_page.addCurve(*axis.line, QStringLiteral("stroke=\"%1\" stroke-width=\".13\" stroke-dasharray=\"6 1.2 1 1.2\"")
+                                    .arg(colour));
+    const vks::CVec2<double> start = m_page.toPaper(axis.line->StartPoint());
+    vks::CVec2<double> outwards = axis.line->StartVt();
+    outwards = {-outwards.x, outwards.y}; // back from the start; paper runs downwards
+    const vks::CVec2<double> centre = start + outwards * kBubbleRadius;
+    m_page.addCircle(centre, kBubbleRadius, QStringLiteral("fill=\"#fff\" stroke=\"#868e96\" stroke-width=\".18\""));
+    m_page.addText(centre + vks::CVec2<double>(0, 1.0), 2.0, axis.label, QStringLiteral("text-anchor=\"middle\""));
+}
+
+void PlanPainter::paintNames()
+{
+    PlanLabels labels(kNameHeight * m_scale);
+    m_page.beginGroup(QStringLiteral("names"));
+    // From the top down: what lies on top keeps its name where there is room for one only.
+    for (auto placed = m_objects.rbegin(); placed != m_objects.rend(); ++placed)
+        if (placed->outline)
+            paintName(labels, *placed);
+    m_page.endGroup();
+}
+
+void PlanPainter::paintName(PlanLabels &labels, const Placed &placed)
+{
+    QString name;
+    placed.object->element()->name(name);
+    auto label = labels.placeInside(*placed.outline, name);
+    if (!label && isOpening(placed.object->type()))
+        label = labels.placeBeside(*placed.outline, name);
+    if (label)
+        m_page.addText(m_page.toPaper(label->start), kNameHeight, name, QString(), label->angle);
+}
+
+QString PlanPainter::title() const
+{
+    return QStringLiteral("%1 – %2, %3").arg(m_building, m_floor.region()->name(), m_floor.name());
+}
+
+void PlanPainter::paintTitle()
+{
+    QString code;
+    m_floor.code(code);
+    double y = kMargin + 5.0;
+    m_page.addText({kLegendX, y}, 4.0, m_floor.name(), QStringLiteral("font-weight=\"bold\""));
+    const QString lines[] = {m_building, m_floor.region()->name(), QStringLiteral("Floor code %1").arg(code),
+                             QStringLiteral("Bottom %1 m, height %2 m").arg(m_floor.bottomElev()).arg(m_floor.height()),
+                             QStringLiteral("Scale 1:%1 (A3)").arg(m_scale, 0, 'g', 5)};
+    for (const QString &line : lines)
+        m_page.addText({kLegendX, y += kLineStep}, 2.2, line);
+}
+
+void PlanPainter::paintLegend()
+{
+    double y = kMargin + 50.0;
+    m_page.beginGroup(QStringLiteral("legend"));
+    for (const auto &count : qAsConst(m_counts)) {
+        const qint64 type = count.first;
+        const PlanStyle &style = styleOf(type);
+        m_page.addRectangle(kLegendX, y - 3.2, 7.0, 4.0,
+                            QStringLiteral("fill=\"%1\" fill-opacity=\"%2\" stroke=\"%1\" stroke-width=\"%3\"")
+                                .arg(colourOf(type))
+                                .arg(isOpening(type) ? 0.0 : style.fillOpacity)
+                                .arg(style.stroke));
+        m_page.addText({kLegendX + 10.0, y}, 2.2, QStringLiteral("%1 × %2").arg(count.second).arg(typeTitle(type)));
+        y += kLineStep;
+    }
+    m_page.endGroup();
+}
+
+void PlanPainter::paintScaleBar()
+{
+    const auto fits = [this](double metres) { return metres * 1000.0 / m_scale * 2 <= kBarLength; };
+    const auto *place = std::find_if(std::begin(kBarSteps), std::end(kBarSteps), fits);
+    const double step = place == std::end(kBarSteps) ? *std::prev(std::end(kBarSteps)) : *place;
+    const double length = step * 1000.0 / m_scale;
+    const double y = kPageHeight - kMargin;
+    m_page.beginGroup(QStringLiteral("scale-bar"), QStringLiteral("stroke=\"#222\" stroke-width=\".18\""));
+    m_page.addRectangle(kLegendX, y - 2.0, length, 2.0, QStringLiteral("fill=\"#222\""));
+    m_page.addRectangle(kLegendX + length, y - 2.0, length, 2.0, QStringLiteral("fill=\"#fff\""));
+    m_page.endGroup();
+    for (int mark = 0; mark <= 2; ++mark)
+        m_page.addText({kLegendX + mark * length, y - 3.5}, 2.0,
+                       QString::number(mark * step) + (mark == 2 ? QStringLiteral(" m") : QString()),
+                       QStringLiteral("text-anchor=\"middle\""));
+}
+
+} // namespace
+
+PlanSvg drawPlan(IHBXModel &model, IHBXFloor &floor, const QString &building)
+{
+    return PlanPainter(model, floor, building).paint();
+}
+
+} // namespace orvcad

@@ -1,0 +1,201 @@
+#include "cli/ProjectInfo.h"
+
+#include "platform/host/IHBXDrawObjs.h"
+#include "platform/host/IHBXElement.h"
+#include "platform/host/IHBXElementDrawObj.h"
+#include "platform/host/IHBXElements.h"
+#include "platform/host/IHBXFloor.h"
+#include "platform/host/IHBXFloors.h"
+#include "platform/host/IHBXModel.h"
+#include "platform/host/IHBXRegion.h"
+#include "platform/host/IHBXRegions.h"
+#include "platform/host/IHBXService.h"
+
+#include <QHash>
+#include <QJsonArray>
+#include <QStringList>
+
+#include <algorithm>
+
+using hbx::embedded::HBXProject;
+
+namespace orvcad {
+
+namespace {
+
+struct Title
+{
+    qint64 type;
+    const char *text;
+};
+// clang-format off
+constexpr Title kTitles[] = {
+    {0, "concrete wall"},     {1, "partition wall"},  {4, "door"},             {5, "window"},
+    {6, "door and window"},   {7, "wall opening"},    {15, "beam"},            {17, "link beam"},
+    {18, "tie beam"},         {19, "slab"},           {22, "slab bar"},        {23, "slab negative bar"},
+    {24, "slab opening"},     {25, "column"},         {26, "tie column"},      {47, "foundation beam"},
+    {48, "raft"},             {49, "raft bar"},       {50, "raft negative bar"}, {52, "isolated footing"},
+    {53, "pile cap"},         {54, "pile"},           {74, "axis grid"},       {75, "axis line"},
+    {82, "footing unit"},     {83, "pile cap unit"},  {202, "retaining wall"}, {1001, "curtain wall"},
+    {1002, "masonry column"}, {1003, "brick wall"},
+};
+// clang-format on
+
+using FloorTypes = QHash<int, QMap<qint64, ProjectInfo::TypeCount>>;
+
+FloorTypes countByFloor(IHBXModel &model)
+{
+    FloorTypes types;
+    for (int i = 0; i < model.elements()->count(); ++i) {
+        const IHBXElement *element = model.elements()->at(i);
+        ++types[element->floor()->id()][element->type()].elements;
+    }
+    for (int i = 0; i < model.drawObjects()->count(); ++i) {
+        const IHBXElementDrawObj *object = model.drawObjects()->at(i);
+        ++types[object->floor()->id()][object->type()].drawObjects;
+    }
+    return types;
+}
+
+ProjectInfo::Floor floorInfo(const IHBXFloor &floor, const FloorTypes &types)
+{
+    ProjectInfo::Floor info;
+    info.name = floor.name();
+    floor.code(info.code);
+    info.bottomElev = floor.bottomElev();
+    info.height = floor.height();
+    info.types = types.value(floor.id());
+    return info;
+}
+
+ProjectInfo::Region regionInfo(IHBXRegion &region, const FloorTypes &types)
+{
+    ProjectInfo::Region info;
+    info.name = region.name();
+    for (int i = 0; i < region.floors()->count(); ++i)
+        info.floors.push_back(floorInfo(*region.floors()->at(i), types));
+    std::stable_sort(info.floors.begin(), info.floors.end(),
+                     [](const auto &a, const auto &b) { return a.bottomElev < b.bottomElev; });
+    return info;
+}
+
+QJsonArray typesToJson(const QMap<qint64, ProjectInfo::TypeCount> &types)
+{
+    QJsonArray json;
+    for (auto type = types.cbegin(); type != types.cend(); ++type)
+        json.append(QJsonObject{{"type", type.key()},
+                                {"title", typeTitle(type.key())},
+                                {"elements", type->elements},
+                                {"drawObjects", type->drawObjects}});
+    return json;
+}
+
+QJsonObject floorToJson(const ProjectInfo::Floor &floor)
+{
+    return {{"name", floor.name},
+            {"code", floor.code},
+            {"bottomElev", floor.bottomElev},
+            {"height", floor.height},
+            {"types", typesToJson(floor.types)}};
+}
+
+void appendFloorLines(const ProjectInfo::Floor &floor, QStringList &lines)
+{
+    lines.append(QStringLiteral("  %1 (code %2): bottom %3 m, height %4 m")
+                     .arg(floor.name, floor.code)
+                     .arg(floor.bottomElev)
+                     .arg(floor.height));
+    for (auto type = floor.types.cbegin(); type != floor.types.cend(); ++type)
+        lines.append(QStringLiteral("    %1 %2 elements %3 placed")
+                         .arg(QStringLiteral("%1 (%2)").arg(typeTitle(type.key())).arg(type.key()), -26)
+                         .arg(type->elements, 5)
+                         .arg(type->drawObjects, 6));
+}
+
+} // namespace
+
+QString counted(int number, const QString &singular)
+{
+    return QStringLiteral("%1 %2%3").arg(number).arg(singular, number == 1 ? QString() : QStringLiteral("s"));
+}
+
+QString typeTitle(qint64 type)
+{
+    for (const Title &title : kTitles)
+        if (title.type == type)
+            return QString::fromLatin1(title.text);
+    return QStringLiteral("type");
+}
+
+int ProjectInfo::floorCount() const
+{
+    int count = 0;
+    for (const Region &region : regions)
+        count += static_cast<int>(region.floors.size());
+    return count;
+}
+
+ProjectInfo::TypeCount ProjectInfo::total() const
+{
+    TypeCount sum;
+    for (const Region &region : regions)
+        for (const Floor &floor : region.floors)
+            for (const TypeCount &count : floor.types) {
+                sum.elements += count.elements;
+                sum.drawObjects += count.drawObjects;
+            }
+    return sum;
+}
+
+QString ProjectInfo::counts() const
+{
+    const TypeCount sum = total();
+    return QStringList{counted(static_cast<int>(regions.size()), QStringLiteral("region")),
+                       counted(floorCount(), QStringLiteral("floor")),
+                       counted(sum.elements, QStringLiteral("element")),
+                       counted(sum.drawObjects, QStringLiteral("placed object"))}
+        .join(QStringLiteral(", "));
+}
+
+QString ProjectInfo::table() const
+{
+    QStringList lines{QStringLiteral("%1: %2").arg(name, counts())};
+    if (!source.isEmpty())
+        lines.append(QStringLiteral("Source: ") + source);
+    for (const Region &region : regions) {
+        lines.append(QStringLiteral("Region %1").arg(region.name));
+        for (const Floor &floor : region.floors)
+            appendFloorLines(floor, lines);
+    }
+    return lines.join('\n');
+}
+
+QJsonObject ProjectInfo::toJson() const
+{
+    QJsonArray regionArray;
+    for (const Region &region : regions) {
+        QJsonArray floors;
+        for (const Floor &floor : region.floors)
+            floors.append(floorToJson(floor));
+        regionArray.append(QJsonObject{{"name", region.name}, {"floors", floors}});
+    }
+    return {{"name", name},
+            {"source", source},
+            {"elements", total().elements},
+            {"drawObjects", total().drawObjects},
+            {"regions", regionArray}};
+}
+
+ProjectInfo projectInfo(const HBXProject &project)
+{
+    IHBXModel &model = *project.service()->model();
+    const FloorTypes types = countByFloor(model);
+    ProjectInfo info;
+    info.name = project.name();
+    info.source = project.source();
+    for (int i = 0; i < model.regions()->count(); ++i)
+        info.regions.push_back(regionInfo(*model.regions()->at(i), types));
+    return info;
+}
+
+} // namespace orvcad

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "platform/embedded/HBXProject.h"
+
+#include <QJsonObject>
+#include <QMap>
+#include <QString>
+
+#include <vector>
+
+namespace orvcad {
+
+/** What a project holds, counted. */
+struct ProjectInfo
+{
+    struct TypeCount
+    {
+        int elements = 0;
+        int drawObjects = 0; ///< placed objects
+    };
+    struct Floor
+    {
+        QString name;
+        QString code;
+        double bottomElev = 0.0; ///< m
+        double height = 0.0;     ///< m
+        QMap<qint64, TypeCount> types;
+    };
+    struct Region
+    {
+        QString name;
+        std::vector<Floor> floors; ///< from the lowest up
+    };
+
+    QString name;
+    QString source;
+    std::vector<Region> regions;
+
+    int floorCount() const;
+    TypeCount total() const;
+    /** "1 region, 4 floors, 35 elements, 118 placed objects". */
+    QString counts() const;
+    /** A table for people. */
+    QString table() const;
+    QJsonObject toJson() const;
+};
+
+ProjectInfo projectInfo(const hbx::embedded::HBXProject &project);
+
+/** "1 door", "2 doors". */
+QString counted(int number, const QString &singular);
+/** English title of an element type, for summaries and legends: "brick wall (1003)". */
+QString typeTitle(qint64 type);
+
+} // namespace orvcad

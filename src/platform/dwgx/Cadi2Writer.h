@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/dwgx/DWGXModel.h"
+
+#include <QByteArray>
+
+namespace dwgx {
+
+/** A drawing as a `.cadi2` document, which reads back to the same drawing. A title or remark that is empty leaves the
+ *  model's own. */
+QByteArray writeCadi2(const DWGXModel &model, const QString &title, const QString &remark);
+
+} // namespace dwgx

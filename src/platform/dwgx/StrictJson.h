@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QString>
+
+#include <initializer_list>
+#include <vector>
+
+/** Reading of JSON files that are refused as a whole when they break a rule. Every reader here throws JsonRefusal, which
+ *  the reader of the file catches. */
+namespace dwgx {
+
+/** A key as a constant. QLatin1String by itself counts its characters at run time. */
+template <int Size>
+constexpr QLatin1String jsonKey(const char (&text)[Size])
+{
+    return QLatin1String(text, Size - 1);
+}
+
+struct JsonRefusal
+{
+    QString place; ///< such as layers[0].lines[3].curve; empty for the document
+    QString reason;
+};
+
+/** Where in a document a value stands. The text is only made when somebody asks; the parent must live as long. */
+class JsonPlace
+{
+public:
+    JsonPlace() = default;
+    JsonPlace(const JsonPlace &parent, QLatin1String key) : m_parent(&parent), m_key(key) {}
+    JsonPlace(const JsonPlace &parent, int index) : m_parent(&parent), m_index(index) {}
+
+    QString text() const;
+    [[noreturn]] void refuse(const QString &reason) const;
+
+private:
+    const JsonPlace *m_parent = nullptr; // null: the document itself
+    QLatin1String m_key;
+    int m_index = -1; // in an array; -1: a member of an object
+};
+
+/** An object whose members are all known. Members that are asked for must be there unless has() is asked first. */
+class StrictObject
+{
+public:
+    StrictObject(const QJsonValue &value, const JsonPlace &place, std::initializer_list<QLatin1String> knownKeys);
+
+    const JsonPlace &place() const { return m_place; }
+    bool has(QLatin1String key) const { return m_object.contains(key); }
+    QJsonValue value(QLatin1String key) const;
+    QString text(QLatin1String key) const;
+    double number(QLatin1String key) const;
+    /** An integer from low to high. */
+    qint64 integer(QLatin1String key, qint64 low, qint64 high) const;
+    QJsonArray array(QLatin1String key) const;
+    /** An array of so many numbers. */
+    std::vector<double> numbers(QLatin1String key, int count) const;
+
+private:
+    QJsonObject m_object;
+    const JsonPlace &m_place;
+};
+
+} // namespace dwgx

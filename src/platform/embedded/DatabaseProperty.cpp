@@ -1,0 +1,118 @@
+#include "platform/embedded/DatabaseProperty.h"
+
+#include "platform/embedded/HBXElevationText.h"
+#include "platform/embedded/HBXPropertyValue.h"
+
+#include <QByteArrayList>
+#include <QVarLengthArray>
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+#include <optional>
+
+namespace hbx::embedded {
+namespace {
+
+constexpr int kName = 2;
+constexpr int kValue = 3;
+/** Longer names than any of the catalogue. */
+constexpr std::size_t kLongestName = 64;
+
+using Read = std::optional<PropertyValue>;
+
+Read readInteger(const SqliteStatement &row)
+{
+    const qint64 found = row.integer(kValue);
+    const bool fits = found >= std::numeric_limits<int>::min() && found <= std::numeric_limits<int>::max();
+    return fits && row.type(kValue) == SQLITE_INTEGER ? Read(static_cast<int>(found)) : std::nullopt;
+}
+
+Read readDouble(const SqliteStatement &row)
+{
+    const double found = row.number(kValue);
+    return row.type(kValue) == SQLITE_FLOAT && std::isfinite(found) ? Read(found) : std::nullopt;
+}
+
+Read readText(const SqliteStatement &row)
+{
+    return row.type(kValue) == SQLITE_TEXT ? Read(row.text(kValue)) : std::nullopt;
+}
+
+Read readElevation(const SqliteStatement &row)
+{
+    Read text = readText(row);
+    return text && HBXElevationText::parse(std::get<QString>(*text)) ? text : std::nullopt;
+}
+
+Read readPoint(const SqliteStatement &row)
+{
+    if (row.type(kValue) != SQLITE_TEXT)
+        return std::nullopt;
+    const std::string_view text = row.bytes(kValue);
+    const QByteArrayList terms = QByteArray(text.data(), static_cast<int>(text.size())).split(' ');
+    std::array<bool, 2> isNumber{};
+    if (terms.size() != 2)
+        return std::nullopt;
+    const vks::CVec2<double> point(terms[0].toDouble(&isNumber[0]), terms[1].toDouble(&isNumber[1]));
+    return isNumber[0] && isNumber[1] && point.IsFinite() ? Read(point) : std::nullopt;
+}
+
+template <typename Geometry> Read readGeometry(const SqliteStatement &row)
+{
+    const std::string_view text = row.bytes(kValue);
+    const bool isText = row.type(kValue) == SQLITE_TEXT && text.find('\0') == std::string_view::npos;
+    const auto geometry = vks::CGeometry::LoadFromStr(isText ? text.data() : nullptr);
+    vks::CRefPtr<Geometry> wanted = dynamic_cast<Geometry *>(geometry.get());
+    return wanted ? Read(wanted) : std::nullopt;
+}
+
+using ReadValue = Read (*)(const SqliteStatement &row);
+
+/** In the order of PropertyKind. */
+constexpr std::array<ReadValue, 7> kReaders{readInteger,
+                                            readDouble,
+                                            readText,
+                                            readElevation,
+                                            readPoint,
+                                            readGeometry<vks::CCurve2d>,
+                                            readGeometry<vks::CPolygon>};
+
+/** Names are plain ASCII; whatever else stands there is found nowhere. */
+const PropertyEntry *entryOf(std::string_view name, const TypeProperties &type, bool forDrawObject)
+{
+    if (name.size() > kLongestName)
+        return nullptr;
+    std::array<QChar, kLongestName> wide;
+    std::transform(name.begin(), name.end(), wide.begin(), [](char letter) { return QLatin1Char(letter); });
+    return type.find(QStringView(wide.data(), static_cast<qsizetype>(name.size())), forDrawObject);
+}
+
+} // namespace
+
+void readPropertyRow(const DatabaseRows &rows, const TypeProperties &type, bool forDrawObject,
+                     PropertyRecords &properties)
+{
+    const SqliteStatement &row = rows.row();
+    const PropertyEntry *entry = entryOf(row.bytes(kName), type, forDrawObject);
+    if (!entry)
+        rows.refuse("name", QStringLiteral("is no property of the object: \"%1\"").arg(row.text(kName)));
+    Read value = row.isNull(kValue) ? Read(std::monostate()) : kReaders[static_cast<std::size_t>(entry->kind)](row);
+    if (!value)
+        rows.refuse("value", QStringLiteral("is no %1").arg(kindName(entry->kind)));
+    const bool standsTwice = std::any_of(properties.begin(), properties.end(),
+                                         [entry](const auto &each) { return each.first == entry->name; });
+    if (standsTwice)
+        rows.refuse("name", QStringLiteral("stands twice: \"%1\"").arg(entry->name));
+    properties.emplace_back(entry->name, std::move(*value));
+}
+
+std::string pointText(const vks::CVec2<double> &point)
+{
+    return textOf(point.x).toStdString() + ' ' + textOf(point.y).toStdString();
+}
+
+} // namespace hbx::embedded

@@ -1,0 +1,90 @@
+#include "platform/embedded/ExchangeGeometry.h"
+
+#include "platform/geometry/KernelTolerance.h"
+
+namespace hbx::embedded {
+namespace {
+
+using vks::CCurve2d;
+using vks::CGeometry;
+using vks::CPolygon;
+using vks::CRefPtr;
+
+struct PolygonRule
+{
+    unsigned check;
+    const char *broken;
+};
+
+constexpr PolygonRule kPolygonRules[] = {
+    {CPolygon::kNotEmpty, "has an empty ring"},
+    {CPolygon::kClosed, "has an open ring"},
+    {CPolygon::kNoShortEdge, "has an edge of no length"},
+    {CPolygon::kNoCrossing, "crosses itself"},
+    {CPolygon::kHasArea, "has no area"},
+    {CPolygon::kHolesInside, "has a hole that is not inside or meets another"},
+};
+
+/** The geometry of a text; null for other text. */
+template <typename Geometry> CRefPtr<Geometry> fromText(const QString &text)
+{
+    // A zero inside would end the text for the kernel, and what stands behind it would go unread.
+    if (text.contains(QChar(0)))
+        return nullptr;
+    const CRefPtr<CGeometry> geometry = CGeometry::LoadFromStr(text.toUtf8().constData());
+    return dynamic_cast<Geometry *>(geometry.get());
+}
+
+template <typename Geometry>
+CRefPtr<Geometry> read(const QJsonValue &value, const JsonPlace &place, const char *what)
+{
+    const CRefPtr<Geometry> geometry = value.isString() ? fromText<Geometry>(value.toString()) : nullptr;
+    if (!geometry)
+        place.refuse(QStringLiteral("is not the text of a %1").arg(QLatin1String(what)));
+    return geometry;
+}
+
+} // namespace
+
+CRefPtr<CPolygon> polygonFromJson(const QJsonValue &value, const JsonPlace &place)
+{
+    if (value.isNull())
+        return nullptr;
+    CRefPtr<CPolygon> polygon = read<CPolygon>(value, place, "polygon");
+    if (polygon->IsValid(CPolygon::kAllChecks, nullptr, nullptr))
+        return polygon;
+    for (const PolygonRule &rule : kPolygonRules)
+        if (!polygon->IsValid(rule.check, nullptr, nullptr))
+            place.refuse(QLatin1String(rule.broken));
+    place.refuse(QStringLiteral("is not a valid polygon"));
+}
+
+CRefPtr<CCurve2d> curveFromJson(const QJsonValue &value, const JsonPlace &place)
+{
+    if (value.isNull())
+        return nullptr;
+    CRefPtr<CCurve2d> curve = read<CCurve2d>(value, place, "curve");
+    if (!(curve->Length() > vks::g_DistEpsilon))
+        place.refuse(QStringLiteral("has no length"));
+    return curve;
+}
+
+vks::CVec2<double> pointFromJson(const QJsonValue &value, const JsonPlace &place)
+{
+    const QJsonArray terms = value.toArray();
+    if (terms.size() != 2 || !terms.at(0).isDouble() || !terms.at(1).isDouble())
+        place.refuse(QStringLiteral("is not an array of 2 numbers"));
+    return {terms.at(0).toDouble(), terms.at(1).toDouble()};
+}
+
+QJsonValue geometryToJson(const CGeometry *geometry)
+{
+    if (!geometry)
+        return QJsonValue(QJsonValue::Null);
+    const std::string text = geometry->ToText();
+    return QString::fromLatin1(text.data(), static_cast<int>(text.size()));
+}
+
+QJsonArray pointToJson(const vks::CVec2<double> &point) { return {point.x, point.y}; }
+
+} // namespace hbx::embedded

@@ -1,0 +1,28 @@
+#include "platform/embedded/HBXAxisGrid.h"
+
+#include "platform/host/IHBXElementDrawObj.h"
+
+namespace hbx::embedded {
+namespace {
+
+constexpr qint64 kGridType = 74;
+
+} // namespace
+
+void HBXAxisGrid::axes(std::vector<HBXAxis> &out, int group) const
+{
+    if (group >= 0 && group < kGroupCount)
+        out = m_axes[static_cast<std::size_t>(group)];
+    else
+        out.clear();
+}
+
+} // namespace hbx::embedded
+
+IHBXAxisGrid *IHBXAxisGrid::createFromObj(IHBXElementDrawObj *object)
+{
+    using namespace hbx::embedded;
+    const bool isGrid = object && object->type() == kGridType;
+    const auto *shape = isGrid ? dynamic_cast<HBXGridShape *>(object->shape()) : nullptr;
+    return shape ? new HBXAxisGrid(shape->axes()) : nullptr;
+}

@@ -1,0 +1,90 @@
+#include "platform/embedded/HBXCheck.h"
+
+#include "platform/embedded/HBXModel.h"
+#include "platform/embedded/HBXSameObject.h"
+#include "platform/geometry/KernelTolerance.h"
+
+#include <algorithm>
+
+namespace hbx::embedded {
+namespace {
+
+struct OutlineFault
+{
+    unsigned check;
+    const char *reason;
+};
+/** In the order in which a fault makes sense: each check takes the ones before for granted. */
+constexpr OutlineFault kOutlineFaults[] = {
+    {vks::CPolygon::kNotEmpty, "The outline of the draw object has no edges."},
+    {vks::CPolygon::kClosed, "The outline of the draw object is open."},
+    {vks::CPolygon::kNoShortEdge, "The outline of the draw object has an edge of no length."},
+    {vks::CPolygon::kHasArea, "The outline of the draw object has no area."},
+    {vks::CPolygon::kNoCrossing, "The outline of the draw object crosses or overlaps itself."},
+    {vks::CPolygon::kHolesInside, "A hole in the outline of the draw object is not inside it."},
+    {vks::CPolygon::kAllChecks, "The outline of the draw object is invalid."},
+};
+
+QString outlineFault(const vks::CPolygon *outline)
+{
+    if (!outline || outline->IsValid(vks::CPolygon::kAllChecks, nullptr, nullptr))
+        return QString();
+    const auto *fault = std::find_if(std::begin(kOutlineFaults), std::end(kOutlineFaults), [outline](const auto &row) {
+        return !outline->IsValid(row.check, nullptr, nullptr);
+    });
+    return QString::fromLatin1(fault->reason);
+}
+
+QString curveFault(const vks::CCurve2d *curve)
+{
+    const bool hasLength = !curve || curve->Length() > vks::g_DistEpsilon;
+    return hasLength ? QString() : QStringLiteral("The curve of the draw object has no length.");
+}
+
+} // namespace
+
+bool HBXCheck::checkDrawObj(IHBXElementDrawObj *drawObj, HBXCheckError &error, std::map<qint64, QString> &collisions)
+{
+    error = {};
+    collisions.clear();
+    HBXElementDrawObj *object = m_model.drawObjects()->own(drawObj);
+    if (!object) {
+        error.reason = QStringLiteral("There is no draw object of this building to check.");
+        return false;
+    }
+    error.reason = faultOf(*object);
+    if (error.reason.isEmpty())
+        collisions = collisionsOf(*object);
+    if (!collisions.empty())
+        error.reason = collisions.begin()->second;
+    if (error.reason.isEmpty())
+        return true;
+    m_model.journal().add({JournalEntry::kCheckRefused, object->id(), object->ownElement().ownName(), error.reason});
+    return false;
+}
+
+QString HBXCheck::faultOf(HBXElementDrawObj &object) const
+{
+    const HBXPlacedShape &shape = object.placedShape();
+    if (!m_model.regions()->own(object.floor()))
+        return QStringLiteral("The draw object stands on no floor.");
+    if (!shape.hasGeometry())
+        return QStringLiteral("The draw object has no geometry.");
+    const QString fault = curveFault(shape.worldCurve());
+    const bool isArea = shape.shapeKind() != IHBXShape::kPlanLine; // a plan line's outline encloses nothing
+    return fault.isEmpty() && isArea ? outlineFault(shape.worldPolygon()) : fault;
+}
+
+std::map<qint64, QString> HBXCheck::collisionsOf(HBXElementDrawObj &object) const
+{
+    std::map<qint64, QString> collisions;
+    HBXPlaceIndex &places = object.ownFloor().contents().ofType(object.type()).places;
+    for (const HBXElementDrawObj *other : places.sameBox(object.placedShape().worldBox(), kSamePlaceTolerance))
+        if (other != &object && areSame(object, *other))
+            collisions.emplace(other->id(), QStringLiteral("The draw object is the same as draw object %1 of \"%2\".")
+                                                .arg(other->id())
+                                                .arg(other->ownElement().ownName()));
+    return collisions;
+}
+
+} // namespace hbx::embedded

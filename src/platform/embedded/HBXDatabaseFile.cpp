@@ -1,0 +1,232 @@
+#include "platform/embedded/HBXDatabaseFile.h"
+
+#include "platform/embedded/HBXDatabaseReader.h"
+#include "platform/embedded/HBXDatabaseWriter.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QRandomGenerator>
+
+#include <filesystem>
+#include <limits>
+
+namespace hbx::embedded {
+namespace {
+
+constexpr const char *kSideFiles[] = {"-journal", "-wal", "-shm"};
+
+[[noreturn]] void refuse(const QString &reason) { throw DatabaseRefusal{QString(), reason}; }
+
+[[noreturn]] void refuseBusy() { refuse(QStringLiteral("is being written by another program")); }
+
+/** Runs work, and turns whatever it throws into an error of the file. */
+template <typename Work> bool guarded(const QString &path, const char *failure, ProjectError &error, Work work)
+{
+    error = {};
+    try {
+        work();
+        return true;
+    } catch (const DatabaseRefusal &refusal) {
+        error = {path, refusal.place, refusal.reason};
+    } catch (const SqliteError &problem) {
+        error = {path, QString(),
+                 problem.isBusy() ? QStringLiteral("is being written by another program")
+                                  : QLatin1String(failure) + QLatin1String(": ") + problem.message};
+    } catch (const std::filesystem::filesystem_error &problem) {
+        error = {path, QString(),
+                 QLatin1String(failure) + QLatin1String(": ") + QString::fromStdString(problem.code().message())};
+    }
+    return false;
+}
+
+/** Tells a mark of a save from that of any other. */
+qint64 freshMark()
+{
+    return QRandomGenerator::global()->generate64() & std::numeric_limits<qint64>::max();
+}
+
+void checkFile(const QString &path)
+{
+    const QFileInfo info(path);
+    if (!info.exists())
+        refuse(QStringLiteral("does not exist"));
+    if (!info.isFile())
+        refuse(QStringLiteral("is no file"));
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        refuse(QStringLiteral("cannot be read: ") + file.errorString());
+    schema::checkHeader(file.read(schema::kHeaderSize));
+}
+
+/** Undoes a save that a process left unfinished. */
+void rollBack(const QString &path)
+{
+    SqliteConnection connection(path, SqliteConnection::kWrite);
+    SqliteStatement(connection, "SELECT count(*) FROM sqlite_schema").run();
+}
+
+void beginReading(SqliteConnection &connection)
+{
+    connection.run("PRAGMA cell_size_check=ON");
+    connection.run("PRAGMA mmap_size=0");
+    connection.run("BEGIN");
+}
+
+void checkContent(SqliteConnection &connection)
+{
+    if (connection.isWrittenByOthers())
+        refuseBusy();
+    schema::check(connection);
+    SqliteStatement check(connection, "PRAGMA quick_check(1)");
+    if (check.next() && check.bytes(0) != "ok")
+        refuse(QStringLiteral("is damaged: ") + check.text(0));
+}
+
+void checkForeignKeys(SqliteConnection &connection)
+{
+    SqliteStatement check(connection, "PRAGMA foreign_key_check");
+    if (check.next())
+        throw DatabaseRefusal{QStringLiteral("%1[id=%2]").arg(check.text(0)).arg(check.integer(1)),
+                              QStringLiteral("would name an object that is gone")};
+}
+
+/** Journals of a file that is about to be replaced would be taken for the new one's. */
+void clearSideFiles(const QString &path)
+{
+    for (const char *suffix : kSideFiles)
+        QFile::remove(path + QLatin1String(suffix));
+}
+
+/** Waits for nobody: a file that somebody writes to is not replaced. */
+void refuseIfWritten(const QString &path)
+{
+    if (!QFileInfo(path).isFile())
+        return;
+    try {
+        SqliteConnection connection(path, SqliteConnection::kRead);
+        connection.run("BEGIN; SELECT count(*) FROM sqlite_schema");
+        if (connection.isWrittenByOthers())
+            refuseBusy();
+    } catch (const SqliteError &problem) {
+        if (problem.isBusy())
+            refuseBusy(); // anything else is to be replaced anyway
+    }
+}
+
+/** Where a path leads through symbolic links, so that replacing the file keeps the link. */
+QString resolved(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.exists() ? info.canonicalFilePath() : path;
+}
+
+/** A file that is gone at the end unless it was moved away. */
+class TemporaryFile
+{
+public:
+    explicit TemporaryFile(const QString &target)
+        : m_path(target + QStringLiteral(".%1.part").arg(QRandomGenerator::global()->generate(), 8, 16, QLatin1Char('0')))
+    {
+    }
+    ~TemporaryFile()
+    {
+        QFile::remove(m_path);
+        clearSideFiles(m_path);
+    }
+    TemporaryFile(const TemporaryFile &) = delete;
+    TemporaryFile &operator=(const TemporaryFile &) = delete;
+
+    const QString &path() const { return m_path; }
+    void moveTo(const QString &target) const
+    {
+        if (QFileInfo::exists(target))
+            QFile::setPermissions(m_path, QFile::permissions(target));
+        clearSideFiles(target);
+        std::filesystem::rename(m_path.toStdString(), target.toStdString());
+    }
+
+private:
+    QString m_path;
+};
+
+void writeNew(const QString &path, const ProjectRecord &project, qint64 mark)
+{
+    SqliteConnection connection(path, SqliteConnection::kCreate);
+    SqliteTransaction transaction(connection, "BEGIN EXCLUSIVE");
+    schema::create(connection);
+    HBXDatabaseWriter(connection).writeAll(project, mark);
+    transaction.commit();
+}
+
+} // namespace
+
+std::optional<ProjectRecord> HBXDatabaseFile::read(ProjectError &error)
+{
+    std::optional<ProjectRecord> project;
+    guarded(m_path, "is damaged", error, [&] {
+        checkFile(m_path);
+        try {
+            project = readChecked();
+        } catch (const SqliteError &problem) {
+            if (!problem.needsRollback())
+                throw;
+            rollBack(m_path);
+            project = readChecked();
+        }
+    });
+    return project;
+}
+
+ProjectRecord HBXDatabaseFile::readChecked()
+{
+    SqliteConnection connection(m_path, SqliteConnection::kRead);
+    beginReading(connection);
+    checkContent(connection);
+    HBXDatabaseReader reader(connection);
+    ProjectRecord project = reader.read();
+    m_saveMark = reader.saveMark();
+    return project;
+}
+
+bool HBXDatabaseFile::create(const ProjectRecord &project, ProjectError &error)
+{
+    return guarded(m_path, "cannot be written", error, [&] {
+        const QString target = resolved(m_path);
+        if (QFileInfo(target).isDir())
+            refuse(QStringLiteral("is a directory"));
+        refuseIfWritten(target);
+        const TemporaryFile file(target);
+        const qint64 mark = freshMark();
+        writeNew(file.path(), project, mark);
+        file.moveTo(target);
+        m_saveMark = mark;
+    });
+}
+
+bool HBXDatabaseFile::save(const ProjectUpdate &changes, ProjectError &error)
+{
+    return guarded(m_path, "cannot be written", error, [&] {
+        checkFile(m_path);
+        update(changes);
+    });
+}
+
+void HBXDatabaseFile::update(const ProjectUpdate &changes)
+{
+    SqliteConnection connection(m_path, SqliteConnection::kWrite);
+    SqliteTransaction transaction(connection, "BEGIN IMMEDIATE");
+    schema::check(connection);
+    SqliteStatement current(connection, "SELECT save_mark FROM project");
+    if (!current.next() || current.integer(0) != m_saveMark)
+        refuse(QStringLiteral("was changed by another program since it was opened"));
+    while (current.next())
+        ;
+    const qint64 mark = freshMark();
+    HBXDatabaseWriter(connection).writeUpdate(changes, mark);
+    if (!changes.removedDrawObjs.empty() || !changes.removedElements.empty())
+        checkForeignKeys(connection);
+    transaction.commit();
+    m_saveMark = mark;
+}
+
+} // namespace hbx::embedded

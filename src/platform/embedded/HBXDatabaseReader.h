@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/embedded/HBXDatabaseSchema.h"
+#include "platform/embedded/HBXProjectRecords.h"
+#include "platform/embedded/SqliteStatement.h"
+
+namespace hbx::embedded {
+
+/** Reads all tables of a project file whose schema is known to be sound. Throws DatabaseRefusal for content that no
+ *  project writes, SqliteError for what SQLite itself refuses. */
+class HBXDatabaseReader
+{
+public:
+    explicit HBXDatabaseReader(SqliteConnection &connection) : m_connection(connection) {}
+
+    ProjectRecord read();
+    /** What the last save left to tell it from others; good after read(). */
+    qint64 saveMark() const { return m_saveMark; }
+
+private:
+    void readProject();
+    void readTables();
+    void readRegions();
+    void readFloors();
+    void readElements();
+    void readDrawObjs();
+    void readShapes();
+    void readAxes();
+    void readSpans();
+
+    SqliteConnection &m_connection;
+    ProjectRecord m_project;
+    qint64 m_saveMark = 0;
+};
+
+} // namespace hbx::embedded

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "ORVCADPlatformExport.h"
+#include "platform/services/HBXElementTypeTable.h"
+
+#include <QMap>
+#include <QString>
+
+class IHBXModel;
+
+namespace hbx::embedded {
+
+/** Which layers of a drawing the lines and texts of an element type stand on. */
+class ORVCADPLATFORM_EXPORT HBXDrawingLayers
+{
+public:
+    struct Names
+    {
+        QString lines;
+        QString texts;
+    };
+
+    /** Takes the layer names that the project keeps in its options, by label; null keeps none. */
+    explicit HBXDrawingLayers(IHBXModel *model);
+
+    /** The layer manager's title where it has one for the type, else the type's own name; for texts with "标注" behind
+     *  it. */
+    Names namesOf(const ElementTypeInfo &type) const;
+
+    /** Index, 1 to 9, of the drawing colour nearest to 0xRRGGBB. */
+    static int colorIndexOf(int rgb);
+
+private:
+    QString storedName(const QString &label) const;
+
+    QMap<QString, QString> m_storedNames;
+};
+
+} // namespace hbx::embedded

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "platform/embedded/HBXIdList.h"
+#include "platform/embedded/HBXPlaceIndex.h"
+
+#include <QHash>
+#include <QList>
+#include <QSet>
+#include <QString>
+
+#include <algorithm>
+#include <map>
+
+namespace hbx::embedded {
+
+class HBXElement;
+class HBXElementDrawObj;
+
+/** In type arguments: objects of any type. */
+constexpr qint64 kAnyType = -1;
+
+/** What stands on a floor of one type. */
+struct HBXTypeContents
+{
+    HBXIdList<HBXElement> elements;
+    HBXIdList<HBXElementDrawObj> drawObjs; ///< entered ones
+    QHash<QString, HBXIdList<HBXElement>> elementsByName;
+    /** By wanted name: a suffix up to which all are taken; forgotten whenever a name becomes free. */
+    QHash<QString, int> takenSuffixes;
+    HBXPlaceIndex places; ///< of the draw objects
+};
+
+/** Everything on a floor, by type: no query of a type looks at others. */
+class HBXFloorContents
+{
+public:
+    HBXTypeContents &ofType(qint64 type) { return m_types[type]; }
+    /** Calls work with the contents of the type, or of all types for kAnyType. */
+    template <typename Work> void forType(qint64 type, Work work)
+    {
+        if (type == kAnyType)
+            for (auto &entry : m_types)
+                work(entry.second);
+        else if (const auto found = m_types.find(type); found != m_types.end())
+            work(found->second);
+    }
+    /** The same for several types, each once. */
+    template <typename Work> void forTypes(const QSet<qint64> &types, Work work)
+    {
+        if (types.contains(kAnyType))
+            forType(kAnyType, work);
+        else
+            for (const qint64 type : types)
+                forType(type, work);
+    }
+
+private:
+    std::map<qint64, HBXTypeContents> m_types;
+};
+
+/** Adds the objects of a list to a query's result. */
+template <typename Interface, typename T> void addTo(QList<Interface *> &out, const HBXIdList<T> &objects)
+{
+    out.reserve(out.size() + objects.count());
+    objects.forEach([&out](T &object) { out.append(&object); });
+}
+
+/** Brings a result that was put together type by type or floor by floor into id order. */
+template <typename Interface> void sortById(QList<Interface *> &out)
+{
+    std::sort(out.begin(), out.end(), [](const Interface *a, const Interface *b) { return a->id() < b->id(); });
+}
+
+} // namespace hbx::embedded

@@ -1,0 +1,81 @@
+#include "platform/embedded/HBXShapeSizes.h"
+
+#include "platform/geometry/CArc2d.h"
+#include "platform/geometry/CLine2d.h"
+
+namespace hbx::embedded {
+namespace {
+
+using Point = vks::CVec2<double>;
+
+constexpr double kFullTurn = 6.283185307179586; // rad
+constexpr int kCircularSection = 1;             // "SectionTypeID"
+
+vks::CRefPtr<vks::CPolygon> polygonOf(const vks::CRefPtr<vks::CLoop> &loop)
+{
+    vks::CRefPtr<vks::CPolygon> polygon = new vks::CPolygon;
+    polygon->AddLoop(loop, true);
+    return polygon;
+}
+
+vks::CRefPtr<vks::CPolygon> circle(double radius)
+{
+    if (!(radius > 0.0))
+        return nullptr;
+    vks::CRefPtr<vks::CLoop> loop = new vks::CLoop;
+    loop->AddCurve(new vks::CArc2d(Point(), radius, 0.0, kFullTurn), false);
+    return polygonOf(loop);
+}
+
+vks::CRefPtr<vks::CPolygon> drawnSection(const HBXProperties &properties)
+{
+    vks::CRefPtr<vks::CPolygon> section;
+    Point insertPoint;
+    if (!properties.asPolygon(section, L"SectionPoly"))
+        return nullptr;
+    vks::CRefPtr<vks::CPolygon> outline = section->Clone();
+    outline->Translate(-properties.asPoint(insertPoint, L"InsertPt"));
+    return outline;
+}
+
+} // namespace
+
+std::optional<double> sizeIn(const HBXProperties &properties, std::initializer_list<const wchar_t *> names)
+{
+    for (const wchar_t *name : names) {
+        const PropertyEntry *entry = properties.find(std::wstring_view(name));
+        const PropertyValue value = entry ? properties.valueOf(*entry) : PropertyValue();
+        if (const double *size = std::get_if<double>(&value))
+            return *size;
+        if (const int *size = std::get_if<int>(&value))
+            return *size;
+    }
+    return std::nullopt;
+}
+
+vks::CRefPtr<vks::CPolygon> sectionOutline(const HBXProperties &properties)
+{
+    if (auto drawn = drawnSection(properties))
+        return drawn;
+    const double width = sizeIn(properties, {L"Width", L"SectionWidth"}).value_or(0.0);
+    const double height = sizeIn(properties, {L"Length", L"SectionHeight"}).value_or(0.0);
+    const auto box = rectangle(Point(), width, height);
+    const auto round = circle(sizeIn(properties, {L"Radius"}).value_or(0.0));
+    const bool isRound = !box || (round && properties.asInt(std::wstring(L"SectionTypeID")) == kCircularSection);
+    return isRound ? round : box;
+}
+
+vks::CRefPtr<vks::CPolygon> rectangle(const Point &centre, double width, double height)
+{
+    if (!(width > 0.0 && height > 0.0))
+        return nullptr;
+    const Point half(width / 2, height / 2);
+    const Point corners[] = {centre - half, centre + Point(half.x, -half.y), centre + half,
+                             centre + Point(-half.x, half.y)};
+    vks::CRefPtr<vks::CLoop> loop = new vks::CLoop;
+    for (int i = 0; i < 4; ++i)
+        loop->AddCurve(new vks::CLine2d(corners[i], corners[(i + 1) % 4]), false);
+    return polygonOf(loop);
+}
+
+} // namespace hbx::embedded

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <algorithm>
+#include <iterator>
+
+/** What is said of each element type by name and on a picture, in one table.
+ *
+ *  The analysis key is the type's key in drawing-analysis JSON; the own name is its name in this system's JSON and its
+ *  title in a legend. A CAD layer is of a type when its name holds one of the type's layer words, case ignored. */
+namespace hbx {
+
+struct ElementTypeInfo
+{
+    qint64 number;
+    const char *analysisKey; ///< ASCII; no two types share one
+    const char *ownName;     ///< UTF-8; no two types share one
+    const char *layerWords;  ///< UTF-8, separated by blanks
+    int colour;              ///< 0xRRGGBB
+
+    QString key() const { return QString::fromLatin1(analysisKey); }
+    QString name() const { return QString::fromUtf8(ownName); }
+    QStringList words() const { return QString::fromUtf8(layerWords).split(QLatin1Char(' ')); }
+};
+
+// clang-format off
+/** Ascending by number. */
+inline constexpr ElementTypeInfo kElementTypes[] = {
+    {0,    "etWall",           "混凝土墙",     "混凝土墙 剪力墙 墙标注 concwall shearwall",    0x5B6770},
+    {1,    "etPartitionWall",  "隔墙",         "隔墙 partition",                              0xC9A66B},
+    {4,    "etDoor",           "门",           "门 door",                                     0x2E8B57},
+    {5,    "etWindow",         "窗",           "窗 window wind",                              0x1F9BCF},
+    {6,    "etDoorWindow",     "门联窗",       "门联窗 doorwindow",                           0x2AA198},
+    {7,    "etWallHole",       "墙洞",         "洞 opening hole",                             0x8FBC8F},
+    {15,   "etBeam",           "梁",           "梁 beam",                                     0x3366CC},
+    {17,   "etLinkBeam",       "连梁",         "连梁 linkbeam couplingbeam",                  0x5C7CFA},
+    {18,   "etTieBeam",        "连系梁",       "连系梁 联系梁 拉梁 tiebeam",                  0x7048E8},
+    {19,   "etSlab",           "现浇板",       "板 slab",                                     0xB8C4D0},
+    {22,   "etSlabBar",        "板受力筋",     "受力筋 底筋 面筋 mainbar",                    0xD9480F},
+    {23,   "etSlabNegBar",     "板负筋",       "负筋 negbar",                                 0xE8590C},
+    {24,   "etSlabHole",       "板洞",         "板洞 slabhole",                               0xE03131},
+    {25,   "etColumn",         "柱",           "柱 column colu",                              0xA61E4D},
+    {26,   "etTieColumn",      "构造柱",       "构造柱 tiecolumn",                            0xC2255C},
+    {47,   "etFoundationBeam", "基础梁",       "基础梁 地梁 foundationbeam groundbeam",       0x364FC7},
+    {48,   "etRaft",           "筏板基础",     "筏板 raft",                                   0x9AA5B1},
+    {49,   "etRaftBar",        "筏板主筋",     "筏板主筋 筏板受力筋 raftbar",                 0xF76707},
+    {50,   "etRaftNegBar",     "筏板负筋",     "筏板负筋 raftnegbar",                         0xFD7E14},
+    {52,   "etIsolatedFD",     "独立基础",     "独立基础 独基 footing isolatedfd",            0x868E96},
+    {53,   "etPileCap",        "桩承台",       "承台 pilecap",                                0x748496},
+    {54,   "etPile",           "桩",           "桩 pile",                                     0x495057},
+    {74,   "etAxisGrid",       "轴网",         "轴网 轴线 axis grid",                         0xADB5BD},
+    {75,   "etAxisLine",       "辅助轴线",     "辅助轴线 辅轴 auxaxis",                       0xCED4DA},
+    {82,   "etIsolatedFDUnit", "独立基础单元", "独立基础单元 独基单元 footingunit",           0x9C9FA3},
+    {83,   "etPileCapUnit",    "桩承台单元",   "承台单元 pilecapunit",                        0x8B99A8},
+    {202,  "etRetainingWall",  "挡土墙",       "挡土墙 retaining",                            0x6B5B4F},
+    {1001, "etCurtainWall",    "幕墙",         "幕墙 curtain",                                0x74C0FC},
+    {1002, "etMasonryColumn",  "砌体柱",       "砌体柱 砖柱 brickcolumn",                     0xB5654A},
+    {1003, "etBrickWall",      "砌体墙",       "砌体墙 砖墙 填充墙 墙标注 brickwall masonry", 0xCC8B5C},
+};
+// clang-format on
+
+/** Null for an unknown type. */
+inline const ElementTypeInfo *elementTypeInfo(qint64 type)
+{
+    const auto place =
+        std::lower_bound(std::begin(kElementTypes), std::end(kElementTypes), type,
+                         [](const ElementTypeInfo &info, qint64 number) { return info.number < number; });
+    return place != std::end(kElementTypes) && place->number == type ? place : nullptr;
+}
+
+/** The type of an own name, null for any other text. */
+inline const ElementTypeInfo *elementTypeInfoByName(const QString &ownName)
+{
+    const auto place = std::find_if(std::begin(kElementTypes), std::end(kElementTypes),
+                                    [&ownName](const ElementTypeInfo &info) { return info.name() == ownName; });
+    return place == std::end(kElementTypes) ? nullptr : place;
+}
+
+} // namespace hbx

@@ -1,0 +1,83 @@
+#include "platform/geometry/CRefPtr.h"
+
+#include "platform/geometry/CLine2d.h"
+#include "platform/geometry/CLoop.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using vks::CRefPtr;
+
+/** Counts how many of its kind are alive. */
+class Counted : public vks::CRefObject
+{
+public:
+    Counted() { ++alive; }
+    Counted(const Counted &other) : vks::CRefObject(other) { ++alive; }
+    ~Counted() override { --alive; }
+    static int alive;
+};
+int Counted::alive = 0;
+
+TEST(CRefPtrTest, lastHolderDestroysTheObject)
+{
+    CRefPtr<Counted> first(new Counted);
+    {
+        const CRefPtr<Counted> second = first;
+        EXPECT_EQ(first->HolderCount(), 2);
+        first = nullptr;
+        EXPECT_EQ(Counted::alive, 1);
+    }
+    EXPECT_EQ(Counted::alive, 0);
+}
+
+TEST(CRefPtrTest, movingHandsTheHoldOver)
+{
+    CRefPtr<Counted> first(new Counted);
+    const CRefPtr<Counted> second = std::move(first);
+    EXPECT_EQ(second->HolderCount(), 1);
+}
+
+TEST(CRefPtrTest, assigningItselfKeepsTheObject)
+{
+    CRefPtr<Counted> holder(new Counted);
+    const CRefPtr<Counted> &same = holder;
+    holder = same;
+    EXPECT_EQ(holder->HolderCount(), 1);
+}
+
+TEST(CRefPtrTest, copyOfAnObjectHasHoldersOfItsOwn)
+{
+    const CRefPtr<Counted> original(new Counted);
+    const CRefPtr<Counted> copy(new Counted(*original));
+    EXPECT_EQ(original->HolderCount(), 1);
+    EXPECT_EQ(copy->HolderCount(), 1);
+}
+
+TEST(CRefPtrTest, freeDestroysAnObjectThatNothingHolds)
+{
+    auto *object = new Counted;
+    object->Free();
+    EXPECT_EQ(Counted::alive, 0);
+}
+
+TEST(CRefPtrTest, freeLeavesAHeldObjectAlone)
+{
+    const CRefPtr<Counted> holder(new Counted);
+    holder->Free();
+    EXPECT_EQ(Counted::alive, 1);
+}
+
+TEST(CRefPtrTest, loopHoldsACurveThatItWasGiven)
+{
+    auto *line = new vks::CLine2d({0, 0}, {1, 0});
+    CRefPtr<vks::CLoop> loop(new vks::CLoop);
+    loop->AddCurve(line, false);
+    const CRefPtr<vks::CCurve2d> curve = loop->GetCurve(0);
+    loop = nullptr;
+    EXPECT_EQ(curve->HolderCount(), 1);
+    EXPECT_EQ(curve->Length(), 1);
+}
+
+} // namespace
