@@ -23,10 +23,7 @@ struct Arguments
 };
 
 /** A verb with arguments of its own. */
-inline std::shared_ptr<Arguments> newArguments()
-{
-    return std::make_shared<Arguments>();
-}
+inline std::shared_ptr<Arguments> newArguments() { return std::make_shared<Arguments>(); }
 
 inline void addProject(CLI::App *verb, const std::shared_ptr<Arguments> &arguments)
 {

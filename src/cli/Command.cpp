@@ -16,8 +16,7 @@ QString joined(const QString &file, const QString &place, const QString &reason)
 CommandFailure::CommandFailure(ExitCode code, const QString &file, const QString &place, const QString &reason)
     : std::runtime_error(joined(file, place, reason).toStdString()), m_code(code), m_file(file), m_place(place),
       m_reason(reason)
-{
-}
+{}
 
 QJsonObject CommandFailure::toJson() const
 {

@@ -63,10 +63,7 @@ std::unique_ptr<HBXProject> importBuilding(Tour &tour, const QString &path)
     return project;
 }
 
-QString nameOf(ORVCADFloor *floor)
-{
-    return floor ? floor->name() : QStringLiteral("none");
-}
+QString nameOf(ORVCADFloor *floor) { return floor ? floor->name() : QStringLiteral("none"); }
 
 void writeAndReadFloors(Tour &tour, const HBXProject &project)
 {

@@ -33,7 +33,8 @@ QString countsOf(const dwgx::DWGXModel &drawing)
 {
     return QStringLiteral("%1, %2, %3")
         .arg(counted(static_cast<int>(drawing.layers().size()), QStringLiteral("layer")),
-             counted(drawing.lineCount(), QStringLiteral("line")), counted(drawing.textCount(), QStringLiteral("text")));
+             counted(drawing.lineCount(), QStringLiteral("line")),
+             counted(drawing.textCount(), QStringLiteral("text")));
 }
 
 QJsonObject describe(const dwgx::DWGXModel &drawing)

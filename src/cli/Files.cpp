@@ -28,10 +28,7 @@ namespace {
     throw CommandFailure(kBadInput, error.file, error.place, error.reason);
 }
 
-IHBXRegions &regionsOf(const HBXProject &project)
-{
-    return *project.service()->model()->regions();
-}
+IHBXRegions &regionsOf(const HBXProject &project) { return *project.service()->model()->regions(); }
 
 QString quotedList(const QStringList &names)
 {
@@ -133,11 +130,11 @@ void saveProjectAs(HBXProject &project, const QString &path)
 
 IHBXRegion &requireRegion(const HBXProject &project, const QString &name)
 {
-    IHBXRegion *region = name.isEmpty() && regionsOf(project).count() == 1 ? regionsOf(project).at(0)
-                                                                           : regionsOf(project).find(name);
+    IHBXRegion *region =
+        name.isEmpty() && regionsOf(project).count() == 1 ? regionsOf(project).at(0) : regionsOf(project).find(name);
     if (!region) {
-        const QString reason = name.isEmpty() ? QStringLiteral("no --region is given")
-                                              : QStringLiteral("no region \"%1\"").arg(name);
+        const QString reason =
+            name.isEmpty() ? QStringLiteral("no --region is given") : QStringLiteral("no region \"%1\"").arg(name);
         throw CommandFailure(kBadInput, project.path(), {},
                              reason + QStringLiteral("; known regions: ") + knownRegions(project));
     }

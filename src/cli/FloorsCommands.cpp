@@ -1,10 +1,10 @@
 #include "cli/Arguments.h"
 #include "cli/Command.h"
 #include "cli/Files.h"
+#include "cli/FloorsDocument.h"
 #include "cli/ProjectInfo.h"
 #include "drawing/ORVCADFloor.h"
 #include "drawing/ORVCADFloors.h"
-#include "cli/FloorsDocument.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -14,10 +14,7 @@ namespace orvcad {
 
 namespace {
 
-QJsonValue nameOf(ORVCADFloor *floor)
-{
-    return floor ? QJsonValue(floor->name()) : QJsonValue(QJsonValue::Null);
-}
+QJsonValue nameOf(ORVCADFloor *floor) { return floor ? QJsonValue(floor->name()) : QJsonValue(QJsonValue::Null); }
 
 QJsonObject floorToJson(ORVCADFloors &floors, ORVCADFloor &floor)
 {
@@ -43,10 +40,7 @@ QJsonObject describe(ORVCADFloors &floors)
             {"lowest", nameOf(floors.getLowestFloor())}};
 }
 
-QString shown(const QJsonValue &name)
-{
-    return name.isString() ? name.toString() : QStringLiteral("-");
-}
+QString shown(const QJsonValue &name) { return name.isString() ? name.toString() : QStringLiteral("-"); }
 
 QString toText(const QJsonObject &description)
 {
@@ -83,8 +77,8 @@ Summary exportFloors(const Arguments &arguments)
     const auto floors = floorsOfRegion(region);
     const QString output = Arguments::text(arguments.output);
     const bool onStdout = writeResult(output, QJsonDocument(floors->toJson()).toJson());
-    return {QStringLiteral("Wrote %1 of %2").arg(counted(floors->getCount(), QStringLiteral("floor")),
-                                                 floors->getAreaName()),
+    return {QStringLiteral("Wrote %1 of %2")
+                .arg(counted(floors->getCount(), QStringLiteral("floor")), floors->getAreaName()),
             {{"output", output}, {"areaName", floors->getAreaName()}, {"floors", floors->getCount()}},
             kDone,
             onStdout};

@@ -15,8 +15,7 @@ namespace {
 Summary exportOpenings(const Arguments &arguments)
 {
     const auto project = openProject(Arguments::text(arguments.project));
-    const auto floors =
-        pickFloors(*project, Arguments::text(arguments.region), Arguments::text(arguments.floor));
+    const auto floors = pickFloors(*project, Arguments::text(arguments.region), Arguments::text(arguments.floor));
     OpeningOutcome counts;
     const QJsonObject reply = openingReply(*project->service()->model(), floors, counts);
     const QString output = Arguments::text(arguments.output);

@@ -69,21 +69,19 @@ QString nameOf(const IHBXElementDrawObj &opening)
 
 QString OpeningComparison::text() const
 {
-    QStringList lines{
-        QStringLiteral("Compared with the original: %1, %2; %3")
-            .arg(counted(compared, QStringLiteral("opening")),
-                 sameDocument ? QStringLiteral("the payload written again is the same but for ids")
-                              : QStringLiteral("the payload written again DIFFERS"),
-                 deviations.isEmpty() ? QStringLiteral("each in the wall it came from")
-                                      : counted(deviations.size(), QStringLiteral("deviation")))};
+    QStringList lines{QStringLiteral("Compared with the original: %1, %2; %3")
+                          .arg(counted(compared, QStringLiteral("opening")),
+                               sameDocument ? QStringLiteral("the payload written again is the same but for ids")
+                                            : QStringLiteral("the payload written again DIFFERS"),
+                               deviations.isEmpty() ? QStringLiteral("each in the wall it came from")
+                                                    : counted(deviations.size(), QStringLiteral("deviation")))};
     return (lines + deviations).join(QStringLiteral("\n  "));
 }
 
 QJsonObject OpeningComparison::toJson() const
 {
-    return {{"compared", compared},
-            {"sameDocument", sameDocument},
-            {"deviations", QJsonArray::fromStringList(deviations)}};
+    return {
+        {"compared", compared}, {"sameDocument", sameDocument}, {"deviations", QJsonArray::fromStringList(deviations)}};
 }
 
 OpeningComparison compareOpenings(const HBXProject &expected, const HBXProject &found)
@@ -98,8 +96,8 @@ OpeningComparison compareOpenings(const HBXProject &expected, const HBXProject &
             QStringLiteral("%1 openings where there were %2").arg(after.size()).arg(before.size()));
     for (std::size_t i = 0; i < std::min(before.size(), after.size()); ++i)
         if (wallOf(*before[i]) != wallOf(*after[i]))
-            comparison.deviations.append(QStringLiteral("%1: in %2, was in %3")
-                                             .arg(nameOf(*before[i]), wallOf(*after[i]), wallOf(*before[i])));
+            comparison.deviations.append(
+                QStringLiteral("%1: in %2, was in %3").arg(nameOf(*before[i]), wallOf(*after[i]), wallOf(*before[i])));
     return comparison;
 }
 

@@ -29,10 +29,9 @@ struct KeyKind
     Expected kind;
 };
 constexpr KeyKind kElementKeys[] = {
-    {key::name, Expected::Text},           {key::elementType, Expected::Integer},
-    {key::elementSubType, Expected::Integer}, {key::height, Expected::Integer},
-    {key::width, Expected::Integer},       {key::heightFromFloor, Expected::Integer},
-    {key::floorName, Expected::Text},      {key::regionName, Expected::Text},
+    {key::name, Expected::Text},      {key::elementType, Expected::Integer}, {key::elementSubType, Expected::Integer},
+    {key::height, Expected::Integer}, {key::width, Expected::Integer},       {key::heightFromFloor, Expected::Integer},
+    {key::floorName, Expected::Text}, {key::regionName, Expected::Text},
 };
 constexpr KeyKind kPlacedKeys[] = {
     {key::elementName, Expected::Text},        {key::x, Expected::Number},       {key::y, Expected::Number},
@@ -70,8 +69,7 @@ QString wordFor(Expected kind)
     return QString::fromLatin1(words[static_cast<int>(kind)]);
 }
 
-template <std::size_t Count>
-QString mistypedKey(const QJsonObject &member, const KeyKind (&keys)[Count])
+template <std::size_t Count> QString mistypedKey(const QJsonObject &member, const KeyKind (&keys)[Count])
 {
     for (const KeyKind &expected : keys)
         if (member.contains(expected.key) && !fits(member[expected.key], expected.kind))
@@ -88,7 +86,9 @@ QString elementNameOf(const QJsonObject &member)
 
 QString OpeningReplyCheck::LeftOut::text() const
 {
-    return QStringLiteral("member %1 (%2): %3").arg(index).arg(name.isEmpty() ? QStringLiteral("no name") : name, reason);
+    return QStringLiteral("member %1 (%2): %3")
+        .arg(index)
+        .arg(name.isEmpty() ? QStringLiteral("no name") : name, reason);
 }
 
 QJsonObject OpeningReplyCheck::LeftOut::toJson() const

@@ -61,7 +61,8 @@ QString OpeningOutcome::text() const
     int lines = 0;
     for (const auto &member : leftOut) {
         if (++lines > kMostLinesOfLeftOut) {
-            text += QStringLiteral("\n  … and %1 more; --json lists all").arg(int(leftOut.size()) - kMostLinesOfLeftOut);
+            text +=
+                QStringLiteral("\n  … and %1 more; --json lists all").arg(int(leftOut.size()) - kMostLinesOfLeftOut);
             break;
         }
         text += QStringLiteral("\n  left out: ") + member.text();
@@ -74,7 +75,7 @@ QJsonObject OpeningOutcome::toJson() const
     QJsonArray leftOutJson;
     for (const auto &member : leftOut)
         leftOutJson.append(member.toJson());
-    return {{"members", members},   {"elementsMade", elements},      {"placed", placed},
+    return {{"members", members},   {"elementsMade", elements},        {"placed", placed},
             {"attached", attached}, {"unattached", placed - attached}, {"leftOut", leftOutJson}};
 }
 
@@ -108,7 +109,8 @@ QJsonArray openingMembers(const QJsonObject &reply, const QString &file)
 {
     const QJsonValue openings = reply[key::reply];
     if (!openings.isObject())
-        throw CommandFailure(kBadInput, file, key::reply, QStringLiteral("no object of that key: no reply of openings"));
+        throw CommandFailure(kBadInput, file, key::reply,
+                             QStringLiteral("no object of that key: no reply of openings"));
     const QJsonValue members = openings.toObject()[key::elementsAndEdos];
     if (!members.isArray())
         throw CommandFailure(kBadInput, file, QStringLiteral("%1.%2").arg(key::reply, key::elementsAndEdos),

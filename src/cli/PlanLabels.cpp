@@ -7,43 +7,80 @@ namespace orvcad {
 
 namespace {
 
+using Point = vks::CVec2<double>;
+
 constexpr double kWidthPerHeight = 0.85; // mean width of a letter in parts of a capital's height
 constexpr double kWidePerHeight = 1.45;  // the same of a wide (Chinese) character
 constexpr double kMargin = 1.15;         // room that a text asks for, in parts of its size
 constexpr double kUpright = 1e-9;        // rad; below this a direction counts as upright
+constexpr double kFilled = 0.75;         // an outline that fills less of its rectangle keeps nothing free
+constexpr int kFirstWide = 0x2E80;       // Chinese and Japanese characters stand from here on
 
-vks::CVec2<double> readable(const vks::CVec2<double> &direction)
+/** Where a name is tried, in parts of the way from the middle of the room to its ends; the middle first. */
+constexpr double kPlaces[] = {0.0, 0.25, -0.25, 0.5, -0.5, 0.75, -0.75, 1.0, -1.0};
+
+Point readable(const Point &direction)
 {
     const bool leftwards = direction.x < -kUpright || (std::fabs(direction.x) <= kUpright && direction.y < 0);
     return leftwards ? -direction : direction;
 }
 
-vks::CVec2<double> longestDirection(const vks::CPolygon &outline)
+Point longestDirection(const std::vector<vks::CCurve2d *> &curves)
 {
-    std::vector<vks::CCurve2d *> curves;
-    outline.GetCurves(curves);
     const auto longest = std::max_element(curves.begin(), curves.end(), [](const auto *a, const auto *b) {
         return a->StartPoint().DistanceTo(a->EndPoint()) < b->StartPoint().DistanceTo(b->EndPoint());
     });
     if (longest == curves.end())
         return {1, 0};
-    const vks::CVec2<double> direction = ((*longest)->EndPoint() - (*longest)->StartPoint()).Normalized();
-    return direction == vks::CVec2<double>() ? vks::CVec2<double>(1, 0) : readable(direction);
+    const Point direction = ((*longest)->EndPoint() - (*longest)->StartPoint()).Normalized();
+    return direction == Point() ? Point(1, 0) : readable(direction);
+}
+
+std::vector<Point> cornersOf(const PlanLabels::Frame &frame)
+{
+    const Point along = frame.along * frame.halfLength;
+    const Point across = frame.along.Left() * frame.halfWidth;
+    return {frame.centre - along - across, frame.centre + along - across, frame.centre + along + across,
+            frame.centre - along + across};
+}
+
+bool isWithin(const PlanLabels::Frame &text, const vks::CPolygon &outline)
+{
+    const auto outside = [&outline](const Point &point) { return outline.Locate(point, 0.0) < 0; };
+    const std::vector<Point> corners = cornersOf(text);
+    return std::none_of(corners.begin(), corners.end(), outside) && !outside(text.centre);
+}
+
+/** True when a straight line along one side of a lies between the two. */
+bool liesApart(const PlanLabels::Frame &a, const PlanLabels::Frame &b)
+{
+    const Point between = b.centre - a.centre;
+    const auto apart = [&](const Point &axis, double half) {
+        const double reach =
+            b.halfLength * std::fabs(b.along.Dot(axis)) + b.halfWidth * std::fabs(b.along.Left().Dot(axis));
+        return std::fabs(between.Dot(axis)) >= half + reach;
+    };
+    return apart(a.along, a.halfLength) || apart(a.along.Left(), a.halfWidth);
 }
 
 } // namespace
 
+bool PlanLabels::Frame::overlaps(const Frame &other) const
+{
+    const double reach = std::hypot(halfLength, halfWidth) + std::hypot(other.halfLength, other.halfWidth);
+    return centre.DistanceTo(other.centre) < reach && !liesApart(*this, other) && !liesApart(other, *this);
+}
+
 PlanLabels::Frame PlanLabels::frameOf(const vks::CPolygon &outline)
 {
-    Frame frame;
-    frame.along = longestDirection(outline);
-    vks::CBox2<double> turned;
     std::vector<vks::CCurve2d *> curves;
     outline.GetCurves(curves);
-    for (const vks::CCurve2d *curve : curves) {
-        const vks::CVec2<double> point = curve->StartPoint();
-        turned.Add(vks::CVec2<double>(point.Dot(frame.along), point.Dot(frame.along.Left())));
-    }
+    Frame frame;
+    frame.along = longestDirection(curves);
+    vks::CBox2<double> turned;
+    for (const vks::CCurve2d *curve : curves)
+        for (const Point &point : {curve->StartPoint(), curve->MidPoint()})
+            turned.Add(Point(point.Dot(frame.along), point.Dot(frame.along.Left())));
     if (turned.IsValid()) {
         frame.centre = frame.along * turned.Center().x + frame.along.Left() * turned.Center().y;
         frame.halfLength = turned.Width() / 2;
@@ -52,53 +89,70 @@ PlanLabels::Frame PlanLabels::frameOf(const vks::CPolygon &outline)
     return frame;
 }
 
-double PlanLabels::widthOf(const QString &name) const
+double PlanLabels::widthOf(const QString &text, double textHeight)
 {
     double letters = 0.0;
-    for (const QChar letter : name)
-        letters += letter.unicode() < 0x2E80 ? kWidthPerHeight : kWidePerHeight;
-    return letters * m_textHeight;
+    for (const QChar letter : text)
+        letters += letter.unicode() < kFirstWide ? kWidthPerHeight : kWidePerHeight;
+    return letters * textHeight;
 }
 
-std::optional<PlanLabels::Label> PlanLabels::take(const Frame &frame, const vks::CVec2<double> &middle, double width)
+PlanLabels::Frame PlanLabels::frameOfText(const Frame &place, const Point &middle, double width) const
 {
-    vks::CBox2<double> box;
-    for (const double side : {-0.5, 0.5})
-        for (const double level : {-0.5, 0.5})
-            box.Add(middle + frame.along * (side * width) + frame.along.Left() * (level * m_textHeight));
-    const auto covered = [&box](const auto &other) { return other.Intersects(box); };
-    if (std::any_of(m_taken.begin(), m_taken.end(), covered))
-        return std::nullopt;
-    m_taken.push_back(box);
-    return Label{middle - frame.along * (width / 2) - frame.along.Left() * (m_textHeight / 2),
-                 std::atan2(frame.along.y, frame.along.x)};
+    return {middle, place.along, width / 2, m_textHeight / 2};
 }
+
+bool PlanLabels::isFree(const Frame &text, const vks::CPolygon &owner) const
+{
+    const auto covered = [&text](const Frame &other) { return other.overlaps(text); };
+    const auto kept = [&](const Kept &other) { return other.owner != &owner && other.frame.overlaps(text); };
+    return std::none_of(m_taken.begin(), m_taken.end(), covered) && std::none_of(m_kept.begin(), m_kept.end(), kept);
+}
+
+PlanLabels::Label PlanLabels::take(const Frame &text)
+{
+    m_taken.push_back(text);
+    return {text.centre - text.along.Left() * text.halfWidth, std::atan2(text.along.y, text.along.x)};
+}
+
+void PlanLabels::keepFree(const vks::CPolygon &outline) { m_kept.push_back({&outline, frameOf(outline)}); }
 
 std::optional<PlanLabels::Label> PlanLabels::placeInside(const vks::CPolygon &outline, const QString &name)
 {
     const Frame frame = frameOf(outline);
-    const double width = widthOf(name);
-    if (name.isEmpty() || 2 * frame.halfLength < width * kMargin || 2 * frame.halfWidth < m_textHeight * kMargin)
+    const double width = widthOf(name, m_textHeight) * kMargin;
+    const double room = frame.halfLength - width / 2;
+    const double roomAcross = frame.halfWidth - m_textHeight * kMargin / 2;
+    if (name.isEmpty() || room < 0 || roomAcross < 0)
         return std::nullopt;
-    vks::CVec2<double> middle = outline.Barycentre();
-    for (const double side : {-0.5, 0.5})
-        for (const double level : {-0.5, 0.5})
-            if (outline.Locate(middle + frame.along * (side * width) + frame.along.Left() * (level * m_textHeight),
-                               0.0) < 0)
-                return std::nullopt;
-    return take(frame, middle, width);
+    const Point middles[] = {outline.Barycentre(), frame.centre};
+    for (const Point &middle : middles)
+        for (const double across : kPlaces)
+            for (const double along : kPlaces) {
+                const Point move = frame.along * (along * room) + frame.along.Left() * (across * roomAcross);
+                const Frame text = frameOfText(frame, middle + move, width);
+                if (isFree(text, outline) && isWithin(text, outline))
+                    return take(text);
+            }
+    return std::nullopt;
 }
 
-std::optional<PlanLabels::Label> PlanLabels::placeBeside(const vks::CPolygon &outline, const QString &name)
+std::optional<PlanLabels::Label> PlanLabels::placeBeside(const vks::CPolygon &outline, const QString &name,
+                                                         double overhang)
 {
     const Frame frame = frameOf(outline);
-    const double width = widthOf(name);
-    if (name.isEmpty() || 2 * frame.halfLength < width)
+    const double width = widthOf(name, m_textHeight);
+    if (name.isEmpty() || 2 * frame.halfLength * overhang < width)
         return std::nullopt;
+    const double room = std::max(0.0, frame.halfLength - width / 2);
     const double distance = frame.halfWidth + m_textHeight * kMargin;
-    for (const double side : {1.0, -1.0})
-        if (const auto label = take(frame, frame.centre + frame.along.Left() * (side * distance), width))
-            return label;
+    for (const double along : kPlaces)
+        for (const double side : {1.0, -1.0}) {
+            const Point move = frame.along * (along * room) + frame.along.Left() * (side * distance);
+            const Frame text = frameOfText(frame, frame.centre + move, width);
+            if (isFree(text, outline))
+                return take(text);
+        }
     return std::nullopt;
 }
 

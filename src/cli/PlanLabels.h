@@ -9,40 +9,58 @@
 
 namespace orvcad {
 
-/** Finds room for names on a plan: along the longer direction of an outline, inside it or just beside it, and never over
- *  another name. Lengths are mm of the plan. */
+/** Finds room for names on a plan: along the longer direction of an outline, inside it or just beside it, never over
+ *  another name or over what keeps its place free. Lengths are mm of the plan. */
 class PlanLabels
 {
 public:
     struct Label
     {
-        vks::CVec2<double> start; ///< left end of the baseline
-        double angle = 0.0;       ///< rad, between -pi/2 and pi/2, so that texts read from below or from the right
+        vks::CVec2<double> middle; ///< of the baseline
+        double angle = 0.0;        ///< rad, between -pi/2 and pi/2, so that texts read from below or from the right
+    };
+
+    /** Rectangle of any direction. */
+    struct Frame
+    {
+        vks::CVec2<double> centre;
+        vks::CVec2<double> along{1, 0}; ///< unit, to the right or upwards
+        double halfLength = 0.0;
+        double halfWidth = 0.0;
+
+        bool overlaps(const Frame &other) const;
     };
 
     /** @param textHeight  height of a capital letter, mm of the plan */
     explicit PlanLabels(double textHeight) : m_textHeight(textHeight) {}
 
-    /** A place for a name within an outline; nothing when it has no room there. */
+    /** Keeps an outline free of names other than its own; one that is no rectangle, more or less, is passed over. */
+    void keepFree(const vks::CPolygon &outline);
+    /** A place for a name within an outline, as near to its middle as there is room; nothing when there is none. */
     std::optional<Label> placeInside(const vks::CPolygon &outline, const QString &name);
-    /** A place for a name along one of the longer sides of an outline, outside it. */
-    std::optional<Label> placeBeside(const vks::CPolygon &outline, const QString &name);
+    /** A place for a name along one of the longer sides of an outline, outside it.
+     *  @param overhang  how much longer than the outline the name may be, as a factor */
+    std::optional<Label> placeBeside(const vks::CPolygon &outline, const QString &name, double overhang = 1.0);
+
+    /** The smallest rectangle in the direction of the longest edge. */
+    static Frame frameOf(const vks::CPolygon &outline);
+    /** Length of a text, estimated; in the unit of its capitals' height. */
+    static double widthOf(const QString &text, double textHeight);
 
 private:
-    struct Frame
+    struct Kept
     {
-        vks::CVec2<double> centre;
-        vks::CVec2<double> along; // unit, to the right or upwards
-        double halfLength = 0.0;
-        double halfWidth = 0.0;
+        const vks::CPolygon *owner;
+        Frame frame;
     };
 
-    static Frame frameOf(const vks::CPolygon &outline);
-    double widthOf(const QString &name) const;
-    std::optional<Label> take(const Frame &frame, const vks::CVec2<double> &middle, double width);
+    Frame frameOfText(const Frame &place, const vks::CVec2<double> &middle, double width) const;
+    bool isFree(const Frame &text, const vks::CPolygon &owner) const;
+    Label take(const Frame &text);
 
     double m_textHeight;
-    std::vector<vks::CBox2<double>> m_taken;
+    std::vector<Frame> m_taken;
+    std::vector<Kept> m_kept;
 };
 
 } // namespace orvcad

@@ -1,31 +1,40 @@
 #pragma once
 
-#include <QString>
+#include <QtGlobal>
 
 #include <algorithm>
 #include <iterator>
 
 namespace orvcad {
 
+// Patterns of lines, mm of paper.
+constexpr char kThrough[] = "";
+constexpr char kDashed[] = "1.6 .8"; ///< stands above the section plane
+constexpr char kDashDot[] = "6 1.2 1 1.2";
+
+constexpr double kSolid = 1.0; ///< opacity of what is cut by the section plane
+
 /** How element types look on a plan: which lies over which, and how strongly they are filled. */
 struct PlanStyle
 {
     qint64 type;
     double fillOpacity; ///< 0 draws the outline alone
-    double stroke;      ///< width of the outline, mm of paper
-    bool dashed;        ///< stands above the section plane
+    double stroke;      ///< width of lines, mm of paper
+    const char *dashes;
 };
 
 /** From the bottom of the picture to its top. */
 constexpr PlanStyle kPlanStyles[] = {
-    {48, 0.25, 0.18, false}, {19, 0.18, 0.13, false},   {54, 0.40, 0.18, false},   {53, 0.30, 0.18, false},
-    {52, 0.30, 0.18, false}, {83, 0.30, 0.13, false},   {82, 0.30, 0.13, false},   {24, 0.0, 0.18, false},
-    {15, 0.14, 0.13, true},  {17, 0.14, 0.13, true},    {18, 0.14, 0.13, true},    {47, 0.14, 0.13, true},
-    {1, 0.85, 0.18, false},  {202, 0.85, 0.18, false},  {1001, 0.85, 0.18, false}, {1003, 0.85, 0.18, false},
-    {0, 0.90, 0.18, false},  {1002, 0.95, 0.18, false}, {26, 0.95, 0.18, false},   {25, 0.95, 0.18, false},
-    {7, 1.0, 0.25, false},   {6, 1.0, 0.25, false},     {5, 1.0, 0.25, false},     {4, 1.0, 0.25, false},
-    {49, 0.0, 0.13, true},   {22, 0.0, 0.13, true},     {50, 0.0, 0.18, false},    {23, 0.0, 0.18, false},
-    {75, 0.0, 0.13, true},   {74, 0.0, 0.13, true},
+    {48, 0.25, 0.18, kThrough},     {19, 0.18, 0.13, kThrough},    {54, 0.40, 0.18, kThrough},
+    {53, 0.30, 0.18, kThrough},     {52, 0.30, 0.18, kThrough},    {83, 0.30, 0.13, kThrough},
+    {82, 0.30, 0.13, kThrough},     {24, 0.0, 0.25, kThrough},     {15, 0.14, 0.13, kDashed},
+    {17, 0.14, 0.13, kDashed},      {18, 0.14, 0.13, kDashed},     {47, 0.14, 0.13, kDashed},
+    {1, kSolid, 0.18, kThrough},    {202, kSolid, 0.18, kThrough}, {1001, kSolid, 0.18, kThrough},
+    {1003, kSolid, 0.18, kThrough}, {0, kSolid, 0.18, kThrough},   {1002, kSolid, 0.18, kThrough},
+    {26, kSolid, 0.18, kThrough},   {25, kSolid, 0.18, kThrough},  {7, kSolid, 0.25, kThrough},
+    {6, kSolid, 0.25, kThrough},    {5, kSolid, 0.25, kThrough},   {4, kSolid, 0.25, kThrough},
+    {49, 0.0, 0.13, kDashed},       {22, 0.0, 0.13, kDashed},      {50, 0.0, 0.18, kThrough},
+    {23, 0.0, 0.18, kThrough},      {75, 0.0, 0.13, kDashDot},     {74, 0.0, 0.13, kDashDot},
 };
 
 /** Null for a type that no plan shows. */

@@ -4,6 +4,7 @@
 #include "cli/PlanStyle.h"
 #include "cli/ProjectInfo.h"
 #include "cli/SvgPage.h"
+#include "platform/geometry/CLine2d.h"
 #include "platform/geometry/OrientProjectCurve2d.h"
 #include "platform/host/IHBXAxisGrid.h"
 #include "platform/host/IHBXDrawObjs.h"
@@ -32,16 +33,28 @@ constexpr double kLegendWidth = 62.0;
 constexpr double kPlanWidth = kPageWidth - 2 * kMargin - kLegendWidth;
 constexpr double kPlanHeight = kPageHeight - 2 * kMargin;
 constexpr double kLegendX = kPageWidth - kMargin - kLegendWidth + 6.0;
+constexpr double kTitleWidth = 52.0;
+constexpr double kSwatch = 8.0; // of the legend
 constexpr double kLineStep = 6.0;
-constexpr double kNameHeight = 1.3; // capital letter of a name
+constexpr double kFrame = 7.0;           // from the edge of the page
+constexpr double kLegendText = 2.2;      // capital letter
+constexpr double kNameHeight = 1.5;      // capital letter of a name
+constexpr double kOpeningOverhang = 2.0; // the name of an opening may be that much longer than the opening
+constexpr double kNamedBeside = 0.3;     // what is filled at least so strongly may have its name beside it
+constexpr int kDarkestOfLight = 0x80;    // strokes are no lighter, so that they print
 constexpr double kBubbleRadius = 3.2;
 constexpr double kBarLength = 50.0; // most of the scale bar
 
 constexpr double kScales[] = {10, 20, 25, 50, 75, 100, 125, 150, 200, 250, 300, 400, 500, 750, 1000, 2000, 5000, 10000};
 constexpr double kBarSteps[] = {50, 20, 10, 5, 2, 1, 0.5, 0.2, 0.1}; // m
 
+constexpr qint64 kWindow = 5;
+constexpr qint64 kAxisGrid = 74;
+
 constexpr char kPageStyle[] = "text{font-family:'DejaVu Sans','Noto Sans CJK SC','Noto Sans',sans-serif;fill:#222}"
-                              ".names text{paint-order:stroke;stroke:#fff;stroke-width:.5;stroke-linejoin:round}";
+                              ".names text{paint-order:stroke;stroke:#fff;stroke-width:.5;stroke-linejoin:round}"
+                              ".names .on-dark{fill:#fff;stroke:none}"
+                              "path{stroke-linejoin:round}";
 
 struct Axis
 {
@@ -57,6 +70,14 @@ struct Placed
     std::vector<Axis> axes;              ///< world; of grids
 
     bool hasGeometry() const { return outline || curve || !axes.empty(); }
+};
+
+/** What the legend tells of a type. */
+struct TypeCount
+{
+    qint64 type = -1;
+    int number = 0;
+    bool hasArea = false; ///< some object of it is an area, not a line alone
 };
 
 vks::CRefPtr<vks::CCurve2d> toPlan(IHBXShape &shape, const vks::CCurve2d *curve)
@@ -115,6 +136,7 @@ public:
     PlanSvg paint()
     {
         m_page.addRectangle(0, 0, kPageWidth, kPageHeight, QStringLiteral("fill=\"#fff\""));
+        paintFrame();
         paintObjects();
         paintNames();
         paintTitle();
@@ -132,10 +154,13 @@ private:
     void collect(IHBXModel &model);
     void layOut();
     void paintObjects();
-    void paintObject(const Placed &placed, const PlanStyle &style, const QString &colour);
-    void paintAxis(const Axis &axis, const QString &colour);
+    void paintObject(const Placed &placed);
+    void paintPane(const vks::CPolygon &outline);
+    void paintAxis(const Axis &axis, const QString &stroke);
     void paintNames();
     void paintName(PlanLabels &labels, const Placed &placed);
+    void paintFrame();
+    void paintTitleLine(double y, double size, const QString &line, const QString &attributes = QString());
     void paintTitle();
     void paintLegend();
     void paintScaleBar();
@@ -146,33 +171,73 @@ private:
     QString m_building;
     SvgPage m_page;
     std::vector<Placed> m_objects; // from the bottom to the top
-    QMap<int, QPair<qint64, int>> m_counts; // by place from the bottom: type and number
+    QMap<int, TypeCount> m_counts; // by place from the bottom
     vks::CBox2<double> m_box;
     double m_scale = 100.0;
     int m_left = 0;
 };
 
-QString colourOf(qint64 type)
+int rgbOf(qint64 type)
 {
     const hbx::ElementTypeInfo *info = hbx::elementTypeInfo(type);
-    return QStringLiteral("#%1").arg(info ? info->colour : 0x888888, 6, 16, QLatin1Char('0'));
+    return info ? info->colour : 0x888888;
 }
 
-bool isOpening(qint64 type)
+QString hexOf(int rgb) { return QStringLiteral("#%1").arg(rgb, 6, 16, QLatin1Char('0')); }
+
+QString colourOf(qint64 type) { return hexOf(rgbOf(type)); }
+
+/** The colour of a type, darkened where a thin line of it would not be seen on paper. */
+QString strokeColourOf(qint64 type)
 {
-    return type >= 4 && type <= 7;
+    const int rgb = rgbOf(type);
+    const int parts[] = {rgb >> 16 & 0xFF, rgb >> 8 & 0xFF, rgb & 0xFF};
+    const int darkest = *std::min_element(std::begin(parts), std::end(parts));
+    if (darkest <= kDarkestOfLight)
+        return hexOf(rgb);
+    int darkened = 0;
+    for (const int part : parts)
+        darkened = darkened << 8 | part * kDarkestOfLight / darkest;
+    return hexOf(darkened);
 }
+
+bool isOpening(qint64 type) { return type >= 4 && type <= 7; }
 
 const PlanStyle &styleOf(qint64 type)
 {
-    static constexpr PlanStyle plain{-1, 0.2, 0.13, false};
+    static constexpr PlanStyle plain{-1, 0.2, 0.13, kThrough};
     const PlanStyle *style = planStyle(type);
     return style ? *style : plain;
 }
 
+/** True for what is filled so darkly that dark letters would not be seen on it. */
+bool isDark(qint64 type)
+{
+    const int rgb = rgbOf(type);
+    const int brightness = (299 * (rgb >> 16 & 0xFF) + 587 * (rgb >> 8 & 0xFF) + 114 * (rgb & 0xFF)) / 1000;
+    return styleOf(type).fillOpacity == kSolid && !isOpening(type) && brightness < kDarkestOfLight;
+}
+
+/** SVG attributes of what a type's outlines are filled with. */
+QString fillOf(qint64 type)
+{
+    return QStringLiteral("fill=\"%1\" fill-opacity=\"%2\"")
+        .arg(isOpening(type) ? QStringLiteral("#fff") : colourOf(type))
+        .arg(styleOf(type).fillOpacity);
+}
+
+/** SVG attributes of a type's lines. */
+QString strokeOf(qint64 type)
+{
+    const PlanStyle &style = styleOf(type);
+    const QString stroke =
+        QStringLiteral("stroke=\"%1\" stroke-width=\"%2\"").arg(strokeColourOf(type)).arg(style.stroke);
+    const QString dashes = QString::fromLatin1(style.dashes);
+    return dashes.isEmpty() ? stroke : stroke + QStringLiteral(" stroke-dasharray=\"%1\"").arg(dashes);
+}
+
 void PlanPainter::add(const Placed &placed)
 {
-    vks::CBox2<double> box;
     if (placed.outline)
         m_box.Add(placed.outline->Box());
     if (placed.curve)
@@ -181,8 +246,8 @@ void PlanPainter::add(const Placed &placed)
         m_box.Add(axis.line->Box());
     m_objects.push_back(placed);
     const qint64 type = placed.object->type();
-    auto &count = m_counts[planOrder(type)];
-    count = {type, count.second + 1};
+    TypeCount &count = m_counts[planOrder(type)];
+    count = {type, count.number + 1, count.hasArea || placed.outline};
 }
 
 void PlanPainter::collect(IHBXModel &model)
@@ -215,56 +280,62 @@ void PlanPainter::layOut()
 
 void PlanPainter::paintObjects()
 {
-    qint64 type = -1;
-    m_page.beginGroup(QStringLiteral("plan"));
-    for (const Placed &placed : m_objects) {
-        if (placed.object->type() != type) {
-            type = placed.object->type();
-            m_page.endGroup();
-            m_page.beginGroup(QStringLiteral("type-%1").arg(type));
-        }
-        paintObject(placed, styleOf(type), colourOf(type));
+    for (auto first = m_objects.cbegin(); first != m_objects.cend();) {
+        const qint64 type = first->object->type();
+        m_page.beginGroup(QStringLiteral("type-%1").arg(type));
+        for (; first != m_objects.cend() && first->object->type() == type; ++first)
+            paintObject(*first);
+        m_page.endGroup();
     }
-    m_page.endGroup();
 }
 
-void PlanPainter::paintObject(const Placed &placed, const PlanStyle &style, const QString &colour)
+void PlanPainter::paintObject(const Placed &placed)
 {
-    const QString stroke = QStringLiteral("stroke=\"%1\" stroke-width=\"%2\"%3")
-                               .arg(colour)
-                               .arg(style.stroke)
-                               .arg(style.dashed ? QStringLiteral(" stroke-dasharray=\"1.6 .8\"") : QString());
-    if (placed.outline) {
-        const QString fill = isOpening(placed.object->type()) ? QStringLiteral("#fff") : colour;
-        m_page.addPolygon(*placed.outline, QStringLiteral("fill=\"%1\" fill-opacity=\"%2\" %3")
-                                               .arg(fill)
-                                               .arg(style.fillOpacity)
-                                               .arg(stroke));
-    }
+    const qint64 type = placed.object->type();
+    if (placed.outline)
+        m_page.addPolygon(*placed.outline, fillOf(type) + ' ' + strokeOf(type));
+    if (placed.outline && type == kWindow)
+        paintPane(*placed.outline);
     if (placed.curve)
-        m_page.addCurve(*placed.curve, stroke);
+        m_page.addCurve(*placed.curve, strokeOf(type));
     for (const Axis &axis : placed.axes)
-        paintAxis(axis, colour);
+        paintAxis(axis, strokeOf(type));
 }
 
-void PlanPainter::paintAxis(const Axis &axis, const QString &colour)
+/** The line in the middle of a window that stands for its glass. */
+void PlanPainter::paintPane(const vks::CPolygon &outline)
 {
-    m_page.addCurve(*axis.line, QStringLiteral("stroke=\"%1\" stroke-width=\".13\" stroke-dasharray=\"6 1.2 1 1.2\"")
-                                    .arg(colour));
+    const PlanLabels::Frame frame = PlanLabels::frameOf(outline);
+    const vks::CVec2<double> half = frame.along * frame.halfLength;
+    m_page.addCurve(vks::CLine2d(frame.centre - half, frame.centre + half),
+                    QStringLiteral("class=\"pane\" ") + strokeOf(kWindow));
+}
+
+void PlanPainter::paintAxis(const Axis &axis, const QString &stroke)
+{
+    m_page.addCurve(*axis.line, stroke);
+    if (axis.label.isEmpty())
+        return;
     const vks::CVec2<double> start = m_page.toPaper(axis.line->StartPoint());
     vks::CVec2<double> outwards = axis.line->StartVt();
     outwards = {-outwards.x, outwards.y}; // back from the start; paper runs downwards
     const vks::CVec2<double> centre = start + outwards * kBubbleRadius;
-    m_page.addCircle(centre, kBubbleRadius, QStringLiteral("fill=\"#fff\" stroke=\"#868e96\" stroke-width=\".18\""));
-    m_page.addText(centre + vks::CVec2<double>(0, 1.0), 2.0, axis.label, QStringLiteral("text-anchor=\"middle\""));
+    m_page.addCircle(centre, kBubbleRadius,
+                     QStringLiteral("fill=\"#fff\" stroke=\"%1\" stroke-width=\".18\"").arg(strokeColourOf(kAxisGrid)));
+    const double size = std::min(2.0, 2.0 * 1.6 * kBubbleRadius / PlanLabels::widthOf(axis.label, 2.0));
+    m_page.addText(centre + vks::CVec2<double>(0, size / 2), size, axis.label,
+                   QStringLiteral("text-anchor=\"middle\""));
 }
 
 void PlanPainter::paintNames()
 {
     PlanLabels labels(kNameHeight * m_scale);
     m_page.beginGroup(QStringLiteral("names"));
+    for (const Placed &placed : m_objects)
+        if (placed.outline && styleOf(placed.object->type()).fillOpacity == kSolid)
+            labels.keepFree(*placed.outline);
     // From the top down: what lies on top keeps its name where there is room for one only.
-    for (auto placed = m_objects.rbegin(); placed != m_objects.rend(); ++placed)
+    for (auto placed = m_objects.crbegin(); placed != m_objects.crend(); ++placed)
         if (placed->outline)
             paintName(labels, *placed);
     m_page.endGroup();
@@ -274,11 +345,15 @@ void PlanPainter::paintName(PlanLabels &labels, const Placed &placed)
 {
     QString name;
     placed.object->element()->name(name);
+    const qint64 type = placed.object->type();
     auto label = labels.placeInside(*placed.outline, name);
-    if (!label && isOpening(placed.object->type()))
-        label = labels.placeBeside(*placed.outline, name);
+    QString attributes = QStringLiteral("text-anchor=\"middle\"");
+    if (label && isDark(type))
+        attributes += QStringLiteral(" class=\"on-dark\"");
+    else if (!label && styleOf(type).fillOpacity >= kNamedBeside)
+        label = labels.placeBeside(*placed.outline, name, isOpening(type) ? kOpeningOverhang : 1.0);
     if (label)
-        m_page.addText(m_page.toPaper(label->start), kNameHeight, name, QString(), label->angle);
+        m_page.addText(m_page.toPaper(label->middle), kNameHeight, name, attributes, label->angle);
 }
 
 QString PlanPainter::title() const
@@ -286,32 +361,49 @@ QString PlanPainter::title() const
     return QStringLiteral("%1 – %2, %3").arg(m_building, m_floor.region()->name(), m_floor.name());
 }
 
+void PlanPainter::paintFrame()
+{
+    const QString line = QStringLiteral("stroke=\"#222\" stroke-width=\".35\"");
+    m_page.addRectangle(kFrame, kFrame, kPageWidth - 2 * kFrame, kPageHeight - 2 * kFrame,
+                        QStringLiteral("fill=\"none\" ") + line);
+    const double x = kLegendX - 6.0;
+    m_page.addLine({x, kFrame}, {x, kPageHeight - kFrame}, line);
+}
+
+/** A line of the title, made smaller where it would not fit. */
+void PlanPainter::paintTitleLine(double y, double size, const QString &line, const QString &attributes)
+{
+    const double width = PlanLabels::widthOf(line, size);
+    m_page.addText({kLegendX, y}, size * std::min(1.0, kTitleWidth / std::max(width, kTitleWidth)), line, attributes);
+}
+
 void PlanPainter::paintTitle()
 {
     QString code;
     m_floor.code(code);
     double y = kMargin + 5.0;
-    m_page.addText({kLegendX, y}, 4.0, m_floor.name(), QStringLiteral("font-weight=\"bold\""));
+    paintTitleLine(y, 4.0, m_floor.name(), QStringLiteral("font-weight=\"bold\""));
     const QString lines[] = {m_building, m_floor.region()->name(), QStringLiteral("Floor code %1").arg(code),
                              QStringLiteral("Bottom %1 m, height %2 m").arg(m_floor.bottomElev()).arg(m_floor.height()),
                              QStringLiteral("Scale 1:%1 (A3)").arg(m_scale, 0, 'g', 5)};
     for (const QString &line : lines)
-        m_page.addText({kLegendX, y += kLineStep}, 2.2, line);
+        paintTitleLine(y += kLineStep, kLegendText, line);
 }
 
 void PlanPainter::paintLegend()
 {
     double y = kMargin + 50.0;
     m_page.beginGroup(QStringLiteral("legend"));
-    for (const auto &count : qAsConst(m_counts)) {
-        const qint64 type = count.first;
-        const PlanStyle &style = styleOf(type);
-        m_page.addRectangle(kLegendX, y - 3.2, 7.0, 4.0,
-                            QStringLiteral("fill=\"%1\" fill-opacity=\"%2\" stroke=\"%1\" stroke-width=\"%3\"")
-                                .arg(colourOf(type))
-                                .arg(isOpening(type) ? 0.0 : style.fillOpacity)
-                                .arg(style.stroke));
-        m_page.addText({kLegendX + 10.0, y}, 2.2, QStringLiteral("%1 × %2").arg(count.second).arg(typeTitle(type)));
+    for (const TypeCount &count : qAsConst(m_counts)) {
+        const double middle = y - kLegendText / 2;
+        if (count.hasArea)
+            m_page.addRectangle(kLegendX, middle - 2.0, kSwatch, 4.0, fillOf(count.type) + ' ' + strokeOf(count.type));
+        else
+            m_page.addLine({kLegendX, middle}, {kLegendX + kSwatch, middle}, strokeOf(count.type));
+        if (count.type == kWindow)
+            m_page.addLine({kLegendX, middle}, {kLegendX + kSwatch, middle}, strokeOf(count.type));
+        m_page.addText({kLegendX + kSwatch + 3.0, y}, kLegendText,
+                       QStringLiteral("%1 × %2").arg(count.number).arg(typeTitle(count.type)));
         y += kLineStep;
     }
     m_page.endGroup();
@@ -324,14 +416,15 @@ void PlanPainter::paintScaleBar()
     const double step = place == std::end(kBarSteps) ? *std::prev(std::end(kBarSteps)) : *place;
     const double length = step * 1000.0 / m_scale;
     const double y = kPageHeight - kMargin;
-    m_page.beginGroup(QStringLiteral("scale-bar"), QStringLiteral("stroke=\"#222\" stroke-width=\".18\""));
-    m_page.addRectangle(kLegendX, y - 2.0, length, 2.0, QStringLiteral("fill=\"#222\""));
-    m_page.addRectangle(kLegendX + length, y - 2.0, length, 2.0, QStringLiteral("fill=\"#fff\""));
-    m_page.endGroup();
+    const QString line = QStringLiteral("stroke=\"#222\" stroke-width=\".18\"");
+    m_page.beginGroup(QStringLiteral("scale-bar"));
+    m_page.addRectangle(kLegendX, y - 2.0, length, 2.0, QStringLiteral("fill=\"#222\" ") + line);
+    m_page.addRectangle(kLegendX + length, y - 2.0, length, 2.0, QStringLiteral("fill=\"#fff\" ") + line);
     for (int mark = 0; mark <= 2; ++mark)
         m_page.addText({kLegendX + mark * length, y - 3.5}, 2.0,
                        QString::number(mark * step) + (mark == 2 ? QStringLiteral(" m") : QString()),
                        QStringLiteral("text-anchor=\"middle\""));
+    m_page.endGroup();
 }
 
 } // namespace

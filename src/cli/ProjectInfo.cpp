@@ -151,8 +151,7 @@ QString ProjectInfo::counts() const
 {
     const TypeCount sum = total();
     return QStringList{counted(static_cast<int>(regions.size()), QStringLiteral("region")),
-                       counted(floorCount(), QStringLiteral("floor")),
-                       counted(sum.elements, QStringLiteral("element")),
+                       counted(floorCount(), QStringLiteral("floor")), counted(sum.elements, QStringLiteral("element")),
                        counted(sum.drawObjects, QStringLiteral("placed object"))}
         .join(QStringLiteral(", "));
 }

@@ -24,6 +24,22 @@ QString number(double value)
     return text == QLatin1String("-0") ? QStringLiteral("0") : text;
 }
 
+/** Text for XML: marked up, and without the characters that XML has no way to write. */
+QString xmlText(const QString &text)
+{
+    QString allowed;
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar letter = text[i];
+        const bool isPair = letter.isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
+        const bool isControl = letter < QLatin1Char(' ') && letter != QLatin1Char('\t') && letter != QLatin1Char('\n');
+        if (isPair)
+            allowed += QString(letter) + text[++i];
+        else if (!letter.isSurrogate() && !isControl && letter.unicode() < 0xFFFE)
+            allowed += letter;
+    }
+    return allowed.toHtmlEscaped();
+}
+
 QString tag(const QString &name, const QString &attributes)
 {
     return QStringLiteral("<%1 %2/>\n").arg(name, attributes.trimmed());
@@ -31,9 +47,7 @@ QString tag(const QString &name, const QString &attributes)
 
 } // namespace
 
-SvgPage::SvgPage(double width, double height) : m_width(width), m_height(height)
-{
-}
+SvgPage::SvgPage(double width, double height) : m_width(width), m_height(height) {}
 
 void SvgPage::setPlan(const vks::CVec2<double> &origin, const vks::CVec2<double> &onPaper, double scale)
 {
@@ -53,15 +67,9 @@ void SvgPage::beginGroup(const QString &cssClass, const QString &attributes)
     m_body += QStringLiteral("<g class=\"%1\" %2>\n").arg(cssClass, attributes);
 }
 
-void SvgPage::endGroup()
-{
-    m_body += QStringLiteral("</g>\n");
-}
+void SvgPage::endGroup() { m_body += QStringLiteral("</g>\n"); }
 
-QString SvgPage::pointText(const vks::CVec2<double> &paper) const
-{
-    return number(paper.x) + ' ' + number(paper.y);
-}
+QString SvgPage::pointText(const vks::CVec2<double> &paper) const { return number(paper.x) + ' ' + number(paper.y); }
 
 QString SvgPage::segmentOf(const vks::CCurve2d &curve) const
 {
@@ -102,8 +110,9 @@ void SvgPage::addCurve(const vks::CCurve2d &curve, const QString &attributes)
 {
     if (curve.IsEmpty())
         return;
-    m_body += tag(QStringLiteral("path"), QStringLiteral("d=\"M%1%2\" fill=\"none\" %3")
-                                              .arg(pointText(toPaper(curve.StartPoint())), segmentOf(curve), attributes));
+    m_body +=
+        tag(QStringLiteral("path"), QStringLiteral("d=\"M%1%2\" fill=\"none\" %3")
+                                        .arg(pointText(toPaper(curve.StartPoint())), segmentOf(curve), attributes));
 }
 
 void SvgPage::addRectangle(double x, double y, double width, double height, const QString &attributes)
@@ -120,8 +129,8 @@ void SvgPage::addCircle(const vks::CVec2<double> &centre, double radius, const Q
 
 void SvgPage::addLine(const vks::CVec2<double> &from, const vks::CVec2<double> &to, const QString &attributes)
 {
-    m_body += tag(QStringLiteral("path"), QStringLiteral("d=\"M%1 L%2\" fill=\"none\" %3")
-                                              .arg(pointText(from), pointText(to), attributes));
+    m_body += tag(QStringLiteral("path"),
+                  QStringLiteral("d=\"M%1 L%2\" fill=\"none\" %3").arg(pointText(from), pointText(to), attributes));
 }
 
 void SvgPage::addText(const vks::CVec2<double> &point, double size, const QString &text, const QString &attributes,
@@ -131,17 +140,16 @@ void SvgPage::addText(const vks::CVec2<double> &point, double size, const QStrin
     if (angle != 0.0)
         turn = QStringLiteral(" transform=\"rotate(%1 %2)\"").arg(number(-angle * 180.0 / kPi), pointText(point));
     m_body += QStringLiteral("<text x=\"%1\" y=\"%2\" font-size=\"%3\" %4%5>%6</text>\n")
-                  .arg(number(point.x), number(point.y), number(size / kCapitalPart), attributes, turn,
-                       text.toHtmlEscaped());
+                  .arg(number(point.x), number(point.y), number(size / kCapitalPart), attributes, turn, xmlText(text));
 }
 
 QByteArray SvgPage::document(const QString &title, const QByteArray &style) const
 {
-    const QString size = QStringLiteral("width=\"%1mm\" height=\"%2mm\" viewBox=\"0 0 %1 %2\"")
-                             .arg(number(m_width), number(m_height));
+    const QString size =
+        QStringLiteral("width=\"%1mm\" height=\"%2mm\" viewBox=\"0 0 %1 %2\"").arg(number(m_width), number(m_height));
     return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<svg xmlns=\"http://www.w3.org/2000/svg\" " + size.toUtf8() +
-           ">\n<title>" + title.toHtmlEscaped().toUtf8() + "</title>\n<style>" + style + "</style>\n" +
-           m_body.toUtf8() + "</svg>\n";
+           ">\n<title>" + xmlText(title).toUtf8() + "</title>\n<style>" + style + "</style>\n" + m_body.toUtf8() +
+           "</svg>\n";
 }
 
 } // namespace orvcad

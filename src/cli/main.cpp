@@ -24,10 +24,7 @@ void printLine(std::FILE *stream, const QString &text)
     std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream);
 }
 
-QString indented(const QJsonObject &json)
-{
-    return QString::fromUtf8(QJsonDocument(json).toJson()).trimmed();
-}
+QString indented(const QJsonObject &json) { return QString::fromUtf8(QJsonDocument(json).toJson()).trimmed(); }
 
 void print(const orvcad::Summary &summary, const Flags &flags)
 {

@@ -58,8 +58,7 @@ struct QuarterCase
     Vec maximum;
 };
 class CArc2dQuarterTest : public ::testing::TestWithParam<QuarterCase>
-{
-};
+{};
 
 TEST_P(CArc2dQuarterTest, boxIsExactInEveryQuadrantAndBothDirections)
 {
@@ -76,7 +75,9 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(QuarterCase{0, kPi / 2, {1, 2}, {11, 12}}, QuarterCase{kPi / 2, kPi / 2, {-9, 2}, {1, 12}},
                       QuarterCase{kPi, kPi / 2, {-9, -8}, {1, 2}}, QuarterCase{3 * kPi / 2, kPi / 2, {1, -8}, {11, 2}},
                       QuarterCase{0, kPi, {-9, 2}, {11, 12}}, QuarterCase{-kPi / 2, kPi, {1, -8}, {11, 12}},
-                      QuarterCase{kPi / 4, -kPi / 2, {1 + 10 / std::sqrt(2.0), 2 - 10 / std::sqrt(2.0)},
+                      QuarterCase{kPi / 4,
+                                  -kPi / 2,
+                                  {1 + 10 / std::sqrt(2.0), 2 - 10 / std::sqrt(2.0)},
                                   {11, 2 + 10 / std::sqrt(2.0)}},
                       QuarterCase{0, 2 * kPi, {-9, -8}, {11, 12}}));
 
@@ -106,6 +107,16 @@ TEST(CArc2dTest, arcMayBeLengthenedToItsFullCircleAndNoFarther)
     arc.SetEndT(1e9);
     EXPECT_TRUE(arc.IsClosed());
     EXPECT_NEAR(arc.Length(), 200 * kPi, 1e-9);
+}
+
+TEST(CArc2dTest, circleThatStartsElsewhereEndsWhereItStartsToTheLastBit)
+{
+    CArc2d circle(Vec(1e6, 7), 100.0, 0.3, 0.3 + 2 * kPi);
+    circle.SetStartT(-77);
+    EXPECT_TRUE(circle.IsClosed());
+    EXPECT_EQ(circle.StartPoint(), circle.EndPoint());
+    EXPECT_NEAR(circle.Length(), 200 * kPi, 1e-9);
+    expectNear(circle.MidPoint(), circle.CenterPt() * 2.0 - circle.StartPoint());
 }
 
 TEST(CArc2dTest, trimmingKeepsTheParameterOfEveryPoint)
@@ -149,6 +160,95 @@ TEST(CArc2dTest, bulgeZeroIsAFlatArc)
     EXPECT_EQ(arc.GetBulge(), 0);
     EXPECT_TRUE(std::isinf(arc.Radius()));
     EXPECT_FALSE(arc.CenterPt().IsFinite());
+}
+
+TEST(CArc2dTest, bulgeOfWhichNoFiniteCircleComesIsAFlatArc)
+{
+    const double infinity = std::numeric_limits<double>::infinity();
+    for (const double bulge : {infinity, -infinity, std::numeric_limits<double>::quiet_NaN(), 1e200, 1e-320}) {
+        const CArc2d arc({0, 0}, {300, 400}, bulge);
+        EXPECT_TRUE(arc.IsFlat());
+        EXPECT_EQ(arc.Length(), 500);
+        EXPECT_TRUE(vks::CGeometry::LoadFromStr(arc.ToText().c_str()));
+    }
+}
+
+TEST(CArc2dTest, arcAsFlatAsNumbersGoHasNoAreaAndItsPoints)
+{
+    const CArc2d arc({0, 0}, {1000, 0}, 1e-160); // of a circle whose square overflows
+    EXPECT_FALSE(arc.IsFlat());
+    EXPECT_NEAR(arc.TwiceSegmentArea(), 0, 1e-150);
+    EXPECT_NEAR(arc.NearestT({250, 3}), 250, 1e-9);
+    expectNear(arc.MidPoint(), {500, 0});
+    expectNear(arc.SegmentCentroid(), {500, 0});
+    EXPECT_EQ(arc.Box().maxPt, Vec(1000, 0));
+}
+
+TEST(CArc2dTest, almostFullCircleByBulgeKeepsItsEnds)
+{
+    const CArc2d arc({0, 0}, {0.001, 0}, 1e6);
+    EXPECT_NEAR(arc.Radius(), 250, 1e-6);
+    EXPECT_EQ(arc.EndPoint(), Vec(0.001, 0));
+    EXPECT_FALSE(arc.IsClosed());
+    expectNear(arc.MidPoint(), {0.0005, -500}, 1e-6);
+    EXPECT_NEAR(arc.GetBulge() / 1e6, 1, 1e-6);
+}
+
+TEST(CArc2dTest, segmentCentroidIsExactAtEverySweep)
+{
+    // Against the sum over thin strips at right angles to the chord.
+    for (const double sweep : {5e-5, 2e-4, 0.009, 0.011, 0.5, 3.0}) {
+        const double radius = 1000 / sweep;
+        const CArc2d arc(Vec(0, 0), radius, kPi / 2 - sweep / 2, kPi / 2 + sweep / 2);
+        double area = 0;
+        double moment = 0; // about the chord
+        constexpr int kParts = 20000;
+        for (int i = 0; i < kParts; ++i) {
+            const double angle = sweep * ((i + 0.5) / kParts - 0.5);
+            const double height = 2 * radius * std::sin((sweep / 2 + angle) / 2) * std::sin((sweep / 2 - angle) / 2);
+            area += height * std::cos(angle);
+            moment += height * height / 2 * std::cos(angle);
+        }
+        const double fromChord = arc.SegmentCentroid().y - arc.StartPoint().y;
+        EXPECT_NEAR(fromChord, moment / area, moment / area * 1e-7 + radius * 1e-15) << sweep;
+        EXPECT_NEAR(arc.SegmentCentroid().x, 0, 1e-6);
+    }
+}
+
+TEST(CArc2dTest, pointInsideTheWholeCircleIsHeld)
+{
+    const CArc2d arc(Vec(0, 0), 100.0, 0.0, 1.0);
+    EXPECT_TRUE(arc.CircleHolds({-99.999, 0}));
+    EXPECT_FALSE(arc.CircleHolds({-100.001, 0}));
+    EXPECT_FALSE(CArc2d({0, 0}, {1, 0}, 0.0).CircleHolds({0.5, 0}));
+    const CArc2d flat({0, 0}, {1000, 0}, 1e-12); // its middle 5e-10 mm below, its centre 2.5e14 mm above
+    EXPECT_TRUE(flat.CircleHolds({500, 0}));
+    EXPECT_FALSE(flat.CircleHolds({500, -6e-10}));
+}
+
+TEST(CArc2dTest, boxOfAFlatArcKeepsItsDigits)
+{
+    const CArc2d arc({1000, 0}, {0, 0}, 1e-8); // its middle 5e-6 mm above
+    EXPECT_NEAR(arc.Box().maxPt.y, 5e-6, 1e-15);
+    EXPECT_EQ(arc.Box().minPt.y, 0);
+}
+
+TEST(CArc2dTest, boxHoldsSampledPointsAndTouchesThem)
+{
+    std::mt19937_64 random(23);
+    std::uniform_real_distribution<double> place(-1e5, 1e5);
+    std::uniform_real_distribution<double> bulges(-5, 5);
+    for (int i = 0; i < 500; ++i) {
+        const CArc2d arc({place(random), place(random)}, {place(random), place(random)}, bulges(random));
+        const auto box = arc.Box();
+        vks::CBox2<double> sampled;
+        constexpr int kSamples = 2000;
+        for (int part = 0; part <= kSamples; ++part)
+            sampled.Add(arc.GetPoint(arc.Length() * part / kSamples));
+        const double rise = arc.Radius() * 2e-6; // more than an arc between two samples rises above their chord
+        EXPECT_TRUE(box.Contains(sampled.minPt, 1e-6) && box.Contains(sampled.maxPt, 1e-6));
+        EXPECT_TRUE(sampled.Contains(box.minPt, rise) && sampled.Contains(box.maxPt, rise));
+    }
 }
 
 TEST(CArc2dTest, arcBetweenEqualPointsHasNoLength)

@@ -81,7 +81,8 @@ TEST(CBooleanOperate2DTest, nullEmptyAndInfinitePolygonsCountAsNothing)
     const double inf = std::numeric_limits<double>::infinity();
     for (const PolygonPtr &nothing :
          {PolygonPtr(), PolygonPtr(new vks::CPolygon), rectangle(0, 0, inf, 1), rectangle(std::nan(""), 0, 1, 1),
-          rectangle(0, 0, 0, 100), rectangle(-1e308, 0, inf, 5)}) {
+          rectangle(0, 0, 0, 100), polygon({{{0, 0}, {50, 0}, {50, std::nan("")}, {0, 50}}}),
+          circle({0, 0}, std::nan("")), circle({0, inf}, 5), rectangle(-1e308, 0, inf, 5)}) {
         EXPECT_DOUBLE_EQ(area(unite({a, nothing})), 10000);
         EXPECT_DOUBLE_EQ(area(CBooleanOperate2D::Subtract(a, nothing)), 10000);
         EXPECT_FALSE(CBooleanOperate2D::Subtract(nothing, a));

@@ -1,6 +1,6 @@
 #include "platform/geometry/CCoedgeList.h"
 
-#include "KernelShapes.h"
+#include "geometry/KernelShapes.h"
 
 #include <gtest/gtest.h>
 

@@ -85,6 +85,13 @@ TEST(CLine2dTest, parameterThatIsNotFiniteChangesNothing)
     EXPECT_EQ(line.EndT(), 200);
 }
 
+TEST(CLine2dTest, lineOfNoLengthCannotBeLengthened)
+{
+    CLine2d line({7, 7}, {7, 7});
+    line.SetEndT(10);
+    EXPECT_EQ(line.Length(), 0);
+}
+
 TEST(CLine2dTest, reversedTrimmedLineStartsAtItsOldEnd)
 {
     CLine2d line({0, 0}, {1000, 0});

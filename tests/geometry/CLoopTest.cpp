@@ -1,6 +1,6 @@
 #include "platform/geometry/CLoop.h"
 
-#include "KernelShapes.h"
+#include "geometry/KernelShapes.h"
 
 #include <gtest/gtest.h>
 
@@ -62,6 +62,55 @@ TEST(CLoopTest, areaKeepsItsDigitsTenKilometresFromTheOrigin)
     EXPECT_NEAR(loop->Area(), area, area * 1e-12);
 }
 
+TEST(CLoopTest, centroidKeepsItsDigitsTenKilometresFromTheOrigin)
+{
+    const auto loop = stadiumEnd();
+    const Vec centre = loop->Barycentre();
+    loop->Translate({1e7, -1e7});
+    EXPECT_NEAR(loop->Barycentre().x, centre.x + 1e7, 5e-9);
+    EXPECT_NEAR(loop->Barycentre().y, centre.y - 1e7, 5e-9);
+}
+
+TEST(CLoopTest, areaOfRandomPolygonsIsThatOfTheShoelaceFormula)
+{
+    std::mt19937_64 random(29);
+    std::uniform_real_distribution<double> place(-1e4, 1e4);
+    for (int shape = 0; shape < 2000; ++shape) {
+        std::vector<Vec> corners(3 + random() % 20);
+        for (Vec &corner : corners)
+            corner = {place(random), place(random)};
+        const CRefPtr<CLoop> loop(shapes::loop(corners));
+        double twice = 0;
+        for (std::size_t i = 0; i < corners.size(); ++i)
+            twice += corners[i].Cross(corners[(i + 1) % corners.size()]);
+        EXPECT_NEAR(loop->SignedArea(), twice / 2, 1e-5);
+        loop->Reverse();
+        EXPECT_NEAR(loop->SignedArea(), -twice / 2, 1e-5);
+        loop->Translate({1e7, 3e7}); // rounds each corner by some 2e-9 mm
+        EXPECT_NEAR(loop->SignedArea(), -twice / 2, 1e-2);
+    }
+}
+
+TEST(CLoopTest, segmentOfAFlatArcHasTheCentroidOfAParabolasPiece)
+{
+    CLoop loop;
+    loop.AddCurve(new CArc2d(Vec(0, 0), Vec(1000, 0), 1e-5), false); // its middle 5e-3 mm below
+    loop.AddCurve(new CLine2d({1000, 0}, {0, 0}), false);
+    EXPECT_NEAR(loop.Area(), 1000 * 5e-3 * 2 / 3, 1e-9);
+    EXPECT_NEAR(loop.Barycentre().x, 500, 1e-9);
+    EXPECT_NEAR(loop.Barycentre().y, -5e-3 * 2 / 5, 1e-9);
+}
+
+TEST(CLoopTest, pointBesideAGapIsPlacedAsIfALineClosedIt)
+{
+    CLoop loop;
+    loop.AddCurve(new CLine2d({0, 0}, {10, 0}), false);
+    loop.AddCurve(new CLine2d({10, 10}, {0, 10}), false);
+    EXPECT_EQ(loop.Locate({5, 5}, 1e-9), 1);
+    EXPECT_EQ(loop.Locate({10, 5}, 1e-9), -1); // the gap itself is no boundary
+    EXPECT_EQ(loop.Locate({-1, 5}, 1e-9), -1);
+}
+
 TEST(CLoopTest, gapIsClosedByALine)
 {
     CLoop loop;
@@ -86,8 +135,7 @@ struct PlaceCase
     int place;
 };
 class CLoopLocateTest : public ::testing::TestWithParam<PlaceCase>
-{
-};
+{};
 
 TEST_P(CLoopLocateTest, pointIsInsideOnOrOutsideALoopWithAnArcInBothDirections)
 {

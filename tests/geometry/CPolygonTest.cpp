@@ -1,9 +1,10 @@
 #include "platform/geometry/CPolygon.h"
 
-#include "KernelShapes.h"
+#include "geometry/KernelShapes.h"
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstdlib>
 #include <cstring>
 
@@ -48,6 +49,16 @@ TEST(CPolygonTest, holeThatTouchesTheOuterLoopInACornerIsAHole)
 {
     const auto holed = CPolygon::LoadFromString("POLYGON((0 0, 10 0, 10 10, 0 10, 0 0),(0 5, 4 2, 4 4, 0 5))");
     EXPECT_EQ(holed->Area(), 100 - 4);
+}
+
+TEST(CPolygonTest, holeAsLargeAsTheOuterLoopLeavesNothing)
+{
+    EXPECT_EQ(polygon({box(0, 0, 10, 10), box(0, 0, 10, 10)})->Area(), 0);
+}
+
+TEST(CPolygonTest, toleranceThatIsNoNumberMakesNoRectangle)
+{
+    EXPECT_FALSE(shapes::rectangle(0, 0, 1, 1)->IsRectangle(std::nan("")));
 }
 
 TEST(CPolygonTest, curvesAreCountedThroughAllLoops)
@@ -105,8 +116,8 @@ TEST(CPolygonTest, otherShapesAreNoRectangles)
     EXPECT_FALSE(polygon({{{0, 0}, {10, 0}, {5, 5}}})->IsRectangle());
     EXPECT_FALSE(polygon({box(0, 0, 9, 9), box(1, 1, 1, 1)})->IsRectangle());
     EXPECT_FALSE(polygon({{{0, 0}, {5, 0}, {10, 0}, {10, 10}, {0, 10}}})->IsRectangle());
-    const auto bulged = CPolygon::LoadFromString(
-        "CURVEPOLYGON(COMPOUNDCURVE((0 0, 9 0, 9 9, 0 9), CIRCULARSTRING(0 9, -1 4.5, 0 0)))");
+    const auto bulged =
+        CPolygon::LoadFromString("CURVEPOLYGON(COMPOUNDCURVE((0 0, 9 0, 9 9, 0 9), CIRCULARSTRING(0 9, -1 4.5, 0 0)))");
     EXPECT_FALSE(bulged->IsRectangle());
 }
 

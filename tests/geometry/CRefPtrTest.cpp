@@ -47,28 +47,6 @@ TEST(CRefPtrTest, assigningItselfKeepsTheObject)
     EXPECT_EQ(holder->HolderCount(), 1);
 }
 
-TEST(CRefPtrTest, copyOfAnObjectHasHoldersOfItsOwn)
-{
-    const CRefPtr<Counted> original(new Counted);
-    const CRefPtr<Counted> copy(new Counted(*original));
-    EXPECT_EQ(original->HolderCount(), 1);
-    EXPECT_EQ(copy->HolderCount(), 1);
-}
-
-TEST(CRefPtrTest, freeDestroysAnObjectThatNothingHolds)
-{
-    auto *object = new Counted;
-    object->Free();
-    EXPECT_EQ(Counted::alive, 0);
-}
-
-TEST(CRefPtrTest, freeLeavesAHeldObjectAlone)
-{
-    const CRefPtr<Counted> holder(new Counted);
-    holder->Free();
-    EXPECT_EQ(Counted::alive, 1);
-}
-
 TEST(CRefPtrTest, loopHoldsACurveThatItWasGiven)
 {
     auto *line = new vks::CLine2d({0, 0}, {1, 0});

@@ -24,10 +24,7 @@ TEST(CVec2Test, crossIsPositiveToTheLeft)
     EXPECT_EQ(Vec(2, 0).Left(), Vec(0, 2));
 }
 
-TEST(CVec2Test, lengthOfHugeTermsDoesNotOverflow)
-{
-    EXPECT_DOUBLE_EQ(Vec(3e200, 4e200).Length(), 5e200);
-}
+TEST(CVec2Test, lengthOfHugeTermsDoesNotOverflow) { EXPECT_DOUBLE_EQ(Vec(3e200, 4e200).Length(), 5e200); }
 
 TEST(CVec2Test, zeroHasNoDirection)
 {

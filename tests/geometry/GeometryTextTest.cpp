@@ -1,6 +1,6 @@
 #include "platform/geometry/GeometryText.h"
 
-#include "KernelShapes.h"
+#include "geometry/KernelShapes.h"
 
 #include <gtest/gtest.h>
 
@@ -18,8 +18,7 @@ using vks::CRefPtr;
 using Vec = vks::CVec2<double>;
 
 class GeometryTextReadBackTest : public ::testing::TestWithParam<const char *>
-{
-};
+{};
 
 TEST_P(GeometryTextReadBackTest, textReadsBackToTheSameText)
 {
@@ -29,24 +28,21 @@ TEST_P(GeometryTextReadBackTest, textReadsBackToTheSameText)
 }
 INSTANTIATE_TEST_SUITE_P(
     Texts, GeometryTextReadBackTest,
-    ::testing::Values(
-        "LINESTRING(0 0, 1 1)", "LINESTRING(0.1 -2.5, 1e+30 1e-07)", "LINESTRING(3 3, 3 3)",
-        "CIRCULARSTRING(0 0, 5 5, 10 0)", "CIRCULARSTRING(150 200, 50 200, 150 200)", "CIRCULARSTRING(0 0, 5 0, 10 0)",
-        "POLYGON((0 0, 10 0, 10 10, 0 0))", "POLYGON((0 0, 9 0, 9 9, 0 0),(5 1, 6 1, 6 2, 5 1))", "POLYGON EMPTY",
-        "POLYGON((0 0, 10 0, 10 10))", "POLYGON((0 0, 10 0))",
-        "CURVEPOLYGON(CIRCULARSTRING(10 0, -10 0, 10 0))",
-        "CURVEPOLYGON((0 0, 9 0, 9 9, 0 0),CIRCULARSTRING(7 3, 6 3, 7 3))",
-        "CURVEPOLYGON(COMPOUNDCURVE((0 0, 10 0), CIRCULARSTRING(10 0, 15 5, 10 10), (10 10, 0 10, 0 0)))",
-        "CURVEPOLYGON(COMPOUNDCURVE(CIRCULARSTRING(0 0, 5 -5, 10 0), CIRCULARSTRING(10 0, 5 5, 0 0)))"));
+    ::testing::Values("LINESTRING(0 0, 1 1)", "LINESTRING(0.1 -2.5, 1e+30 1e-07)", "LINESTRING(3 3, 3 3)",
+                      "LINESTRING(5e-324 -0, 1.7976931348623157e+308 2.2250738585072014e-308)",
+                      "CIRCULARSTRING(0 0, 5 5, 10 0)", "CIRCULARSTRING(150 200, 50 200, 150 200)",
+                      "CIRCULARSTRING(0 0, 5 0, 10 0)", "POLYGON((0 0, 10 0, 10 10, 0 0))",
+                      "POLYGON((0 0, 9 0, 9 9, 0 0),(5 1, 6 1, 6 2, 5 1))", "POLYGON EMPTY",
+                      "POLYGON((0 0, 10 0, 10 10))", "POLYGON((0 0, 10 0))",
+                      "CURVEPOLYGON(CIRCULARSTRING(10 0, -10 0, 10 0))",
+                      "CURVEPOLYGON((0 0, 9 0, 9 9, 0 0),CIRCULARSTRING(7 3, 6 3, 7 3))",
+                      "CURVEPOLYGON(COMPOUNDCURVE((0 0, 10 0), CIRCULARSTRING(10 0, 15 5, 10 10), (10 10, 0 10, 0 0)))",
+                      "CURVEPOLYGON(COMPOUNDCURVE(CIRCULARSTRING(0 0, 5 -5, 10 0), CIRCULARSTRING(10 0, 5 5, 0 0)))"));
 
 class GeometryTextRefusalTest : public ::testing::TestWithParam<const char *>
-{
-};
+{};
 
-TEST_P(GeometryTextRefusalTest, otherTextIsRefused)
-{
-    EXPECT_EQ(CGeometry::LoadFromStr(GetParam()), nullptr);
-}
+TEST_P(GeometryTextRefusalTest, otherTextIsRefused) { EXPECT_EQ(CGeometry::LoadFromStr(GetParam()), nullptr); }
 INSTANTIATE_TEST_SUITE_P(
     Texts, GeometryTextRefusalTest,
     ::testing::Values("", " ", "POINT(0 0)", "linestring(0 0, 1 1)", "LINESTRING", "LINESTRING(", "LINESTRING()",
@@ -54,16 +50,14 @@ INSTANTIATE_TEST_SUITE_P(
                       "LINESTRING(0 0, 1 1) x", "LINESTRING(0 0, nan 1)", "LINESTRING(0 0, inf 1)",
                       "LINESTRING(0 0, 1e400 1)", "LINESTRING(0 0, +1 1)", "LINESTRING(0 0, 0x1 1)",
                       "LINESTRING(0 0; 1 1)", "LINESTRING(0,0, 1 1)", "LINESTRING(0 0, 1-2)", "LINESTRING EMPTY",
-                      "CIRCULARSTRING(0 0, 1 1)", "CIRCULARSTRING(0 0, 1 1, 2 0, 3 1, 4 0)", "POLYGON", "POLYGON(",
-                      "POLYGON()", "POLYGON(())", "POLYGON((0 0))", "POLYGON((0 0, 1 1)", "POLYGON(0 0, 1 1)",
-                      "POLYGON(CIRCULARSTRING(10 0, -10 0, 10 0))", "CURVEPOLYGON EMPTY", "CURVEPOLYGON(LINESTRING(0 0, 1 1))",
+                      "CIRCULARSTRING(0 0, 1 1)", "CIRCULARSTRING(0 0, 1 1, 2 0, 3 1, 4 0)", "POLYGON", "POLYGONEMPTY",
+                      "POLYGON EMPTY()", "POLYGON(", "POLYGON()", "POLYGON(())", "POLYGON((0 0))", "POLYGON((0 0, 1 1)",
+                      "POLYGON(0 0, 1 1)", "POLYGON(CIRCULARSTRING(10 0, -10 0, 10 0))", "CURVEPOLYGON EMPTY",
+                      "CURVEPOLYGON(LINESTRING(0 0, 1 1))",
                       "CURVEPOLYGON(COMPOUNDCURVE((0 0, 1 0), CIRCULARSTRING(1 1, 2 2, 0 0)))",
                       "CURVEPOLYGON(COMPOUNDCURVE(COMPOUNDCURVE((0 0, 1 0))))", "0,0,1,1", "1,2;3,4;"));
 
-TEST(GeometryTextTest, nullTextIsRefused)
-{
-    EXPECT_EQ(CGeometry::LoadFromStr(nullptr), nullptr);
-}
+TEST(GeometryTextTest, nullTextIsRefused) { EXPECT_EQ(CGeometry::LoadFromStr(nullptr), nullptr); }
 
 TEST(GeometryTextTest, blanksBetweenTheTokensAreRead)
 {
@@ -183,6 +177,81 @@ TEST(GeometryTextTest, randomPolygonsReadBackBitForBit)
         ASSERT_TRUE(read) << text;
         ASSERT_EQ(read->ToText(), text);
         ASSERT_EQ(read->LoopCount(), shape.LoopCount());
+    }
+}
+
+TEST(GeometryTextTest, hugeCountsAreRefusedWithoutHarm)
+{
+    constexpr std::size_t kMany = 1000000;
+    const std::string brackets(kMany, '(');
+    std::string compounds;
+    for (int i = 0; i < 100000; ++i)
+        compounds += "COMPOUNDCURVE(";
+    for (const std::string &text :
+         {"POLYGON" + brackets, "CURVEPOLYGON(" + compounds, "LINESTRING(" + std::string(kMany, '9') + " 0, 1 1)",
+          "POLYGON((" + std::string(kMany, ','), "LINESTRING(0 0, 1 1" + std::string(kMany, ')')})
+        EXPECT_EQ(CGeometry::LoadFromStr(text.c_str()), nullptr);
+}
+
+TEST(GeometryTextTest, longNumberThatIsFiniteIsRead)
+{
+    const std::string text = "LINESTRING(0." + std::string(100000, '3') + " 0, 1 1)";
+    const auto geometry = CGeometry::LoadFromStr(text.c_str());
+    ASSERT_TRUE(geometry);
+    EXPECT_EQ(geometry->ToText(), "LINESTRING(0.3333333333333333 0, 1 1)");
+}
+
+TEST(GeometryTextTest, textWithChangedBytesIsReadOrRefusedWithoutHarm)
+{
+    const std::string text = "CURVEPOLYGON(COMPOUNDCURVE((0 0, 10.5 0), CIRCULARSTRING(10.5 0, 15 5, 10 10), "
+                             "(10 10, 0 10, 0 0)),(1 1, 2 1, 2 2))";
+    const std::string bytes = "0123456789+-.eE(), NaINFCUR\xff";
+    std::mt19937 random(5);
+    for (int i = 0; i < 20000; ++i) {
+        std::string changed = text;
+        for (std::size_t changes = random() % 3 + 1; changes > 0; --changes)
+            changed[random() % changed.size()] = bytes[random() % bytes.size()];
+        const auto geometry = CGeometry::LoadFromStr(changed.c_str());
+        if (!geometry)
+            continue;
+        const std::string again = geometry->ToText();
+        const auto read = CGeometry::LoadFromStr(again.c_str());
+        ASSERT_TRUE(read) << changed;
+        ASSERT_EQ(read->ToText(), again);
+    }
+}
+
+TEST(GeometryTextTest, openRingKeepsItsLastPoint)
+{
+    const auto open = CPolygon::LoadFromString("POLYGON((0 0, 10 0, 10 10, 0 1e-9))");
+    ASSERT_TRUE(open);
+    EXPECT_EQ(open->GetLoop(0)->CurveCount(), 3);
+    EXPECT_EQ(open->ToText(), "POLYGON((0 0, 10 0, 10 10, 0 1e-09))");
+}
+
+TEST(GeometryTextTest, textOfATrimmedCurveIsThatOfThePart)
+{
+    CArc2d arc(Vec(0, 0), 100.0, 0.0, 2 * shapes::kPi);
+    arc.SetEndT(100 * shapes::kPi);
+    const auto read = CGeometry::LoadFromStr(arc.ToText().c_str());
+    ASSERT_TRUE(read);
+    const auto &half = dynamic_cast<CArc2d &>(*read);
+    EXPECT_NEAR(half.Length(), 100 * shapes::kPi, 1e-9);
+    EXPECT_EQ(half.StartPoint(), arc.StartPoint());
+    EXPECT_EQ(half.EndPoint(), arc.EndPoint());
+}
+
+TEST(GeometryTextTest, arcsByBulgeReadBackWithTheirPointsAndShape)
+{
+    for (const double bulge : {1e-6, -1e-3, 0.2, -0.41421356, 1.0, -1.0, 2.5, -30.0, 1e4}) {
+        const CArc2d arc({100, 200}, {-700, 350}, bulge);
+        const auto read = CGeometry::LoadFromStr(arc.ToText().c_str());
+        ASSERT_TRUE(read);
+        const auto &again = dynamic_cast<CArc2d &>(*read);
+        EXPECT_EQ(again.StartPoint(), arc.StartPoint());
+        EXPECT_EQ(again.EndPoint(), arc.EndPoint());
+        EXPECT_NEAR(again.Length() / arc.Length(), 1, 1e-9) << bulge;
+        EXPECT_NEAR(again.GetBulge() / bulge, 1, 1e-6) << bulge;
     }
 }
 

@@ -139,6 +139,8 @@ TEST(PolygonRepairTest, nothingLeftIsNull)
     EXPECT_FALSE(repaired(rectangle(0, 0, 0.5, 0.5)));
     EXPECT_FALSE(repaired(rectangle(0, 0, 1000, 0.5)));
     EXPECT_FALSE(repaired(rectangle(0, 0, std::nan(""), 5)));
+    EXPECT_FALSE(repaired(polygon({{{0, 0}, {50, 0}, {50, std::nan("")}, {0, 50}}})));
+    EXPECT_FALSE(repaired(circle({0, 0}, std::nan(""))));
 }
 
 TEST(PolygonRepairTest, tolerancesThatAreNotAboveZeroAreTheDefaults)

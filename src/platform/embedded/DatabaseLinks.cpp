@@ -12,8 +12,8 @@ namespace {
 
 [[noreturn]] void refuse(const char *table, qint64 id, const char *column, const QString &reason)
 {
-    throw DatabaseRefusal{
-        QStringLiteral("%1[id=%2].%3").arg(QLatin1String(table)).arg(id).arg(QLatin1String(column)), reason};
+    throw DatabaseRefusal{QStringLiteral("%1[id=%2].%3").arg(QLatin1String(table)).arg(id).arg(QLatin1String(column)),
+                          reason};
 }
 
 /** The record of an id in a list in id order; null when there is none. */

@@ -21,6 +21,8 @@ constexpr int kName = 2;
 constexpr int kValue = 3;
 /** Longer names than any of the catalogue. */
 constexpr std::size_t kLongestName = 64;
+/** A building has few different ones; with many, looking through those kept would cost more than it saves. */
+constexpr std::size_t kKeptElevations = 16;
 
 using Read = std::optional<PropertyValue>;
 
@@ -40,12 +42,6 @@ Read readDouble(const SqliteStatement &row)
 Read readText(const SqliteStatement &row)
 {
     return row.type(kValue) == SQLITE_TEXT ? Read(row.text(kValue)) : std::nullopt;
-}
-
-Read readElevation(const SqliteStatement &row)
-{
-    Read text = readText(row);
-    return text && HBXElevationText::parse(std::get<QString>(*text)) ? text : std::nullopt;
 }
 
 Read readPoint(const SqliteStatement &row)
@@ -76,13 +72,13 @@ using ReadValue = Read (*)(const SqliteStatement &row);
 constexpr std::array<ReadValue, 7> kReaders{readInteger,
                                             readDouble,
                                             readText,
-                                            readElevation,
+                                            readText, // and then checked
                                             readPoint,
                                             readGeometry<vks::CCurve2d>,
                                             readGeometry<vks::CPolygon>};
 
 /** Names are plain ASCII; whatever else stands there is found nowhere. */
-const PropertyEntry *entryOf(std::string_view name, const TypeProperties &type, bool forDrawObject)
+const PropertyEntry *lookUp(std::string_view name, const TypeProperties &type, bool forDrawObject)
 {
     if (name.size() > kLongestName)
         return nullptr;
@@ -91,16 +87,24 @@ const PropertyEntry *entryOf(std::string_view name, const TypeProperties &type, 
     return type.find(QStringView(wide.data(), static_cast<qsizetype>(name.size())), forDrawObject);
 }
 
+/** The second half of a pair by its first; null when there is none. */
+template <typename Value>
+const Value *find(const std::vector<std::pair<std::string, Value>> &known, std::string_view wanted)
+{
+    const auto found =
+        std::find_if(known.begin(), known.end(), [wanted](const auto &each) { return each.first == wanted; });
+    return found == known.end() ? nullptr : &found->second;
+}
+
 } // namespace
 
-void readPropertyRow(const DatabaseRows &rows, const TypeProperties &type, bool forDrawObject,
-                     PropertyRecords &properties)
+void DatabaseProperty::read(const DatabaseRows &rows, const TypeProperties &type, PropertyRecords &properties)
 {
     const SqliteStatement &row = rows.row();
-    const PropertyEntry *entry = entryOf(row.bytes(kName), type, forDrawObject);
+    const PropertyEntry *entry = entryOf(row.bytes(kName), type);
     if (!entry)
         rows.refuse("name", QStringLiteral("is no property of the object: \"%1\"").arg(row.text(kName)));
-    Read value = row.isNull(kValue) ? Read(std::monostate()) : kReaders[static_cast<std::size_t>(entry->kind)](row);
+    Read value = valueOf(row, *entry);
     if (!value)
         rows.refuse("value", QStringLiteral("is no %1").arg(kindName(entry->kind)));
     const bool standsTwice = std::any_of(properties.begin(), properties.end(),
@@ -108,6 +112,40 @@ void readPropertyRow(const DatabaseRows &rows, const TypeProperties &type, bool 
     if (standsTwice)
         rows.refuse("name", QStringLiteral("stands twice: \"%1\"").arg(entry->name));
     properties.emplace_back(entry->name, std::move(*value));
+}
+
+const PropertyEntry *DatabaseProperty::entryOf(std::string_view name, const TypeProperties &type)
+{
+    Names &names = m_names[&type];
+    if (const PropertyEntry *const *known = find(names, name))
+        return *known;
+    const PropertyEntry *entry = lookUp(name, type, m_forDrawObject);
+    if (entry)
+        names.emplace_back(name, entry);
+    return entry;
+}
+
+std::optional<PropertyValue> DatabaseProperty::valueOf(const SqliteStatement &row, const PropertyEntry &entry)
+{
+    if (row.isNull(kValue))
+        return std::monostate();
+    return entry.kind == PropertyKind::Elevation ? elevationOf(row)
+                                                 : kReaders[static_cast<std::size_t>(entry.kind)](row);
+}
+
+std::optional<PropertyValue> DatabaseProperty::elevationOf(const SqliteStatement &row)
+{
+    if (row.type(kValue) != SQLITE_TEXT)
+        return std::nullopt;
+    const std::string_view utf8 = row.bytes(kValue);
+    if (const QString *known = find(m_elevations, utf8))
+        return *known;
+    const QString text = row.text(kValue);
+    if (!HBXElevationText::parse(text))
+        return std::nullopt;
+    if (m_elevations.size() < kKeptElevations)
+        m_elevations.emplace_back(utf8, text);
+    return text;
 }
 
 std::string pointText(const vks::CVec2<double> &point)

@@ -16,8 +16,7 @@ QByteArray query(const char *table, const char *key, const char *columns)
 
 DatabaseRows::DatabaseRows(SqliteConnection &connection, const char *table, const char *key, const char *columns)
     : m_rows(connection, query(table, key, columns).constData()), m_table(table), m_key(key)
-{
-}
+{}
 
 int DatabaseRows::integer32(int column, const char *name) const
 {
@@ -45,6 +44,9 @@ void DatabaseRows::refuse(const char *column, const QString &reason) const
     throw DatabaseRefusal{column ? row + QLatin1Char('.') + QLatin1String(column) : row, reason};
 }
 
-void OwnedRows::refuseOrphan() const { m_rows.refuse(nullptr, QStringLiteral("belongs to nothing that is in the file")); }
+void OwnedRows::refuseOrphan() const
+{
+    m_rows.refuse(nullptr, QStringLiteral("belongs to nothing that is in the file"));
+}
 
 } // namespace hbx::embedded

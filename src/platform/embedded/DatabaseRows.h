@@ -40,8 +40,7 @@ class OwnedRows
 public:
     OwnedRows(SqliteConnection &connection, const char *table, const char *key, const char *columns)
         : m_rows(connection, table, key, columns), m_hasRow(m_rows.next())
-    {
-    }
+    {}
 
     /** Calls visit(rows) for each row of an owner; owners must come in id order. */
     template <typename Visit> void forOwner(qint64 id, Visit visit)
@@ -52,7 +51,10 @@ public:
             refuseOrphan();
     }
     /** To be called when all owners have had their rows. */
-    void finish() { forOwner(std::numeric_limits<qint64>::max(), [this](const DatabaseRows &) { refuseOrphan(); }); }
+    void finish()
+    {
+        forOwner(std::numeric_limits<qint64>::max(), [this](const DatabaseRows &) { refuseOrphan(); });
+    }
 
 private:
     [[noreturn]] void refuseOrphan() const;

@@ -10,7 +10,8 @@ namespace hbx::embedded {
 namespace {
 
 /** Calls visit with the decimal text of each id that a property holds. */
-void forEachReference(const QString &name, const PropertyValue &value, const std::function<void(const QString &)> &visit)
+void forEachReference(const QString &name, const PropertyValue &value,
+                      const std::function<void(const QString &)> &visit)
 {
     if (std::holds_alternative<int>(value))
         return visit(textOf(value));

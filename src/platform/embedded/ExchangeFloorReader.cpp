@@ -64,8 +64,8 @@ PropertyRecords readProperties(const ExchangeObject &json, qint64 type, bool for
 SectionRecord readSection(const QJsonValue &value, const JsonPlace &place)
 {
     const ExchangeObject json(value, place, {key::number, key::kind});
-    const int kind = static_cast<int>(
-        json.integer(key::kind, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
+    const int kind =
+        static_cast<int>(json.integer(key::kind, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
     return {json.wide(key::number), kind};
 }
 
@@ -91,9 +91,9 @@ void ExchangeFloorReader::read()
 
 void ExchangeFloorReader::readElement(const QJsonValue &value, const JsonPlace &place)
 {
-    const ExchangeObject json(value, place,
-                              {key::name, key::type, key::subType, key::properties, key::orderNumber,
-                               key::drawObjects, key::units});
+    const ExchangeObject json(
+        value, place,
+        {key::name, key::type, key::subType, key::properties, key::orderNumber, key::drawObjects, key::units});
     Element element;
     element.name = json.name(key::name);
     element.type = json.wide(key::type);
@@ -114,8 +114,8 @@ void ExchangeFloorReader::checkName(const ExchangeObject &json, const Element &e
 {
     const QPair<qint64, QString> name(element.type, element.name);
     if (m_elementByName.contains(name))
-        json.placeOf(key::name)
-            .refuse(QStringLiteral("\"%1\" stands twice on the floor for type %2").arg(element.name).arg(element.type));
+        json.placeOf(key::name).refuse(
+            QStringLiteral("\"%1\" stands twice on the floor for type %2").arg(element.name).arg(element.type));
     m_elementByName.insert(name, m_elements.size());
 }
 
@@ -152,7 +152,8 @@ void ExchangeFloorReader::readDrawObject(const QJsonValue &value, const JsonPlac
 {
     const ExchangeObject json(value, place,
                               {key::shape, key::type, key::subType, key::properties, key::section, key::layer,
-                               key::state, key::key, key::order, key::next, key::children, key::attachedTo, key::spans});
+                               key::state, key::key, key::order, key::next, key::children, key::attachedTo,
+                               key::spans});
     Element &element = m_elements[elementIndex];
     Placed object;
     object.element = elementIndex;

@@ -33,8 +33,7 @@ class ExchangeFloorReader
 public:
     ExchangeFloorReader(ExchangeReading &reading, const ExchangeObject &json, int floorId)
         : m_reading(reading), m_json(json), m_floorId(floorId)
-    {
-    }
+    {}
     void read();
 
 private:
@@ -96,7 +95,7 @@ private:
     int m_floorId;
     std::vector<Element> m_elements;
     QHash<QPair<qint64, QString>, std::size_t> m_elementByName;
-    std::vector<Placed> m_placed;           ///< in file order, children behind their owner
+    std::vector<Placed> m_placed;             ///< in file order, children behind their owner
     std::vector<std::size_t> m_creationOrder; ///< places in m_placed
 };
 

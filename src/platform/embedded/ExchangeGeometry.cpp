@@ -35,8 +35,7 @@ template <typename Geometry> CRefPtr<Geometry> fromText(const QString &text)
     return dynamic_cast<Geometry *>(geometry.get());
 }
 
-template <typename Geometry>
-CRefPtr<Geometry> read(const QJsonValue &value, const JsonPlace &place, const char *what)
+template <typename Geometry> CRefPtr<Geometry> read(const QJsonValue &value, const JsonPlace &place, const char *what)
 {
     const CRefPtr<Geometry> geometry = value.isString() ? fromText<Geometry>(value.toString()) : nullptr;
     if (!geometry)

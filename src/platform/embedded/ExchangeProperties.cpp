@@ -121,7 +121,8 @@ public:
     {
         if (!entry)
             m_place.refuse(QStringLiteral("has the unknown property \"%1\"").arg(name));
-        if (std::any_of(m_records.begin(), m_records.end(), [&](const auto &each) { return each.first == entry->name; }))
+        if (std::any_of(m_records.begin(), m_records.end(),
+                        [&](const auto &each) { return each.first == entry->name; }))
             m_place.refuse(QStringLiteral("has the property \"%1\" under two names").arg(entry->name));
         const QByteArray latinName = name.toLatin1();
         const JsonPlace place(m_place, QLatin1String(latinName));
@@ -182,8 +183,7 @@ void resolveKeys(PropertyRecords &properties, const std::vector<KeyUse> &keyUses
     }
 }
 
-QJsonObject propertiesToJson(const PropertyRecords &properties, const TypeProperties *type,
-                             const ReferenceMap &keyOfId)
+QJsonObject propertiesToJson(const PropertyRecords &properties, const TypeProperties *type, const ReferenceMap &keyOfId)
 {
     QJsonObject json;
     for (const auto &[name, value] : properties)

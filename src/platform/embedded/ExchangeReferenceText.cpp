@@ -14,10 +14,12 @@ constexpr QLatin1Char kBracketClose(']');
 
 ExchangeReferenceText::ExchangeReferenceText(const QString &property, const QString &text)
     : m_isBracket(property == QLatin1String("Catalog")), m_text(text)
-{
-}
+{}
 
-QString ExchangeReferenceText::mapped(const ReferenceMap &map) const { return m_isBracket ? mappedBracket(map) : mappedList(map); }
+QString ExchangeReferenceText::mapped(const ReferenceMap &map) const
+{
+    return m_isBracket ? mappedBracket(map) : mappedList(map);
+}
 
 std::optional<QString> ExchangeReferenceText::firstUnknown(const ReferenceMap &map) const
 {

@@ -15,19 +15,19 @@ struct SpanKey
 };
 
 constexpr SpanKey kSpanKeys[] = {
-    {"SpanIndex", SpanValue::Integer},      {"StartElev", SpanValue::Number},
-    {"EndElev", SpanValue::Number},         {"SpanA1_A4", SpanValue::Text},
-    {"SpanLength", SpanValue::Number},      {"Section", SpanValue::Text},
-    {"AxisOffset", SpanValue::Number},      {"TopThroughBar", SpanValue::Text},
-    {"LeftSupportBar", SpanValue::Text},    {"SpanBar", SpanValue::Text},
-    {"RightSupportBar", SpanValue::Text},   {"BottomThroughBar", SpanValue::Text},
-    {"BottomBar", SpanValue::Text},         {"SideBar", SpanValue::Text},
-    {"SideLabelBar", SpanValue::Text},      {"TieBar", SpanValue::Text},
-    {"HoopBar", SpanValue::Text},           {"HoopBarLimbCount", SpanValue::Integer},
-    {"SecBeamWidth", SpanValue::Text},      {"SecBeamAddBar", SpanValue::Text},
-    {"HangBar", SpanValue::Text},           {"HangBarAnchor", SpanValue::Text},
-    {"DenseLength", SpanValue::Text},       {"HaunchingLength", SpanValue::Text},
-    {"HaunchingHeight", SpanValue::Text},   {"HaunchingBarInfo", SpanValue::Text},
+    {"SpanIndex", SpanValue::Integer},    {"StartElev", SpanValue::Number},
+    {"EndElev", SpanValue::Number},       {"SpanA1_A4", SpanValue::Text},
+    {"SpanLength", SpanValue::Number},    {"Section", SpanValue::Text},
+    {"AxisOffset", SpanValue::Number},    {"TopThroughBar", SpanValue::Text},
+    {"LeftSupportBar", SpanValue::Text},  {"SpanBar", SpanValue::Text},
+    {"RightSupportBar", SpanValue::Text}, {"BottomThroughBar", SpanValue::Text},
+    {"BottomBar", SpanValue::Text},       {"SideBar", SpanValue::Text},
+    {"SideLabelBar", SpanValue::Text},    {"TieBar", SpanValue::Text},
+    {"HoopBar", SpanValue::Text},         {"HoopBarLimbCount", SpanValue::Integer},
+    {"SecBeamWidth", SpanValue::Text},    {"SecBeamAddBar", SpanValue::Text},
+    {"HangBar", SpanValue::Text},         {"HangBarAnchor", SpanValue::Text},
+    {"DenseLength", SpanValue::Text},     {"HaunchingLength", SpanValue::Text},
+    {"HaunchingHeight", SpanValue::Text}, {"HaunchingBarInfo", SpanValue::Text},
     {"OtherHoopBars", SpanValue::Text},
 };
 

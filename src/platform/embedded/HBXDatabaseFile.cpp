@@ -40,10 +40,7 @@ template <typename Work> bool guarded(const QString &path, const char *failure, 
 }
 
 /** Tells a mark of a save from that of any other. */
-qint64 freshMark()
-{
-    return QRandomGenerator::global()->generate64() & std::numeric_limits<qint64>::max();
-}
+qint64 freshMark() { return QRandomGenerator::global()->generate64() & std::numeric_limits<qint64>::max(); }
 
 void checkFile(const QString &path)
 {
@@ -125,9 +122,9 @@ class TemporaryFile
 {
 public:
     explicit TemporaryFile(const QString &target)
-        : m_path(target + QStringLiteral(".%1.part").arg(QRandomGenerator::global()->generate(), 8, 16, QLatin1Char('0')))
-    {
-    }
+        : m_path(target +
+                 QStringLiteral(".%1.part").arg(QRandomGenerator::global()->generate(), 8, 16, QLatin1Char('0')))
+    {}
     ~TemporaryFile()
     {
         QFile::remove(m_path);

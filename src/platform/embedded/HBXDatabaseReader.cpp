@@ -19,8 +19,7 @@ const TypeProperties &catalogueOf(const DatabaseRows &rows, qint64 type)
 }
 
 /** The geometry of a text column; null for NULL. */
-template <typename Geometry>
-vks::CRefPtr<Geometry> readGeometry(const DatabaseRows &rows, int column, const char *name)
+template <typename Geometry> vks::CRefPtr<Geometry> readGeometry(const DatabaseRows &rows, int column, const char *name)
 {
     if (rows.row().isNull(column))
         return nullptr;
@@ -82,6 +81,13 @@ void readAxis(const DatabaseRows &rows, ShapeRecord &shape)
     if (axes.empty())
         rows.refuse("curve_position", QStringLiteral("has no axis in front of it"));
     axes.back().curves.push_back(readGeometry<vks::CCurve2d>(rows, 5, "curve"));
+}
+
+/** Rows that a table really has, so that nothing is allocated by a number that merely stands in the file. */
+std::size_t rowCount(SqliteConnection &connection, const char *query)
+{
+    SqliteStatement count(connection, query);
+    return count.next() ? static_cast<std::size_t>(count.integer(0)) : 0;
 }
 
 } // namespace
@@ -153,6 +159,7 @@ void HBXDatabaseReader::readFloors()
 void HBXDatabaseReader::readElements()
 {
     DatabaseRows rows(m_connection, "element", "id", "id, floor_id, parent_id, name, type, sub_type, order_number");
+    DatabaseProperty propertyReader(false);
     OwnedRows properties(m_connection, "element_property", "element_id, position", "element_id, position, name, value");
     while (rows.next()) {
         ElementRecord element;
@@ -164,9 +171,8 @@ void HBXDatabaseReader::readElements()
         element.subType = rows.row().integer(5);
         element.orderNumber = rows.integer32(6, "order_number");
         const TypeProperties &type = catalogueOf(rows, element.type);
-        properties.forOwner(element.id, [&](const DatabaseRows &property) {
-            readPropertyRow(property, type, false, element.properties);
-        });
+        properties.forOwner(
+            element.id, [&](const DatabaseRows &property) { propertyReader.read(property, type, element.properties); });
         m_project.elements.push_back(std::move(element));
     }
     properties.finish();
@@ -174,9 +180,11 @@ void HBXDatabaseReader::readElements()
 
 void HBXDatabaseReader::readDrawObjs()
 {
+    m_project.drawObjs.reserve(rowCount(m_connection, "SELECT count(*) FROM draw_object"));
     DatabaseRows rows(m_connection, "draw_object", "id",
                       "id, element_id, type, sub_type, next_id, owner_id, attached_to, section_number, section_kind,"
                       " layer, state, exchange_key");
+    DatabaseProperty propertyReader(true);
     OwnedRows properties(m_connection, "draw_object_property", "draw_object_id, position",
                          "draw_object_id, position, name, value");
     while (rows.next()) {
@@ -194,9 +202,8 @@ void HBXDatabaseReader::readDrawObjs()
         drawObj.state = rows.integer32(10, "state");
         drawObj.key = rows.row().text(11);
         const TypeProperties &type = catalogueOf(rows, drawObj.type);
-        properties.forOwner(drawObj.id, [&](const DatabaseRows &property) {
-            readPropertyRow(property, type, true, drawObj.properties);
-        });
+        properties.forOwner(
+            drawObj.id, [&](const DatabaseRows &property) { propertyReader.read(property, type, drawObj.properties); });
     }
     properties.finish();
 }

@@ -67,10 +67,7 @@ constexpr Table kTables[] = {
 
 [[noreturn]] void refuse(const QString &reason) { throw DatabaseRefusal{QString(), reason}; }
 
-quint32 numberAt(const QByteArray &header, int place)
-{
-    return qFromBigEndian<quint32>(header.constData() + place);
-}
+quint32 numberAt(const QByteArray &header, int place) { return qFromBigEndian<quint32>(header.constData() + place); }
 
 QString quoted(std::string_view name)
 {

@@ -23,7 +23,8 @@ std::optional<double> finite(const std::optional<double> &size)
 /** Text of geometry, kept while a row is written. */
 struct GeometryText
 {
-    explicit GeometryText(const vks::CGeometry *geometry) : isThere(geometry), text(isThere ? geometry->ToText() : "") {}
+    explicit GeometryText(const vks::CGeometry *geometry) : isThere(geometry), text(isThere ? geometry->ToText() : "")
+    {}
     std::optional<std::string_view> view() const
     {
         return isThere ? std::optional<std::string_view>(text) : std::nullopt;
@@ -78,15 +79,14 @@ HBXDatabaseWriter::HBXDatabaseWriter(SqliteConnection &connection)
       m_shape(connection, "INSERT INTO shape VALUES(?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?)"),
       m_axis(connection, "INSERT INTO shape_axis VALUES(?,?,?,?,?,?)"),
       m_span(connection, "INSERT INTO span VALUES(?,?,?)"),
-      m_removeElement(statements(connection, {"DELETE FROM element_property WHERE element_id = ?",
-                                              "DELETE FROM element WHERE id = ?"})),
+      m_removeElement(statements(
+          connection, {"DELETE FROM element_property WHERE element_id = ?", "DELETE FROM element WHERE id = ?"})),
       m_removeDrawObj(statements(connection, {"DELETE FROM span WHERE draw_object_id = ?",
                                               "DELETE FROM shape_axis WHERE draw_object_id = ?",
                                               "DELETE FROM shape WHERE draw_object_id = ?",
                                               "DELETE FROM draw_object_property WHERE draw_object_id = ?",
                                               "DELETE FROM draw_object WHERE id = ?"}))
-{
-}
+{}
 
 void HBXDatabaseWriter::writeAll(const ProjectRecord &project, qint64 saveMark)
 {
@@ -172,8 +172,8 @@ void HBXDatabaseWriter::writeDrawObj(const DrawObjRecord &drawObj)
 {
     const auto &section = drawObj.section;
     const auto key = drawObj.key.isEmpty() ? std::nullopt : std::optional(drawObj.key);
-    m_drawObj.run(drawObj.id, drawObj.elementId, drawObj.type, drawObj.subType, link(drawObj.next),
-                  link(drawObj.owner), link(drawObj.attachedTo), section ? std::optional(section->number) : std::nullopt,
+    m_drawObj.run(drawObj.id, drawObj.elementId, drawObj.type, drawObj.subType, link(drawObj.next), link(drawObj.owner),
+                  link(drawObj.attachedTo), section ? std::optional(section->number) : std::nullopt,
                   section ? std::optional(section->kind) : std::nullopt, drawObj.layer, drawObj.state, key);
     writeProperties(m_drawObjProperty, drawObj.id, drawObj.properties);
     writeShape(drawObj.id, drawObj.shape);
@@ -202,12 +202,12 @@ void HBXDatabaseWriter::writeShape(qint64 drawObjId, const ShapeRecord &shape)
     };
     using Frame = vks::CCoord3<double>;
     using Vector = vks::CVec3<double>;
-    m_shape.run(drawObjId, static_cast<int>(shape.kind), outline.view(), curve.view(), finite(shape.width), finite(shape.distanceToLeft),
-                finite(shape.height), finite(shape.insertPoint.x), finite(shape.insertPoint.y), finite(shape.angle),
-                shape.mirror, term(&Vector::x, &Frame::origin), term(&Vector::y, &Frame::origin),
-                term(&Vector::z, &Frame::origin), term(&Vector::x, &Frame::u), term(&Vector::y, &Frame::u),
-                term(&Vector::z, &Frame::u), term(&Vector::x, &Frame::v), term(&Vector::y, &Frame::v),
-                term(&Vector::z, &Frame::v));
+    m_shape.run(drawObjId, static_cast<int>(shape.kind), outline.view(), curve.view(), finite(shape.width),
+                finite(shape.distanceToLeft), finite(shape.height), finite(shape.insertPoint.x),
+                finite(shape.insertPoint.y), finite(shape.angle), shape.mirror, term(&Vector::x, &Frame::origin),
+                term(&Vector::y, &Frame::origin), term(&Vector::z, &Frame::origin), term(&Vector::x, &Frame::u),
+                term(&Vector::y, &Frame::u), term(&Vector::z, &Frame::u), term(&Vector::x, &Frame::v),
+                term(&Vector::y, &Frame::v), term(&Vector::z, &Frame::v));
 }
 
 void HBXDatabaseWriter::writeAxes(qint64 drawObjId, const ShapeRecord &shape)

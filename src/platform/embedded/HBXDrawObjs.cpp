@@ -146,7 +146,7 @@ void HBXDrawObjs::addChild(HBXElementDrawObj &owner, HBXElement &unit)
     child->placedShape().takePlaceOf(owner.placedShape());
     if (owner.isEntered())
         enter(*child);
-    owner.shapeChanged();
+    owner.dropWorld();
 }
 
 void HBXDrawObjs::addMissingChildren(HBXElementDrawObj &owner)

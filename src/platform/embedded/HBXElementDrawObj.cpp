@@ -170,7 +170,7 @@ void HBXElementDrawObj::untie()
     }
     if (m_owner) {
         removeFrom(m_owner->m_children, this);
-        m_owner->shapeChanged();
+        m_owner->dropWorld();
     }
 }
 

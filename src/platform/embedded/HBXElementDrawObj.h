@@ -81,11 +81,12 @@ public:
     void recordChanged();
     /** Likewise when world geometry has; world geometry that follows from it is dropped, too. */
     void shapeChanged();
+    /** When world geometry has changed and record() has not: it follows from other objects. */
+    void dropWorld();
     /** The children stand where the object stands. */
     void shapeMoved();
 
 private:
-    void dropWorld();
     void setAttachedTo(HBXElementDrawObj *parent);
     bool reaches(const HBXElementDrawObj &other) const;
     void cutBehind();

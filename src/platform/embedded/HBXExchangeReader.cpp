@@ -61,8 +61,7 @@ public:
         readHeader(json);
         readTables(json);
         json.array(key::regions);
-        json.each(key::regions,
-                  [this](const QJsonValue &region, const JsonPlace &at, int) { readRegion(region, at); });
+        json.each(key::regions, [this](const QJsonValue &region, const JsonPlace &at, int) { readRegion(region, at); });
         resolveAllKeys();
         return std::move(m_reading.project);
     }
@@ -105,7 +104,8 @@ private:
         m_reading.project.regions.push_back(region);
         m_floorNames.clear();
         m_floorCodes.clear();
-        json.each(key::floors, [&](const QJsonValue &floor, const JsonPlace &at, int) { readFloor(floor, at, region.id); });
+        json.each(key::floors,
+                  [&](const QJsonValue &floor, const JsonPlace &at, int) { readFloor(floor, at, region.id); });
     }
 
     void readFloor(const QJsonValue &value, const JsonPlace &place, qint64 regionId)
@@ -133,7 +133,8 @@ private:
     {
         const QString name = json.text(member);
         if (names.contains(name))
-            json.placeOf(member).refuse(QStringLiteral("\"%1\" stands twice in the %2").arg(name, QLatin1String(where)));
+            json.placeOf(member).refuse(
+                QStringLiteral("\"%1\" stands twice in the %2").arg(name, QLatin1String(where)));
         names.insert(name);
     }
 

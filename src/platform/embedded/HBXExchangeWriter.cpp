@@ -129,7 +129,8 @@ private:
                         propertiesToJson(properties, HBXPropertyCatalogue::instance().properties(type), keyOfId));
     }
 
-    QJsonObject drawObj(const DrawObjRecord &record, const ElementRecord &element, const QHash<qint64, int> &order) const
+    QJsonObject drawObj(const DrawObjRecord &record, const ElementRecord &element,
+                        const QHash<qint64, int> &order) const
     {
         QJsonObject json = placed(record, element, order);
         const DrawObjRecord *next = m_content.drawObj(record.next);

@@ -52,10 +52,7 @@ struct HBXProject::State
     std::optional<HBXDatabaseFile> file; ///< absent until the project has one
 };
 
-HBXProject::HBXProject(const QString &name) : m_state(std::make_unique<State>())
-{
-    m_state->store.setName(name);
-}
+HBXProject::HBXProject(const QString &name) : m_state(std::make_unique<State>()) { m_state->store.setName(name); }
 
 HBXProject::~HBXProject()
 {

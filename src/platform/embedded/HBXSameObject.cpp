@@ -6,13 +6,15 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
+#include <string>
 
 namespace hbx::embedded {
 namespace {
 
 constexpr double kElevationTolerance = 1e-6; // mm: the noise of metres and millimetres
 constexpr qint64 kBarTypes[] = {22, 23, 49, 50};
-constexpr const wchar_t *kBarNames[] = {L"Type", L"Position", L"BarInfo"};
+constexpr const wchar_t *kBarNumbers[] = {L"Type", L"Position"}; // 0 where not set
 
 /** Points on a curve that tell a line or arc from any other; a full circle is told by four. */
 constexpr double kProbes[] = {0.0, 0.25, 0.5, 0.75, 1.0}; // parts of the length
@@ -63,16 +65,19 @@ bool areSameCurves(const vks::CCurve2d *a, const vks::CCurve2d *b)
 
 bool areSameBars(const HBXElementDrawObj &a, const HBXElementDrawObj &b)
 {
+    const HBXProperties &ofA = a.propertySet();
+    const HBXProperties &ofB = b.propertySet();
+    const auto isSameNumber = [&](const std::wstring &name) { return ofA.asInt(name) == ofB.asInt(name); };
+    if (!std::all_of(std::begin(kBarNumbers), std::end(kBarNumbers), isSameNumber))
+        return false;
     QString textA;
     QString textB;
     vks::CRefPtr<vks::CCurve2d> curveA;
     vks::CRefPtr<vks::CCurve2d> curveB;
-    const bool haveSameTexts = std::all_of(std::begin(kBarNames), std::end(kBarNames), [&](const wchar_t *name) {
-        return a.propertySet().asString(textA, std::wstring(name)) ==
-               b.propertySet().asString(textB, std::wstring(name));
-    });
-    return haveSameTexts && areSameCurves(a.propertySet().asCurve(curveA, std::wstring(L"CurveData")),
-                                          b.propertySet().asCurve(curveB, std::wstring(L"CurveData")));
+    const std::wstring barInfo = L"BarInfo";
+    const std::wstring curveData = L"CurveData";
+    return ofA.asString(textA, barInfo) == ofB.asString(textB, barInfo) &&
+           areSameCurves(ofA.asCurve(curveA, curveData), ofB.asCurve(curveB, curveData));
 }
 
 } // namespace

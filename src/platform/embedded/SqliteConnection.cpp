@@ -19,9 +19,8 @@ struct Setting
 };
 
 constexpr Setting kSettings[] = {
-    {SQLITE_DBCONFIG_DEFENSIVE, 1},      {SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0},
-    {SQLITE_DBCONFIG_ENABLE_TRIGGER, 0}, {SQLITE_DBCONFIG_ENABLE_VIEW, 0},
-    {SQLITE_DBCONFIG_DQS_DDL, 0},        {SQLITE_DBCONFIG_ENABLE_LOAD_EXTENSION, 0},
+    {SQLITE_DBCONFIG_DEFENSIVE, 1},   {SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0}, {SQLITE_DBCONFIG_ENABLE_TRIGGER, 0},
+    {SQLITE_DBCONFIG_ENABLE_VIEW, 0}, {SQLITE_DBCONFIG_DQS_DDL, 0},        {SQLITE_DBCONFIG_ENABLE_LOAD_EXTENSION, 0},
 };
 
 } // namespace
@@ -32,18 +31,16 @@ bool SqliteError::isBusy() const
     return primary == SQLITE_BUSY || primary == SQLITE_LOCKED;
 }
 
-bool SqliteError::needsRollback() const
-{
-    return code == SQLITE_READONLY_ROLLBACK || code == SQLITE_READONLY_RECOVERY;
-}
+bool SqliteError::needsRollback() const { return code == SQLITE_READONLY_ROLLBACK || code == SQLITE_READONLY_RECOVERY; }
 
 void SqliteConnection::Close::operator()(sqlite3 *handle) const { sqlite3_close_v2(handle); }
 
 SqliteConnection::SqliteConnection(const QString &path, Mode mode)
 {
     sqlite3 *handle = nullptr;
-    const int code =
-        sqlite3_open_v2(path.toUtf8().constData(), &handle, kOpenFlags[mode] | SQLITE_OPEN_EXRESCODE, nullptr);
+    // A connection belongs to one thread, so it needs no locks of its own.
+    const int flags = kOpenFlags[mode] | SQLITE_OPEN_EXRESCODE | SQLITE_OPEN_NOMUTEX;
+    const int code = sqlite3_open_v2(path.toUtf8().constData(), &handle, flags, nullptr);
     m_handle.reset(handle);
     if (code != SQLITE_OK)
         throw SqliteError{code, QString::fromUtf8(sqlite3_errstr(code))};

@@ -28,7 +28,10 @@ int chordCount(double radius)
 
 bool isRound(const CCurve2d &curve)
 {
-    return curve.Type() == CCurve2d::kArc && !static_cast<const CArc2d &>(curve).IsFlat();
+    if (curve.Type() != CCurve2d::kArc || curve.IsEmpty())
+        return false;
+    const auto &arc = static_cast<const CArc2d &>(curve);
+    return !arc.IsFlat() && std::isfinite(arc.Radius()) && arc.CenterPt().IsFinite() && arc.StartPoint().IsFinite();
 }
 
 double angleOf(const CVec2<double> &vector) { return std::atan2(vector.y, vector.x); }
@@ -91,7 +94,7 @@ ArcChords::Circle ArcChords::circleOf(const CArc2d &arc) const
 
 void ArcChords::learn(const CCurve2d &curve)
 {
-    if (!isRound(curve) || curve.IsEmpty())
+    if (!isRound(curve))
         return;
     const auto &arc = static_cast<const CArc2d &>(curve);
     const Circle own{arc.CenterPt() - m_origin, arc.Radius(), {}};
@@ -108,7 +111,7 @@ void ArcChords::learn(const CCurve2d &curve)
 void ArcChords::appendCorners(const CCurve2d &curve, Ring &ring) const
 {
     ring.push_back(curve.StartPoint() - m_origin);
-    if (!isRound(curve) || curve.IsEmpty())
+    if (!isRound(curve))
         return;
     const auto &arc = static_cast<const CArc2d &>(curve);
     const Circle circle = circleOf(arc);

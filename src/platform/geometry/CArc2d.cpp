@@ -13,7 +13,7 @@ namespace {
 constexpr double kPi = 3.14159265358979323846;
 constexpr double kFullTurn = 2 * kPi;
 constexpr double kFullTurnTolerance = 1e-9; // rad; a sweep this close to a full turn is one
-constexpr double kSmallSweep = 1e-2;        // rad; below this sin needs its series to keep its digits
+constexpr double kSmallSweep = 0.3;         // rad; below this sin needs its series to keep its digits
 constexpr double kSliverSweep = 1e-4;       // rad; below this a segment is a piece of a parabola
 
 /** (sweep - sin(sweep)) / sweep², to full precision for small sweeps, too. */
@@ -22,7 +22,7 @@ double segmentFactor(double sweep)
     const double square = sweep * sweep;
     if (std::fabs(sweep) > kSmallSweep)
         return (sweep - std::sin(sweep)) / square;
-    return sweep / 6 * (1 - square / 20 * (1 - square / 42));
+    return sweep / 6 * (1 - square / 20 * (1 - square / 42 * (1 - square / 72 * (1 - square / 110))));
 }
 
 /** How far a circle reaches to one side of one of its points, in terms of the way from that point to the centre: along
@@ -109,10 +109,7 @@ void CArc2d::setFlat()
     resetRange(m_length, m_length > 0.0 ? std::numeric_limits<double>::max() : 0.0);
 }
 
-double CArc2d::circumference() const
-{
-    return kFullTurn * m_radius;
-}
+double CArc2d::circumference() const { return kFullTurn * m_radius; }
 
 double CArc2d::GetBulge() const
 {
@@ -121,19 +118,13 @@ double CArc2d::GetBulge() const
 
 double CArc2d::StartAngle() const
 {
-    const CVec2<double> outwards = StartPoint() - CenterPt();
+    const CVec2<double> outwards = StartPoint() - m_start - m_toCentre;
     return std::atan2(outwards.y, outwards.x);
 }
 
-double CArc2d::SweepAngle() const
-{
-    return m_length > 0.0 ? m_sweep * (Length() / m_length) : m_sweep;
-}
+double CArc2d::SweepAngle() const { return m_length > 0.0 ? m_sweep * (Length() / m_length) : m_sweep; }
 
-bool CArc2d::IsFlat() const
-{
-    return m_sweep == 0.0;
-}
+bool CArc2d::IsFlat() const { return m_sweep == 0.0; }
 
 bool CArc2d::CircleHolds(const CVec2<double> &point) const
 {
@@ -141,10 +132,7 @@ bool CArc2d::CircleHolds(const CVec2<double> &point) const
     return fromStart.Dot(fromStart - m_toCentre * 2.0) < 0;
 }
 
-CRefPtr<CCurve2d> CArc2d::Clone() const
-{
-    return new CArc2d(*this);
-}
+CRefPtr<CCurve2d> CArc2d::Clone() const { return new CArc2d(*this); }
 
 CVec2<double> CArc2d::GetPoint(double t) const
 {
@@ -157,8 +145,9 @@ CVec2<double> CArc2d::GetPoint(double t) const
     if (t > StartT() && t == StartT() + circumference())
         return GetPoint(StartT()); // a full circle ends where it starts, to the last bit
     // By the chord from the start, which keeps its digits however far away the centre lies.
-    const double turned = m_sweep * (t / m_length);
-    return m_start + startDirection().Rotated(turned / 2) * (2 * m_radius * std::sin(std::fabs(turned) / 2));
+    const double part = t / m_length;
+    const double chord = 2 * m_radius * std::sin(std::fabs(m_sweep) * part / 2);
+    return m_start + startDirection().Rotated(m_sweep * part / 2) * chord;
 }
 
 CVec2<double> CArc2d::startDirection() const
@@ -174,10 +163,7 @@ CVec2<double> CArc2d::GetDirection(double t) const
     return m_length > 0.0 ? startDirection().Rotated(m_sweep * (t / m_length)) : CVec2<double>();
 }
 
-bool CArc2d::IsClosed() const
-{
-    return !IsEmpty() && std::fabs(SweepAngle()) >= kFullTurn - kFullTurnTolerance;
-}
+bool CArc2d::IsClosed() const { return !IsEmpty() && std::fabs(SweepAngle()) >= kFullTurn - kFullTurnTolerance; }
 
 double CArc2d::NearestT(const CVec2<double> &point) const
 {
@@ -190,7 +176,7 @@ double CArc2d::NearestT(const CVec2<double> &point) const
     const CVec2<double> unit = m_toCentre / m_radius;
     const double angle = std::atan2(fromStart.Cross(unit), m_radius - fromStart.Dot(unit));
     const double circle = circumference();
-    const double t = std::copysign(angle, m_sweep * angle) * m_radius;
+    const double t = (m_sweep > 0 ? angle : -angle) * m_radius;
     for (const double candidate : {t, t + circle, t - circle})
         if (candidate >= StartT() && candidate <= EndT())
             return candidate;
@@ -209,8 +195,9 @@ CVec2<double> CArc2d::SegmentCentroid() const
         return MidPoint();
     const double sine = std::sin(sweep / 2);
     const double quarterSine = std::sin(sweep / 4);
-    const double fromCentre = 4 * sine * sine * sine / (3 * sweep * sweep * segmentFactor(sweep)); // parts of the radius
-    const double fromArc = sweep < kSliverSweep ? 0.8 * quarterSine * quarterSine : 1 - fromCentre; // likewise
+    const double fromCentre =
+        4 * sine * sine * sine / (3 * sweep * sweep * segmentFactor(sweep)); // parts of the radius
+    const double fromArc = sweep < kSliverSweep ? 1.2 * quarterSine * quarterSine : 1 - fromCentre; // likewise
     const CVec2<double> left = GetDirection((StartT() + EndT()) / 2).Left();
     return MidPoint() + (m_sweep > 0 ? left : -left) * (m_radius * fromArc);
 }
@@ -228,10 +215,7 @@ void CArc2d::Reverse()
     setCircle(toCentre, -sweep);
 }
 
-CVec2<double> CArc2d::textMiddle() const
-{
-    return StartT() == 0.0 && EndT() == m_length ? m_middle : MidPoint();
-}
+CVec2<double> CArc2d::textMiddle() const { return StartT() == 0.0 && EndT() == m_length ? m_middle : MidPoint(); }
 
 CBox2<double> CArc2d::Box() const
 {

@@ -2,6 +2,7 @@
 
 #include "platform/geometry/ArcChords.h"
 #include "platform/geometry/OverlayArea.h"
+#include "platform/geometry/OverlayResult.h"
 #include "platform/geometry/RingNoding.h"
 #include "platform/geometry/RingWeld.h"
 
@@ -66,6 +67,13 @@ Rings ringsOf(const CPolygon &polygon, const CVec2<double> &origin, const ArcCho
     return rings;
 }
 
+bool areFinite(const Rings &rings)
+{
+    return std::all_of(rings.begin(), rings.end(), [](const Ring &ring) {
+        return std::all_of(ring.begin(), ring.end(), [](const CVec2<double> &corner) { return corner.IsFinite(); });
+    });
+}
+
 /** One overlay: its polygons as rings about a common origin, far places being as good as near ones. */
 class Overlay
 {
@@ -99,6 +107,8 @@ Overlay::Overlay(Operation operation, const Operands &operands) : m_operation(op
     m_hasArcs = chords.hasArcs();
     for (const Operand &operand : operands) {
         m_polygons.push_back(ringsOf(*operand.polygon, m_origin, chords));
+        if (!areFinite(m_polygons.back()))
+            m_polygons.back().clear();
         for (const Ring &ring : m_polygons.back())
             m_cornerCount += ring.size();
     }

@@ -7,10 +7,7 @@
 
 namespace vks {
 
-CLine2d::CLine2d(const CVec2<double> &start, const CVec2<double> &end)
-{
-    assign(start, end);
-}
+CLine2d::CLine2d(const CVec2<double> &start, const CVec2<double> &end) { assign(start, end); }
 
 CLine2d::CLine2d(const CVec2<double> &point, const CVec2<double> &direction, double low, double high)
 {
@@ -26,10 +23,7 @@ void CLine2d::assign(const CVec2<double> &start, const CVec2<double> &end)
     resetRange(m_length, m_length > 0.0 ? std::numeric_limits<double>::max() : 0.0);
 }
 
-CRefPtr<CCurve2d> CLine2d::Clone() const
-{
-    return new CLine2d(*this);
-}
+CRefPtr<CCurve2d> CLine2d::Clone() const { return new CLine2d(*this); }
 
 CVec2<double> CLine2d::GetPoint(double t) const
 {
@@ -38,10 +32,7 @@ CVec2<double> CLine2d::GetPoint(double t) const
     return t == m_length ? m_end : m_start + (m_end - m_start) * (t / m_length);
 }
 
-CVec2<double> CLine2d::GetDirection(double /*t*/) const
-{
-    return (m_end - m_start).Normalized();
-}
+CVec2<double> CLine2d::GetDirection(double /*t*/) const { return (m_end - m_start).Normalized(); }
 
 double CLine2d::NearestT(const CVec2<double> &point) const
 {
@@ -83,9 +74,6 @@ void CLine2d::MirrorX()
     m_end.x = -m_end.x;
 }
 
-void CLine2d::writeText(std::string &text) const
-{
-    GeometryText::appendLine(text, StartPoint(), EndPoint());
-}
+void CLine2d::writeText(std::string &text) const { GeometryText::appendLine(text, StartPoint(), EndPoint()); }
 
 } // namespace vks

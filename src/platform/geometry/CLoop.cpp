@@ -35,8 +35,8 @@ AreaSum areaSum(const CLoop &loop)
         const CVec2<double> next = curves[(i + 1) % curves.size()]->StartPoint() - origin;
         sum.add(start.Cross(end), (start + end) / 3);
         sum.add(end.Cross(next), (end + next) / 3); // of a gap, which is taken as closed by a line
-        if (const auto *arc = dynamic_cast<const CArc2d *>(&curve))
-            sum.add(arc->TwiceSegmentArea(), arc->SegmentCentroid() - origin);
+        if (curve.Type() == CCurve2d::kArc)
+            sum.add(curve.TwiceSegmentArea(), static_cast<const CArc2d &>(curve).SegmentCentroid() - origin);
     }
     return sum;
 }
@@ -51,15 +51,9 @@ CRefPtr<CLoop> CLoop::Clone() const
     return copy;
 }
 
-double CLoop::SignedArea() const
-{
-    return areaSum(*this).twiceArea / 2;
-}
+double CLoop::SignedArea() const { return areaSum(*this).twiceArea / 2; }
 
-double CLoop::Area() const
-{
-    return std::fabs(SignedArea());
-}
+double CLoop::Area() const { return std::fabs(SignedArea()); }
 
 CVec2<double> CLoop::Barycentre() const
 {
@@ -80,9 +74,6 @@ int CLoop::Locate(const CVec2<double> &point, double tolerance) const
     return crossesRayOddly(*this, point) ? 1 : -1;
 }
 
-void CLoop::writeText(std::string &text) const
-{
-    GeometryText::appendPolygon(text, {Clone()});
-}
+void CLoop::writeText(std::string &text) const { GeometryText::appendPolygon(text, {Clone()}); }
 
 } // namespace vks

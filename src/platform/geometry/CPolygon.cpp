@@ -112,7 +112,7 @@ bool CPolygon::IsRectangle(double angleTolerance) const
                                        ? CVec2<double>(1, 0)
                                        : CVec2<double>(0, 1);
         if (side.Type() != CCurve2d::kLine || !(side.Length() > g_DistEpsilon) ||
-            std::fabs(axis.Cross(direction)) > std::sin(angleTolerance))
+            !(std::fabs(axis.Cross(direction)) <= std::sin(angleTolerance)))
             return false;
     }
     return true;
@@ -154,9 +154,6 @@ CRefPtr<CPolygon> CPolygon::LoadFromString(const char *text)
     return dynamic_cast<CPolygon *>(GeometryText::read(text).get());
 }
 
-void CPolygon::writeText(std::string &text) const
-{
-    GeometryText::appendPolygon(text, m_loops);
-}
+void CPolygon::writeText(std::string &text) const { GeometryText::appendPolygon(text, m_loops); }
 
 } // namespace vks

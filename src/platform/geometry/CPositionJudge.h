@@ -20,8 +20,9 @@ public:
     CPositionJudge();
     /** mm; a value that is not above zero counts as g_DefaultDistEpsilon. */
     void SetDistEpsilon(double tolerance);
-    /** 2 when a stretch of either curve longer than the tolerance lies within the tolerance of the other, 1 when they
-     *  come within the tolerance of each other otherwise. */
+    /** 2 when a stretch longer than the tolerance of either curve lies within the tolerance of the other, which goes along
+     *  with it; 1 when they come within the tolerance of each other otherwise. Curves that cross or touch are near each
+     *  other for a while, too: a stretch counts only when it begins and ends where one of the two curves ends. */
     EnCurveCurvePosition GetCurveCurvePosition(const CCurve2d *a, const CCurve2d *b) const;
 
 private:

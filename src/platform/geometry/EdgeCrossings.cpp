@@ -4,53 +4,138 @@
 #include "platform/geometry/CurveRelation.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace vks {
 
 namespace {
 
 constexpr double kShortestPiece = 4.0; // in tolerances; shorter pieces lie within the tolerance of a meeting
+constexpr double kClearAngle = 4.0;    // in tolerances that the shorter of two lines leads away from the other one
 
 struct Edge
 {
     const CCurve2d *curve;
     CBox2<double> box;
     std::size_t loop;
-    int place;
-    int count; ///< edges of the loop
+    int place;    // among the edges of the loop that are long enough
+    int count;    // of such edges
+    double reach; // mm from the edge's end to the next one's start, at most
 };
 
-/** Edges of a loop that have a length, counted as if the others were not there. */
-void appendEdges(const CLoop &loop, std::size_t loopIndex, double tolerance, std::vector<Edge> &edges)
+using Loops = std::vector<CRefPtr<CLoop>>;
+using LoopPair = std::pair<std::size_t, std::size_t>;
+
+/** Appends the edges of a loop that are longer than the tolerance. */
+void appendEdges(std::vector<Edge> &edges, const CLoop &loop, std::size_t number, double tolerance)
 {
     const std::size_t first = edges.size();
-    for (const auto &curve : loop.Curves())
+    double skippedAtStart = 0.0;
+    for (const auto &curve : loop.Curves()) {
         if (curve->Length() > tolerance)
-            edges.push_back({curve.get(), curve->Box(), loopIndex, static_cast<int>(edges.size() - first), 0});
+            edges.push_back(
+                {curve.get(), curve->Box(), number, static_cast<int>(edges.size() - first), 0, 2 * tolerance});
+        else if (edges.size() > first)
+            edges.back().reach += curve->Length() + tolerance;
+        else
+            skippedAtStart += curve->Length() + tolerance;
+    }
     for (std::size_t i = first; i < edges.size(); ++i)
         edges[i].count = static_cast<int>(edges.size() - first);
+    if (edges.size() > first)
+        edges.back().reach += skippedAtStart;
 }
 
-std::vector<Edge> edgesByX(const std::vector<CRefPtr<CLoop>> &loops, double tolerance)
+/** Calls a function for each two edges whose boxes touch, until it answers true; says whether it did. */
+template <typename Function> bool anyTouchingBoxes(std::vector<Edge> &edges, double tolerance, Function found)
+{
+    // A sweep along the axis in which the edges cover less.
+    CVec2<double> covered;
+    for (const Edge &edge : edges)
+        covered += edge.box.maxPt - edge.box.minPt;
+    const auto axis = covered.x <= covered.y ? &CVec2<double>::x : &CVec2<double>::y;
+    std::sort(edges.begin(), edges.end(),
+              [axis](const Edge &a, const Edge &b) { return a.box.minPt.*axis < b.box.minPt.*axis; });
+    for (std::size_t i = 0; i < edges.size(); ++i) {
+        const double last = edges[i].box.maxPt.*axis + tolerance;
+        for (std::size_t j = i + 1; j < edges.size() && edges[j].box.minPt.*axis <= last; ++j)
+            if (edges[i].box.Touches(edges[j].box, tolerance) && found(edges[i], edges[j]))
+                return true;
+    }
+    return false;
+}
+
+std::vector<Edge> edgesOf(const Loops &loops, double tolerance)
 {
     std::vector<Edge> edges;
     for (std::size_t i = 0; i < loops.size(); ++i)
-        appendEdges(*loops[i], i, tolerance, edges);
-    std::sort(edges.begin(), edges.end(), [](const Edge &a, const Edge &b) { return a.box.minPt.x < b.box.minPt.x; });
+        appendEdges(edges, *loops[i], i, tolerance);
     return edges;
 }
 
 bool follows(const Edge &before, const Edge &after)
 {
-    return (before.place + 1) % before.count == after.place;
+    return before.loop == after.loop && (before.place + 1) % before.count == after.place;
 }
 
 /** Neighbours in a loop have their corner in common, and the two edges of a loop of two both corners. */
-bool isCommonCorner(const CVec2<double> &point, const Edge &a, const Edge &b, double tolerance)
+bool isCommonCorner(const CVec2<double> &point, const Edge &a, const Edge &b)
 {
-    const double near = 2 * tolerance; // both edges end at the corner only within the tolerance
-    return (follows(a, b) && point.DistanceTo(a.curve->EndPoint()) <= near) ||
-           (follows(b, a) && point.DistanceTo(b.curve->EndPoint()) <= near);
+    return (follows(a, b) && point.DistanceTo(a.curve->EndPoint()) <= a.reach) ||
+           (follows(b, a) && point.DistanceTo(b.curve->EndPoint()) <= b.reach);
+}
+
+bool comeNear(const Edge &a, const Edge &b, double tolerance)
+{
+    CVec2<double> onA;
+    CVec2<double> onB;
+    return GeometryDistance(a.curve, b.curve, onA, onB, 0.0) <= tolerance;
+}
+
+/** Lines at an angle have one point in common at most. */
+bool areLinesAtAnAngle(const Edge &a, const Edge &b, double tolerance)
+{
+    if (a.curve->Type() != CCurve2d::kLine || b.curve->Type() != CCurve2d::kLine)
+        return false;
+    const double sine = std::fabs(a.curve->StartVt().Cross(b.curve->StartVt()));
+    return sine * std::min(a.curve->Length(), b.curve->Length()) > kClearAngle * tolerance;
+}
+
+/** A shared stretch reaches from an end of one of two open curves to another end: false when fewer of their ends, but
+ *  for one common corner, lie near the other curve. */
+bool mayShareStretch(const CCurve2d &a, const CCurve2d &b, double tolerance)
+{
+    if (a.IsClosed() || b.IsClosed())
+        return true;
+    CBox2<double> near;
+    const auto gather = [&near, tolerance](const CCurve2d &curve, const CCurve2d &other) {
+        for (const CVec2<double> &end : {curve.StartPoint(), curve.EndPoint()})
+            if (other.DistanceTo(end) <= 2 * tolerance)
+                near.Add(end);
+    };
+    gather(a, b);
+    gather(b, a);
+    return near.IsValid() && near.Width() + near.Height() > tolerance / 2;
+}
+
+bool shareStretch(const Edge &a, const Edge &b, double tolerance)
+{
+    if (areLinesAtAnAngle(a, b, tolerance) || !mayShareStretch(*a.curve, *b.curve, tolerance))
+        return false;
+    CPositionJudge judge;
+    judge.SetDistEpsilon(tolerance);
+    return judge.GetCurveCurvePosition(a.curve, b.curve) == kCurvesOverlap;
+}
+
+/** Whether two edges of one loop that follow each other meet elsewhere than in their common corner. */
+bool neighboursMeetWrongly(const Edge &a, const Edge &b, double tolerance)
+{
+    if (areLinesAtAnAngle(a, b, tolerance))
+        return false;
+    const auto points = CurveIntersections(*a.curve, *b.curve, false, tolerance);
+    return shareStretch(a, b, tolerance) || std::any_of(points.begin(), points.end(), [&](const CVec2<double> &point) {
+               return !isCommonCorner(point, a, b);
+           });
 }
 
 /** Middles of the pieces into which another loop cuts a curve. */
@@ -84,48 +169,45 @@ bool passesThrough(const CLoop &loop, const CLoop &other, double tolerance)
     return inside && outside;
 }
 
-/** Whether two edges of one loop meet elsewhere than in a common corner. */
-bool meetWrongly(const Edge &a, const Edge &b, double tolerance)
+bool anyPassesThrough(const Loops &loops, std::vector<LoopPair> &meetings, double tolerance)
 {
-    const auto points = CurveIntersections(*a.curve, *b.curve, false, tolerance);
-    return std::any_of(points.begin(), points.end(),
-                       [&](const CVec2<double> &point) { return !isCommonCorner(point, a, b, tolerance); });
-}
-
-bool shareStretch(const Edge &a, const Edge &b, double tolerance)
-{
-    CPositionJudge judge;
-    judge.SetDistEpsilon(tolerance);
-    return judge.GetCurveCurvePosition(a.curve, b.curve) == kCurvesOverlap;
-}
-
-bool touch(const Edge &a, const Edge &b, double tolerance)
-{
-    return !CurveIntersections(*a.curve, *b.curve, false, tolerance).empty();
+    std::sort(meetings.begin(), meetings.end());
+    meetings.erase(std::unique(meetings.begin(), meetings.end()), meetings.end());
+    return std::any_of(meetings.begin(), meetings.end(), [&](const LoopPair &pair) {
+        return passesThrough(*loops[pair.first], *loops[pair.second], tolerance);
+    });
 }
 
 } // namespace
 
-bool edgesCross(const std::vector<CRefPtr<CLoop>> &loops, double tolerance)
+bool edgesCross(const Loops &loops, double tolerance)
 {
-    const std::vector<Edge> edges = edgesByX(loops, tolerance);
-    std::vector<std::pair<std::size_t, std::size_t>> meetings; // loops that meet in points
-    for (std::size_t i = 0; i < edges.size(); ++i)
-        for (std::size_t j = i + 1; j < edges.size() && edges[j].box.minPt.x <= edges[i].box.maxPt.x + tolerance; ++j) {
-            const Edge &a = edges[i];
-            const Edge &b = edges[j];
-            if (!a.box.Touches(b.box, tolerance))
-                continue;
-            if (shareStretch(a, b, tolerance) || (a.loop == b.loop && meetWrongly(a, b, tolerance)))
-                return true;
-            if (a.loop != b.loop && touch(a, b, tolerance))
-                meetings.emplace_back(std::minmax(a.loop, b.loop));
-        }
-    std::sort(meetings.begin(), meetings.end());
-    meetings.erase(std::unique(meetings.begin(), meetings.end()), meetings.end());
-    return std::any_of(meetings.begin(), meetings.end(), [&](const auto &pair) {
-        return passesThrough(*loops[pair.first], *loops[pair.second], tolerance);
+    std::vector<Edge> edges = edgesOf(loops, tolerance);
+    std::vector<LoopPair> meetings;
+    const auto crosses = [&](const Edge &a, const Edge &b) {
+        if (follows(a, b) || follows(b, a))
+            return neighboursMeetWrongly(a, b, tolerance);
+        if (!comeNear(a, b, tolerance))
+            return false;
+        if (a.loop != b.loop)
+            meetings.emplace_back(std::minmax(a.loop, b.loop));
+        return a.loop == b.loop || shareStretch(a, b, tolerance);
+    };
+    return anyTouchingBoxes(edges, tolerance, crosses) || anyPassesThrough(loops, meetings, tolerance);
+}
+
+bool loopsCross(const Loops &loops, double tolerance)
+{
+    if (loops.size() < 2)
+        return false;
+    std::vector<Edge> edges = edgesOf(loops, tolerance);
+    std::vector<LoopPair> meetings;
+    anyTouchingBoxes(edges, tolerance, [&](const Edge &a, const Edge &b) {
+        if (a.loop != b.loop && comeNear(a, b, tolerance))
+            meetings.emplace_back(std::minmax(a.loop, b.loop));
+        return false;
     });
+    return anyPassesThrough(loops, meetings, tolerance);
 }
 
 } // namespace vks

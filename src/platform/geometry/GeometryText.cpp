@@ -42,10 +42,7 @@ void appendPoints(std::string &text, const Points &points)
     text += ')';
 }
 
-bool isArc(const CCurve2d &curve)
-{
-    return curve.Type() == CCurve2d::kArc;
-}
+bool isArc(const CCurve2d &curve) { return curve.Type() == CCurve2d::kArc; }
 
 bool hasArc(const CLoop &loop)
 {
@@ -161,7 +158,7 @@ private:
     CRefPtr<CPolygon> polygon(bool curved)
     {
         CRefPtr<CPolygon> result(new CPolygon);
-        if (!curved && word(kEmpty))
+        if (!curved && nextIsBlank() && word(kEmpty))
             return result;
         if (!symbol('('))
             return nullptr;
@@ -264,6 +261,8 @@ private:
         return true;
     }
 
+    bool nextIsBlank() const { return m_at != m_end && *m_at == ' '; }
+
     void skipBlanks()
     {
         while (m_at != m_end && *m_at == ' ')
@@ -305,9 +304,6 @@ void GeometryText::appendPolygon(std::string &text, const std::vector<CRefPtr<CL
     text += rings.empty() ? std::string(" ") + kEmpty : '(' + rings + ')';
 }
 
-CRefPtr<CGeometry> GeometryText::read(const char *text)
-{
-    return text ? Reader(text).geometry() : nullptr;
-}
+CRefPtr<CGeometry> GeometryText::read(const char *text) { return text ? Reader(text).geometry() : nullptr; }
 
 } // namespace vks

@@ -6,6 +6,7 @@
 #include "platform/geometry/KernelTolerance.h"
 
 #include <algorithm>
+#include <map>
 
 namespace vks {
 
@@ -45,48 +46,72 @@ CRefPtr<CCurve2d> between(const CCurve2d &curve, const Point &start, const Point
     return new CLine2d(start, end);
 }
 
-Curves weldedCurves(const CLoop &loop, RingWeld &weld, double tolerance)
+/** A curve between vertices that may differ from its ends by rounding. */
+struct Edge
+{
+    Point start;
+    Point end;
+    CRefPtr<CCurve2d> curve;
+};
+
+std::vector<Edge> weldedEdges(const CLoop &loop, RingWeld &weld, double tolerance)
 {
     const auto &curves = loop.Curves();
-    Curves result;
+    std::vector<Edge> result;
     for (std::size_t i = 0; i < curves.size(); ++i) {
         const Point start = weld.weld(curves[i]->StartPoint());
         const Point end = weld.weld(curves[i]->EndPoint());
         if (CRefPtr<CCurve2d> curve = between(*curves[i], start, end, tolerance))
-            result.push_back(curve);
+            result.push_back({start, end, curve});
         const Point next = weld.weld(curves[(i + 1) % curves.size()]->StartPoint());
         if (next != end)
-            result.push_back(new CLine2d(end, next));
+            result.push_back({end, next, new CLine2d(end, next)});
     }
     return result;
 }
 
 /** Cuts a closed way into ways that visit each of their vertices once. */
-std::vector<Curves> cutAtRepeatedVertices(const Curves &curves)
+class VertexCutter
 {
-    std::vector<Curves> parts;
-    Curves open;
-    for (const CRefPtr<CCurve2d> &curve : curves) {
-        open.push_back(curve);
-        const Point end = curve->EndPoint();
-        const auto first = std::find_if(open.begin(), open.end(), [&end](const CRefPtr<CCurve2d> &earlier) {
-            return earlier->StartPoint().DistanceTo(end) <= g_DefaultDistEpsilon;
-        });
-        if (first == open.end())
-            continue;
-        parts.emplace_back(first, open.end());
-        open.erase(first, open.end());
+public:
+    explicit VertexCutter(const std::vector<Edge> &edges)
+    {
+        for (const Edge &edge : edges) {
+            m_starts[{edge.start.x, edge.start.y}] = m_open.size();
+            m_open.push_back(edge);
+            const auto first = m_starts.find({edge.end.x, edge.end.y});
+            if (first != m_starts.end())
+                cutFrom(first->second);
+        }
+        if (!m_open.empty())
+            cutFrom(0);
     }
-    if (!open.empty())
-        parts.push_back(open);
-    return parts;
-}
+    const std::vector<Curves> &parts() const { return m_parts; }
+
+private:
+    void cutFrom(std::size_t first)
+    {
+        m_parts.emplace_back();
+        for (std::size_t i = first; i < m_open.size(); ++i) {
+            m_parts.back().push_back(m_open[i].curve);
+            m_starts.erase({m_open[i].start.x, m_open[i].start.y});
+        }
+        m_open.resize(first);
+    }
+
+    std::vector<Edge> m_open; // the way since the last cut
+    std::map<std::pair<double, double>, std::size_t> m_starts;
+    std::vector<Curves> m_parts;
+};
 
 /** Neighbouring curves that are to become one. */
 class Run
 {
 public:
-    Run(const CRefPtr<CCurve2d> &first, const CleaningTolerance &tolerance) : m_curves{first}, m_tolerance(tolerance) {}
+    Run(const CRefPtr<CCurve2d> &first, const CleaningTolerance &tolerance)
+        : m_curves{first}, m_tolerance(tolerance), m_start(first->StartPoint()), m_along(first->StartVt()),
+          m_sweep(sweepOf(*first))
+    {}
 
     bool takes(const CCurve2d &next) const
     {
@@ -99,7 +124,15 @@ public:
         const CArc2d *nextArc = roundArc(next);
         return arc && nextArc ? staysOnCircle(*arc, *nextArc) : !arc && !nextArc && staysOnLine(next);
     }
-    void take(const CRefPtr<CCurve2d> &next) { m_curves.push_back(next); }
+    void take(const CRefPtr<CCurve2d> &next)
+    {
+        const Point vertex = next->StartPoint();
+        const double reach = std::asin(std::min(1.0, m_tolerance.distance / vertex.DistanceTo(m_start)));
+        m_leastTurn = std::max(m_leastTurn, turnTo(vertex) - reach);
+        m_mostTurn = std::min(m_mostTurn, turnTo(vertex) + reach);
+        m_sweep += sweepOf(*next);
+        m_curves.push_back(next);
+    }
 
     CRefPtr<CCurve2d> joined() const
     {
@@ -116,22 +149,31 @@ public:
     }
 
 private:
+    static double sweepOf(const CCurve2d &curve)
+    {
+        const CArc2d *arc = roundArc(curve);
+        return arc ? std::fabs(arc->SweepAngle()) : 0.0;
+    }
+    /** Angle from the run's first direction to a point seen from its start, rad. */
+    double turnTo(const Point &point) const
+    {
+        const Point way = point - m_start;
+        return std::atan2(m_along.Cross(way), m_along.Dot(way));
+    }
     bool staysOnCircle(const CArc2d &arc, const CArc2d &next) const
     {
-        double sweep = std::fabs(next.SweepAngle());
-        for (const CRefPtr<CCurve2d> &curve : m_curves)
-            sweep += std::fabs(roundArc(*curve)->SweepAngle());
-        return arc.SweepAngle() * next.SweepAngle() > 0.0 && sweep <= kTwoPi + m_tolerance.angle &&
+        return arc.SweepAngle() * next.SweepAngle() > 0.0 && m_sweep + sweepOf(next) <= kTwoPi + m_tolerance.angle &&
                arc.CenterPt().DistanceTo(next.CenterPt()) <= m_tolerance.distance &&
                std::fabs(arc.Radius() - next.Radius()) <= m_tolerance.distance;
     }
     /** Many slight turns must not add up: every vertex stays near the line. */
     bool staysOnLine(const CCurve2d &next) const
     {
-        const CLine2d line(m_curves.front()->StartPoint(), next.EndPoint());
-        return std::all_of(m_curves.begin(), m_curves.end(), [&](const CRefPtr<CCurve2d> &curve) {
-            return line.DistanceTo(curve->EndPoint()) <= m_tolerance.distance;
-        });
+        const Point vertex = next.StartPoint();
+        const double turn = turnTo(next.EndPoint());
+        const Point way = next.EndPoint() - m_start;
+        return turn >= m_leastTurn && turn <= m_mostTurn &&
+               std::fabs(way.Cross(vertex - m_start)) <= m_tolerance.distance * way.Length();
     }
     Point middle() const
     {
@@ -148,6 +190,11 @@ private:
 
     Curves m_curves;
     CleaningTolerance m_tolerance;
+    Point m_start;
+    Point m_along;                // direction at the start
+    double m_sweep;               // of arcs so far, rad
+    double m_leastTurn = -kTwoPi; // directions of a line that passes near all vertices so far, from m_along, rad
+    double m_mostTurn = kTwoPi;
 };
 
 /** Joins what goes on, starting at a true corner, if there is one. */
@@ -183,7 +230,8 @@ bool holdsArea(const CRefPtr<CLoop> &loop)
 std::vector<CRefPtr<CLoop>> cleanedLoops(const CLoop &loop, RingWeld &weld, const CleaningTolerance &tolerance)
 {
     std::vector<CRefPtr<CLoop>> loops;
-    for (const Curves &part : cutAtRepeatedVertices(weldedCurves(loop, weld, tolerance.distance))) {
+    const VertexCutter cutter(weldedEdges(loop, weld, tolerance.distance));
+    for (const Curves &part : cutter.parts()) {
         CRefPtr<CLoop> cleaned(new CLoop);
         for (const CRefPtr<CCurve2d> &curve : joinedCurves(part, tolerance))
             cleaned->AddCurve(curve, false);

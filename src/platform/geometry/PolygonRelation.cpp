@@ -29,10 +29,8 @@ bool isSound(const CPolygon *polygon)
 
 bool isSound(const CCurve2d *curve)
 {
-    if (!curve || !(curve->Length() > 0.0))
-        return false;
-    const CBox2<double> box = curve->Box();
-    return box.IsValid() && (box.maxPt - box.minPt).IsFinite();
+    return curve && curve->Length() > 0.0 && curve->StartPoint().IsFinite() && curve->MidPoint().IsFinite() &&
+           curve->EndPoint().IsFinite();
 }
 
 /** One loop of straight sides that turns one way all along, once around: it does so when it changes between going left

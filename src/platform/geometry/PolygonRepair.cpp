@@ -103,8 +103,8 @@ void orient(const Loops &loops)
 
 CRefPtr<CPolygon> PolygonRepair(const CPolygon *polygon, double distTolerance, double angleTolerance, int flag)
 {
-    const CBox2<double> box = polygon ? polygon->Box() : CBox2<double>();
-    if (!box.IsValid() || !(box.maxPt - box.minPt).IsFinite())
+    constexpr unsigned onlyFinite = 0;
+    if (!polygon || !polygon->IsValid(onlyFinite, nullptr, nullptr))
         return nullptr;
     const CleaningTolerance tolerance{distTolerance > 0.0 ? distTolerance : g_DefaultDistEpsilon,
                                       angleTolerance > 0.0 ? angleTolerance : g_AngleEpsilon};

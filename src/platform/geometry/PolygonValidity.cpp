@@ -11,8 +11,7 @@ namespace vks {
 
 namespace {
 
-template <typename Test>
-bool everyCurve(const std::vector<CRefPtr<CLoop>> &loops, Test test)
+template <typename Test> bool everyCurve(const std::vector<CRefPtr<CLoop>> &loops, Test test)
 {
     return std::all_of(loops.begin(), loops.end(), [&](const auto &loop) {
         return std::all_of(loop->Curves().begin(), loop->Curves().end(), test);
@@ -21,17 +20,21 @@ bool everyCurve(const std::vector<CRefPtr<CLoop>> &loops, Test test)
 
 } // namespace
 
-bool PolygonValidity::passes(unsigned mask) const
+bool PolygonValidity::passes(unsigned mask)
 {
+    m_mask = mask;
     struct Check
     {
         unsigned bit;
         bool (PolygonValidity::*passed)() const;
     };
     constexpr Check checks[] = {
-        {CPolygon::kNotEmpty, &PolygonValidity::isNotEmpty},      {CPolygon::kClosed, &PolygonValidity::isClosed},
-        {CPolygon::kNoShortEdge, &PolygonValidity::hasNoShortEdge}, {CPolygon::kHasArea, &PolygonValidity::hasArea},
-        {CPolygon::kNoCrossing, &PolygonValidity::hasNoCrossing}, {CPolygon::kHolesInside, &PolygonValidity::hasHolesInside},
+        {CPolygon::kNotEmpty, &PolygonValidity::isNotEmpty},
+        {CPolygon::kClosed, &PolygonValidity::isClosed},
+        {CPolygon::kNoShortEdge, &PolygonValidity::hasNoShortEdge},
+        {CPolygon::kHasArea, &PolygonValidity::hasArea},
+        {CPolygon::kNoCrossing, &PolygonValidity::hasNoCrossing},
+        {CPolygon::kHolesInside, &PolygonValidity::hasHolesInside},
     };
     return isFinite() && std::all_of(std::begin(checks), std::end(checks), [&](const Check &check) {
                return (mask & check.bit) == 0 || (this->*check.passed)();
@@ -63,21 +66,16 @@ bool PolygonValidity::hasNoShortEdge() const
     return everyCurve(m_loops, [](const auto &curve) { return curve->Length() >= g_DistEpsilon; });
 }
 
-bool PolygonValidity::hasNoCrossing() const
-{
-    return !edgesCross(m_loops, g_DistEpsilon);
-}
+bool PolygonValidity::hasNoCrossing() const { return !edgesCross(m_loops, g_DistEpsilon); }
 
 bool PolygonValidity::hasHolesInside() const
 {
-    for (std::size_t i = 1; i < m_loops.size(); ++i) {
-        if (!liesIn(*m_loops[i], *m_loops[0]))
-            return false;
-        for (std::size_t j = 1; j < m_loops.size(); ++j)
-            if (i != j && liesIn(*m_loops[i], *m_loops[j]))
-                return false;
-    }
-    return true;
+    // Where crossings are asked for, too, that check has been passed by now.
+    if ((m_mask & CPolygon::kNoCrossing) == 0 && loopsCross(m_loops, g_DistEpsilon))
+        return false;
+    const std::vector<int> depths = loopDepths(m_loops);
+    return depths.empty() ||
+           (depths[0] == 0 && std::count(depths.begin(), depths.end(), 1) == std::ptrdiff_t(depths.size()) - 1);
 }
 
 bool PolygonValidity::hasArea() const
@@ -85,7 +83,8 @@ bool PolygonValidity::hasArea() const
     CPolygon polygon;
     for (const auto &loop : m_loops)
         polygon.AddLoop(loop, true);
-    return polygon.Area() > g_DistEpsilon * g_DistEpsilon;
+    // As thin as the tolerance all along is no area: rounding alone makes as much of a long edge there and back.
+    return polygon.Area() > g_DistEpsilon * polygon.Perimeter() / 2;
 }
 
 } // namespace vks

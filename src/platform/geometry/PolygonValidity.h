@@ -13,7 +13,7 @@ public:
     explicit PolygonValidity(const std::vector<CRefPtr<CLoop>> &loops) : m_loops(loops) {}
 
     /** True when the geometry is finite and every check that a bit of the mask names is passed. */
-    bool passes(unsigned mask) const;
+    bool passes(unsigned mask);
 
 private:
     bool isFinite() const;
@@ -25,6 +25,7 @@ private:
     bool hasArea() const;
 
     const std::vector<CRefPtr<CLoop>> &m_loops;
+    unsigned m_mask = 0;
 };
 
 } // namespace vks

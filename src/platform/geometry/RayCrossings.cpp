@@ -25,14 +25,14 @@ public:
         if (spans(from.y, to.y) && from.x + (to.x - from.x) * ((m_point.y - from.y) / (to.y - from.y)) > m_point.x)
             ++m_crossings;
     }
-    /** @param side  1 for a piece on the right half of the circle, -1 on the left */
-    void addArcPiece(const CVec2<double> &centre, double radius, int side, double fromY, double toY)
+    void addArcPiece(const CArc2d &arc, bool rightHalf, double fromY, double toY)
     {
         if (!spans(fromY, toY))
             return;
-        const double up = m_point.y - centre.y;
-        const double across = std::sqrt(std::fmax(0.0, (radius - up) * (radius + up)));
-        if (centre.x + side * across > m_point.x)
+        // Left of the centre and outside lie before the left half, right of it and inside before the right half.
+        const bool inside = arc.CircleHolds(m_point);
+        const bool leftOfCentre = m_point.x < arc.CenterPt().x;
+        if (rightHalf ? inside || leftOfCentre : !inside && leftOfCentre)
             ++m_crossings;
     }
     bool isOdd() const { return m_crossings % 2 != 0; }
@@ -43,10 +43,9 @@ private:
 };
 
 /** An arc falls at the circle's top and bottom into pieces that only rise or only fall. */
-void addArc(RayCounter &counter, const CArc2d &arc, double endY)
+void addArc(RayCounter &counter, const CArc2d &arc)
 {
-    const CVec2<double> centre = arc.CenterPt();
-    const double radius = arc.Radius();
+    const double centreY = arc.CenterPt().y;
     const double turn = arc.SweepAngle() > 0 ? 1.0 : -1.0;
     const double startAngle = arc.StartAngle();
     const double sweep = std::fabs(arc.SweepAngle());
@@ -58,8 +57,8 @@ void addArc(RayCounter &counter, const CArc2d &arc, double endY)
         const double ahead = next - turn * startAngle;
         const bool last = ahead >= sweep;
         const double middle = turn * (turn * startAngle + (done + (last ? sweep : ahead)) / 2);
-        const double toY = last ? endY : centre.y + (std::sin(turn * next) > 0 ? radius : -radius);
-        counter.addArcPiece(centre, radius, std::cos(middle) > 0 ? 1 : -1, fromY, toY);
+        const double toY = last ? arc.EndPoint().y : centreY + std::copysign(arc.Radius(), std::sin(turn * next));
+        counter.addArcPiece(arc, std::cos(middle) > 0, fromY, toY);
         done = last ? sweep : ahead;
         fromY = toY;
         next += kPi;
@@ -73,13 +72,14 @@ bool crossesRayOddly(const CLoop &loop, const CVec2<double> &point)
     RayCounter counter(point);
     const auto &curves = loop.Curves();
     for (std::size_t i = 0; i < curves.size(); ++i) {
-        // Each piece ends where the next one starts, to the last bit.
-        const CVec2<double> end = curves[(i + 1) % curves.size()]->StartPoint();
-        const auto *arc = dynamic_cast<const CArc2d *>(curves[i].get());
+        const CCurve2d &curve = *curves[i];
+        const CVec2<double> end = curve.EndPoint();
+        const auto *arc = curve.Type() == CCurve2d::kArc ? static_cast<const CArc2d *>(&curve) : nullptr;
         if (arc && !arc->IsFlat())
-            addArc(counter, *arc, end.y);
+            addArc(counter, *arc);
         else
-            counter.addLine(curves[i]->StartPoint(), end);
+            counter.addLine(curve.StartPoint(), end);
+        counter.addLine(end, curves[(i + 1) % curves.size()]->StartPoint()); // the gap, if there is one
     }
     return counter.isOdd();
 }

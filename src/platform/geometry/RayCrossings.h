@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ORVCADPlatformExport.h"
 #include "platform/geometry/CVec2.h"
 
 namespace vks {
@@ -8,6 +9,6 @@ class CLoop;
 
 /** True when the ray from a point to the right crosses a loop an odd number of times: the point lies inside, unless it
  *  lies on the loop. Exact for arcs; a corner counts for one of its two edges. */
-bool crossesRayOddly(const CLoop &loop, const CVec2<double> &point);
+ORVCADPLATFORM_EXPORT bool crossesRayOddly(const CLoop &loop, const CVec2<double> &point);
 
 } // namespace vks

@@ -1,0 +1,117 @@
+#pragma once
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+/** Runs the command in a directory of its own. */
+class CliFixture : public ::testing::Test
+{
+protected:
+    struct Result
+    {
+        int exitCode = -1;
+        QByteArray out;
+        QByteArray err;
+
+        /** The summary of a run with --json. */
+        QJsonObject json() const { return QJsonDocument::fromJson(out).object(); }
+        QJsonObject error() const { return QJsonDocument::fromJson(err).object()["error"].toObject(); }
+    };
+
+    Result run(const QStringList &arguments) const
+    {
+        QProcess process;
+        process.setWorkingDirectory(m_directory.path());
+        process.setProcessEnvironment(m_environment);
+        process.start(QStringLiteral(ORVCAD_PROGRAM), arguments);
+        Result result;
+        if (!process.waitForFinished(120000) || process.exitStatus() != QProcess::NormalExit)
+            return result;
+        result.exitCode = process.exitCode();
+        result.out = process.readAllStandardOutput();
+        result.err = process.readAllStandardError();
+        return result;
+    }
+
+    /** Sets a variable of the environment of later runs. */
+    void setVariable(const QString &name, const QString &value) { m_environment.insert(name, value); }
+
+    QString path(const QString &name) const { return QDir(m_directory.path()).filePath(name); }
+    bool exists(const QString &name) const { return QFile::exists(path(name)); }
+    QByteArray read(const QString &name) const
+    {
+        QFile file(path(name));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
+        return file.readAll();
+    }
+    QJsonDocument readJson(const QString &name) const { return QJsonDocument::fromJson(read(name)); }
+    void write(const QString &name, const QByteArray &bytes) const
+    {
+        QFile file(path(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+    void write(const QString &name, const QJsonObject &json) const { write(name, QJsonDocument(json).toJson()); }
+
+    /** A run that must end with exit code 2, name that file and give a reason; the error object that it wrote. */
+    QJsonObject refusal(const QStringList &arguments, const QString &file) const
+    {
+        const Result result = run(arguments + QStringList{"--json"});
+        EXPECT_EQ(result.exitCode, 2) << arguments.join(' ').toStdString() << '\n' << result.err.toStdString();
+        EXPECT_TRUE(result.out.isEmpty()) << result.out.toStdString();
+        EXPECT_EQ(result.error()["file"].toString(), file) << result.err.toStdString();
+        EXPECT_FALSE(result.error()["reason"].toString().isEmpty()) << result.err.toStdString();
+        EXPECT_TRUE(result.error()["message"].toString().startsWith(file)) << result.err.toStdString();
+        return result.error();
+    }
+    /** The members of an object, sorted and with commas between them. */
+    static std::string keys(const QJsonValue &object) { return object.toObject().keys().join(',').toStdString(); }
+
+    static QString sample(const QString &building)
+    {
+        return QStringLiteral(ORVCAD_TEST_DATA "/buildings/") + building + ".json";
+    }
+    /** Imports a sample building as house.hbxdb. */
+    void importSample(const QString &building)
+    {
+        const Result result = run({"project", "import", sample(building), "-o", "house.hbxdb"});
+        ASSERT_EQ(result.exitCode, 0) << result.err.toStdString();
+    }
+    /** Imports a small building: region "House", floor "Level 1" of code "1", one brick wall along the x axis. */
+    void importSmallHouse()
+    {
+        write("house.json", QByteArray(R"~({"format": "hbx-project", "version": 1, "name": "Small house",
+            "regions": [{"name": "House", "floors": [{"name": "Level 1", "code": "1", "bottomElev": 0, "height": 3,
+            "elements": [{"name": "Q1", "type": 1003, "properties": {"Thickness": 200}, "drawObjects": [
+            {"shape": {"kind": "line", "axis": "LINESTRING(0 0, 5000 0)", "width": 200}}]}]}]}]})~"));
+        ASSERT_EQ(run({"project", "import", "house.json", "-o", "house.hbxdb"}).exitCode, 0);
+    }
+
+    static QJsonObject elementMember(const QString &name, int type = 4)
+    {
+        return {{"elementID", 1},        {"name", name},     {"nElementType", type},
+                {"nSubElementType", 0},  {"nHeight", 2100},  {"nWidth", 900},
+                {"nHeightFromFloor", 0}, {"floorName", "1"}, {"regionName", "House"}};
+    }
+    static QJsonObject placedMember(const QString &name, double x, double y)
+    {
+        return {{"elementName", name},   {"X", x},           {"Y", y},
+                {"nHeightFromFloor", 0}, {"floorName", "1"}, {"regionName", "House"}};
+    }
+    void writeReply(const QJsonArray &members) const
+    {
+        write("reply.json", QJsonObject{{"eDoorWin", QJsonObject{{"ElementsAndEdos", members}}}});
+    }
+
+private:
+    QTemporaryDir m_directory;
+    QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();
+};

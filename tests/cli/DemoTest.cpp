@@ -1,0 +1,104 @@
+#include "CliFixture.h"
+
+#include <QDomDocument>
+
+namespace {
+
+using DemoTest = CliFixture;
+
+TEST_F(DemoTest, tourBringsTheOpeningsBackWithoutDeviations)
+{
+    const Result result = run({"demo", "tour", "--json"});
+    EXPECT_EQ(result.exitCode, 0) << result.err.toStdString();
+    const QJsonObject summary = result.json();
+    EXPECT_EQ(keys(summary), "apply,comparison,directory");
+    EXPECT_EQ(summary["directory"], "tour");
+    // 21 doors and 17 windows, of which 64 and 23 are placed; the file puts each of them into a wall.
+    EXPECT_EQ(summary["apply"], QJsonValue(QJsonObject{{"members", 125},
+                                                       {"elementsMade", 38},
+                                                       {"placed", 87},
+                                                       {"attached", 87},
+                                                       {"unattached", 0},
+                                                       {"leftOut", QJsonArray()}}));
+    EXPECT_EQ(summary["comparison"],
+              QJsonValue(QJsonObject{{"compared", 87}, {"sameDocument", true}, {"deviations", QJsonArray()}}));
+}
+
+TEST_F(DemoTest, tourLeavesItsFiles)
+{
+    ASSERT_EQ(run({"demo", "tour"}).exitCode, 0);
+    EXPECT_EQ(QDir(path("tour")).entryList(QDir::Files, QDir::Name).join(' ').toStdString(),
+              "after.svg before.svg building.hbxdb building.json floors.json openings.json restored.hbxdb");
+    QFile original(sample("masonry-block"));
+    ASSERT_TRUE(original.open(QIODevice::ReadOnly));
+    EXPECT_EQ(read("tour/building.json"), original.readAll());
+}
+
+TEST_F(DemoTest, picturesDifferByTheDoorsAndWindowsOfTheDrawnFloor)
+{
+    ASSERT_EQ(run({"demo", "tour"}).exitCode, 0);
+    QDomDocument before;
+    QDomDocument after;
+    ASSERT_TRUE(before.setContent(read("tour/before.svg")));
+    ASSERT_TRUE(after.setContent(read("tour/after.svg")));
+    EXPECT_FALSE(read("tour/before.svg").contains("class=\"type-4\""));
+    EXPECT_FALSE(read("tour/before.svg").contains("class=\"type-5\""));
+    EXPECT_TRUE(read("tour/after.svg").contains("class=\"type-4\""));
+    EXPECT_TRUE(read("tour/after.svg").contains("class=\"type-5\""));
+}
+
+TEST_F(DemoTest, tourTellsItsStepsAsOneWouldTypeThem)
+{
+    const Result result = run({"demo", "tour"});
+    EXPECT_TRUE(result.out.startsWith("Building: Masonry block (")) << result.out.toStdString();
+    int place = 0;
+    for (const char *step :
+         {"$ orvcad project import building.json -o building.hbxdb\n  1 region, 6 floors, 78 elements, 641 placed "
+          "objects",
+          "$ orvcad floors export building.hbxdb -o floors.json && orvcad floors show floors.json\n"
+          "  6 floors of \"Block\": base none, first Level 1, highest Level 5",
+          "$ orvcad opening export building.hbxdb -o openings.json\n  38 elements and 87 placed openings, 87 of them",
+          "A copy, restored.hbxdb, loses all doors and windows: 38 elements removed",
+          "$ orvcad draw restored.hbxdb --floor \"Level 1\" -o before.svg\n  226 placed objects at 1:",
+          "$ orvcad opening apply restored.hbxdb openings.json\n"
+          "  125 members read: 38 elements made, 87 openings placed (87 in a wall, 0 in none), 0 left out",
+          "$ orvcad draw restored.hbxdb --floor \"Level 1\" -o after.svg\n  266 placed objects at 1:",
+          "Compared with the original: 87 openings, the payload written again is the same but for ids; each in the "
+          "wall",
+          "Everything stands in tour; before.svg and after.svg are the pictures."}) {
+        const int found = result.out.indexOf(step, place);
+        EXPECT_GE(found, place) << step << "\nis missing in\n" << result.out.toStdString();
+        place = std::max(place, found);
+    }
+}
+
+TEST_F(DemoTest, typedStepsDoWhatTheTourDid)
+{
+    ASSERT_EQ(run({"demo", "tour"}).exitCode, 0);
+    EXPECT_EQ(run({"opening", "export", "tour/building.hbxdb"}).out, read("tour/openings.json"));
+    EXPECT_EQ(run({"floors", "export", "tour/building.hbxdb"}).out, read("tour/floors.json"));
+    EXPECT_EQ(run({"draw", "tour/restored.hbxdb", "--floor", "Level 1"}).out, read("tour/after.svg"));
+}
+
+TEST_F(DemoTest, tourMayBeTakenTwiceInOneDirectory)
+{
+    ASSERT_EQ(run({"demo", "tour"}).exitCode, 0);
+    const QByteArray after = read("tour/after.svg");
+    ASSERT_EQ(run({"demo", "tour"}).exitCode, 0);
+    EXPECT_EQ(read("tour/after.svg"), after);
+}
+
+TEST_F(DemoTest, tourGoesIntoItsOwnDirectoryWhenNoneIsNamed)
+{
+    ASSERT_EQ(run({"demo"}).exitCode, 0);
+    EXPECT_TRUE(exists("orvcad-demo/after.svg"));
+}
+
+TEST_F(DemoTest, directoryThatCannotBeMadeIsNamed)
+{
+    write("tour", QByteArray("a file"));
+    refusal({"demo", "tour"}, "tour");
+    EXPECT_EQ(read("tour"), "a file");
+}
+
+} // namespace

@@ -1,0 +1,151 @@
+#include "cli/OpeningReplyCheck.h"
+
+#include "platform/embedded/HBXProject.h"
+#include "platform/host/IHBXDrawObjs.h"
+#include "platform/host/IHBXElements.h"
+#include "platform/host/IHBXModel.h"
+#include "platform/host/IHBXService.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+using hbx::embedded::HBXProject;
+using hbx::embedded::ProjectError;
+using orvcad::OpeningReplyCheck;
+
+namespace {
+
+/** Two regions, each with a floor of code "1"; that of "East" has a door M1 and a wall Q1. */
+class OpeningReplyCheckTest : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        ProjectError error;
+        project = HBXProject::fromJson(R"~({"format": "hbx-project", "version": 1, "name": "Twins", "regions": [
+            {"name": "East", "floors": [{"name": "Ground", "code": "1", "bottomElev": 0, "height": 3, "elements": [
+                {"name": "M1", "type": 4}, {"name": "Q1", "type": 1003}]}]},
+            {"name": "West", "floors": [{"name": "Ground", "code": "1", "bottomElev": 0, "height": 3}]}]})~",
+                                       "twins.json", error);
+        ASSERT_TRUE(project) << error.text().toStdString();
+    }
+    IHBXModel &model() { return *project->service()->model(); }
+
+    static QJsonObject element(const QString &region, const QString &name)
+    {
+        return {{"elementID", 1},        {"name", name},     {"nElementType", 4},
+                {"nSubElementType", 14}, {"nHeight", 2100},  {"nWidth", 900},
+                {"nHeightFromFloor", 0}, {"floorName", "1"}, {"regionName", region}};
+    }
+    static QJsonObject placed(const QString &region, const QString &name)
+    {
+        return {{"elementName", name},   {"X", 1.5},         {"Y", -2},
+                {"nHeightFromFloor", 0}, {"floorName", "1"}, {"regionName", region}};
+    }
+    /** "index: reason" of each member left out. */
+    std::string reasons(const QJsonArray &members)
+    {
+        QStringList lines;
+        for (const auto &leftOut : OpeningReplyCheck(model(), members).leftOut())
+            lines.append(QStringLiteral("%1: %2").arg(leftOut.index).arg(leftOut.reason));
+        return lines.join('\n').toStdString();
+    }
+
+    std::unique_ptr<HBXProject> project;
+};
+
+TEST_F(OpeningReplyCheckTest, soundMembersKeepTheirOrder)
+{
+    const QJsonArray members{element("West", "M1"), 3, placed("West", "M1"), "x", placed("East", "M1")};
+    const OpeningReplyCheck check(model(), members);
+    EXPECT_EQ(check.memberCount(), 5);
+    EXPECT_EQ(check.sound(), (QJsonArray{members[0], members[2], members[4]}));
+    ASSERT_EQ(check.leftOut().size(), 2U);
+    EXPECT_EQ(check.leftOut()[0].index, 1);
+    EXPECT_EQ(check.leftOut()[1].index, 3);
+}
+
+TEST_F(OpeningReplyCheckTest, checkChangesNothing)
+{
+    const int elements = model().elements()->count();
+    const OpeningReplyCheck check(model(), {element("West", "M1"), placed("West", "M1")});
+    EXPECT_EQ(model().elements()->count(), elements);
+    EXPECT_EQ(model().drawObjects()->count(), 0);
+}
+
+TEST_F(OpeningReplyCheckTest, nameIsTakenOnItsOwnFloorOnly)
+{
+    EXPECT_EQ(reasons({element("East", "M1")}),
+              "0: the floor has an element of that name already; it is kept as it is");
+    EXPECT_EQ(reasons({element("West", "M1")}), "");
+}
+
+TEST_F(OpeningReplyCheckTest, placedObjectNeedsTheElementOfItsOwnFloor)
+{
+    EXPECT_EQ(reasons({element("East", "M2"), placed("West", "M2")}),
+              "1: the floor has no element \"M2\", and the reply makes none");
+}
+
+TEST_F(OpeningReplyCheckTest, elementThatTheModelHasMayBePlaced)
+{
+    EXPECT_EQ(reasons({placed("East", "M1")}), "");
+    EXPECT_EQ(reasons({placed("East", "Q1")}), "0: element \"Q1\" is no door or window");
+}
+
+TEST_F(OpeningReplyCheckTest, missingKeysOfASizeAreNoFault)
+{
+    QJsonObject sparse{
+        {"elementID", 1}, {"name", "M2"}, {"nElementType", 4}, {"floorName", "1"}, {"regionName", "West"}};
+    EXPECT_EQ(reasons({sparse}), "");
+}
+
+TEST_F(OpeningReplyCheckTest, everyKeyOfAWrongTypeIsNamed)
+{
+    const QPair<const char *, const char *> ofElements[] = {
+        {"name", "text"},
+        {"nElementType", "a whole number of 32 bits"},
+        {"floorName", "text"},
+        {"nSubElementType", "a whole number of 32 bits"},
+        {"regionName", "text"},
+        {"nHeight", "a whole number of 32 bits"},
+        {"nWidth", "a whole number of 32 bits"},
+        {"nHeightFromFloor", "a whole number of 32 bits"},
+    };
+    for (const auto &key : ofElements) {
+        QJsonObject member = element("West", "M1");
+        member[QLatin1String(key.first)] = QJsonArray();
+        EXPECT_EQ(reasons({member}), std::string("0: ") + key.first + " is not " + key.second);
+    }
+    const QPair<const char *, const char *> ofPlaced[] = {
+        {"elementName", "text"}, {"X", "a number"},
+        {"Y", "a number"},       {"nHeightFromFloor", "a whole number of 32 bits"},
+        {"floorName", "text"},   {"regionName", "text"},
+    };
+    for (const auto &key : ofPlaced) {
+        QJsonObject member = placed("East", "M1");
+        member[QLatin1String(key.first)] = QJsonValue(QJsonValue::Null);
+        EXPECT_EQ(reasons({member}), std::string("0: ") + key.first + " is not " + key.second);
+    }
+}
+
+TEST_F(OpeningReplyCheckTest, numberBeyond32BitsIsNoWholeNumber)
+{
+    QJsonObject member = element("West", "M1");
+    member["nWidth"] = 2147483648.0;
+    EXPECT_EQ(reasons({member}), "0: nWidth is not a whole number of 32 bits");
+    member["nWidth"] = 2147483647.0;
+    EXPECT_EQ(reasons({member}), "");
+}
+
+TEST_F(OpeningReplyCheckTest, leftOutMemberIsToldInWordsAndAsJson)
+{
+    const OpeningReplyCheck check(model(), {element("North", "M1"), 5});
+    ASSERT_EQ(check.leftOut().size(), 2U);
+    EXPECT_EQ(check.leftOut()[0].text(), "member 0 (M1): unknown region \"North\"");
+    EXPECT_EQ(check.leftOut()[1].text(), "member 1 (no name): is no object");
+    EXPECT_EQ(check.leftOut()[0].toJson(),
+              (QJsonObject{{"index", 0}, {"name", "M1"}, {"reason", "unknown region \"North\""}}));
+}
+
+} // namespace

@@ -1,0 +1,45 @@
+"""Holds the schema of drawing files to the documents that their reader is tested with: it passes the accepted ones, and
+refuses each refused one at the places listed under "schema"; one without such a list breaks a rule that no schema can
+state."""
+
+import argparse
+import json
+import pathlib
+import sys
+
+import jsonschema
+
+
+def places_of(validator, document):
+    return sorted({error.json_path for error in validator.iter_errors(document)})
+
+
+def expectations(documents):
+    """Name, document and places of all that is JSON."""
+    for name, document in documents["accepted"].items():
+        yield name, document, []
+    for name, test in documents["refused"].items():
+        if "document" in test:
+            yield name, test["document"], test.get("schema", [])
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__)
+    for name in ("schema", "documents"):
+        parser.add_argument(f"--{name}", type=pathlib.Path, required=True)
+    arguments = parser.parse_args()
+
+    schema = json.loads(arguments.schema.read_text(encoding="utf-8"))
+    jsonschema.Draft202012Validator.check_schema(schema)
+    validator = jsonschema.Draft202012Validator(schema)
+    checks = list(expectations(json.loads(arguments.documents.read_text(encoding="utf-8"))))
+    problems = [f"{name}: refused at {found}, expected {expected}" for name, document, expected in checks
+                if (found := places_of(validator, document)) != expected]
+    if len(checks) < 40:
+        problems.append(f"only {len(checks)} documents found")
+    print("\n".join(problems) or f"{len(checks)} documents")
+    return 1 if problems else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
