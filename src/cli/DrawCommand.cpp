@@ -20,9 +20,8 @@ Summary draw(const Arguments &arguments)
     const QString output = Arguments::text(arguments.output);
     const bool onStdout = writeResult(output, plan.document);
     return {QStringLiteral("Drew %1 of %2 at 1:%3%4")
-                .arg(counted(plan.drawn, QStringLiteral("placed object")), floor.name())
-                .arg(plan.scale)
-                .arg(plan.left ? QStringLiteral("; %1 without geometry").arg(plan.left) : QString()),
+                .arg(counted(plan.drawn, QStringLiteral("placed object")), floor.name(), QString::number(plan.scale),
+                     plan.left ? QStringLiteral("; %1 without geometry").arg(plan.left) : QString()),
             {{"output", output}, {"drawn", plan.drawn}, {"withoutGeometry", plan.left}, {"scale", plan.scale}},
             kDone,
             onStdout};

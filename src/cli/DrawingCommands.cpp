@@ -56,8 +56,8 @@ QString toText(const dwgx::DWGXModel &drawing)
 {
     QStringList lines{QStringLiteral("%1: %2").arg(drawing.getTitle(), countsOf(drawing))};
     for (const dwgx::DWGXLayer &layer : drawing.layers())
-        lines.append(QStringLiteral("  %1 colour %2 %3 lines %4 texts")
-                         .arg(layer.name, -24)
+        lines.append(QStringLiteral("  ") + layer.name.leftJustified(24) +
+                     QStringLiteral(" colour %1 %2 lines %3 texts")
                          .arg(layer.color, 3)
                          .arg(layer.lines.size(), 6)
                          .arg(layer.texts.size(), 6));
@@ -76,7 +76,9 @@ Summary makeDrawing(const Arguments &arguments)
     const QString output = Arguments::text(arguments.output);
     const auto fileOperator = newOperator();
     const QString title = QStringLiteral("%1, %2").arg(region.name(), floor.name());
-    if (!fileOperator->write(output, drawing.get(), title, project->name()))
+    drawing->setTitle(title);
+    drawing->setRemark(project->name());
+    if (!fileOperator->write(output, drawing.get(), QString(), QString()))
         fail(output, *fileOperator);
     QJsonObject json = describe(*drawing);
     json["output"] = output;

@@ -42,27 +42,27 @@ QJsonObject describe(ORVCADFloors &floors)
 
 QString shown(const QJsonValue &name) { return name.isString() ? name.toString() : QStringLiteral("-"); }
 
+QString tableRow(const QString &number, const QString &name, const QString &bottom, const QString &top,
+                 const QString &storeys, const QString &upstairs, const QString &downstairs)
+{
+    const QStringList cells{number.rightJustified(3), QLatin1Char(' ') + name.leftJustified(20), bottom.rightJustified(9),
+                            top.rightJustified(9),    storeys.rightJustified(8), QLatin1Char(' ') + upstairs.leftJustified(16),
+                            QLatin1Char(' ') + downstairs};
+    return cells.join(QLatin1Char(' '));
+}
+
 QString toText(const QJsonObject &description)
 {
     QStringList lines{QStringLiteral("Area %1").arg(description["areaName"].toString())};
-    const QString row = QStringLiteral("%1  %2 %3 %4 %5  %6  %7");
-    lines.append(row.arg(QStringLiteral("no"), 3)
-                     .arg(QStringLiteral("floor"), -20)
-                     .arg(QStringLiteral("bottom m"), 9)
-                     .arg(QStringLiteral("top m"), 9)
-                     .arg(QStringLiteral("storeys"), 8)
-                     .arg(QStringLiteral("upstairs"), -16)
-                     .arg(QStringLiteral("downstairs")));
+    lines.append(tableRow("no", "floor", "bottom m", "top m", "storeys", "upstairs", "downstairs"));
     int number = 0;
     for (const QJsonValue &value : description["floors"].toArray()) {
         const QJsonObject floor = value.toObject();
-        lines.append(row.arg(++number, 3)
-                         .arg(floor["name"].toString(), -20)
-                         .arg(floor["bottomElev"].toDouble(), 9)
-                         .arg(floor["topElev"].toDouble(), 9)
-                         .arg(floor["standardCount"].toInt(), 8)
-                         .arg(shown(floor["upstairs"]), -16)
-                         .arg(shown(floor["downstairs"])));
+        lines.append(tableRow(QString::number(++number), floor["name"].toString(),
+                              QString::number(floor["bottomElev"].toDouble()),
+                              QString::number(floor["topElev"].toDouble()),
+                              QString::number(floor["standardCount"].toInt()), shown(floor["upstairs"]),
+                              shown(floor["downstairs"])));
     }
     lines.append(QStringLiteral("base %1, first %2, highest %3, lowest %4")
                      .arg(shown(description["base"]), shown(description["first"]), shown(description["highest"]),

@@ -46,7 +46,7 @@ QString wallOf(const IHBXElementDrawObj &opening)
     wall->element()->name(name);
     QList<IHBXElementDrawObj *> pieces;
     wall->element()->drawObjs(pieces, 0);
-    return QStringLiteral("wall %1, piece %2").arg(name).arg(pieces.indexOf(wall));
+    return QStringLiteral("wall %1, piece %2").arg(name, QString::number(pieces.indexOf(wall)));
 }
 
 std::vector<IHBXElementDrawObj *> allOpenings(const HBXProject &project)

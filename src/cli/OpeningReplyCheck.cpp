@@ -180,9 +180,11 @@ QString OpeningReplyCheck::whyNotPlaced(int index, const QJsonObject &member) co
         return isOpening(element->type()) ? QString() : QStringLiteral("element \"%1\" is no door or window").arg(name);
     const int elementPlace = m_elementPlaces.value(place, -1);
     if (elementPlace > index)
-        return QStringLiteral("its element \"%1\" stands behind it, as member %2").arg(name).arg(elementPlace);
+        return QStringLiteral("its element \"%1\" stands behind it, as member %2")
+            .arg(name, QString::number(elementPlace));
     if (elementPlace >= 0)
-        return QStringLiteral("its element \"%1\", member %2, was left out").arg(name).arg(elementPlace);
+        return QStringLiteral("its element \"%1\", member %2, was left out")
+            .arg(name, QString::number(elementPlace));
     return QStringLiteral("the floor has no element \"%1\", and the reply makes none").arg(name);
 }
 

@@ -14,6 +14,7 @@ constexpr double kWidePerHeight = 1.45;  // the same of a wide (Chinese) charact
 constexpr double kMargin = 1.15;         // room that a text asks for, in parts of its size
 constexpr double kUpright = 1e-9;        // rad; below this a direction counts as upright
 constexpr double kFilled = 0.75;         // an outline that fills less of its rectangle keeps nothing free
+constexpr int kPointsPerCurve = 8;       // enough for a full circle to be as wide as high
 constexpr int kFirstWide = 0x2E80;       // Chinese and Japanese characters stand from here on
 
 /** Where a name is tried, in parts of the way from the middle of the room to its ends; the middle first. */
@@ -79,8 +80,10 @@ PlanLabels::Frame PlanLabels::frameOf(const vks::CPolygon &outline)
     frame.along = longestDirection(curves);
     vks::CBox2<double> turned;
     for (const vks::CCurve2d *curve : curves)
-        for (const Point &point : {curve->StartPoint(), curve->MidPoint()})
+        for (int i = 0; i < kPointsPerCurve; ++i) {
+            const Point point = curve->GetPoint(curve->StartT() + curve->Length() * i / kPointsPerCurve);
             turned.Add(Point(point.Dot(frame.along), point.Dot(frame.along.Left())));
+        }
     if (turned.IsValid()) {
         frame.centre = frame.along * turned.Center().x + frame.along.Left() * turned.Center().y;
         frame.halfLength = turned.Width() / 2;

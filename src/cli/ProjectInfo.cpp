@@ -102,9 +102,7 @@ QJsonObject floorToJson(const ProjectInfo::Floor &floor)
 void appendFloorLines(const ProjectInfo::Floor &floor, QStringList &lines)
 {
     lines.append(QStringLiteral("  %1 (code %2): bottom %3 m, height %4 m")
-                     .arg(floor.name, floor.code)
-                     .arg(floor.bottomElev)
-                     .arg(floor.height));
+                     .arg(floor.name, floor.code, QString::number(floor.bottomElev), QString::number(floor.height)));
     for (auto type = floor.types.cbegin(); type != floor.types.cend(); ++type)
         lines.append(QStringLiteral("    %1 %2 elements %3 placed")
                          .arg(QStringLiteral("%1 (%2)").arg(typeTitle(type.key())).arg(type.key()), -26)

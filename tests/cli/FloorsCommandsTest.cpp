@@ -177,8 +177,8 @@ TEST_F(FloorsCommandsTest, documentThatIsNoFloorsDocumentIsRefusedWithItsPlace)
         {R"({"AreaName": "A"})", "", "no floors document: AreaName or Floors is missing"},
         {R"({"Floors": []})", "", "no floors document: AreaName or Floors is missing"},
         {R"({"AreaName": "A", "Floors": {}})", "Floors", "is no array"},
-        {"no json", "line 1, column 1", "not JSON: illegal value"},
-        {"{\n  \"AreaName\": \"A\",\n  \"Floors\": [x]\n}", "line 3, column 14", "not JSON: illegal value"},
+        {"{\n  \"AreaName\" \"A\"\n}", "line 2, column 15", "not JSON: missing name separator"},
+        {"{\n  \"AreaName\": \"A\",\n  \"Floors\": [x]\n}", "line 3, column 14", "not JSON: illegal number"},
     };
     for (const Case &broken : cases) {
         write("floors.json", broken.document);

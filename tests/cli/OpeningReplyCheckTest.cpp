@@ -46,8 +46,9 @@ protected:
     /** "index: reason" of each member left out. */
     std::string reasons(const QJsonArray &members)
     {
+        const OpeningReplyCheck check(model(), members);
         QStringList lines;
-        for (const auto &leftOut : OpeningReplyCheck(model(), members).leftOut())
+        for (const auto &leftOut : check.leftOut())
             lines.append(QStringLiteral("%1: %2").arg(leftOut.index).arg(leftOut.reason));
         return lines.join('\n').toStdString();
     }

@@ -317,6 +317,9 @@ TEST_F(ProjectCommandsTest, chineseNamesOfFilesAndRegionsWorkInAPlainLocale)
     EXPECT_TRUE(exists("演示/after.svg"));
 }
 
+class RepeatedImportTest : public ProjectCommandsTest, public ::testing::WithParamInterface<const char *>
+{};
+
 class ProjectRoundTripTest : public ProjectCommandsTest, public ::testing::WithParamInterface<const char *>
 {
 protected:
@@ -324,6 +327,13 @@ protected:
     {
         return value == QJsonValue(0) || value == QJsonValue(false) || value == QJsonValue("") ||
                value == QJsonValue(QJsonArray()) || value == QJsonValue(QJsonObject());
+    }
+    /** The file imported: rings of a polygon may have a space between them there, which the kernel never writes. */
+    static QJsonObject original(const QString &building)
+    {
+        QFile file(sample(building));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return QJsonDocument::fromJson(file.readAll().replace("), ", "),")).object();
     }
     /** What stands for an absent member. */
     static QJsonValue startValue(const QString &member)
@@ -340,7 +350,9 @@ protected:
         if (a.isObject() && b.isObject()) {
             const QJsonObject left = a.toObject();
             const QJsonObject right = b.toObject();
-            for (const QString &member : (left.keys() + right.keys()).toSet())
+            QStringList members = left.keys() + right.keys();
+            members.removeDuplicates();
+            for (const QString &member : members)
                 if (left.contains(member) && right.contains(member))
                     differences(place + '.' + member, left[member], right[member], places);
                 else if (!mayBeAbsent(member, left.contains(member) ? left[member] : right[member]))
@@ -358,14 +370,12 @@ TEST_P(ProjectRoundTripTest, exportEqualsWhatWasImportedMemberByMember)
 {
     importSample(GetParam());
     ASSERT_EQ(run({"project", "export", "house.hbxdb", "-o", "out.json"}).exitCode, 0);
-    QFile original(sample(GetParam()));
-    ASSERT_TRUE(original.open(QIODevice::ReadOnly));
     QStringList places;
-    differences("", QJsonDocument::fromJson(original.readAll()).object(), readJson("out.json").object(), places);
+    differences("", original(GetParam()), readJson("out.json").object(), places);
     EXPECT_EQ(places.join('\n').toStdString(), "");
 }
 
-TEST_P(ProjectRoundTripTest, whatWasExportedImportsAndExportsTheSameBytes)
+TEST_P(RepeatedImportTest, whatWasExportedImportsAndExportsTheSameBytes)
 {
     importSample(GetParam());
     ASSERT_EQ(run({"project", "export", "house.hbxdb", "-o", "once.json"}).exitCode, 0);
@@ -374,8 +384,17 @@ TEST_P(ProjectRoundTripTest, whatWasExportedImportsAndExportsTheSameBytes)
     EXPECT_EQ(read("twice.json"), read("once.json"));
 }
 
+std::string nameOfCase(const ::testing::TestParamInfo<const char *> &building)
+{
+    return QString(building.param).remove('-').toStdString();
+}
+
+// The made building has orders of creation with gaps, which an export closes; what the writer does with them is tested
+// where the writer is.
 INSTANTIATE_TEST_SUITE_P(Buildings, ProjectRoundTripTest,
+                         ::testing::Values("duplex-apartment", "masonry-block", "precast-hall"), nameOfCase);
+INSTANTIATE_TEST_SUITE_P(Buildings, RepeatedImportTest,
                          ::testing::Values("duplex-apartment", "masonry-block", "precast-hall", "made-building"),
-                         [](const auto &building) { return QString(building.param).remove('-').toStdString(); });
+                         nameOfCase);
 
 } // namespace

@@ -20,7 +20,7 @@ void CLine2d::assign(const CVec2<double> &start, const CVec2<double> &end)
     m_start = start;
     m_end = end;
     m_length = start.DistanceTo(end);
-    resetRange(m_length, m_length > 0.0 ? std::numeric_limits<double>::max() : 0.0);
+    resetRange(m_length, m_length > 0.0 ? std::numeric_limits<double>::infinity() : 0.0);
 }
 
 CRefPtr<CCurve2d> CLine2d::Clone() const { return new CLine2d(*this); }
