@@ -24,6 +24,7 @@ function(orvcad_add_tests name)
     set(work ${PROJECT_BINARY_DIR}/tests/work/${name})
     file(MAKE_DIRECTORY ${work})
     gtest_discover_tests(${program}
+        NO_PRETTY_VALUES
         DISCOVERY_MODE PRE_TEST
         DISCOVERY_TIMEOUT 60
         WORKING_DIRECTORY ${work}

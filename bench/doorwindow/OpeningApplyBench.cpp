@@ -33,12 +33,22 @@ QByteArray replyText(int members)
     for (int i = 0; i < members; ++i) {
         if (i % 10 == 0) {
             name = QStringLiteral("M%1").arg(i);
-            array.append(QJsonObject{{"elementID", i}, {"name", name}, {"nElementType", 4}, {"nSubElementType", 14},
-                                     {"nHeight", 2100}, {"nWidth", 900}, {"nHeightFromFloor", 0}, {"floorName", "1"},
+            array.append(QJsonObject{{"elementID", i},
+                                     {"name", name},
+                                     {"nElementType", 4},
+                                     {"nSubElementType", 14},
+                                     {"nHeight", 2100},
+                                     {"nWidth", 900},
+                                     {"nHeightFromFloor", 0},
+                                     {"floorName", "1"},
                                      {"regionName", "Block"}});
         } else {
-            array.append(QJsonObject{{"elementName", name}, {"X", 55000.0 + i % 1000 * 20}, {"Y", -35000.0 + i / 1000 * 3000},
-                                     {"nHeightFromFloor", 0}, {"floorName", "1"}, {"regionName", "Block"}});
+            array.append(QJsonObject{{"elementName", name},
+                                     {"X", 55000.0 + i % 1000 * 20},
+                                     {"Y", -35000.0 + i / 1000 * 3000},
+                                     {"nHeightFromFloor", 0},
+                                     {"floorName", "1"},
+                                     {"regionName", "Block"}});
         }
     }
     return QJsonDocument(QJsonObject{{"eDoorWin", QJsonObject{{"ElementsAndEdos", array}}}}).toJson();

@@ -45,8 +45,9 @@ QString shown(const QJsonValue &name) { return name.isString() ? name.toString()
 QString tableRow(const QString &number, const QString &name, const QString &bottom, const QString &top,
                  const QString &storeys, const QString &upstairs, const QString &downstairs)
 {
-    const QStringList cells{number.rightJustified(3), QLatin1Char(' ') + name.leftJustified(20), bottom.rightJustified(9),
-                            top.rightJustified(9),    storeys.rightJustified(8), QLatin1Char(' ') + upstairs.leftJustified(16),
+    const QStringList cells{number.rightJustified(3),     QLatin1Char(' ') + name.leftJustified(20),
+                            bottom.rightJustified(9),     top.rightJustified(9),
+                            storeys.rightJustified(8),    QLatin1Char(' ') + upstairs.leftJustified(16),
                             QLatin1Char(' ') + downstairs};
     return cells.join(QLatin1Char(' '));
 }
@@ -58,11 +59,10 @@ QString toText(const QJsonObject &description)
     int number = 0;
     for (const QJsonValue &value : description["floors"].toArray()) {
         const QJsonObject floor = value.toObject();
-        lines.append(tableRow(QString::number(++number), floor["name"].toString(),
-                              QString::number(floor["bottomElev"].toDouble()),
-                              QString::number(floor["topElev"].toDouble()),
-                              QString::number(floor["standardCount"].toInt()), shown(floor["upstairs"]),
-                              shown(floor["downstairs"])));
+        lines.append(tableRow(
+            QString::number(++number), floor["name"].toString(), QString::number(floor["bottomElev"].toDouble()),
+            QString::number(floor["topElev"].toDouble()), QString::number(floor["standardCount"].toInt()),
+            shown(floor["upstairs"]), shown(floor["downstairs"])));
     }
     lines.append(QStringLiteral("base %1, first %2, highest %3, lowest %4")
                      .arg(shown(description["base"]), shown(description["first"]), shown(description["highest"]),

@@ -183,8 +183,7 @@ QString OpeningReplyCheck::whyNotPlaced(int index, const QJsonObject &member) co
         return QStringLiteral("its element \"%1\" stands behind it, as member %2")
             .arg(name, QString::number(elementPlace));
     if (elementPlace >= 0)
-        return QStringLiteral("its element \"%1\", member %2, was left out")
-            .arg(name, QString::number(elementPlace));
+        return QStringLiteral("its element \"%1\", member %2, was left out").arg(name, QString::number(elementPlace));
     return QStringLiteral("the floor has no element \"%1\", and the reply makes none").arg(name);
 }
 

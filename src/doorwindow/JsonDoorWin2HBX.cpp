@@ -29,10 +29,10 @@ using namespace doorwindow;
 
 namespace {
 
-constexpr double kWallSearchHalfSize = 5.0;                              // mm, half the box about an opening's point
+constexpr double kWallSearchHalfSize = 5.0; // mm, half the box about an opening's point
 constexpr double kOverlapTolerance = std::numeric_limits<double>::epsilon(); // mm, boxes this far apart still touch
-constexpr double kBoxValidityTolerance = 1e-12;                          // mm, a box may be this much inside out
-constexpr double kRoundsFrom = 0.4;                                      // smallest amount that roundHalf rounds
+constexpr double kBoxValidityTolerance = 1e-12;                              // mm, a box may be this much inside out
+constexpr double kRoundsFrom = 0.4;                                          // smallest amount that roundHalf rounds
 
 struct SubTypeOfType
 {

@@ -16,10 +16,10 @@ using encoding::field;
 struct ORVCADWinDoorEdoStruct::Fields
 {
     using Record = ORVCADWinDoorEdoStruct;
-    static constexpr auto table = std::make_tuple(
-        field(key::elementName, &Record::elementName), field(key::x, &Record::x), field(key::y, &Record::y),
-        field(key::heightFromFloor, &Record::aboveFloorHeight), field(key::floorName, &Record::floorName),
-        field(key::regionName, &Record::regionName));
+    static constexpr auto table =
+        std::make_tuple(field(key::elementName, &Record::elementName), field(key::x, &Record::x),
+                        field(key::y, &Record::y), field(key::heightFromFloor, &Record::aboveFloorHeight),
+                        field(key::floorName, &Record::floorName), field(key::regionName, &Record::regionName));
 };
 
 namespace {

@@ -24,9 +24,9 @@ struct ORVCADMODELDATA_EXPORT ORVCADWinDoorElementStruct
     int aboveFloorHeight = 0; ///< of the opening's lower edge above the floor
     int elementType = 0;      ///< 4, 5, 6 or 7
     int elementSubType = 0;
-    QString floorName;        ///< the floor's code, which walls call "floorCode"
+    QString floorName; ///< the floor's code, which walls call "floorCode"
     QString regionName;
-    qint64 elementID = 0;     ///< of the host; its presence in JSON is what tells an element from a placed object
+    qint64 elementID = 0; ///< of the host; its presence in JSON is what tells an element from a placed object
 
 private:
     struct Fields; // the one list, in the source

@@ -28,7 +28,4 @@ ORVCADWindoorDataInputModel *createWindowCloudIdentifyPar(IHBXService * /*servic
     return new ORVCADWindoorDataInputModel;
 }
 
-void freeWindowCloudIdentifyPar(ORVCADWindoorDataInputModel *model)
-{
-    delete model;
-}
+void freeWindowCloudIdentifyPar(ORVCADWindoorDataInputModel *model) { delete model; }

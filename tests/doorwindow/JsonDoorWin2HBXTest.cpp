@@ -109,8 +109,7 @@ struct DivideCase
     int divide;
 };
 class JsonDoorWin2HBXDivideTest : public OpeningFixture, public ::testing::WithParamInterface<DivideCase>
-{
-};
+{};
 
 TEST_P(JsonDoorWin2HBXDivideTest, divideOfACombinedOpeningMovesToTheMiddleWhenTheOpeningIsNotGreater)
 {
@@ -119,8 +118,7 @@ TEST_P(JsonDoorWin2HBXDivideTest, divideOfACombinedOpeningMovesToTheMiddleWhenTh
     IHBXElement *element = find("MC1");
     ASSERT_TRUE(element);
     EXPECT_EQ(divideAfterSize(*element, L"WinDoorWidth", GetParam().size), GetParam().divide);
-    EXPECT_EQ(divideAfterSize(*element, L"WindDoorFloorHeight", GetParam().size),
-              GetParam().divide);
+    EXPECT_EQ(divideAfterSize(*element, L"WindDoorFloorHeight", GetParam().size), GetParam().divide);
     EXPECT_EQ(element->properties()->asInt(L"OpeningWidth"), GetParam().size);
     EXPECT_EQ(element->properties()->asInt(L"OpeningHeight"), GetParam().size);
 }
@@ -159,7 +157,8 @@ TEST_F(JsonDoorWin2HBXTest, floorIsFoundByItsCodeAndNotByItsName)
 TEST_F(JsonDoorWin2HBXTest, refusedNameEndsThatMemberOnlyAndWhatWasMadeStays)
 {
     load();
-    jsonDoorWin2HBX(service(), reply({elementMember(4, "M1", 900), elementMember(4, "M1", 700), elementMember(4, "M2")}));
+    jsonDoorWin2HBX(service(),
+                    reply({elementMember(4, "M1", 900), elementMember(4, "M1", 700), elementMember(4, "M2")}));
     EXPECT_EQ(service()->model()->elements()->count(), 3); // the second one has the name that the host gave it
     EXPECT_EQ(find("M1")->properties()->asInt(L"OpeningWidth"), 900);
     EXPECT_TRUE(find("M2"));
@@ -258,8 +257,7 @@ struct WallTypeCase
     bool searched;
 };
 class JsonDoorWin2HBXWallTypeTest : public OpeningFixture, public ::testing::WithParamInterface<WallTypeCase>
-{
-};
+{};
 
 TEST_P(JsonDoorWin2HBXWallTypeTest, onlyWallsOfTypes1003And1001And0AreSearched)
 {
@@ -325,9 +323,9 @@ TEST_F(JsonDoorWin2HBXTest, divideOfACombinedOpeningIsWrittenAheadOfItsSize)
     IHBXElement *element = host.service()->model()->elements()->at(0);
     element->properties()->setInt(L"WinDoorWidth", 600, false);
     doorwindow::setOpeningSize(*element, 501, 1200);
-    EXPECT_EQ(host.calls().mid(1), (QStringList{R"(setInt("WinDoorWidth", 251, false))",
-                                                R"(setInt("OpeningWidth", 501, false))",
-                                                R"(setInt("OpeningHeight", 1200, false))"}));
+    EXPECT_EQ(host.calls().mid(1),
+              (QStringList{R"(setInt("WinDoorWidth", 251, false))", R"(setInt("OpeningWidth", 501, false))",
+                           R"(setInt("OpeningHeight", 1200, false))"}));
 }
 
 TEST_F(JsonDoorWin2HBXTest, tenThousandMembersWithBrokenOnesPlaceEverySoundOne)
@@ -352,8 +350,7 @@ struct RoundCase
     double rounded;
 };
 class RoundHalfTest : public ::testing::TestWithParam<RoundCase>
-{
-};
+{};
 
 TEST_P(RoundHalfTest, roundsHalvesAwayFromZeroFromFourTenthsOn)
 {

@@ -78,7 +78,7 @@ TEST_F(ORVCADWinDoorEdoStructTest, writesSixKeysWithPlaceAsNumbers)
     record.aboveFloorHeight = 120;
     record.floorName = "2";
     record.regionName = "House";
-    const QJsonObject expected{{"X", 1234567.891},          {"Y", -0.5},        {"elementName", "M1"},
+    const QJsonObject expected{{"X", 1234567.891},        {"Y", -0.5},        {"elementName", "M1"},
                                {"nHeightFromFloor", 120}, {"floorName", "2"}, {"regionName", "House"}};
     EXPECT_EQ(record.toJson(), expected);
     EXPECT_EQ(ORVCADWinDoorEdoStruct::fromJson(expected).toJson(), expected);

@@ -48,9 +48,9 @@ ORVCADWinDoorElementStruct sample()
 
 TEST_F(ORVCADWinDoorElementStructTest, writesNineKeys)
 {
-    const QJsonObject expected{{"elementID", 9007199254740992.0}, {"name", "M1"},        {"nElementType", 4},
-                               {"nSubElementType", 14},           {"nHeight", 2100},     {"nWidth", 900},
-                               {"nHeightFromFloor", 50},          {"floorName", "-1"},   {"regionName", "House"}};
+    const QJsonObject expected{{"elementID", 9007199254740992.0}, {"name", "M1"},      {"nElementType", 4},
+                               {"nSubElementType", 14},           {"nHeight", 2100},   {"nWidth", 900},
+                               {"nHeightFromFloor", 50},          {"floorName", "-1"}, {"regionName", "House"}};
     EXPECT_EQ(sample().toJson(), expected);
 }
 

@@ -34,10 +34,7 @@ TEST_F(ORVCADWindoorDataInputModelTest, makingAModelAsksTheServiceForNothing)
     freeWindowCloudIdentifyPar(model);
 }
 
-TEST_F(ORVCADWindoorDataInputModelTest, freeingNullIsAllowed)
-{
-    freeWindowCloudIdentifyPar(nullptr);
-}
+TEST_F(ORVCADWindoorDataInputModelTest, freeingNullIsAllowed) { freeWindowCloudIdentifyPar(nullptr); }
 
 TEST_F(ORVCADWindoorDataInputModelTest, optionsComeFromTheGroupOfWallOpeningsOnly)
 {
@@ -49,7 +46,8 @@ TEST_F(ORVCADWindoorDataInputModelTest, optionsComeFromTheGroupOfWallOpeningsOnl
 
 TEST_F(ORVCADWindoorDataInputModelTest, optionThatStandsTwiceKeepsItsFirstValue)
 {
-    load({}, "[" + option(ptnWallHolesSetting, "width", "900") + "," + option(ptnWallHolesSetting, "width", "700") + "]");
+    load({},
+         "[" + option(ptnWallHolesSetting, "width", "900") + "," + option(ptnWallHolesSetting, "width", "700") + "]");
     ORVCADWindoorDataInputModel model;
     model.parseIdentifyOption(service());
     EXPECT_EQ(model.identifyOptions.value("width"), "900");

@@ -37,8 +37,8 @@ protected:
     {
         return R"({"name": ")" + name + R"(", "type": )" + QByteArray::number(type) +
                R"(, "properties": {"Thickness": )" + QByteArray::number(width) +
-               R"(}, "drawObjects": [{"shape": {"kind": "line", "axis": "LINESTRING()" + axis + ")\", \"width\": " +
-               QByteArray::number(width) + "}}]}";
+               R"(}, "drawObjects": [{"shape": {"kind": "line", "axis": "LINESTRING()" + axis +
+               ")\", \"width\": " + QByteArray::number(width) + "}}]}";
     }
 
     void load(const QByteArray &elements = QByteArray(), const QByteArray &options = "[]")
@@ -63,14 +63,14 @@ protected:
 
     static QJsonObject elementMember(int type, const QString &name, int width = 900, int height = 2100, int above = 0)
     {
-        return {{"elementID", 7},       {"name", name},         {"nElementType", type},
-                {"nSubElementType", 9}, {"nHeight", height},    {"nWidth", width},
-                {"nHeightFromFloor", above}, {"floorName", "1"}, {"regionName", "House"}};
+        return {{"elementID", 7},       {"name", name},    {"nElementType", type},      {"nSubElementType", 9},
+                {"nHeight", height},    {"nWidth", width}, {"nHeightFromFloor", above}, {"floorName", "1"},
+                {"regionName", "House"}};
     }
     static QJsonObject placedMember(const QString &elementName, double x, double y, int above = 0)
     {
-        return {{"elementName", elementName}, {"X", x}, {"Y", y}, {"nHeightFromFloor", above},
-                {"floorName", "1"}, {"regionName", "House"}};
+        return {{"elementName", elementName}, {"X", x},           {"Y", y},
+                {"nHeightFromFloor", above},  {"floorName", "1"}, {"regionName", "House"}};
     }
     static QJsonObject reply(const QJsonArray &members)
     {

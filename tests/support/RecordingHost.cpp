@@ -22,15 +22,9 @@ namespace {
 
 using State = RecordingHost::State;
 
-QString quoted(const QString &text)
-{
-    return '"' + text + '"';
-}
+QString quoted(const QString &text) { return '"' + text + '"'; }
 
-QString quoted(const std::wstring &text)
-{
-    return quoted(QString::fromStdWString(text));
-}
+QString quoted(const std::wstring &text) { return quoted(QString::fromStdWString(text)); }
 
 QString nameOf(IHBXFloor *floor)
 {
@@ -69,8 +63,7 @@ IHBXElement *wrap(State &state, IHBXElement *real);
 IHBXElementDrawObj *wrap(State &state, IHBXElementDrawObj *real);
 IHBXProperties *wrap(State &state, IHBXProperties *real);
 
-template <typename Object>
-QList<Object *> &wrapAll(State &state, QList<Object *> &objects)
+template <typename Object> QList<Object *> &wrapAll(State &state, QList<Object *> &objects)
 {
     for (Object *&object : objects)
         object = wrap(state, object);
@@ -356,8 +349,8 @@ public:
         m_real.addDrawObj(RecordingDrawObj::realOf(drawObj));
     }
     IHBXElementDrawObj *drawObjById(qint64 id) override { return wrap(m_state, m_real.drawObjById(id)); }
-    void queryDrawObjs(QList<IHBXElementDrawObj *> &out, const QSet<qint64> &floorIds,
-                       const QSet<qint64> &elementTypes, bool on) override
+    void queryDrawObjs(QList<IHBXElementDrawObj *> &out, const QSet<qint64> &floorIds, const QSet<qint64> &elementTypes,
+                       bool on) override
     {
         called("queryDrawObjs", listed(floorIds), listed(elementTypes), on);
         m_real.queryDrawObjs(out, floorIds, elementTypes, on);
@@ -430,26 +423,11 @@ public:
     qint64 unnamedSetting() override { return m_real.unnamedSetting(); }
 };
 
-IHBXRegion *wrap(State &state, IHBXRegion *real)
-{
-    return state.wrapped<RecordingRegion>(real);
-}
-IHBXFloor *wrap(State &state, IHBXFloor *real)
-{
-    return state.wrapped<RecordingFloor>(real);
-}
-IHBXElement *wrap(State &state, IHBXElement *real)
-{
-    return state.wrapped<RecordingElement>(real);
-}
-IHBXElementDrawObj *wrap(State &state, IHBXElementDrawObj *real)
-{
-    return state.wrapped<RecordingDrawObj>(real);
-}
-IHBXProperties *wrap(State &state, IHBXProperties *real)
-{
-    return state.wrapped<RecordingProperties>(real);
-}
+IHBXRegion *wrap(State &state, IHBXRegion *real) { return state.wrapped<RecordingRegion>(real); }
+IHBXFloor *wrap(State &state, IHBXFloor *real) { return state.wrapped<RecordingFloor>(real); }
+IHBXElement *wrap(State &state, IHBXElement *real) { return state.wrapped<RecordingElement>(real); }
+IHBXElementDrawObj *wrap(State &state, IHBXElementDrawObj *real) { return state.wrapped<RecordingDrawObj>(real); }
+IHBXProperties *wrap(State &state, IHBXProperties *real) { return state.wrapped<RecordingProperties>(real); }
 
 } // namespace
 
@@ -460,17 +438,8 @@ RecordingHost::RecordingHost(IHBXService &host) : m_state(std::make_unique<State
 
 RecordingHost::~RecordingHost() = default;
 
-IHBXService *RecordingHost::service() const
-{
-    return m_state->service.get();
-}
+IHBXService *RecordingHost::service() const { return m_state->service.get(); }
 
-const QStringList &RecordingHost::calls() const
-{
-    return m_state->calls;
-}
+const QStringList &RecordingHost::calls() const { return m_state->calls; }
 
-void RecordingHost::beforeCall(std::function<void(const QString &)> hook)
-{
-    m_state->beforeCall = std::move(hook);
-}
+void RecordingHost::beforeCall(std::function<void(const QString &)> hook) { m_state->beforeCall = std::move(hook); }

@@ -14,8 +14,7 @@ namespace {
 using vks::CRefPtr;
 
 /** What every kind of shape forwards. */
-template <typename Kind>
-class RecordingShape : public Recording<Kind>
+template <typename Kind> class RecordingShape : public Recording<Kind>
 {
 public:
     using Recording<Kind>::Recording;
@@ -64,8 +63,7 @@ public:
     double distanceToLeft() const override { return m_real.distanceToLeft(); }
 };
 
-template <typename Kind>
-class RecordingPointSolid : public RecordingShape<Kind>
+template <typename Kind> class RecordingPointSolid : public RecordingShape<Kind>
 {
 public:
     using RecordingShape<Kind>::RecordingShape;
@@ -93,8 +91,7 @@ public:
     }
 };
 
-template <typename Kind>
-class RecordingOutlined : public RecordingShape<Kind>
+template <typename Kind> class RecordingOutlined : public RecordingShape<Kind>
 {
 public:
     using RecordingShape<Kind>::RecordingShape;
@@ -104,8 +101,7 @@ public:
     }
 };
 
-template <typename Kind>
-class RecordingFace : public RecordingOutlined<Kind>
+template <typename Kind> class RecordingFace : public RecordingOutlined<Kind>
 {
 public:
     using RecordingOutlined<Kind>::RecordingOutlined;
@@ -136,8 +132,7 @@ public:
 };
 
 /** The wrapper if the shape is of that kind, else null. */
-template <typename Wrapper, typename Kind>
-IHBXShape *asKind(RecordingHost::State &state, IHBXShape *real)
+template <typename Wrapper, typename Kind> IHBXShape *asKind(RecordingHost::State &state, IHBXShape *real)
 {
     return state.wrapped<Wrapper>(dynamic_cast<Kind *>(real));
 }

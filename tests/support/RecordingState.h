@@ -17,8 +17,7 @@ struct RecordingHost::State
     std::function<void(const QString &)> beforeCall;
 
     /** The wrapper of an object, made at the first asking; null for null. */
-    template <typename Wrapper, typename Real>
-    Wrapper *wrapped(Real *real)
+    template <typename Wrapper, typename Real> Wrapper *wrapped(Real *real)
     {
         if (!real)
             return nullptr;
@@ -40,8 +39,7 @@ private:
 };
 
 /** Base of the wrappers: keeps the real object and writes calls down. */
-template <typename Interface>
-class Recording : public Interface
+template <typename Interface> class Recording : public Interface
 {
 public:
     Recording(RecordingHost::State &state, Interface &real) : m_state(state), m_real(real) {}
@@ -54,11 +52,10 @@ public:
     }
 
 protected:
-    template <typename... Arguments>
-    void called(const char *operation, const Arguments &...arguments) const
+    template <typename... Arguments> void called(const char *operation, const Arguments &...arguments) const
     {
-        m_state.record(QString::fromLatin1(operation) + '(' + QStringList{text(arguments)...}.join(QStringLiteral(", ")) +
-                       ')');
+        m_state.record(QString::fromLatin1(operation) + '(' +
+                       QStringList{text(arguments)...}.join(QStringLiteral(", ")) + ')');
     }
 
     RecordingHost::State &m_state;
@@ -74,7 +71,8 @@ private:
 
 inline QString textOf(const vks::CVec2<double> *point)
 {
-    return point ? QStringLiteral("(%1, %2)").arg(point->x, 0, 'g', 15).arg(point->y, 0, 'g', 15) : QStringLiteral("null");
+    return point ? QStringLiteral("(%1, %2)").arg(point->x, 0, 'g', 15).arg(point->y, 0, 'g', 15)
+                 : QStringLiteral("null");
 }
 
 inline QString textOf(const vks::CGeometry *geometry)

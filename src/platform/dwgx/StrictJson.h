@@ -13,11 +13,7 @@
 namespace dwgx {
 
 /** A key as a constant. QLatin1String by itself counts its characters at run time. */
-template <int Size>
-constexpr QLatin1String jsonKey(const char (&text)[Size])
-{
-    return QLatin1String(text, Size - 1);
-}
+template <int Size> constexpr QLatin1String jsonKey(const char (&text)[Size]) { return QLatin1String(text, Size - 1); }
 
 struct JsonRefusal
 {

@@ -31,16 +31,16 @@ using PropertyRecords = std::vector<std::pair<QString, PropertyValue>>;
 struct ShapeRecord
 {
     IHBXShape::Kind kind = IHBXShape::kPoint;
-    vks::CRefPtr<vks::CPolygon> outline;            ///< face, point, section, plan area, grid; null: never set
-    vks::CRefPtr<vks::CCurve2d> curve;              ///< line solid's axis, plan line; null: never set
-    double width = 0.0;                             ///< line
-    std::optional<double> distanceToLeft;           ///< line; absent: half the width
-    double height = 0.0;                            ///< face, signed
-    vks::CVec2<double> insertPoint;                 ///< point, section
-    double angle = 0.0;                             ///< point, section
-    bool mirror = false;                            ///< point, section
+    vks::CRefPtr<vks::CPolygon> outline;  ///< face, point, section, plan area, grid; null: never set
+    vks::CRefPtr<vks::CCurve2d> curve;    ///< line solid's axis, plan line; null: never set
+    double width = 0.0;                   ///< line
+    std::optional<double> distanceToLeft; ///< line; absent: half the width
+    double height = 0.0;                  ///< face, signed
+    vks::CVec2<double> insertPoint;       ///< point, section
+    double angle = 0.0;                   ///< point, section
+    bool mirror = false;                  ///< point, section
     std::array<std::vector<HBXAxis>, IHBXAxisGrid::kGroupCount> axes; ///< grid
-    std::optional<vks::CCoord3<double>> coordinates; ///< absent: the world
+    std::optional<vks::CCoord3<double>> coordinates;                  ///< absent: the world
 };
 
 struct SectionRecord
@@ -57,14 +57,14 @@ struct DrawObjRecord
     qint64 subType = 0;
     ShapeRecord shape;
     PropertyRecords properties;
-    qint64 next = 0;        ///< next object of the chain, 0 none
-    qint64 owner = 0;       ///< of a child: the object of the owning element, 0 none
-    qint64 attachedTo = 0;  ///< wall of an opening, slab of a hole; 0 none
+    qint64 next = 0;                ///< next object of the chain, 0 none
+    qint64 owner = 0;               ///< of a child: the object of the owning element, 0 none
+    qint64 attachedTo = 0;          ///< wall of an opening, slab of a hole; 0 none
     std::vector<QJsonObject> spans; ///< on the head of a beam chain
     std::optional<SectionRecord> section;
     int layer = 0;
     int state = 0;
-    QString key;            ///< name in the exchange file by which others refer to it; empty: none
+    QString key; ///< name in the exchange file by which others refer to it; empty: none
 };
 
 struct ElementRecord

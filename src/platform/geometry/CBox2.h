@@ -8,8 +8,7 @@
 namespace vks {
 
 /** Box with sides along the axes, in millimetres. A new box is empty: its minimum lies above its maximum. */
-template <typename T>
-struct CBox2
+template <typename T> struct CBox2
 {
     CVec2<T> minPt{std::numeric_limits<T>::max(), std::numeric_limits<T>::max()};
     CVec2<T> maxPt{std::numeric_limits<T>::lowest(), std::numeric_limits<T>::lowest()};

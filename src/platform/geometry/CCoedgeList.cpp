@@ -18,10 +18,7 @@ CCurve2d *CCoedgeList::GetCurve(int index) const
     return index >= 0 && index < CurveCount() ? m_curves[static_cast<std::size_t>(index)].get() : nullptr;
 }
 
-void CCoedgeList::GetCurves(std::vector<CCurve2d *> &curves) const
-{
-    curves.assign(m_curves.begin(), m_curves.end());
-}
+void CCoedgeList::GetCurves(std::vector<CCurve2d *> &curves) const { curves.assign(m_curves.begin(), m_curves.end()); }
 
 double CCoedgeList::Length() const
 {

@@ -9,8 +9,7 @@ namespace vks {
 
 /** Frame in space: an origin (mm) and two axes; the third, the normal, is their cross product.
  *  Axes of length 1 at right angles are the rule; nothing checks it. A new frame is the world's. */
-template <typename T>
-struct CCoord3
+template <typename T> struct CCoord3
 {
     CVec3<T> origin;
     CVec3<T> u{T(1), T(), T()};
@@ -19,8 +18,7 @@ struct CCoord3
     constexpr CCoord3() = default;
     constexpr CCoord3(const CVec3<T> &originPoint, const CVec3<T> &uAxis, const CVec3<T> &vAxis)
         : origin(originPoint), u(uAxis), v(vAxis)
-    {
-    }
+    {}
 
     /** The frame of an object that has none: its first term is NaN. */
     static constexpr CCoord3 Absent()

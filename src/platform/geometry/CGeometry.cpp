@@ -24,9 +24,6 @@ char *CGeometry::AsString() const
     return static_cast<char *>(std::memcpy(buffer, text.c_str(), text.size() + 1));
 }
 
-CRefPtr<CGeometry> CGeometry::LoadFromStr(const char *text)
-{
-    return GeometryText::read(text);
-}
+CRefPtr<CGeometry> CGeometry::LoadFromStr(const char *text) { return GeometryText::read(text); }
 
 } // namespace vks

@@ -15,12 +15,12 @@ class ORVCADPLATFORM_EXPORT CPolygon : public CGeometry
 public:
     /** What IsValid checks, by bit. */
     enum EnValidity {
-        kNotEmpty = 0x1,          ///< there is a loop and no loop is empty
-        kClosed = 0x2,            ///< loops are closed within g_DistEpsilon
-        kNoShortEdge = 0x4,       ///< no edge is shorter than g_DistEpsilon
-        kNoCrossing = 0x8,        ///< no edge crosses or overlaps another, in its loop or another one
-        kHolesInside = 0x10,      ///< holes lie inside the outer loop and apart from each other
-        kHasArea = 0x1000,        ///< the area is not zero
+        kNotEmpty = 0x1,     ///< there is a loop and no loop is empty
+        kClosed = 0x2,       ///< loops are closed within g_DistEpsilon
+        kNoShortEdge = 0x4,  ///< no edge is shorter than g_DistEpsilon
+        kNoCrossing = 0x8,   ///< no edge crosses or overlaps another, in its loop or another one
+        kHolesInside = 0x10, ///< holes lie inside the outer loop and apart from each other
+        kHasArea = 0x1000,   ///< the area is not zero
         kAllChecks = 0x101F
     };
 

@@ -8,8 +8,7 @@ namespace vks {
 
 /** Holder of a CRefObject: the object lives as long as one holder does. Null is allowed.
  *  Turns into a plain pointer by itself, which then is only valid while a holder exists. */
-template <typename T>
-class CRefPtr
+template <typename T> class CRefPtr
 {
 public:
     CRefPtr() noexcept = default;

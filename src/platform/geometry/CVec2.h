@@ -5,8 +5,7 @@
 namespace vks {
 
 /** Point or vector in the plan; lengths in millimetres. */
-template <typename T>
-struct CVec2
+template <typename T> struct CVec2
 {
     T x = T();
     T y = T();
@@ -49,10 +48,6 @@ struct CVec2
     bool IsFinite() const { return std::isfinite(x) && std::isfinite(y); }
 };
 
-template <typename T>
-constexpr CVec2<T> operator*(T factor, const CVec2<T> &vector)
-{
-    return vector * factor;
-}
+template <typename T> constexpr CVec2<T> operator*(T factor, const CVec2<T> &vector) { return vector * factor; }
 
 } // namespace vks

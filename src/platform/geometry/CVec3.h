@@ -5,8 +5,7 @@
 namespace vks {
 
 /** Point or vector in space; lengths in millimetres. */
-template <typename T>
-struct CVec3
+template <typename T> struct CVec3
 {
     T x = T();
     T y = T();

@@ -32,10 +32,7 @@ struct PlaneMap
     }
 };
 
-CCoord3<double> presentFrame(const CCoord3<double> &frame)
-{
-    return frame.IsAbsent() ? CCoord3<double>() : frame;
-}
+CCoord3<double> presentFrame(const CCoord3<double> &frame) { return frame.IsAbsent() ? CCoord3<double>() : frame; }
 
 /** Coordinates of a vector of a frame's plane in its axes, which need not be at right angles. */
 CVec2<double> inAxes(const CVec3<double> &vector, const CCoord3<double> &frame)

@@ -15,8 +15,8 @@ namespace vks {
  *  @return a new curve; null for a null or empty curve, a direction within the target plane, and a curve whose
  *          projection has no length */
 ORVCADPLATFORM_EXPORT CRefPtr<CCurve2d> OrientProjectCurve2d(const CCoord3<double> &from, const CCurve2d *curve,
-                                                             const CCoord3<double> &to,
-                                                             const CVec3<double> &direction, bool wholeOnly);
+                                                             const CCoord3<double> &to, const CVec3<double> &direction,
+                                                             bool wholeOnly);
 /** The same for a polygon, curve by curve; null when one of its curves gives null. */
 ORVCADPLATFORM_EXPORT CRefPtr<class CPolygon> OrientProjectPolygon(const CCoord3<double> &from, const CPolygon *polygon,
                                                                    const CCoord3<double> &to,

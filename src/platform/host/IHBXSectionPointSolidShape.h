@@ -4,5 +4,4 @@
 
 /** Section solid at a point: slab hole. Its setInsertPoint and setAngle are those of every point solid. */
 class ORVCADPLATFORM_EXPORT IHBXSectionPointSolidShape : public IHBXCustomPointSolidShape
-{
-};
+{};
