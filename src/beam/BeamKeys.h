@@ -82,6 +82,64 @@ constexpr QLatin1String floorCode = "FloorCode"_key;
 constexpr QLatin1String height = "Height"_key;
 constexpr QLatin1String floorBtmElev = "BtmElev"_key;
 constexpr QLatin1String floorId = "FloorID"_key;
+
+// Seats and results of the identify run
+constexpr QLatin1String seatIdType = "eSeatIDType"_key;
+constexpr QLatin1String seatId = "nSeatID"_key;
+constexpr QLatin1String seatSegmentId = "nBeamSegmentInfoID"_key;
+constexpr QLatin1String line = "ipLine"_key;
+constexpr QLatin1String offset = "dOffset"_key;
+constexpr QLatin1String id = "id"_key;
+constexpr QLatin1String spanNum = "nSpanNum"_key;
+constexpr QLatin1String width = "nWidth"_key;
+constexpr QLatin1String runStartElev = "strStartElev"_key;
+constexpr QLatin1String runEndElev = "strEndElev"_key;
+constexpr QLatin1String startElevType = "enStartElevType"_key;
+constexpr QLatin1String endElevType = "enEndElevType"_key;
+constexpr QLatin1String segments = "vecSegmentInfo"_key;
+constexpr QLatin1String labelName = "strName"_key;
+constexpr QLatin1String labelElementType = "nElementType"_key;
+constexpr QLatin1String beamType = "nBeamType"_key;
+constexpr QLatin1String spanDesc = "strSpanDesc"_key;
+constexpr QLatin1String labelSection = "strSection"_key;
+constexpr QLatin1String labelHoopBar = "strHoopBar"_key;
+constexpr QLatin1String labelTopThroughBar = "strTopThroughBar"_key;
+constexpr QLatin1String labelBottomThroughBar = "strBottomThroughBar"_key;
+constexpr QLatin1String labelSideBar = "strSideBar"_key;
+constexpr QLatin1String cantileverType = "eCantileverType"_key;
+constexpr QLatin1String runs = "edoInfos"_key;
+constexpr QLatin1String seats = "seatEdoIDList"_key;
+constexpr QLatin1String labels = "elementInfoList"_key;
+
+// Input of the identify run
+constexpr QLatin1String lineShapeClass = "eLineShapeClass"_key;
+constexpr QLatin1String seatElementType = "seatElementType"_key;
+constexpr QLatin1String seatElementSubType = "nElementSubType"_key;
+constexpr QLatin1String hasWallThickness = "bHasWallThicknessProperty"_key;
+constexpr QLatin1String wallThickness = "dWallThickness"_key;
+constexpr QLatin1String seatWorldPoly = "ipWorldPoly"_key;
+constexpr QLatin1String offsetDist = "dOffsetDist"_key;
+constexpr QLatin1String edoId = "nEDOID"_key;
+constexpr QLatin1String isAColumn = "bIsAColumn"_key;
+constexpr QLatin1String isColumn = "bIsColumn"_key;
+constexpr QLatin1String isLineShape = "bLineShape"_key;
+constexpr QLatin1String seatCenterLine = "ipCenterLine"_key;
+constexpr QLatin1String wallLine = "ipWallLine"_key;
+constexpr QLatin1String seatLine = "ipSeatLine"_key;
+constexpr QLatin1String worldLine = "ipWorldLine"_key;
+constexpr QLatin1String box = "box"_key;
+constexpr QLatin1String curFloorHeight = "curFloorHeight"_key;
+constexpr QLatin1String isCurFloorFD = "bIsCurFloorFD"_key;
+constexpr QLatin1String curFloorBtmElev = "curFloorBtmElev"_key;
+constexpr QLatin1String curFloorId = "nCurFloorID"_key;
+constexpr QLatin1String rawBeamCodes = "strRawBeamCodes"_key;
+constexpr QLatin1String is11or16G = "bIs11or16G"_key;
+constexpr QLatin1String beamSeats = "beamSeatInfos"_key;
+constexpr QLatin1String axisLines = "axisLines"_key;
+constexpr QLatin1String beamLineLayer = "strBeamLineLayerName"_key;
+constexpr QLatin1String beamBorderLayer = "strBeamBorderLayerName"_key;
+constexpr QLatin1String beamJZBZLayer = "strBeamJZBZLayerName"_key;
+constexpr QLatin1String beamYWBZLayer = "strBeamYWBZLayerName"_key;
 } // namespace key
 
 /** Element types of the host. */
