@@ -10,7 +10,7 @@ struct BeamIdentifyContextData::FloorFields
 {
     static constexpr auto table =
         std::make_tuple(field(key::floorName, &FloorInfo::FloorName), field(key::floorCode, &FloorInfo::FloorCode),
-                        field(key::height, &FloorInfo::Height), field(key::floorBtmElev, &FloorInfo::BtmElev),
+                        field(key::height, &FloorInfo::Height), field(key::btmElev, &FloorInfo::BtmElev),
                         field(key::floorId, &FloorInfo::FloorID));
 };
 

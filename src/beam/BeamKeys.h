@@ -80,7 +80,6 @@ constexpr QLatin1String floorInfo = "FloorInfo"_key;
 constexpr QLatin1String cadOptions = "CADOptions"_key;
 constexpr QLatin1String floorCode = "FloorCode"_key;
 constexpr QLatin1String height = "Height"_key;
-constexpr QLatin1String floorBtmElev = "BtmElev"_key;
 constexpr QLatin1String floorId = "FloorID"_key;
 
 // Seats and results of the identify run
@@ -140,13 +139,58 @@ constexpr QLatin1String beamLineLayer = "strBeamLineLayerName"_key;
 constexpr QLatin1String beamBorderLayer = "strBeamBorderLayerName"_key;
 constexpr QLatin1String beamJZBZLayer = "strBeamJZBZLayerName"_key;
 constexpr QLatin1String beamYWBZLayer = "strBeamYWBZLayerName"_key;
+
+// Seats for reconstruction
+constexpr QLatin1String worldPoly = "WorldPoly"_key;
+constexpr QLatin1String centerLine = "CenterLine"_key;
+constexpr QLatin1String entName = "EntName"_key;
+constexpr QLatin1String sectinoHeight = "SectinoHeight"_key; // meant: spelled so in writer and reader
+constexpr QLatin1String topElev = "TopElev"_key;
+constexpr QLatin1String btmElev = "BtmElev"_key;
+constexpr QLatin1String mirror = "Mirror"_key;
+constexpr QLatin1String angle = "Angle"_key;
+constexpr QLatin1String edoTopElev = "EDOTopElev"_key;
+constexpr QLatin1String edoBtmElev = "EDOBtmElev"_key;
+constexpr QLatin1String tieBeams = "etTieBeam"_key;
+constexpr QLatin1String isolatedFoundations = "etIsolatedFD"_key;
+constexpr QLatin1String pileCaps = "etPileCap"_key;
+constexpr QLatin1String piles = "etPile"_key;
 } // namespace key
+
+/** Properties of the host. */
+namespace property {
+inline const std::wstring axisOffset = L"AxisOffset";
+inline const std::wstring axisOffsetJZBZ = L"AxisOffset_JZBZ";
+inline const std::wstring bottomElev = L"BottomElev";
+inline const std::wstring endPtTopElev = L"EndPtTopElev";
+inline const std::wstring height = L"Height";
+inline const std::wstring sectionHeight = L"SectionHeight";
+inline const std::wstring sectionPoly = L"SectionPoly";
+inline const std::wstring sectionWidth = L"SectionWidth";
+inline const std::wstring startPtTopElev = L"StartPtTopElev";
+inline const std::wstring thickness = L"Thickness";
+inline const std::wstring topElev = L"TopElev";
+inline const std::wstring type = L"Type";
+inline const std::wstring type1 = L"Type1";
+} // namespace property
 
 /** Element types of the host. */
 namespace type {
+constexpr qint64 forceWall = 0;
 constexpr qint64 beam = 15;
 constexpr qint64 linkBeam = 17;
+constexpr qint64 tieBeam = 18;
+constexpr qint64 column = 25;
+constexpr qint64 tieColumn = 26;
 constexpr qint64 foundationBeam = 47;
+constexpr qint64 isolatedFoundation = 52;
+constexpr qint64 pileCap = 53;
+constexpr qint64 pile = 54;
+constexpr qint64 axisGrid = 74;
+constexpr qint64 isolatedFoundationUnit = 82;
+constexpr qint64 pileCapUnit = 83;
+constexpr qint64 masonryColumn = 1002;
+constexpr qint64 brickWall = 1003;
 } // namespace type
 
 } // namespace beam

@@ -48,15 +48,29 @@ void replaceInElements(const QList<ElementInfo *> &elementInfos, qint64 id, cons
 template ORVCADMODELDATA_EXPORT ORVCADBeamSeatInfo *createBeamSeatInfo<ORVCADBeamSeatInfo>(ORVCADBeamSeatIDType type,
                                                                                            qint64 id,
                                                                                            const QUuid &segmentId);
+template ORVCADMODELDATA_EXPORT ORVCADBeamSDCSeatInfo *createBeamSeatInfo<ORVCADBeamSDCSeatInfo>(
+    ORVCADBeamSeatIDType type, qint64 id, const QUuid &segmentId);
 
 void removeSeatInfo(QList<ORVCADBeamSeatInfo *> &seats, qint64 id) { removeFirst(seats, id); }
+
+void removeSeatInfo(QList<ORVCADBeamSDCSeatInfo *> &seats, qint64 id) { removeFirst(seats, id); }
 
 void replaceSegmentIDwithEdoID(QList<ORVCADBeamSeatInfo *> &seats, qint64 id, const QUuid &segmentId)
 {
     replaceInSeats(seats, id, segmentId);
 }
 
+void replaceSegmentIDwithEdoID(QList<ORVCADBeamSDCSeatInfo *> &seats, qint64 id, const QUuid &segmentId)
+{
+    replaceInSeats(seats, id, segmentId);
+}
+
 void replaceSegmentIDwithEdoID(QList<ORVCADBeamEdoInfoTmp *> &elementInfos, qint64 id, const QUuid &segmentId)
+{
+    replaceInElements(elementInfos, id, segmentId);
+}
+
+void replaceSegmentIDwithEdoID(QList<ORVCADBeamElementInfo *> &elementInfos, qint64 id, const QUuid &segmentId)
 {
     replaceInElements(elementInfos, id, segmentId);
 }

@@ -2,6 +2,7 @@
 
 #include "ORVCADModelDataExport.h"
 #include "beam/ORVCADBeamEdoInfoTmp.h"
+#include "beam/ORVCADBeamElementInfo.h"
 
 #include <QList>
 #include <QUuid>
@@ -21,10 +22,15 @@ extern template ORVCADMODELDATA_EXPORT ORVCADBeamSeatInfo *createBeamSeatInfo<OR
 
 /** Takes the first seat of that id, of whichever type, from the list and deletes it; further ones stay. */
 ORVCADMODELDATA_EXPORT void removeSeatInfo(QList<ORVCADBeamSeatInfo *> &seats, qint64 id);
+ORVCADMODELDATA_EXPORT void removeSeatInfo(QList<ORVCADBeamSDCSeatInfo *> &seats, qint64 id);
 
 /** Makes every seat of that segment, of whichever type, one of the draw object. It keeps its segment. */
 ORVCADMODELDATA_EXPORT void replaceSegmentIDwithEdoID(QList<ORVCADBeamSeatInfo *> &seats, qint64 id,
                                                       const QUuid &segmentId);
+ORVCADMODELDATA_EXPORT void replaceSegmentIDwithEdoID(QList<ORVCADBeamSDCSeatInfo *> &seats, qint64 id,
+                                                      const QUuid &segmentId);
 /** The same in the seat lists of all beam labels. */
 ORVCADMODELDATA_EXPORT void replaceSegmentIDwithEdoID(QList<ORVCADBeamEdoInfoTmp *> &elementInfos, qint64 id,
+                                                      const QUuid &segmentId);
+ORVCADMODELDATA_EXPORT void replaceSegmentIDwithEdoID(QList<ORVCADBeamElementInfo *> &elementInfos, qint64 id,
                                                       const QUuid &segmentId);

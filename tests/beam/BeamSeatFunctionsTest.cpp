@@ -25,7 +25,7 @@ protected:
     Seats m_seats;
 };
 
-using Families = ::testing::Types<ORVCADBeamEdoInfoTmp>;
+using Families = ::testing::Types<ORVCADBeamEdoInfoTmp, ORVCADBeamElementInfo>;
 TYPED_TEST_SUITE(BeamSeatFunctionsTest, Families);
 
 TYPED_TEST(BeamSeatFunctionsTest, seatThatIsADrawObjectHasANullSegment)
