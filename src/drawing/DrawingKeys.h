@@ -1,11 +1,11 @@
 #pragma once
 
-#include "encoding/KeyLiteral.h"
+#include "platform/dwgx/KeyLiteral.h"
 
 /** Names that the drawing-set records have in JSON. */
 namespace drawing::key {
 
-using encoding::operator""_key;
+using dwgx::operator""_key;
 
 constexpr QLatin1String areaName = "AreaName"_key;
 constexpr QLatin1String floors = "Floors"_key;

@@ -2,12 +2,13 @@
 
 #include "drawing/DrawingKeys.h"
 #include "drawing/FloorElevation.h"
-#include "encoding/KeyLiteral.h"
 #include "encoding/RecordFields.h"
+#include "platform/dwgx/KeyLiteral.h"
 
 #include <memory>
 
 using namespace encoding;
+using dwgx::operator""_key;
 namespace key = drawing::key;
 
 namespace {

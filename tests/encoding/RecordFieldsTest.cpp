@@ -1,6 +1,6 @@
 #include "encoding/RecordFields.h"
 
-#include "encoding/KeyLiteral.h"
+#include "platform/dwgx/KeyLiteral.h"
 
 #include <QJsonDocument>
 
@@ -9,6 +9,7 @@
 #include <limits>
 
 using namespace encoding;
+using dwgx::operator""_key;
 
 namespace {
 
