@@ -10,7 +10,7 @@
 namespace doorwindow {
 
 namespace key {
-using dwgx::operator""_key;
+using namespace dwgx::literals;
 
 constexpr QLatin1String elementId = "elementID"_key;
 constexpr QLatin1String name = "name"_key;

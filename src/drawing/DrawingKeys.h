@@ -5,7 +5,7 @@
 /** Names that the drawing-set records have in JSON. */
 namespace drawing::key {
 
-using dwgx::operator""_key;
+using namespace dwgx::literals;
 
 constexpr QLatin1String areaName = "AreaName"_key;
 constexpr QLatin1String floors = "Floors"_key;

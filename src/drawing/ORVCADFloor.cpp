@@ -8,7 +8,7 @@
 #include <memory>
 
 using namespace encoding;
-using dwgx::operator""_key;
+using namespace dwgx::literals;
 namespace key = drawing::key;
 
 namespace {

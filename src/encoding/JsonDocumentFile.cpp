@@ -8,7 +8,7 @@
 
 namespace {
 
-using dwgx::operator""_key;
+using namespace dwgx::literals;
 
 constexpr QLatin1String kLayerName = "LayerName"_key;
 constexpr QLatin1String kEdoIdList = "EdoIDList"_key;

@@ -77,7 +77,7 @@ protected:
 
     hbx::embedded::ProjectRecord makeFile(const QByteArray &json = exchangetest::kSmallBuilding)
     {
-        const auto record = recordOf(json);
+        auto record = recordOf(json);
         hbx::embedded::ProjectError error;
         EXPECT_TRUE(hbx::embedded::HBXDatabaseFile(path()).create(record, error)) << error.text().toStdString();
         return record;

@@ -9,7 +9,7 @@
 #include <limits>
 
 using namespace encoding;
-using dwgx::operator""_key;
+using namespace dwgx::literals;
 
 namespace {
 

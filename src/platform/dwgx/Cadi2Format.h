@@ -7,6 +7,8 @@
 /** Words and limits of `.cadi2` drawing files (docs/formats/cadi2.md). */
 namespace dwgx::cadi2 {
 
+using namespace literals;
+
 constexpr int kVersion = 1;
 /** Larger files are refused; half a million lines take some 40 MiB. */
 constexpr qint64 kMaxFileBytes = 128LL * 1024 * 1024;

@@ -7,7 +7,7 @@
 /** Words of the building exchange form `hbx-project` (docs/formats/hbx-project.md). */
 namespace hbx::embedded::exchange {
 
-using dwgx::operator""_key;
+using namespace dwgx::literals;
 
 constexpr int kVersion = 1;
 constexpr QLatin1String kFormatName = "hbx-project"_key;

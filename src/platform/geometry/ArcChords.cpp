@@ -66,6 +66,7 @@ std::vector<double> cornerAngles(double radius, const std::vector<double> &ends,
         add(std::remainder(k * step, 2 * kPi));
     std::sort(corners.begin(), corners.end());
     std::vector<double> angles;
+    angles.reserve(corners.size());
     for (const auto &corner : corners)
         angles.push_back(corner.second);
     return angles;
