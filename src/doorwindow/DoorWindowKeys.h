@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/dwgx/KeyLiteral.h"
+#include "encoding/KeyLiteral.h"
 
 #include <QtGlobal>
 
@@ -10,7 +10,7 @@
 namespace doorwindow {
 
 namespace key {
-using namespace dwgx::literals;
+using encoding::operator""_key;
 
 constexpr QLatin1String elementId = "elementID"_key;
 constexpr QLatin1String name = "name"_key;

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "platform/dwgx/KeyLiteral.h"
+#include "encoding/KeyLiteral.h"
 
 /** Names that the drawing-set records have in JSON. */
 namespace drawing::key {
 
-using namespace dwgx::literals;
+using encoding::operator""_key;
 
 constexpr QLatin1String areaName = "AreaName"_key;
 constexpr QLatin1String floors = "Floors"_key;

@@ -3,12 +3,11 @@
 #include "drawing/DrawingKeys.h"
 #include "drawing/FloorElevation.h"
 #include "encoding/RecordFields.h"
-#include "platform/dwgx/KeyLiteral.h"
+#include "encoding/KeyLiteral.h"
 
 #include <memory>
 
 using namespace encoding;
-using namespace dwgx::literals;
 namespace key = drawing::key;
 
 namespace {

@@ -1,6 +1,6 @@
 #include "encoding/JsonDocumentFile.h"
 
-#include "platform/dwgx/KeyLiteral.h"
+#include "encoding/KeyLiteral.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -8,7 +8,7 @@
 
 namespace {
 
-using namespace dwgx::literals;
+using namespace encoding; // for ""_key
 
 constexpr QLatin1String kLayerName = "LayerName"_key;
 constexpr QLatin1String kEdoIdList = "EdoIDList"_key;

@@ -1,6 +1,6 @@
 #include "encoding/RecordFields.h"
 
-#include "platform/dwgx/KeyLiteral.h"
+#include "encoding/KeyLiteral.h"
 
 #include <QJsonDocument>
 
@@ -9,7 +9,6 @@
 #include <limits>
 
 using namespace encoding;
-using namespace dwgx::literals;
 
 namespace {
 
