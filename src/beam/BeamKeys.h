@@ -162,14 +162,27 @@ namespace property {
 inline const std::wstring axisOffset = L"AxisOffset";
 inline const std::wstring axisOffsetJZBZ = L"AxisOffset_JZBZ";
 inline const std::wstring bottomElev = L"BottomElev";
+inline const std::wstring bottomHoriBar = L"BottomHoriBar";
+inline const std::wstring bottomThroughBar = L"BottomThroughBar";
 inline const std::wstring endPtTopElev = L"EndPtTopElev";
 inline const std::wstring height = L"Height";
+inline const std::wstring hoopBar = L"HoopBar";
+inline const std::wstring insertPt = L"InsertPt";
+inline const std::wstring limb = L"Limb";
 inline const std::wstring sectionHeight = L"SectionHeight";
+inline const std::wstring sectionInfo = L"SectionInfo";
 inline const std::wstring sectionPoly = L"SectionPoly";
+inline const std::wstring sectionTypeId = L"SectionTypeID";
 inline const std::wstring sectionWidth = L"SectionWidth";
+inline const std::wstring sideBar = L"SideBar";
+inline const std::wstring sideBarAL = L"SideBarAL";
+inline const std::wstring spanCount = L"SpanCount";
 inline const std::wstring startPtTopElev = L"StartPtTopElev";
 inline const std::wstring thickness = L"Thickness";
+inline const std::wstring tieBar = L"TieBar";
 inline const std::wstring topElev = L"TopElev";
+inline const std::wstring topHoriBar = L"TopHoriBar";
+inline const std::wstring topThroughBar = L"TopThroughBar";
 inline const std::wstring type = L"Type";
 inline const std::wstring type1 = L"Type1";
 } // namespace property
