@@ -54,6 +54,12 @@ std::vector<IHBXElementDrawObj *> chainFrom(IHBXElementDrawObj *head)
     return chain;
 }
 
+void readSpans(WLRBeamSpans &spans, BeamEdoInfo &edoInfo)
+{
+    for (int i = 0; i < spans.count(); ++i)
+        edoInfo.spans.push_back(beam::getBeamSpanInfo(spans.span(i)));
+}
+
 } // namespace
 
 ORVCADBeamHBXModelConvertService::Beams ORVCADBeamHBXModelConvertService::convertHBXToCollectDataModel(
@@ -98,9 +104,8 @@ std::vector<std::shared_ptr<BeamEdoInfo>> ORVCADBeamHBXModelConvertService::getB
         return edoInfos;
     for (IHBXElementDrawObj *head : chainHeads(*element)) {
         auto edoInfo = std::make_shared<BeamEdoInfo>();
-        const std::unique_ptr<WLRBeamSpans> spans = initBeamSpans(head);
-        for (int i = 0; spans && i < spans->count(); ++i)
-            edoInfo->spans.push_back(beam::getBeamSpanInfo(spans->span(i)));
+        if (const std::unique_ptr<WLRBeamSpans> spans = initBeamSpans(head))
+            readSpans(*spans, *edoInfo);
         for (IHBXElementDrawObj *node : chainFrom(head)) {
             const int index = static_cast<int>(edoInfo->segments.size());
             edoInfo->segments.push_back(getBeamEdoLinkNodeProp(node));

@@ -16,7 +16,7 @@ namespace hbx::embedded {
 
 /** One span as the host keeps it, an object with the keys of the beam span record. A value that is missing or of another
  *  kind is 0 or empty. The modes mean nothing here. */
-class HBXBeamSpan final : public IWLRBeamSpan
+class ORVCADPLATFORM_EXPORT HBXBeamSpan final : public IWLRBeamSpan
 {
 public:
     explicit HBXBeamSpan(const QJsonObject &span);
@@ -45,7 +45,7 @@ private:
     TWLRCustomHoopBars m_hoopBars;
 };
 
-class HBXBeamSpans final : public WLRBeamSpans
+class ORVCADPLATFORM_EXPORT HBXBeamSpans final : public WLRBeamSpans
 {
 public:
     /** Null when there are no spans. */
