@@ -18,6 +18,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace {
@@ -236,6 +237,17 @@ TEST(MadeBuildingRoundTripTest, beamsOfAllKindsGoOutAndIntoACopyWithoutBeams)
     for (int i = 0; i < beams.size(); ++i)
         EXPECT_EQ(textOf(withoutSpansAndFractions(beams[i])).toStdString(),
                   textOf(withoutSpansAndFractions(beamsOf(out)[i])).toStdString());
+}
+
+TEST(MadeBuildingRoundTripTest, documentOfItsBeamsIsTheOneThatStandsBesideTheTests)
+{
+    const auto project = load("made-building");
+    const QByteArray expected = exchangetest::fileContent(ORVCAD_TEST_DATA "/beams/made-building.json");
+    const QJsonArray beams = beamsOf(exported(*project));
+    ASSERT_EQ(beams.size(), 6);
+    ASSERT_EQ(beamsOf(expected).size(), 6);
+    for (int i = 0; i < beams.size(); ++i)
+        expectSameBeam(beams[i], beamsOf(expected)[i]);
 }
 
 TEST(MadeBuildingRoundTripTest, storedSpansGoOutWithTheirBars)

@@ -138,6 +138,16 @@ TEST_F(HBXSpanCutTest, deeperBeamsAreSupportsAndOthersAreNot)
     EXPECT_EQ(cut(), (QStringList{"4000: 0,0,150,150", "6000: 150,150,0,0"}));
 }
 
+TEST_F(HBXSpanCutTest, outlinedSectionIsAsDeepAsItsBox)
+{
+    IHBXElementDrawObj *outlined = piece(element(15, "KL2"), "LINESTRING(4000 -3000, 4000 3000)");
+    outlined->properties()->setPolygon(L"SectionPoly", polygonOf("POLYGON((0 0, 400 0, 400 700, 0 700, 0 0))"), true);
+    outlined->properties()->setDouble(L"SectionWidth", 400, true);
+    EXPECT_EQ(cut(), (QStringList{"4000: 0,0,200,200", "6000: 200,200,0,0"}));
+    EXPECT_EQ(HBXSpanCut(*outlined).spans().at(0).value("Section").toString(), "400*700");
+    EXPECT_EQ(cut(outlined), QStringList{"6000: 0,0,0,0"});
+}
+
 struct SupportCase
 {
     qint64 type;
@@ -188,6 +198,21 @@ TEST_F(HBXSpanCutTest, arcIsCutAlongItself)
     ASSERT_EQ(spans.size(), 2U);
     EXPECT_NEAR(spans[0].value("SpanLength").toDouble(), 6283.185, 0.01);
     EXPECT_EQ(spans[0].value("SpanA1_A4").toString(), "0,0,100,100");
+}
+
+TEST_F(HBXSpanCutTest, arcThatEndsAtTheFaceOfAWallRestsOnIt)
+{
+    IHBXElementDrawObj *arc = piece(newBeam("KL2", 600), "CIRCULARSTRING(20000 0, 24000 4000, 20000 8000)");
+    wall("LINESTRING(19900 -3000, 19900 11000)", 200); // its face is at 20000
+    EXPECT_EQ(cut(arc), QStringList{"12566.371: 200,0,0,200"});
+}
+
+TEST_F(HBXSpanCutTest, fullCircleIsOneSpan)
+{
+    IHBXElementDrawObj *ring = piece(newBeam("KL2", 600), "CIRCULARSTRING(20000 0, 30000 0, 20000 0)");
+    EXPECT_EQ(cut(ring), QStringList{"31415.927: 0,0,0,0"});
+    wall("LINESTRING(30000 -1000, 30000 1000)", 200);
+    EXPECT_EQ(cut(ring).size(), 2);
 }
 
 TEST_F(HBXSpanCutTest, elevationsFollowThePieces)

@@ -1,6 +1,7 @@
 #include "platform/embedded/HBXSpanCut.h"
 
 #include "platform/embedded/HBXSpanKeys.h"
+#include "platform/geometry/CArc2d.h"
 #include "platform/geometry/CurveZone.h"
 #include "platform/host/IHBXCustomLineSolidShape.h"
 #include "platform/host/IHBXElementDrawObj.h"
@@ -17,9 +18,10 @@
 namespace hbx::embedded {
 namespace {
 
-constexpr double kSeatGap = 5.0;        // mm: a beam rests on what it comes this near to
-constexpr double kMostSeatShare = 0.5;  // of the chain: what carries more of it is no support to span from
-constexpr double kMillimetres = 1000.0; // of a metre
+constexpr double kSeatGap = 5.0;                // mm: a beam rests on what it comes this near to
+constexpr double kMostSeatShare = 0.5;          // of the chain: what carries more of it is no support to span from
+constexpr double kFullTurn = 6.283185307179586; // rad
+constexpr double kMillimetres = 1000.0;         // of a metre
 
 /** Columns, walls and foundations; deeper beams come to them. */
 constexpr qint64 kSupportTypes[] = {25, 26, 1002, 0, 202, 1003, 52, 53, 54};
@@ -57,24 +59,34 @@ vks::CRefPtr<vks::CPolygon> worldPolyOf(IHBXElementDrawObj &object)
     return shape ? shape->worldPoly(outline, IHBXModel::g_bDefaultAutoCalc) : outline;
 }
 
-/** A line goes on for the size of the support, so that the middle of one that it ends in is found; an arc does not. */
+/** The axis goes on for the size of the support, so that the middle of one that it ends in is found; an arc once around
+ *  its circle at most. */
 vks::CRefPtr<vks::CCurve2d> lengthened(const vks::CCurve2d &axis, const vks::CPolygon &support)
 {
-    vks::CRefPtr<vks::CCurve2d> longer = axis.Clone();
-    if (axis.Type() != vks::CCurve2d::kLine)
-        return longer;
     const vks::CBox2<double> box = support.Box();
-    const double reach = box.Width() + box.Height() + kSeatGap;
+    double reach = box.Width() + box.Height() + kSeatGap;
+    if (const auto *arc = dynamic_cast<const vks::CArc2d *>(&axis))
+        reach = std::clamp((kFullTurn * arc->Radius() - axis.Length()) / 2, 0.0, reach);
+    vks::CRefPtr<vks::CCurve2d> longer = axis.Clone();
     longer->SetStartT(axis.StartT() - reach);
     longer->SetEndT(axis.EndT() + reach);
     return longer;
 }
 
+/** Width and height of a beam's section, mm: of the box of its outline where it has one. */
+vks::CVec2<double> sectionSize(IHBXElementDrawObj &object)
+{
+    vks::CRefPtr<vks::CPolygon> outline;
+    const IHBXProperties *properties = object.properties();
+    if (properties && properties->asPolygon(outline, std::wstring(L"SectionPoly")))
+        return {outline->Box().Width(), outline->Box().Height()};
+    return {number(object, L"SectionWidth"), number(object, L"SectionHeight")};
+}
+
 QString sectionText(IHBXElementDrawObj &object)
 {
-    const double width = number(object, L"SectionWidth");
-    const double height = number(object, L"SectionHeight");
-    return width > 0.0 && height > 0.0 ? QStringLiteral("%1*%2").arg(width).arg(height) : QString();
+    const vks::CVec2<double> size = sectionSize(object);
+    return size.x > 0.0 && size.y > 0.0 ? QStringLiteral("%1*%2").arg(size.x).arg(size.y) : QString();
 }
 
 } // namespace
@@ -105,8 +117,7 @@ bool HBXSpanCut::isSupport(IHBXElementDrawObj &object) const
     IHBXElementDrawObj &own = *m_pieces.front().object;
     if (object.type() != own.type())
         return true;
-    const bool isDeeper = number(object, L"SectionHeight") > number(own, L"SectionHeight");
-    return isDeeper && !m_ids.contains(object.id());
+    return !m_ids.contains(object.id()) && sectionSize(object).y > sectionSize(own).y;
 }
 
 void HBXSpanCut::addSupports()
