@@ -51,30 +51,50 @@ constexpr PropType kText = PropType::Text;
 constexpr PropType kInteger = PropType::Integer;
 constexpr PropType kDouble = PropType::Double;
 
+constexpr Of kAny = Of::Any;
+constexpr Of kBeam = Of::Beam;
+constexpr Of kLink = Of::LinkBeam;
+constexpr Of kSpanned = Of::AllButLinkBeam;
+constexpr Of kOther = Of::OtherBeam;
+
+constexpr Read kAlways = Read::Always;
+constexpr Read kIfThere = Read::IfPresent;
+constexpr Read kNever = Read::Never;
+
+constexpr WriteStep kSection = WriteStep::Section;
+constexpr WriteStep kUnwritten = WriteStep::Never;
+constexpr WriteStep kCommonBars = WriteStep::CommonBars;
+constexpr WriteStep kOffset = WriteStep::AxisOffset;
+constexpr WriteStep kSpanCount = WriteStep::SpanCount;
+constexpr WriteStep kBarsOfKind = WriteStep::BarsOfKind;
+constexpr WriteStep kType = WriteStep::Type;
+constexpr WriteStep kWidth = WriteStep::Width;
+constexpr WriteStep kElevations = WriteStep::Elevations;
+
 // clang-format off
 const EntRow (&entRows())[19]
 {
     static const EntRow rows[] = {
-        {property::sectionWidth,     kInteger, true,  Of::Any,            Read::Always,    WriteStep::Section,    &Ent::SectionWidth},
-        {property::sectionHeight,    kInteger, true,  Of::Any,            Read::Always,    WriteStep::Section,    &Ent::SectionHeight},
-        {property::sectionPoly,      kText,    false, Of::Any,            Read::IfPresent, WriteStep::Never,      Outline{&Ent::SectionPoly}},
+        {property::sectionWidth,     kInteger, true,  kAny,     kAlways,  kSection,    &Ent::SectionWidth},
+        {property::sectionHeight,    kInteger, true,  kAny,     kAlways,  kSection,    &Ent::SectionHeight},
+        {property::sectionPoly,      kText,    false, kAny,     kIfThere, kUnwritten,  Outline{&Ent::SectionPoly}},
         // Meant: elevations of the element are never written; they reach the host by the draw objects alone.
-        {property::startPtTopElev,   kText,    true,  Of::Any,            Read::Always,    WriteStep::Never,      &Ent::StartTopElev},
-        {property::endPtTopElev,     kText,    true,  Of::Any,            Read::Always,    WriteStep::Never,      &Ent::EndTopElev},
-        {property::hoopBar,          kText,    true,  Of::Any,            Read::IfPresent, WriteStep::CommonBars, &Ent::HoopBar},
-        {property::limb,             kText,    true,  Of::Any,            Read::IfPresent, WriteStep::CommonBars, &Ent::LimbCount},
-        {property::tieBar,           kText,    true,  Of::Any,            Read::IfPresent, WriteStep::CommonBars, &Ent::TieBar},
-        {property::axisOffset,       kDouble,  true,  Of::Any,            Read::Always,    WriteStep::AxisOffset, &Ent::AxisOffset},
-        {property::axisOffsetJZBZ,   kDouble,  true,  Of::Any,            Read::IfPresent, WriteStep::AxisOffset, &Ent::AxisOffset},
-        {property::spanCount,        kText,    true,  Of::AllButLinkBeam, Read::Always,    WriteStep::SpanCount,  &BeamEntInfo::SpanCount},
-        {property::topThroughBar,    kText,    true,  Of::AllButLinkBeam, Read::Always,    WriteStep::BarsOfKind, &BeamEntInfo::TopThroughBar},
-        {property::bottomThroughBar, kText,    true,  Of::AllButLinkBeam, Read::Always,    WriteStep::BarsOfKind, &BeamEntInfo::BottomThroughBar},
-        {property::sideBar,          kText,    true,  Of::AllButLinkBeam, Read::Always,    WriteStep::BarsOfKind, &BeamEntInfo::SideBar},
-        {property::type1,            kInteger, true,  Of::Beam,           Read::Always,    WriteStep::Type,       &BeamEntInfo::Type},
-        {property::type,             kInteger, false, Of::OtherBeam,      Read::Always,    WriteStep::Type,       &BeamEntInfo::Type},
-        {property::topHoriBar,       kText,    true,  Of::LinkBeam,       Read::Always,    WriteStep::BarsOfKind, &LinkBeamEntInfo::TopHoribar},
-        {property::bottomHoriBar,    kText,    true,  Of::LinkBeam,       Read::Always,    WriteStep::BarsOfKind, &LinkBeamEntInfo::BottomHoriBar},
-        {property::sideBarAL,        kText,    true,  Of::LinkBeam,       Read::Always,    WriteStep::BarsOfKind, &LinkBeamEntInfo::SideBarAL},
+        {property::startPtTopElev,   kText,    true,  kAny,     kAlways,  kUnwritten,  &Ent::StartTopElev},
+        {property::endPtTopElev,     kText,    true,  kAny,     kAlways,  kUnwritten,  &Ent::EndTopElev},
+        {property::hoopBar,          kText,    true,  kAny,     kIfThere, kCommonBars, &Ent::HoopBar},
+        {property::limb,             kText,    true,  kAny,     kIfThere, kCommonBars, &Ent::LimbCount},
+        {property::tieBar,           kText,    true,  kAny,     kIfThere, kCommonBars, &Ent::TieBar},
+        {property::axisOffset,       kDouble,  true,  kAny,     kAlways,  kOffset,     &Ent::AxisOffset},
+        {property::axisOffsetJZBZ,   kDouble,  true,  kAny,     kIfThere, kOffset,     &Ent::AxisOffset},
+        {property::spanCount,        kText,    true,  kSpanned, kAlways,  kSpanCount,  &BeamEntInfo::SpanCount},
+        {property::topThroughBar,    kText,    true,  kSpanned, kAlways,  kBarsOfKind, &BeamEntInfo::TopThroughBar},
+        {property::bottomThroughBar, kText,    true,  kSpanned, kAlways,  kBarsOfKind, &BeamEntInfo::BottomThroughBar},
+        {property::sideBar,          kText,    true,  kSpanned, kAlways,  kBarsOfKind, &BeamEntInfo::SideBar},
+        {property::type1,            kInteger, true,  kBeam,    kAlways,  kType,       &BeamEntInfo::Type},
+        {property::type,             kInteger, false, kOther,   kAlways,  kType,       &BeamEntInfo::Type},
+        {property::topHoriBar,       kText,    true,  kLink,    kAlways,  kBarsOfKind, &LinkBeamEntInfo::TopHoribar},
+        {property::bottomHoriBar,    kText,    true,  kLink,    kAlways,  kBarsOfKind, &LinkBeamEntInfo::BottomHoriBar},
+        {property::sideBarAL,        kText,    true,  kLink,    kAlways,  kBarsOfKind, &LinkBeamEntInfo::SideBarAL},
     };
     return rows;
 }
@@ -84,11 +104,11 @@ const SegmentRow (&segmentRows())[5]
     using Segment = BeamSegmentInfo;
     static const SegmentRow rows[] = {
         // Meant: read from the shape, and rounded where the element's width is not.
-        {property::sectionWidth,   kInteger, true, Of::Any, Read::Never,     WriteStep::Width,      Rounded{&Segment::LineWidth}},
-        {property::axisOffset,     kDouble,  true, Of::Any, Read::Always,    WriteStep::AxisOffset, &Segment::AxisOffset},
-        {property::axisOffsetJZBZ, kDouble,  true, Of::Any, Read::IfPresent, WriteStep::AxisOffset, &Segment::AxisOffset},
-        {property::startPtTopElev, kText,    true, Of::Any, Read::Always,    WriteStep::Elevations, &Segment::StartPtTopElev},
-        {property::endPtTopElev,   kText,    true, Of::Any, Read::Always,    WriteStep::Elevations, &Segment::EndPtTopElev},
+        {property::sectionWidth,   kInteger, true, kAny, kNever,   kWidth,      Rounded{&Segment::LineWidth}},
+        {property::axisOffset,     kDouble,  true, kAny, kAlways,  kOffset,     &Segment::AxisOffset},
+        {property::axisOffsetJZBZ, kDouble,  true, kAny, kIfThere, kOffset,     &Segment::AxisOffset},
+        {property::startPtTopElev, kText,    true, kAny, kAlways,  kElevations, &Segment::StartPtTopElev},
+        {property::endPtTopElev,   kText,    true, kAny, kAlways,  kElevations, &Segment::EndPtTopElev},
     };
     return rows;
 }

@@ -1,68 +1,27 @@
+#include "ModelSerialization/BuildingHost.h"
 #include "ModelSerialization/ORVCADBeamHBXModelConvertService.h"
 #include "ModelSerialization/ORVCADBeamLocalModel2HBXService.h"
-
 #include "beam/ORVCADBeamCollectDataModel.h"
-#include "embedded/ExchangeDocuments.h"
-#include "platform/embedded/HBXProject.h"
-#include "platform/host/IHBXElement.h"
-#include "platform/host/IHBXElementDrawObj.h"
-#include "platform/host/IHBXElements.h"
-#include "platform/host/IHBXFloor.h"
-#include "platform/host/IHBXFloors.h"
-#include "platform/host/IHBXModel.h"
-#include "platform/host/IHBXRegion.h"
-#include "platform/host/IHBXRegions.h"
-#include "platform/host/IHBXService.h"
-#include "platform/host/IHBXShape.h"
 
-#include <gtest/gtest.h>
+#include <QJsonArray>
+#include <QJsonDocument>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace {
 
-using hbx::embedded::HBXProject;
-
-const QSet<long long> kBeamTypes{15, 17, 47};
+const QSet<qint64> kBeamTypes{15, 17, 47};
 constexpr double kNear = 1.0; // mm: geometry text has six digits
 
-std::unique_ptr<HBXProject> load(const char *name)
+/** All beams of a building as the text that the recognition side gets. */
+QByteArray exported(const BuildingHost &building)
 {
-    hbx::embedded::ProjectError error;
-    auto project = HBXProject::fromJson(exchangetest::building(name), name, error);
-    EXPECT_TRUE(project) << error.text().toStdString();
-    return project;
-}
-
-QSet<long long> floorsOf(IHBXModel &model)
-{
-    QSet<long long> ids;
-    for (int i = 0; i < model.regions()->count(); ++i)
-        for (int k = 0; k < model.regions()->at(i)->floors()->count(); ++k)
-            ids.insert(model.regions()->at(i)->floors()->at(k)->id());
-    return ids;
-}
-
-/** All beams of a project as the text that the recognition side gets. */
-QByteArray exported(HBXProject &project)
-{
-    project.makeCurrent();
-    IHBXModel &model = *project.service()->model();
+    building.makeCurrent();
     ORVCADBeamCollectDataModel collected;
-    collected.setBeamIdentifyInfo(
-        ORVCADBeamHBXModelConvertService().convertHBXToCollectDataModel(&model, floorsOf(model), kBeamTypes));
+    collected.setBeamIdentifyInfo(ORVCADBeamHBXModelConvertService().convertHBXToCollectDataModel(
+        &building.model(), building.floorIds(), kBeamTypes));
     return QJsonDocument(collected.toJsonObj()).toJson();
-}
-
-void removeBeams(HBXProject &project)
-{
-    IHBXModel &model = *project.service()->model();
-    QList<IHBXElement *> beams;
-    model.elements()->queryElements(beams, floorsOf(model), kBeamTypes, true);
-    for (IHBXElement *beam : qAsConst(beams))
-        beam->remove();
 }
 
 QJsonArray beamsOf(const QByteArray &text)
@@ -75,11 +34,10 @@ QJsonArray beamsOf(const QByteArray &text)
     return beams;
 }
 
-/** Makes every beam of a text in a project. */
-void applied(const QByteArray &text, HBXProject &project)
+/** Makes every beam of a text in a building. */
+void applied(const QByteArray &text, const BuildingHost &building)
 {
-    project.makeCurrent();
-    ORVCADBeamLocalModel2HBXService service(project.service());
+    ORVCADBeamLocalModel2HBXService service(building.service());
     for (const QJsonValue json : beamsOf(text)) {
         auto beam = std::make_shared<BeamModelDataInfo>();
         beam->fromJson(json.toObject());
@@ -136,27 +94,6 @@ void expectSameBeam(const QJsonValue &actual, const QJsonValue &expected)
     }
 }
 
-/** Boxes of all placed beams, sorted. */
-std::vector<std::array<double, 4>> placesOf(HBXProject &project)
-{
-    IHBXModel &model = *project.service()->model();
-    QList<IHBXElement *> beams;
-    model.elements()->queryElements(beams, floorsOf(model), kBeamTypes, true);
-    std::vector<std::array<double, 4>> places;
-    for (IHBXElement *beam : qAsConst(beams)) {
-        QList<IHBXElementDrawObj *> objects;
-        beam->drawObjs(objects, 0);
-        for (IHBXElementDrawObj *object : qAsConst(objects)) {
-            vks::CBox2<double> box;
-            object->shape()->box(box, true);
-            places.push_back(
-                {std::round(box.minPt.x), std::round(box.minPt.y), std::round(box.maxPt.x), std::round(box.maxPt.y)});
-        }
-    }
-    std::sort(places.begin(), places.end());
-    return places;
-}
-
 struct BuildingCase
 {
     const char *name;
@@ -168,33 +105,28 @@ class RealBuildingRoundTripTest : public ::testing::TestWithParam<BuildingCase>
 
 TEST_P(RealBuildingRoundTripTest, beamsGoOutAndIntoACopyWithoutBeamsAndAreTheSame)
 {
-    const auto original = load(GetParam().name);
-    const QByteArray out = exported(*original);
+    const BuildingHost original(GetParam().name);
+    const QByteArray out = exported(original);
     EXPECT_EQ(beamsOf(out).size(), GetParam().elements);
-    EXPECT_EQ(placesOf(*original).size(), static_cast<std::size_t>(GetParam().placed));
+    EXPECT_EQ(original.places(kBeamTypes).size(), static_cast<std::size_t>(GetParam().placed));
 
-    const auto copy = load(GetParam().name);
-    removeBeams(*copy);
-    ASSERT_TRUE(placesOf(*copy).empty());
-    ASSERT_TRUE(beamsOf(exported(*copy)).isEmpty());
-    applied(out, *copy);
-    const QByteArray again = exported(*copy);
+    const BuildingHost copy(GetParam().name);
+    copy.remove(kBeamTypes);
+    ASSERT_TRUE(copy.places(kBeamTypes).empty());
+    ASSERT_TRUE(beamsOf(exported(copy)).isEmpty());
+    applied(out, copy);
+    const QByteArray again = exported(copy);
     ASSERT_EQ(beamsOf(again).size(), beamsOf(out).size());
     for (int i = 0; i < beamsOf(out).size(); ++i)
         expectSameBeam(beamsOf(again)[i], beamsOf(out)[i]);
 
-    const auto places = placesOf(*copy);
-    const auto originalPlaces = placesOf(*original);
-    ASSERT_EQ(places.size(), originalPlaces.size());
-    for (std::size_t i = 0; i < places.size(); ++i)
-        for (std::size_t side = 0; side < 4; ++side)
-            EXPECT_NEAR(places[i][side], originalPlaces[i][side], kNear);
+    BuildingHost::expectSamePlaces(copy.places(kBeamTypes), original.places(kBeamTypes), kNear);
 }
 
 TEST_P(RealBuildingRoundTripTest, everyPlacedBeamHasSpansThatCoverIt)
 {
-    const auto project = load(GetParam().name);
-    for (const QJsonValue beam : beamsOf(exported(*project)))
+    const BuildingHost building(GetParam().name);
+    for (const QJsonValue beam : beamsOf(exported(building)))
         for (const QJsonValue edo : beam["EDOInfo"].toArray()) {
             const QJsonArray spans = edo["BeamSpanInfo"].toArray();
             EXPECT_FALSE(spans.isEmpty());
@@ -227,12 +159,12 @@ QJsonObject withoutSpansAndFractions(const QJsonValue &beam)
 
 TEST(MadeBuildingRoundTripTest, beamsOfAllKindsGoOutAndIntoACopyWithoutBeams)
 {
-    const auto original = load("made-building");
-    const QByteArray out = exported(*original);
-    const auto copy = load("made-building");
-    removeBeams(*copy);
-    applied(out, *copy);
-    const QJsonArray beams = beamsOf(exported(*copy));
+    const BuildingHost original("made-building");
+    const QByteArray out = exported(original);
+    const BuildingHost copy("made-building");
+    copy.remove(kBeamTypes);
+    applied(out, copy);
+    const QJsonArray beams = beamsOf(exported(copy));
     ASSERT_EQ(beams.size(), 6);
     for (int i = 0; i < beams.size(); ++i)
         EXPECT_EQ(textOf(withoutSpansAndFractions(beams[i])).toStdString(),
@@ -241,9 +173,9 @@ TEST(MadeBuildingRoundTripTest, beamsOfAllKindsGoOutAndIntoACopyWithoutBeams)
 
 TEST(MadeBuildingRoundTripTest, documentOfItsBeamsIsTheOneThatStandsBesideTheTests)
 {
-    const auto project = load("made-building");
+    const BuildingHost building("made-building");
     const QByteArray expected = exchangetest::fileContent(ORVCAD_TEST_DATA "/beams/made-building.json");
-    const QJsonArray beams = beamsOf(exported(*project));
+    const QJsonArray beams = beamsOf(exported(building));
     ASSERT_EQ(beams.size(), 6);
     ASSERT_EQ(beamsOf(expected).size(), 6);
     for (int i = 0; i < beams.size(); ++i)
@@ -252,8 +184,8 @@ TEST(MadeBuildingRoundTripTest, documentOfItsBeamsIsTheOneThatStandsBesideTheTes
 
 TEST(MadeBuildingRoundTripTest, storedSpansGoOutWithTheirBars)
 {
-    const auto project = load("made-building");
-    const QJsonValue beam = beamsOf(exported(*project)).at(0);
+    const BuildingHost building("made-building");
+    const QJsonValue beam = beamsOf(exported(building)).at(0);
     ASSERT_EQ(beam["ElementInfo"]["Name"].toString(), "KL-1");
     const QJsonArray spans = beam["EDOInfo"][0]["BeamSpanInfo"].toArray();
     ASSERT_EQ(spans.size(), 2);
@@ -267,8 +199,8 @@ TEST(MadeBuildingRoundTripTest, storedSpansGoOutWithTheirBars)
 
 TEST(MadeBuildingRoundTripTest, beamWithoutAnAxisComesBackWithoutOne)
 {
-    const auto project = load("made-building");
-    for (const QJsonValue beam : beamsOf(exported(*project))) {
+    const BuildingHost building("made-building");
+    for (const QJsonValue beam : beamsOf(exported(building))) {
         if (beam["ElementInfo"]["Name"].toString() != "KL-no-axis")
             continue;
         EXPECT_EQ(beam["EDOInfo"][0]["BeamSegmentInfo"][0]["WordLine"].toString(), "");

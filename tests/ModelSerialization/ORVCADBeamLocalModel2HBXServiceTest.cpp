@@ -5,7 +5,6 @@
 namespace {
 
 using Service = ORVCADBeamLocalModel2HBXService;
-using testing::ElementsAre;
 using testing::IsEmpty;
 
 class ORVCADBeamLocalModel2HBXServiceTest : public ReconstructionFixture

@@ -82,7 +82,7 @@ public:
 private:
     QString note(const char *how, const std::wstring &name) const
     {
-        const QString key = QString::fromStdWString(name);
+        QString key = QString::fromStdWString(name);
         asked.append(QLatin1String(how) + QLatin1Char(' ') + key);
         if (!failing.isEmpty() && key == failing)
             throw HBXModelException(QStringLiteral("cannot be read"));
