@@ -106,7 +106,9 @@ public:
     PropertyAssistant operator[](const Name &name) { return {this, name}; }
     /** Not to be assigned to; copies of it should be const too. */
     const PropertyAssistant operator[](const Name &name) const; // NOLINT(readability-const-return-type)
-    using Tree::operator[];
+    /** The child at a position; twice, as a position 0 would be a name else. */
+    Data operator[](qint64 position) { return this->child(position); }
+    Data operator[](qint64 position) const { return this->child(position); }
 
     // ---- Methods
 

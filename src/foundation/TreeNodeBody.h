@@ -185,7 +185,7 @@ template <typename T, int Index> auto TreeNode<T, Index>::nodeOf(const T &data) 
     ChildNode *node = nullptr;
     if constexpr (std::is_convertible_v<T, ChildNode *>)
         node = data;
-    else
+    else if constexpr (!std::is_base_of_v<ChildNode, std::remove_pointer_t<T>>) // a node in private is none
         node = dynamic_cast<ChildNode *>(data);
     if (!node)
         throw std::logic_error("May be the child node is base class of ChildNode with protected Mode!");
@@ -352,13 +352,13 @@ template <typename T, int Index> void TreeNode<T, Index>::move_ralations(TreeNod
         to->detach();
     if (parent)
         parent->insertChild(to);
+    if (from == to)
+        return;
 
     // From the back: taking each from the front would move all the others every time.
     std::reverse(from->m_children.begin(), from->m_children.end());
     const Children moving(from->m_children.rbegin(), from->m_children.rend());
     for (ChildNode *child : moving) {
-        if (child->m_parent == to)
-            continue;
         child->detach();
         to->insertChild(child);
     }
