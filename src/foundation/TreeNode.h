@@ -25,12 +25,12 @@
 struct Event
 {
     enum Type {
-        ChildAboutToBeAdded = 0,    ///< a ChildEvent, as are the next three
-        ChildAdded = 1,             ///< the child stands in the list and knows its parent
-        ChildAboutToBeRemoved = 2,  ///< the child stands in the list still
-        ChildRemoved = 3,           ///< the child stands in the list no more
-        ChildrenAboutToChange = 6,  ///< before the four above
-        ChildrenChanged = 7         ///< after them
+        ChildAboutToBeAdded = 0,   ///< a ChildEvent, as are the next three
+        ChildAdded = 1,            ///< the child stands in the list and knows its parent
+        ChildAboutToBeRemoved = 2, ///< the child stands in the list still
+        ChildRemoved = 3,          ///< the child stands in the list no more
+        ChildrenAboutToChange = 6, ///< before the four above
+        ChildrenChanged = 7        ///< after them
     };
 
     explicit Event(int eventType) : type(eventType) {}
