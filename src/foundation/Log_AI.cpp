@@ -1,0 +1,42 @@
+#include "foundation/Log_AI.h"
+
+#include <QMap>
+#include <QUuid>
+
+namespace cv {
+
+struct Log_AI::Record
+{
+    QUuid id = QUuid::createUuid();
+    QString type;
+    QString descript;
+    QMap<QString, QVariant> values;
+    double confidenceLevel = 0.0;
+};
+
+Log_AI::Log_AI(const QString &type, const QString &descript, double confidenceLevel, Object_AI *parent)
+    : Object_AI(parent), m_record(new Record{QUuid::createUuid(), type, descript, {}, confidenceLevel})
+{}
+
+Log_AI::~Log_AI() = default;
+
+Log_AI *Log_AI::setValue(const QString &key, const QVariant &value)
+{
+    m_record->values[key] = value;
+    return this;
+}
+
+QString Log_AI::getLogId() const { return m_record->id.toString(); }
+
+QJsonObject Log_AI::toJson() const
+{
+    QJsonObject json{{QStringLiteral("id"), getLogId()},
+                     {QStringLiteral("type"), m_record->type},
+                     {QStringLiteral("descript"), m_record->descript},
+                     {QStringLiteral("confidenceLevel"), m_record->confidenceLevel}};
+    for (auto value = m_record->values.cbegin(); value != m_record->values.cend(); ++value)
+        json.insert(value.key(), value.value().toString()); // meant: a detail replaces what has its name
+    return json;
+}
+
+} // namespace cv

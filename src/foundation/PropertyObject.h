@@ -1,0 +1,156 @@
+#pragma once
+
+#include "foundation/Any.h"
+#include "foundation/TreeNode.h"
+
+#include <cstddef>
+#include <functional>
+#include <map>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+namespace gp {
+
+/** Second layer of the object system: a tree node with a name, named properties and named methods.
+ *
+ *      object.setProperty("thickness", 120.0);                              // stored
+ *      object.setProperty("elevation", [&] { return Any(m_elev); },         // bound to a field
+ *                         [&](const Any &value) { m_elev = value.to<double>(); });
+ *      double total = object["thickness"].to<double>() + object["elevation"].to<double>();
+ *
+ *  A bound property with a getter and a setter stores nothing itself. One with a setter alone stores what is set and
+ *  gives that. Names that are not there are no failure: reading gives the default, calling a method an empty value.
+ *  Exceptions of getters, setters, methods and callbacks pass through; a getter or setter may not remove its property.
+ *
+ *  @tparam Data   pointer to the class at the end of the chain, which has a constructor (Name, Data parent)
+ *  @tparam Name   of objects, properties and methods; ordered by <
+ *  @tparam Value  what properties hold; copyable, empty by default
+ *
+ *  The class stands in a file of another name because cv::Object_AI is called the same. */
+template <typename Data, typename Name, typename Value> class Object_AI : public TreeNode<Data, 0>
+{
+    using Tree = TreeNode<Data, 0>;
+
+public:
+    using Getter = std::function<Value()>;
+    using Setter = std::function<void(Value)>;
+    using Method = std::function<Value(Value, Value, Value, Value, Value, Value, Value, Value, Value)>;
+    using Predicate = std::function<bool(Object_AI *)>;
+
+    struct property_t
+    {
+        Name name;
+        Value value;
+    };
+
+    /** A named property of an object, whether it is there or not: it is written by assignment and read by conversion.
+     *  It lives no longer than the object. */
+    class PropertyAssistant : public AnySource
+    {
+    public:
+        PropertyAssistant(Object_AI *owner, const Name &name) : m_owner(owner), m_name(name) {}
+        PropertyAssistant(const PropertyAssistant &) = default;
+        ~PropertyAssistant() = default;
+
+        PropertyAssistant &operator=(const Value &value);
+        /** Copies the value of the other property. */
+        PropertyAssistant &operator=(const PropertyAssistant &other); // NOLINT(bugprone-unhandled-self-assignment)
+
+        operator Value() const { return m_owner->property(m_name); }
+        template <typename T> T to() const { return Value(*this).template to<T>(); }
+        template <typename T> T cast() const { return Value(*this).template cast<T>(); }
+
+    private:
+        Object_AI *m_owner;
+        Name m_name;
+    };
+
+    /** @param data    the object that this node is part of
+     *  @param parent  appends the new object to its children; the tree owns it then. Null makes a root */
+    explicit Object_AI(const Data &data, Object_AI *parent = nullptr) : Object_AI(Name(), data, parent) {}
+    Object_AI(const Name &name, const Data &data, Object_AI *parent = nullptr);
+    /** Copies name and properties, but neither methods, callback, parent nor children. A bound property of the copy is
+     *  bound to what the other's is bound to. */
+    Object_AI(const Object_AI &other, const Data &data, int);
+    /** Takes name, properties, children and the place under the parent, but neither methods nor callback. */
+    Object_AI(Object_AI &&other, const Data &data, int);
+    /** Calls the callback; properties, methods and children go after it, and last the object leaves its parent. */
+    ~Object_AI() override;
+
+    /** Copies name and properties. */
+    Object_AI &operator=(const Object_AI &other);
+    /** Deletes the present children, takes name, children and place of the other and exchanges the properties. Nothing
+     *  happens for an object that stands in this one, or is it. */
+    Object_AI &operator=(Object_AI &&other); // NOLINT(*-noexcept-move-*,*-exception-escape): handlers may throw
+
+    const Name &objectName() const { return m_name; }
+    void setObjectName(const Name &name) { m_name = name; }
+
+    // ---- Properties
+
+    /** Writes a property: calls its setter, and stores the value unless it has a getter too. Makes it if need be. */
+    void setProperty(const Name &name, const Value &value);
+    /** Binds a property, making it if need be. An empty function unbinds that side; a stored value stays. */
+    void setProperty(const Name &name, const Getter &getter, const Setter &setter);
+    /** What the getter gives, else the stored value, else the default. */
+    Value property(const Name &name, const Value &defaultValue = Value()) const;
+    /** The same from this object or the nearest one above it that has the property. */
+    Value inherited_property(const Name &name, const Value &defaultValue = Value()) const;
+    bool hasProperty(const Name &name) const { return m_properties.count(name) != 0; }
+    void deleteProperty(const Name &name) { m_properties.erase(name); }
+    /** In the order of names, as properties() is. */
+    std::vector<Name> propertyNames() const;
+    std::vector<property_t> properties() const;
+
+    PropertyAssistant operator[](const Name &name) { return {this, name}; }
+    /** Not to be assigned to; copies of it should be const too. */
+    const PropertyAssistant operator[](const Name &name) const; // NOLINT(readability-const-return-type)
+    /** The child at a position; twice, as a position 0 would be a name else. */
+    Data operator[](qint64 position) { return this->child(position); }
+    Data operator[](qint64 position) const { return this->child(position); }
+
+    // ---- Methods
+
+    void setMethod(const Name &name, const Method &method) { m_methods[name] = method; }
+    /** Calls a copy of the method, so that it may replace itself. Arguments left out are empty values. */
+    Value invokeMethod(const Name &name, const Value &a1 = Value(), const Value &a2 = Value(),
+                       const Value &a3 = Value(), const Value &a4 = Value(), const Value &a5 = Value(),
+                       const Value &a6 = Value(), const Value &a7 = Value(), const Value &a8 = Value(),
+                       const Value &a9 = Value()) const;
+
+    /** Called first of all when the object dies; it may not throw then. What derives from this class is gone by then. */
+    void setCallbackBeforeDestroyed(const std::function<void()> &callback) { m_beforeDestroyed = callback; }
+
+    // ---- Searches, in the order of the tree's; each gives the data of what it finds, null or nothing otherwise.
+
+    using Tree::findChild;
+    Data findChild(const Name &name, FindChildOption option = FindDirectChildren) const;
+    Data findChild_if(const Predicate &predicate, FindChildOption option = FindDirectChildren) const;
+    std::vector<Data> findChildren(const Name &name, FindChildOption option = FindDirectChildren) const;
+    std::vector<Data> findChildren_if(const Predicate &predicate, FindChildOption option = FindDirectChildren) const;
+    /** The child of that name, or a new one. Null only for an object without data. */
+    Data createIfNotExists(const Name &name, FindChildOption option = FindDirectChildren);
+
+private:
+    struct Entry
+    {
+        Getter getter;
+        Setter setter;
+        Value value;
+
+        Value read() const { return getter ? getter() : value; }
+    };
+
+    static typename Tree::Predicate onNodes(const Predicate &predicate);
+    static Predicate isNamed(const Name &name);
+
+    Name m_name;
+    std::map<Name, Entry> m_properties;
+    std::map<Name, Method> m_methods;
+    std::function<void()> m_beforeDestroyed;
+};
+
+} // namespace gp
+
+#include "foundation/PropertyObjectBody.h" // IWYU pragma: keep
