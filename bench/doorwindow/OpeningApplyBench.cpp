@@ -45,7 +45,7 @@ QByteArray replyText(int members)
         } else {
             array.append(QJsonObject{{"elementName", name},
                                      {"X", 55000.0 + i % 1000 * 20},
-                                     {"Y", -35000.0 + i / 1000 * 3000},
+                                     {"Y", -35000 + i / 1000 * 3000},
                                      {"nHeightFromFloor", 0},
                                      {"floorName", "1"},
                                      {"regionName", "Block"}});

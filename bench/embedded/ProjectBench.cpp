@@ -19,7 +19,6 @@ namespace {
 using hbx::embedded::HBXDatabaseFile;
 using hbx::embedded::HBXExchangeReader;
 using hbx::embedded::ProjectError;
-using hbx::embedded::ProjectRecord;
 
 // Ceilings of the ratios.
 constexpr double kSave = 1.3;

@@ -81,8 +81,7 @@ void writeAndReadFloors(Tour &tour, const HBXProject &project)
 QJsonObject writePayload(Tour &tour, const HBXProject &project)
 {
     OpeningOutcome counts;
-    const QJsonObject reply =
-        openingReply(*project.service()->model(), pickFloors(project, QString(), QString()), counts);
+    QJsonObject reply = openingReply(*project.service()->model(), pickFloors(project, QString(), QString()), counts);
     const QByteArray json = QJsonDocument(reply).toJson();
     writeResult(tour.path(QStringLiteral("openings.json")), json);
     tour.step(QStringLiteral("opening export building.hbxdb -o openings.json"),
@@ -117,7 +116,7 @@ std::unique_ptr<HBXProject> stripCopy(Tour &tour, HBXProject &project, const QSt
 OpeningOutcome applyPayload(Tour &tour, HBXProject &project)
 {
     const QString path = tour.path(QStringLiteral("openings.json"));
-    const OpeningOutcome outcome = applyOpenings(project, openingMembers(readJsonFile(path).object(), path));
+    OpeningOutcome outcome = applyOpenings(project, openingMembers(readJsonFile(path).object(), path));
     saveProject(project);
     tour.step(QStringLiteral("opening apply restored.hbxdb openings.json"), outcome.text());
     return outcome;

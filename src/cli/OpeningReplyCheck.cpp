@@ -125,7 +125,7 @@ void OpeningReplyCheck::noteElementPlaces(const QJsonArray &members)
 QString OpeningReplyCheck::whyNot(int index, const QJsonObject &member)
 {
     const bool isElement = member.contains(key::elementId);
-    const QString mistyped = isElement ? mistypedKey(member, kElementKeys) : mistypedKey(member, kPlacedKeys);
+    QString mistyped = isElement ? mistypedKey(member, kElementKeys) : mistypedKey(member, kPlacedKeys);
     if (!mistyped.isEmpty())
         return mistyped;
     return isElement ? whyNotElement(member) : whyNotPlaced(index, member);

@@ -118,7 +118,12 @@ PlanLabels::Label PlanLabels::take(const Frame &text)
     return {text.centre - text.along.Left() * text.halfWidth, std::atan2(text.along.y, text.along.x)};
 }
 
-void PlanLabels::keepFree(const vks::CPolygon &outline) { m_kept.push_back({&outline, frameOf(outline)}); }
+void PlanLabels::keepFree(const vks::CPolygon &outline)
+{
+    const Frame frame = frameOf(outline);
+    if (outline.Area() >= kFilled * 4 * frame.halfLength * frame.halfWidth)
+        m_kept.push_back({&outline, frame});
+}
 
 std::optional<PlanLabels::Label> PlanLabels::placeInside(const vks::CPolygon &outline, const QString &name)
 {

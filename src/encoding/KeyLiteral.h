@@ -1,16 +1,10 @@
 #pragma once
 
-#include <QLatin1String>
-
-#include <cstddef>
+#include "platform/dwgx/KeyLiteral.h"
 
 namespace encoding {
 
-/** A constant Latin-1 text such as a JSON key, "Name"_key. QLatin1String's own constructor is constant only for
- *  compilers that know strlen at compile time. */
-constexpr QLatin1String operator""_key(const char *text, std::size_t size)
-{
-    return QLatin1String(text, static_cast<int>(size));
-}
+/** Keys of records are written as those of drawing files are: "Name"_key. */
+using namespace dwgx::literals;
 
 } // namespace encoding

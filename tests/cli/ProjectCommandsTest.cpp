@@ -19,7 +19,7 @@ protected:
     {
         const QByteArray before = read("house.hbxdb");
         write("broken.json", building);
-        const QJsonObject error = refusal({"project", "import", "broken.json", "-o", "house.hbxdb"}, "broken.json");
+        QJsonObject error = refusal({"project", "import", "broken.json", "-o", "house.hbxdb"}, "broken.json");
         EXPECT_EQ(read("house.hbxdb"), before) << "the project file changed";
         refusal({"project", "import", "broken.json", "-o", "new.hbxdb"}, "broken.json");
         EXPECT_FALSE(exists("new.hbxdb"));

@@ -2,6 +2,8 @@
 
 #include "platform/embedded/HBXExchangeReader.h"
 
+#include <gtest/gtest.h>
+
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -25,6 +27,15 @@ inline QByteArray building(const std::string &name)
 }
 
 inline QJsonObject parsed(const QByteArray &json) { return QJsonDocument::fromJson(json).object(); }
+
+/** What a building file holds, which must be sound. */
+inline hbx::embedded::ProjectRecord recordOf(const QByteArray &json)
+{
+    hbx::embedded::ProjectError error;
+    auto project = hbx::embedded::HBXExchangeReader::read(json, "house.json", error);
+    EXPECT_TRUE(project) << error.text().toStdString();
+    return project ? *project : hbx::embedded::ProjectRecord();
+}
 
 /** A document whose geometry texts have nothing but a comma between the rings of a polygon, as the kernel writes them;
  *  files may have a space there, too. */

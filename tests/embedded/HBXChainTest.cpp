@@ -115,6 +115,7 @@ TEST_F(HBXChainTest, longChainsAreLinkedQuicklyFromEitherEnd)
 {
     constexpr int kLong = 20000;
     std::vector<IHBXElementDrawObj *> objects;
+    objects.reserve(kLong);
     for (int i = 0; i < kLong; ++i)
         objects.push_back(placed(beam));
     for (std::size_t i = objects.size() - 1; i > 0; --i)

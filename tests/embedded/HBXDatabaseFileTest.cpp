@@ -147,7 +147,7 @@ TEST_F(HBXDatabaseFileTest, whatWasWrittenIsReadAgain)
 
 TEST_F(HBXDatabaseFileTest, numbersComeBackBitForBit)
 {
-    ProjectRecord project = recordOf(exchangetest::kSmallBuilding);
+    ProjectRecord project = exchangetest::recordOf(exchangetest::kSmallBuilding);
     const double odd[] = {0.1, 1.0 / 3.0, 5e-324, 1.7976931348623157e308, 123456789.12345679};
     for (const double number : odd) {
         project.drawObjs[0].shape.width = number;
@@ -165,7 +165,7 @@ TEST_F(HBXDatabaseFileTest, numbersComeBackBitForBit)
 
 TEST_F(HBXDatabaseFileTest, sizesThatAreNotFiniteAreWrittenAsTheirStartValue)
 {
-    ProjectRecord project = recordOf(exchangetest::kSmallBuilding);
+    ProjectRecord project = exchangetest::recordOf(exchangetest::kSmallBuilding);
     project.drawObjs[0].shape.width = std::numeric_limits<double>::infinity();
     project.elements[0].properties[0].second = std::numeric_limits<double>::quiet_NaN();
     ProjectError error;
@@ -389,7 +389,7 @@ TEST_F(HBXDatabaseFileTest, aLinkStaysALinkWhenTheFileBehindItIsReplaced)
 {
     makeFile();
     ASSERT_TRUE(QFile::link(path(), path("link.hbxdb")));
-    const ProjectRecord other = recordOf(building("precast-hall"));
+    const ProjectRecord other = exchangetest::recordOf(building("precast-hall"));
     ProjectError error;
     ASSERT_TRUE(HBXDatabaseFile(path("link.hbxdb")).create(other, error));
     EXPECT_TRUE(QFileInfo(path("link.hbxdb")).isSymLink());

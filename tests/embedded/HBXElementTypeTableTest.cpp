@@ -69,7 +69,8 @@ TEST(HBXElementTypeTableTest, typeIsFoundByItsOwnName)
 
 TEST(HBXElementTypeTableTest, noTwoTypesShareKeyNameOrColour)
 {
-    std::set<QString> keys, names;
+    std::set<QString> keys;
+    std::set<QString> names;
     std::set<int> colours;
     for (const ElementTypeInfo &info : kElementTypes) {
         EXPECT_TRUE(keys.insert(info.key()).second) << info.number;

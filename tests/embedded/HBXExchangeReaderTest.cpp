@@ -16,14 +16,6 @@ using hbx::embedded::PropertyValue;
 
 namespace {
 
-ProjectRecord read(const QByteArray &json)
-{
-    ProjectError error;
-    auto project = HBXExchangeReader::read(json, "house.json", error);
-    EXPECT_TRUE(project) << error.text().toStdString();
-    return project ? *project : ProjectRecord();
-}
-
 std::string refusalOf(const QByteArray &json)
 {
     ProjectError error;
@@ -238,7 +230,7 @@ INSTANTIATE_TEST_SUITE_P(Property, HBXExchangeReaderRefusalTest, ::testing::Valu
 
 TEST(HBXExchangeReaderTest, idsCountUpFromOneInTheOrderOfCreation)
 {
-    const ProjectRecord project = read(kSmallBuilding);
+    const ProjectRecord project = recordOf(kSmallBuilding);
     EXPECT_EQ(project.regions[0].id, 1);
     EXPECT_EQ(project.floors[0].id, 2);
     EXPECT_EQ(project.elements.front().id, 3);
@@ -253,7 +245,7 @@ TEST(HBXExchangeReaderTest, idsCountUpFromOneInTheOrderOfCreation)
 
 TEST(HBXExchangeReaderTest, absentMembersTakeTheirStartValues)
 {
-    const ProjectRecord project = read(kSmallBuilding);
+    const ProjectRecord project = recordOf(kSmallBuilding);
     EXPECT_EQ(project.floors[0].standardFloorCount, 1);
     EXPECT_FALSE(project.floors[0].foundation);
     EXPECT_EQ(project.planeRule, QString());
@@ -267,7 +259,7 @@ TEST(HBXExchangeReaderTest, absentMembersTakeTheirStartValues)
 
 TEST(HBXExchangeReaderTest, namesOfOthersBecomeTheirIds)
 {
-    const ProjectRecord project = read(kSmallBuilding);
+    const ProjectRecord project = recordOf(kSmallBuilding);
     EXPECT_EQ(drawObjOf(project, "M-1").attachedTo, drawObjOf(project, "Q-200").id);
     EXPECT_EQ(drawObjOf(project, "BD-1").attachedTo, drawObjOf(project, "B-1").id);
     EXPECT_EQ(drawObjOf(project, "KL-1", 0).next, drawObjOf(project, "KL-1", 1).id);
@@ -276,7 +268,7 @@ TEST(HBXExchangeReaderTest, namesOfOthersBecomeTheirIds)
 
 TEST(HBXExchangeReaderTest, keysInPropertiesBecomeIds)
 {
-    const ProjectRecord project = read(kSmallBuilding);
+    const ProjectRecord project = recordOf(kSmallBuilding);
     const DrawObjRecord &slab = drawObjOf(project, "B-1"); // id 18
     const DrawObjRecord &bar = drawObjOf(project, "SLJ");  // id 19
     EXPECT_EQ(slab.id, 18);
@@ -288,7 +280,7 @@ TEST(HBXExchangeReaderTest, keysInPropertiesBecomeIds)
 
 TEST(HBXExchangeReaderTest, minusOneStandsForNoSlab)
 {
-    const ProjectRecord project = read(smallBuildingWith(OBJECT(5) ".properties.DependSlabID", "-1"));
+    const ProjectRecord project = recordOf(smallBuildingWith(OBJECT(5) ".properties.DependSlabID", "-1"));
     EXPECT_EQ(valueOf(drawObjOf(project, "FJ").properties, "DependSlabID"), PropertyValue(-1));
 }
 
@@ -296,7 +288,7 @@ TEST(HBXExchangeReaderTest, aNumberUnderATextPropertyIsItsDecimalText)
 {
     const QString place = ELEMENT(0) ".properties.TieBar";
     const auto textOf = [&](const char *number) {
-        return valueOf(read(smallBuildingWith(place, number)).elements[0].properties, "TieBar");
+        return valueOf(recordOf(smallBuildingWith(place, number)).elements[0].properties, "TieBar");
     };
     EXPECT_EQ(textOf("1"), PropertyValue(QString("1")));
     EXPECT_EQ(textOf("12.5"), PropertyValue(QString("12.5")));
@@ -305,7 +297,7 @@ TEST(HBXExchangeReaderTest, aNumberUnderATextPropertyIsItsDecimalText)
 
 TEST(HBXExchangeReaderTest, nullIsAPropertyWithoutAValue)
 {
-    const ProjectRecord project = read(smallBuildingWith(ELEMENT(0) ".properties.Thickness", "null"));
+    const ProjectRecord project = recordOf(smallBuildingWith(ELEMENT(0) ".properties.Thickness", "null"));
     ASSERT_EQ(project.elements[0].properties.size(), 1U);
     EXPECT_EQ(project.elements[0].properties[0].first, QString("Thickness"));
     EXPECT_EQ(project.elements[0].properties[0].second, PropertyValue());
@@ -313,7 +305,7 @@ TEST(HBXExchangeReaderTest, nullIsAPropertyWithoutAValue)
 
 TEST(HBXExchangeReaderTest, orderSaysWhichObjectsOfAFloorAreMadeFirst)
 {
-    const ProjectRecord project = read(building("made-building"));
+    const ProjectRecord project = recordOf(building("made-building"));
     const qint64 first = drawObjOf(project, "GZ-A", 0).id; // objects stand in id order here
     EXPECT_EQ(drawObjOf(project, "GZ-A", 0).shape.insertPoint.x, 36000) << "order 10";
     EXPECT_EQ(drawObjOf(project, "GZ-B", 0).id, first + 1) << "order 20";

@@ -14,15 +14,7 @@ using hbx::embedded::ProjectRecord;
 
 namespace {
 
-ProjectRecord read(const QByteArray &json)
-{
-    ProjectError error;
-    auto project = HBXExchangeReader::read(json, "house.json", error);
-    EXPECT_TRUE(project) << error.text().toStdString();
-    return project ? *project : ProjectRecord();
-}
-
-QByteArray rewritten(const QByteArray &json) { return HBXExchangeWriter::write(read(json)); }
+QByteArray rewritten(const QByteArray &json) { return HBXExchangeWriter::write(recordOf(json)); }
 
 QJsonObject firstFloor(const QByteArray &json)
 {

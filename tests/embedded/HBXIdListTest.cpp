@@ -10,8 +10,8 @@ class HBXIdListTest : public ::testing::Test
 protected:
     HBXIdListTest()
     {
-        for (int i = 0; i < 6; ++i)
-            list.insert(ids[i], &ids[i]);
+        for (qint64 &id : ids)
+            list.insert(id, &id);
     }
     std::vector<qint64> inOrder() const
     {

@@ -61,14 +61,6 @@ inline std::string contentOf(const hbx::embedded::ProjectRecord &project)
     return ids + '\n' + hbx::embedded::HBXExchangeWriter::write(project).toStdString();
 }
 
-inline hbx::embedded::ProjectRecord recordOf(const QByteArray &json)
-{
-    hbx::embedded::ProjectError error;
-    auto project = hbx::embedded::HBXExchangeReader::read(json, "house.json", error);
-    EXPECT_TRUE(project) << error.text().toStdString();
-    return project ? *project : hbx::embedded::ProjectRecord();
-}
-
 /** A folder with a project file in it. */
 class ProjectFileTest : public ::testing::Test
 {
@@ -77,7 +69,7 @@ protected:
 
     hbx::embedded::ProjectRecord makeFile(const QByteArray &json = exchangetest::kSmallBuilding)
     {
-        const auto record = recordOf(json);
+        auto record = exchangetest::recordOf(json);
         hbx::embedded::ProjectError error;
         EXPECT_TRUE(hbx::embedded::HBXDatabaseFile(path()).create(record, error)) << error.text().toStdString();
         return record;

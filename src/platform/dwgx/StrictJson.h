@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/dwgx/KeyLiteral.h"
+
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QJsonValue>
@@ -11,9 +13,6 @@
 /** Reading of JSON files that are refused as a whole when they break a rule. Every reader here throws JsonRefusal, which
  *  the reader of the file catches. */
 namespace dwgx {
-
-/** A key as a constant. QLatin1String by itself counts its characters at run time. */
-template <int Size> constexpr QLatin1String jsonKey(const char (&text)[Size]) { return QLatin1String(text, Size - 1); }
 
 struct JsonRefusal
 {

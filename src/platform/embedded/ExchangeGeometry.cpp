@@ -37,7 +37,7 @@ template <typename Geometry> CRefPtr<Geometry> fromText(const QString &text)
 
 template <typename Geometry> CRefPtr<Geometry> read(const QJsonValue &value, const JsonPlace &place, const char *what)
 {
-    const CRefPtr<Geometry> geometry = value.isString() ? fromText<Geometry>(value.toString()) : nullptr;
+    CRefPtr<Geometry> geometry = value.isString() ? fromText<Geometry>(value.toString()) : nullptr;
     if (!geometry)
         place.refuse(QStringLiteral("is not the text of a %1").arg(QLatin1String(what)));
     return geometry;

@@ -9,7 +9,7 @@ constexpr qint64 kExactInDouble = Q_INT64_C(1) << 53;
 
 QString ExchangeObject::name(QLatin1String key) const
 {
-    const QString found = text(key);
+    QString found = text(key);
     if (found.isEmpty())
         placeOf(key).refuse(QStringLiteral("is empty"));
     return found;

@@ -61,7 +61,7 @@ QJsonObject spanFromJson(const QJsonValue &value, const JsonPlace &place)
 {
     if (!value.isObject())
         place.refuse(QStringLiteral("is not an object"));
-    const QJsonObject span = value.toObject();
+    QJsonObject span = value.toObject();
     for (auto member = span.constBegin(); member != span.constEnd(); ++member)
         checkMember(member.key(), member.value(), place);
     return span;

@@ -149,6 +149,7 @@ private:
 void writeNew(const QString &path, const ProjectRecord &project, qint64 mark)
 {
     SqliteConnection connection(path, SqliteConnection::kCreate);
+    connection.run("PRAGMA journal_mode=MEMORY"); // a file that is given up when anything fails needs none beside it
     SqliteTransaction transaction(connection, "BEGIN EXCLUSIVE");
     schema::create(connection);
     HBXDatabaseWriter(connection).writeAll(project, mark);

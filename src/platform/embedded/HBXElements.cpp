@@ -128,7 +128,7 @@ bool HBXElements::isTaken(HBXFloor &floor, qint64 type, const QString &name) con
 
 QString HBXElements::freeName(HBXFloor &floor, qint64 type, const QString &name) const
 {
-    const QString base = name.isEmpty() ? typeName(type) : name;
+    QString base = name.isEmpty() ? typeName(type) : name;
     if (!isTaken(floor, type, base))
         return base;
     int fromFirst = 0; // a name for any type may become free in any of them

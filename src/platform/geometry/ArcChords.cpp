@@ -66,6 +66,7 @@ std::vector<double> cornerAngles(double radius, const std::vector<double> &ends,
         add(std::remainder(k * step, 2 * kPi));
     std::sort(corners.begin(), corners.end());
     std::vector<double> angles;
+    angles.reserve(corners.size());
     for (const auto &corner : corners)
         angles.push_back(corner.second);
     return angles;
@@ -83,7 +84,7 @@ ArcChords::Key ArcChords::keyOf(const Circle &circle) const
 
 ArcChords::Circle ArcChords::circleOf(const CArc2d &arc) const
 {
-    const Circle own{arc.CenterPt() - m_origin, arc.Radius(), {}};
+    Circle own{arc.CenterPt() - m_origin, arc.Radius(), {}};
     const auto found = m_circles.find(keyOf(own));
     if (found != m_circles.end())
         for (const Circle &known : found->second)
@@ -97,7 +98,7 @@ void ArcChords::learn(const CCurve2d &curve)
     if (!isRound(curve))
         return;
     const auto &arc = static_cast<const CArc2d &>(curve);
-    const Circle own{arc.CenterPt() - m_origin, arc.Radius(), {}};
+    Circle own{arc.CenterPt() - m_origin, arc.Radius(), {}};
     std::vector<Circle> &cell = m_circles[keyOf(own)];
     auto circle = std::find_if(cell.begin(), cell.end(), [&own](const Circle &known) {
         return isSame(known.centre, known.radius, own.centre, own.radius);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cmath>
+#include <limits>
 
 namespace vks {
 
@@ -28,7 +29,13 @@ template <typename T> struct CVec2
     /** Positive when other lies to the left of this. */
     constexpr T Cross(const CVec2 &other) const { return x * other.y - y * other.x; }
     constexpr T SqrLength() const { return Dot(*this); }
-    T Length() const { return std::hypot(x, y); }
+    T Length() const
+    {
+        // std::hypot takes several times as long, and is needed only where the square overflows or vanishes.
+        constexpr T least = std::numeric_limits<T>::min() / std::numeric_limits<T>::epsilon();
+        const T square = SqrLength();
+        return square >= least && square <= std::numeric_limits<T>::max() ? std::sqrt(square) : std::hypot(x, y);
+    }
     T DistanceTo(const CVec2 &other) const { return (other - *this).Length(); }
     /** The same direction with length 1; (0, 0) stays as it is. */
     CVec2 Normalized() const
