@@ -2,8 +2,8 @@
 
 #include "drawing/DrawingKeys.h"
 #include "drawing/FloorElevation.h"
-#include "encoding/RecordFields.h"
 #include "encoding/KeyLiteral.h"
+#include "encoding/RecordFields.h"
 
 #include <memory>
 

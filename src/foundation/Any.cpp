@@ -31,9 +31,7 @@ Any::Base::~Base() = default;
 
 Any::Any(const Any &other) : m_held(other.m_held ? other.m_held->clone() : nullptr), m_type(other.m_type) {}
 
-Any::Any(Any &&other) noexcept
-    : m_held(std::move(other.m_held)), m_type(std::exchange(other.m_type, &typeid(void)))
-{}
+Any::Any(Any &&other) noexcept : m_held(std::move(other.m_held)), m_type(std::exchange(other.m_type, &typeid(void))) {}
 
 Any &Any::operator=(Any other) noexcept
 {

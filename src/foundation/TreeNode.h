@@ -25,12 +25,12 @@
 struct Event
 {
     enum Type {
-        ChildAboutToBeAdded = 0,    ///< a ChildEvent, as are the next three
-        ChildAdded = 1,             ///< the child stands in the list and knows its parent
-        ChildAboutToBeRemoved = 2,  ///< the child stands in the list still
-        ChildRemoved = 3,           ///< the child stands in the list no more
-        ChildrenAboutToChange = 6,  ///< before the four above
-        ChildrenChanged = 7         ///< after them
+        ChildAboutToBeAdded = 0,   ///< a ChildEvent, as are the next three
+        ChildAdded = 1,            ///< the child stands in the list and knows its parent
+        ChildAboutToBeRemoved = 2, ///< the child stands in the list still
+        ChildRemoved = 3,          ///< the child stands in the list no more
+        ChildrenAboutToChange = 6, ///< before the four above
+        ChildrenChanged = 7        ///< after them
     };
 
     explicit Event(int eventType) : type(eventType) {}
@@ -150,14 +150,14 @@ public:
     // ---- The forms with a payload throw std::logic_error for null, those with a node std::invalid_argument, and the
     // ---- former set the payload of a node that has none.
 
+    /** Inserts where findInsertPos says. @return that position, -1 if nothing was inserted */
+    qint64 insertChild(const T &data) { return insertChild(nodeOf(data)); }
+    virtual qint64 insertChild(ChildNode *child);
     /** Inserts at a position up to childCount(), which appends; false beyond. For one that is a child of this node
      *  already nothing is sent: it changes places with the child at that position, or goes to the end for childCount();
      *  false where it stands there already. */
     bool insertChild(std::size_t position, const T &data) { return insertChild(position, nodeOf(data)); }
     virtual bool insertChild(std::size_t position, ChildNode *child);
-    /** Inserts where findInsertPos says. @return that position, -1 if nothing was inserted */
-    qint64 insertChild(const T &data) { return insertChild(nodeOf(data)); }
-    virtual qint64 insertChild(ChildNode *child);
     bool appendChild(const T &data) { return appendChild(nodeOf(data)); }
     bool appendChild(ChildNode *child) { return insertChild(m_children.size(), child); }
     TreeNode &operator<<(const T &data);

@@ -58,8 +58,8 @@ TEST(AnyTest, movedFromValueIsEmpty)
     Any first(5);
     Any second(std::move(first));
     EXPECT_EQ(second.cast<int>(), 5);
-    EXPECT_TRUE(first.isEmpty());                // NOLINT(bugprone-use-after-move)
-    EXPECT_EQ(first.type(), typeid(void));       // NOLINT(bugprone-use-after-move)
+    EXPECT_TRUE(first.isEmpty());          // NOLINT(bugprone-use-after-move)
+    EXPECT_EQ(first.type(), typeid(void)); // NOLINT(bugprone-use-after-move)
     first = std::move(second);
     EXPECT_EQ(first.cast<int>(), 5);
     EXPECT_TRUE(second.isEmpty()); // NOLINT(bugprone-use-after-move)

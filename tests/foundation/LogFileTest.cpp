@@ -100,7 +100,8 @@ TEST_F(LogFileTest, savedLogsStandInOneFileInTheFixedFolder)
     const QJsonObject second = model.log("hole", "two", 1.0)->toJson();
     model.saveLog();
     ASSERT_EQ(files().size(), 1);
-    EXPECT_TRUE(QRegularExpression("^\\{[0-9a-f-]{36}\\}\\.json$").match(files()[0]).hasMatch()) << qPrintable(files()[0]);
+    EXPECT_TRUE(QRegularExpression("^\\{[0-9a-f-]{36}\\}\\.json$").match(files()[0]).hasMatch())
+        << qPrintable(files()[0]);
     EXPECT_EQ(textOf(files()[0]), QJsonDocument(QJsonArray{second, first}).toJson());
 }
 
@@ -180,7 +181,8 @@ TEST_F(LogFileTest, fileThatCannotBeOpenedIsAWarningAndTheLogsAreGone)
     slab->log("t", "one", 0.5);
     const Warnings warnings;
     model.saveLog();
-    EXPECT_THAT(warnings.texts(), ElementsAre(testing::MatchesRegex("\"E:/.*/BoardCheckLog/\\{[0-9a-f-]+\\}.json\" \"No such file or directory\"")));
+    EXPECT_THAT(warnings.texts(), ElementsAre(testing::MatchesRegex(
+                                      "\"E:/.*/BoardCheckLog/\\{[0-9a-f-]+\\}.json\" \"No such file or directory\"")));
     EXPECT_EQ(slab->childCount(), 0U);
     QFile::remove(kFolder);
 }
@@ -194,7 +196,8 @@ TEST_F(LogFileTest, fileThatIsWrittenShortIsAWarning)
         const NoRoom noRoom;
         model.saveLog();
     }
-    EXPECT_THAT(warnings.texts(), ElementsAre(testing::MatchesRegex("\"E:/.*/BoardCheckLog/\\{[0-9a-f-]+\\}.json\" \"File too large\"")));
+    EXPECT_THAT(warnings.texts(),
+                ElementsAre(testing::MatchesRegex("\"E:/.*/BoardCheckLog/\\{[0-9a-f-]+\\}.json\" \"File too large\"")));
     EXPECT_EQ(slab->childCount(), 0U);
 }
 

@@ -173,8 +173,9 @@ TEST_F(PropertyObjectTest, laterBindingTakesThePlaceOfTheEarlier)
 
 TEST_F(PropertyObjectTest, exceptionsOfGettersAndSettersPassThrough)
 {
-    slab->setProperty("elevation", [this]() -> Any { throw std::runtime_error("get"); },
-                      [](const Any &) { throw std::runtime_error("set"); });
+    slab->setProperty(
+        "elevation", [this]() -> Any { throw std::runtime_error("get"); },
+        [](const Any &) { throw std::runtime_error("set"); });
     EXPECT_THAT([&] { slab->property("elevation"); }, testing::ThrowsMessage<std::runtime_error>("get"));
     EXPECT_THAT([&] { slab->setProperty("elevation", 1); }, testing::ThrowsMessage<std::runtime_error>("set"));
 }

@@ -30,13 +30,15 @@ protected:
 TEST_F(TreeNodeEventTest, insertionTellsTheParentAndThoseAbove)
 {
     fresh->appendChild(new TracedNode(trace, "n"));
-    EXPECT_THAT(trace.lines, ElementsAre("new 6", "top 6", "new 0 n", "top 0 n", "new 1 n", "top 1 n", "new 7", "top 7"));
+    EXPECT_THAT(trace.lines,
+                ElementsAre("new 6", "top 6", "new 0 n", "top 0 n", "new 1 n", "top 1 n", "new 7", "top 7"));
 }
 
 TEST_F(TreeNodeEventTest, reparentingTellsTheOldParentAndThenTheNewOne)
 {
     top->appendChild(child);
-    EXPECT_THAT(trace.lines, ElementsAre("old 6", "old 2 c", "old 3 c", "old 7", "top 6", "top 0 c", "top 1 c", "top 7"));
+    EXPECT_THAT(trace.lines,
+                ElementsAre("old 6", "old 2 c", "old 3 c", "old 7", "top 6", "top 0 c", "top 1 c", "top 7"));
 }
 
 TEST_F(TreeNodeEventTest, setParentTellsAsInsertionDoes)
@@ -99,11 +101,10 @@ TEST_F(TreeNodeEventTest, relationsMoveWithTheEventsOfEachStep)
     to->stops = true;
     trace.take();
     TracedNode::move_ralations(old.get(), to);
-    EXPECT_THAT(trace.lines,
-                ElementsAre("top 6", "top 2 old", "top 3 old", "top 7",      // the old node leaves its parent
-                            "top 6", "top 0 to", "top 1 to", "top 7",        // the other comes in its place
-                            "old 6", "old 2 c", "old 3 c", "old 7",          // and each child follows
-                            "to 6", "to 0 c", "to 1 c", "to 7"));
+    EXPECT_THAT(trace.lines, ElementsAre("top 6", "top 2 old", "top 3 old", "top 7", // the old node leaves its parent
+                                         "top 6", "top 0 to", "top 1 to", "top 7",   // the other comes in its place
+                                         "old 6", "old 2 c", "old 3 c", "old 7",     // and each child follows
+                                         "to 6", "to 0 c", "to 1 c", "to 7"));
 }
 
 TEST_F(TreeNodeEventTest, listAndLinkAreWhatEachEventSays)
@@ -114,8 +115,8 @@ TEST_F(TreeNodeEventTest, listAndLinkAreWhatEachEventSays)
                        (child->parent() == top.get() ? " linked" : " not linked"));
     };
     top->appendChild(child);
-    EXPECT_THAT(seen, ElementsAre("6 not listed not linked", "0 not listed not linked", "1 listed linked",
-                                  "7 listed linked"));
+    EXPECT_THAT(
+        seen, ElementsAre("6 not listed not linked", "0 not listed not linked", "1 listed linked", "7 listed linked"));
     seen.clear();
     child->setParent(nullptr);
     EXPECT_THAT(seen, ElementsAre("6 listed not linked", "2 listed not linked", "3 not listed not linked",

@@ -69,7 +69,8 @@ struct Plain
     }
     static bool move(std::vector<int> &siblings, std::size_t position, int node)
     {
-        const auto from = static_cast<std::size_t>(std::find(siblings.begin(), siblings.end(), node) - siblings.begin());
+        const auto from =
+            static_cast<std::size_t>(std::find(siblings.begin(), siblings.end(), node) - siblings.begin());
         if (position == from || (position == siblings.size() && from + 1 == position))
             return false;
         if (position < siblings.size()) {
@@ -217,17 +218,19 @@ private:
 TEST(TreeNodeRandomTest, treeIsWhatAPlainModelOfItIs)
 {
     // Several of the gentle ones for each that destroys, so that trees grow.
-    constexpr std::array operations = {
-        &RandomTree::insertAnywhere, &RandomTree::insertAnywhere, &RandomTree::append,   &RandomTree::append,
-        &RandomTree::reparent,       &RandomTree::reparent,       &RandomTree::makeRoot, &RandomTree::takeOut,
-        &RandomTree::moveRelations,  &RandomTree::kill};
+    constexpr std::array operations = {&RandomTree::insertAnywhere, &RandomTree::insertAnywhere,
+                                       &RandomTree::append,         &RandomTree::append,
+                                       &RandomTree::reparent,       &RandomTree::reparent,
+                                       &RandomTree::makeRoot,       &RandomTree::takeOut,
+                                       &RandomTree::moveRelations,  &RandomTree::kill};
     RandomTree tree;
     std::size_t most = 0;
     for (int i = 0; i < kOperations && !HasFailure(); ++i) {
         if (tree.living() < kMostNodes && tree.below(4) == 0)
             tree.add();
-        const auto operation = tree.below(200) == 0 ? &RandomTree::clear
-                                                    : operations[static_cast<std::size_t>(tree.below(operations.size()))];
+        const auto operation = tree.below(200) == 0
+                                   ? &RandomTree::clear
+                                   : operations[static_cast<std::size_t>(tree.below(operations.size()))];
         const int first = tree.any();
         (tree.*operation)(first, tree.any());
         most = std::max(most, tree.living());

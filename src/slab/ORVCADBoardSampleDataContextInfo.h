@@ -1,0 +1,21 @@
+#pragma once
+
+#include "ORVCADModelDataExport.h"
+#include "platform/services/ORVCADSampleDataContextInfo.h"
+#include "platform/services/etCustomSupportEdoType.h"
+
+#include <QSet>
+
+/** What slab recognition was given for a sample: floor and region, and the kinds of supports taken into account. */
+class ORVCADMODELDATA_EXPORT ORVCADBoardSampleDataContextInfo : public ORVCADSampleDataContextInfo
+{
+public:
+    /** Floor and region as the base reads them; no kinds of supports. Null is allowed. */
+    explicit ORVCADBoardSampleDataContextInfo(IHBXService *service);
+
+    QSet<etCustomSupportEdoType> getSupportTypes() const;
+    void setSupportTypes(const QSet<etCustomSupportEdoType> &supportTypes);
+
+private:
+    QSet<etCustomSupportEdoType> m_supportTypes;
+};
