@@ -17,10 +17,7 @@ double angleBetween(const vks::CVec2<double> &a, const vks::CVec2<double> &b)
 
 bool isNoTurn(double angle) { return std::fabs(angle) <= slab::kSameDirectionAngle + slab::kAngleNoise; }
 
-bool isNoTurnOrHalf(double angle)
-{
-    return isNoTurn(angle) || isNoTurn(angle + kPi) || isNoTurn(angle - kPi);
-}
+bool isNoTurnOrHalf(double angle) { return isNoTurn(angle) || isNoTurn(angle + kPi) || isNoTurn(angle - kPi); }
 
 } // namespace
 
