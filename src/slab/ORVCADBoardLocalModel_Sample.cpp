@@ -83,43 +83,37 @@ ORVCADBoardLocalModel_Sample::~ORVCADBoardLocalModel_Sample() = default;
 
 // ---- Readers
 
-std::vector<const Model::Object *> ORVCADBoardLocalModel_Sample::objects() const { return allOf<Object>(*this); }
-std::vector<const Model::Beam *> ORVCADBoardLocalModel_Sample::beams() const { return allOf<Beam>(*this); }
-std::vector<const Model::Wall *> ORVCADBoardLocalModel_Sample::walls() const { return allOf<Wall>(*this); }
-std::vector<const Model::Column *> ORVCADBoardLocalModel_Sample::columns() const { return allOf<Column>(*this); }
-std::vector<const Model::Board *> ORVCADBoardLocalModel_Sample::boards() const { return allOf<Board>(*this); }
-std::vector<const Model::BoardHole *> ORVCADBoardLocalModel_Sample::boardHoles() const
-{
-    return allOf<BoardHole>(*this);
-}
-std::vector<const Model::Raft *> ORVCADBoardLocalModel_Sample::rafts() const { return allOf<Raft>(*this); }
-std::vector<const Model::ForcedBar *> ORVCADBoardLocalModel_Sample::forcedBars() const
-{
-    return allOf<ForcedBar>(*this);
-}
-std::vector<const Model::StraddleForcedBar *> ORVCADBoardLocalModel_Sample::straddleForcedBars() const
+std::vector<const Model::Object *> Model::objects() const { return allOf<Object>(*this); }
+std::vector<const Model::Beam *> Model::beams() const { return allOf<Beam>(*this); }
+std::vector<const Model::Wall *> Model::walls() const { return allOf<Wall>(*this); }
+std::vector<const Model::Column *> Model::columns() const { return allOf<Column>(*this); }
+std::vector<const Model::Board *> Model::boards() const { return allOf<Board>(*this); }
+std::vector<const Model::BoardHole *> Model::boardHoles() const { return allOf<BoardHole>(*this); }
+std::vector<const Model::Raft *> Model::rafts() const { return allOf<Raft>(*this); }
+std::vector<const Model::ForcedBar *> Model::forcedBars() const { return allOf<ForcedBar>(*this); }
+std::vector<const Model::StraddleForcedBar *> Model::straddleForcedBars() const
 {
     return allOf<StraddleForcedBar>(*this);
 }
-std::vector<const Model::NegativeForcedBar *> ORVCADBoardLocalModel_Sample::negativeForcedBars() const
+std::vector<const Model::NegativeForcedBar *> Model::negativeForcedBars() const
 {
     return allOf<NegativeForcedBar>(*this);
 }
-std::vector<const Model::RaftMainForcedBar *> ORVCADBoardLocalModel_Sample::raftMainForcedBars() const
+std::vector<const Model::RaftMainForcedBar *> Model::raftMainForcedBars() const
 {
     return allOf<RaftMainForcedBar>(*this);
 }
-std::vector<const Model::RaftMainStraddleForcedBar *> ORVCADBoardLocalModel_Sample::raftMainStraddleForcedBars() const
+std::vector<const Model::RaftMainStraddleForcedBar *> Model::raftMainStraddleForcedBars() const
 {
     return allOf<RaftMainStraddleForcedBar>(*this);
 }
-std::vector<const Model::RaftNegativeForcedBar *> ORVCADBoardLocalModel_Sample::raftNegativeForcedBars() const
+std::vector<const Model::RaftNegativeForcedBar *> Model::raftNegativeForcedBars() const
 {
     return allOf<RaftNegativeForcedBar>(*this);
 }
-std::vector<const Model::AxisNet *> ORVCADBoardLocalModel_Sample::axisNet() const { return allOf<AxisNet>(*this); }
+std::vector<const Model::AxisNet *> Model::axisNet() const { return allOf<AxisNet>(*this); }
 
-std::vector<const Model::Object *> ORVCADBoardLocalModel_Sample::findObjects(int mask) const
+std::vector<const Model::Object *> Model::findObjects(int mask) const
 {
     std::vector<const Object *> found = objects();
     found.erase(std::remove_if(found.begin(), found.end(),
@@ -130,52 +124,31 @@ std::vector<const Model::Object *> ORVCADBoardLocalModel_Sample::findObjects(int
 
 // ---- Creators
 
-Model::Beam *ORVCADBoardLocalModel_Sample::addBeam(const QUuid &recongnizedID)
-{
-    return added<Beam>(*this, recongnizedID);
-}
-Model::Wall *ORVCADBoardLocalModel_Sample::addWall(const QUuid &recongnizedID)
-{
-    return added<Wall>(*this, recongnizedID);
-}
-Model::Column *ORVCADBoardLocalModel_Sample::addColumn(const QUuid &recongnizedID)
-{
-    return added<Column>(*this, recongnizedID);
-}
-Model::Board *ORVCADBoardLocalModel_Sample::addBoard(const QUuid &recongnizedID)
-{
-    return added<Board>(*this, recongnizedID);
-}
-Model::BoardHole *ORVCADBoardLocalModel_Sample::addBoardHole(const QUuid &recongnizedID)
-{
-    return added<BoardHole>(*this, recongnizedID);
-}
-Model::Raft *ORVCADBoardLocalModel_Sample::addRaft(const QUuid &recongnizedID)
-{
-    return added<Raft>(*this, recongnizedID);
-}
-Model::ForcedBar *ORVCADBoardLocalModel_Sample::addForcedBar(const QUuid &recongnizedID)
-{
-    return added<ForcedBar>(*this, recongnizedID);
-}
-Model::StraddleForcedBar *ORVCADBoardLocalModel_Sample::addStraddleForcedBar(const QUuid &recongnizedID)
+Model::Beam *Model::addBeam(const QUuid &recongnizedID) { return added<Beam>(*this, recongnizedID); }
+Model::Wall *Model::addWall(const QUuid &recongnizedID) { return added<Wall>(*this, recongnizedID); }
+Model::Column *Model::addColumn(const QUuid &recongnizedID) { return added<Column>(*this, recongnizedID); }
+Model::Board *Model::addBoard(const QUuid &recongnizedID) { return added<Board>(*this, recongnizedID); }
+Model::BoardHole *Model::addBoardHole(const QUuid &recongnizedID) { return added<BoardHole>(*this, recongnizedID); }
+Model::Raft *Model::addRaft(const QUuid &recongnizedID) { return added<Raft>(*this, recongnizedID); }
+Model::ForcedBar *Model::addForcedBar(const QUuid &recongnizedID) { return added<ForcedBar>(*this, recongnizedID); }
+Model::StraddleForcedBar *Model::addStraddleForcedBar(const QUuid &recongnizedID)
 {
     return added<StraddleForcedBar>(*this, recongnizedID);
 }
-Model::NegativeForcedBar *ORVCADBoardLocalModel_Sample::addNegativeForcedBar(const QUuid &recongnizedID)
+Model::NegativeForcedBar *Model::addNegativeForcedBar(const QUuid &recongnizedID)
 {
     return added<NegativeForcedBar>(*this, recongnizedID);
 }
-Model::RaftMainForcedBar *ORVCADBoardLocalModel_Sample::addRaftMainForcedBar(const QUuid &recongnizedID)
+Model::RaftMainForcedBar *Model::addRaftMainForcedBar(const QUuid &recongnizedID)
 {
     return added<RaftMainForcedBar>(*this, recongnizedID);
 }
-Model::RaftMainStraddleForcedBar *ORVCADBoardLocalModel_Sample::addRaftMainStraddleForcedBar(const QUuid &recongnizedID)
+Model::RaftMainStraddleForcedBar *Model::addRaftMainStraddleForcedBar(const QUuid &recongnizedID)
 {
     return added<RaftMainStraddleForcedBar>(*this, recongnizedID);
 }
-Model::RaftNegativeForcedBar *ORVCADBoardLocalModel_Sample::addRaftNegativeForcedBar(const QUuid &recongnizedID)
+Model::RaftNegativeForcedBar *Model::addRaftNegativeForcedBar(const QUuid &recongnizedID)
 {
     return added<RaftNegativeForcedBar>(*this, recongnizedID);
 }
-Model::AxisNet *ORVCADBoardLocalModel_Sample::addAixsNet() { return added<AxisNet>(*this, QUuid()); }
+Model::AxisNet *Model::addAixsNet() { return added<AxisNet>(*this, QUuid()); }
