@@ -16,7 +16,8 @@ public:
     explicit SlabNetArea(const ORVCADBoardLocalModelSearchService_Sample &search);
 
     /** The outline, less the supports that overlap it or lie inside it. A support that holds the outline, or overlaps it
-     *  by no more than 1 mm, takes nothing.
+     *  by no more than 1 mm, takes nothing. Meant: nor does a beam or wall whose line does not touch the outline's box,
+     *  even where its section reaches in.
      *  @return a new polygon; null for null and when nothing is left */
     vks::CRefPtr<vks::CPolygon> of(const vks::CPolygon *outline);
 

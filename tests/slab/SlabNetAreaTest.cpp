@@ -65,6 +65,15 @@ TEST_F(SlabNetAreaTest, overlappingSupportsAreTakenOnce)
     EXPECT_TRUE(isNet(rectangle(0, 0, 700, 1000)));
 }
 
+TEST_F(SlabNetAreaTest, aSupportWhoseLineLiesOutsideTheBoxOfTheOutlineTakesNothing)
+{
+    auto *wall = support<Model::Wall>(model, line({1050, 0}, {1050, 1000}), 300); // reaches in as far as 900
+    EXPECT_TRUE(isNet(rectangle(0, 0, 1000, 1000)));
+    EXPECT_FALSE(isNet(rectangle(0, 0, 900, 1000)));
+    wall->line = line({1002, 0}, {1002, 1000}); // as near as boxes that touch; reaches in as far as 852
+    EXPECT_TRUE(isNet(rectangle(0, 0, 852, 1000)));
+}
+
 TEST_F(SlabNetAreaTest, aSupportThatHoldsTheOutlineTakesNothing)
 {
     section<Model::Column>(model, rectangle(-100, -100, 1200, 1200));
