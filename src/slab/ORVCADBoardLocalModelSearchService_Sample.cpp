@@ -36,8 +36,10 @@ ORVCADBoardLocalModelSearchService_Sample::ORVCADBoardLocalModelSearchService_Sa
 std::vector<ORVCADBoardLocalModelSearchService_Sample::Object *> ORVCADBoardLocalModelSearchService_Sample::find(
     const vks::CBox2<double> &box, int mask) const
 {
+    const std::vector<void *> hits = m_tree->getIntersectantData(box, {});
     std::vector<Object *> objects;
-    for (void *data : m_tree->getIntersectantData(box, {})) {
+    objects.reserve(hits.size());
+    for (void *data : hits) {
         auto *object = static_cast<Object *>(data);
         if (object->type() & mask)
             objects.push_back(object);
