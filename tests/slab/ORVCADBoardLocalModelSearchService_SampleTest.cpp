@@ -86,7 +86,7 @@ TEST_F(SlabSearchServiceTest, nullGeometryIsInNoIndex)
 {
     board(model, nullptr);
     support<Model::Wall>(model, nullptr, 200);
-    new Model::AxisNet(&model);
+    add<Model::AxisNet>();
     EXPECT_EQ(Search(&model, kAll).find(kEverywhere, kAll), (Objects{beam, slab, hole, column, bar}));
 }
 
@@ -168,8 +168,7 @@ TEST_F(PolygonQuery, passesOverElementsWithoutAnOutline)
 
 TEST_F(PolygonQuery, passesOverTheOutlineOfAnAxisNet)
 {
-    auto *net = new Model::AxisNet(&model);
-    net->surface = rectangle(0, 0, 5000, 5000);
+    auto *net = addWith<Model::AxisNet>(rectangle(0, 0, 5000, 5000));
     EXPECT_EQ(Search(&model, kAll).find(net->surface, kAll), Objects{slab});
 }
 

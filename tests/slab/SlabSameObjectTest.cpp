@@ -370,7 +370,10 @@ constexpr ReachCase kReaches[] = {
     {false, 900, 0.0, 0}, {false, 900, 0.5, 0},  {false, 900, -0.5, 0}, {false, 900, 900, 2},  {false, 0.51, 0.51, 2},
     {false, 900, 0.6, 2}, {false, -0.51, 1.0, 2}};
 
-CurvePtr lineOf(const ReachCase &bar) { return bar.alongX ? line({0, 0}, {3000, 0}) : line({0, 0}, {0, 3000}); }
+CurvePtr lineOf(const ReachCase &bar)
+{
+    return CurvePtr(new vks::CLine2d({0, 0}, bar.alongX ? Point(3000, 0) : Point(0, 3000)));
+}
 
 } // namespace
 
@@ -414,14 +417,36 @@ TEST_F(SlabSameObjectTest, elementsOfKindsWithoutATestAreNeverTheSame)
     auto *raft = section<Model::Raft>(model, rectangle(0, 0, 5000, 5000));
     auto *raftBar = areaBar<Model::RaftMainForcedBar>(model, rectangle(0, 0, 5000, 5000));
     auto *raftStraddle = areaBar<Model::RaftMainStraddleForcedBar>(model, rectangle(0, 0, 5000, 5000));
-    auto *raftTopBar = new Model::RaftNegativeForcedBar(&model);
-    raftTopBar->line = line({0, 0}, {5000, 0});
-    auto *net = new Model::AxisNet(&model);
-    net->surface = rectangle(0, 0, 5000, 5000);
+    auto *raftTopBar = addWith<Model::RaftNegativeForcedBar>(line({0, 0}, {5000, 0}));
+    auto *net = addWith<Model::AxisNet>(rectangle(0, 0, 5000, 5000));
     const Search search(&model, kAll);
     for (const Object *each :
          std::initializer_list<const Object *>{wall, column, raft, raftBar, raftStraddle, raftTopBar, net})
         EXPECT_EQ(search.find(each->shape(), kAll), Objects{}) << each->type();
+}
+
+TEST_F(SlabSameObjectTest, aKindThatTextOverwroteIsWhatTheTestGoesBy)
+{
+    auto *column = addWith<Model::Column>(rectangle(0, 0, 5000, 5000));
+    auto *query = board(recognised, rectangle(0, 0, 5000, 5000));
+    Access::setType(*column, Types::BoardKind); // said to be a board, made as a column
+    EXPECT_EQ(hits(query), Objects{});
+    Access::setType(*column, Types::BeamKind);
+    EXPECT_EQ(Search(&model, kAll).find(query->shape(), kAll), Objects{column});
+}
+
+TEST_F(SlabSameObjectTest, kindsWithoutATestPassByTheLowByteOfTheirNumber)
+{
+    auto *column = addWith<Model::Column>(rectangle(0, 0, 5000, 5000));
+    auto *query = board(recognised, rectangle(0, 0, 5000, 5000));
+    for (const int kind : {0x101, 0x7F01}) {
+        Access::setType(*column, kind);
+        EXPECT_EQ(Search(&model, -1).find(query->shape(), -1), Objects{column}) << kind;
+    }
+    for (const int kind : {2, 3, 5, 128, 255, 256, 512, 0x102}) {
+        Access::setType(*column, kind);
+        EXPECT_EQ(Search(&model, -1).find(query->shape(), -1), Objects{}) << kind;
+    }
 }
 
 TEST_F(SlabSameObjectTest, theQueryIsOfTheClassOfTheHit)

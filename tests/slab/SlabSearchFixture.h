@@ -1,10 +1,7 @@
 #pragma once
 
-#include "geometry/KernelShapes.h"
 #include "slab/ORVCADBoardLocalModelSearchService_Sample.h"
-#include "slab/ORVCADBoardLocalModel_Sample.h"
-
-#include <gtest/gtest.h>
+#include "slab/SlabModelFixture.h"
 
 #include <vector>
 
@@ -20,12 +17,10 @@ using CurvePtr = vks::CRefPtr<vks::CCurve2d>;
 
 constexpr int kAll = 8191;
 
-inline CurvePtr line(const shapes::Point &from, const shapes::Point &to) { return new vks::CLine2d(from, to); }
-
 /** An element with an outline. */
 template <typename Section> Section *section(Model &model, const shapes::PolygonPtr &surface)
 {
-    auto *element = new Section(&model);
+    auto *element = ORVCADBoardLocalModelTestAccess::add<Section>(model);
     element->surface = surface;
     return element;
 }
@@ -38,7 +33,7 @@ inline Model::Board *board(Model &model, const shapes::PolygonPtr &surface)
 /** A beam or wall, by default of equal width on both sides of its line. */
 template <typename Support> Support *support(Model &model, const CurvePtr &axis, double width, double distanceToLeft)
 {
-    auto *element = new Support(&model);
+    auto *element = ORVCADBoardLocalModelTestAccess::add<Support>(model);
     element->line = axis;
     element->width = width;
     element->distanceToLeft = distanceToLeft;
@@ -61,7 +56,7 @@ Bar *areaBar(Model &model, const shapes::PolygonPtr &surface, const shapes::Poin
 
 inline Model::NegativeForcedBar *topBar(Model &model, const CurvePtr &axis, double left, double right, int rows = 1)
 {
-    auto *bar = new Model::NegativeForcedBar(&model);
+    auto *bar = ORVCADBoardLocalModelTestAccess::add<Model::NegativeForcedBar>(model);
     bar->line = axis;
     bar->leftStretchLength = left;
     bar->rightStretchLength = right;
@@ -72,16 +67,15 @@ inline Model::NegativeForcedBar *topBar(Model &model, const CurvePtr &axis, doub
 } // namespace slabs
 
 /** The model that is searched, and one with elements to ask for. */
-class SlabSearchFixture : public ::testing::Test
+class SlabSearchFixture : public SlabModelFixture
 {
 protected:
     /** Whether the model, as it stands now, holds the element of another model. */
-    bool finds(const slabs::Object *query, int indexed = slabs::kAll) const { return !hits(query, indexed).empty(); }
-    slabs::Objects hits(const slabs::Object *query, int indexed = slabs::kAll) const
+    bool finds(const Object *query, int indexed = slabs::kAll) const { return !hits(query, indexed).empty(); }
+    slabs::Objects hits(const Object *query, int indexed = slabs::kAll) const
     {
         return slabs::Search(&model, indexed).find(query->shape(), query->type());
     }
 
-    slabs::Model model;
-    slabs::Model recognised;
+    Model recognised;
 };
