@@ -48,7 +48,7 @@ std::vector<Box> makeBoxes(unsigned seed)
         const double x = place(random);
         const Point corner(x, place(random));
         const double width = size(random);
-        boxes.push_back({corner, corner + Point(width, size(random))});
+        boxes.emplace_back(corner, corner + Point(width, size(random)));
     }
     return boxes;
 }
@@ -69,6 +69,7 @@ TreeBox treeBox(const Box &box) { return {TreePoint(box.minPt.x, box.minPt.y), T
 std::vector<TreeEntry> entriesOf(const std::vector<const Object *> &objects)
 {
     std::vector<TreeEntry> entries;
+    entries.reserve(objects.size());
     for (const Object *object : objects)
         entries.emplace_back(treeBox(object->shape().box()), const_cast<Object *>(object));
     return entries;
@@ -85,6 +86,7 @@ void measureIndex(bench::RatioTable &table)
     const Search search(&model, Object::AllKinds);
     const BareTree bareTree(entriesOf(objects));
     std::vector<Box> boxes;
+    boxes.reserve(objects.size());
     for (const Object *object : objects)
         boxes.push_back(object->shape().box());
 

@@ -7,7 +7,6 @@
 
 using namespace slabs;
 using shapes::Point;
-using shapes::rectangle;
 using Box = vks::CBox2<double>;
 
 namespace {

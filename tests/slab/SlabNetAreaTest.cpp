@@ -3,9 +3,9 @@
 #include "slab/SlabSearchFixture.h"
 
 #include <cmath>
+#include <limits>
 
 using namespace slabs;
-using shapes::rectangle;
 
 namespace {
 
@@ -112,6 +112,23 @@ TEST_F(SlabNetAreaTest, supportsWithoutGeometryOrWidthTakeNothing)
     section<Model::Column>(model, new vks::CPolygon);
     section<Model::Column>(model, shapes::polygon({{{0, 0}, {900, 900}, {900, 0}, {0, 900}}})); // crosses itself
     EXPECT_TRUE(isNet(rectangle(0, 0, 1000, 1000)));
+}
+
+TEST_F(SlabNetAreaTest, supportsThatAreNotFiniteTakeNothing)
+{
+    constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+    support<Model::Wall>(model, line({900, 0}, {900, 1000}), nan);
+    support<Model::Wall>(model, line({900, nan}, {900, 1000}), 200);
+    section<Model::Column>(model, rectangle(nan, 0, 100, 100));
+    EXPECT_TRUE(isNet(rectangle(0, 0, 1000, 1000)));
+}
+
+TEST_F(SlabNetAreaTest, supportsThatOverlayRefusesMakeSlabsDiffer)
+{
+    // Farther out than overlay goes, so that nothing unites with it.
+    section<Model::Column>(model, rectangle(500, 0, 4e12, 1000));
+    EXPECT_FALSE(isNet(rectangle(0, 0, 1000, 1000)));
+    EXPECT_FALSE(isNet(rectangle(0, 0, 490, 1000)));
 }
 
 TEST_F(SlabNetAreaTest, curvedWallsTakeTheirCurvedStrip)
