@@ -144,21 +144,12 @@ template <typename Element> void scan(const Model &model)
             found.push_back(element);
     bench::keep(found);
 }
-/** The same by the search of the tree. */
-template <typename Element> void search(const Model &model)
-{
-    bench::keep(model.findChildren_if([](auto *node) { return dynamic_cast<const Element *>(node) != nullptr; },
-                                      FindWholeSubtree));
-}
 
 void addReaders(bench::RatioTable &table, const std::string &order, const Model &model)
 {
     table.row(
         "one kind, " + order + " / scan", kMiddle, [&] { bench::keep(model.boards()); },
         [&] { scan<Model::Board>(model); }, kReader);
-    table.row(
-        "one kind, " + order + " / search", kMiddle, [&] { bench::keep(model.boards()); },
-        [&] { search<Model::Board>(model); }, kReader);
     table.row(
         "all kinds, " + order + " / scan", kMiddle, [&] { bench::keep(model.objects()); },
         [&] { scan<Model::Object>(model); });
