@@ -1,29 +1,23 @@
 #include "foundation/Any.h"
 #include "foundation/Object_AI.h"
 #include "foundation/TreeNode.h"
+#include "support/VirtualSlot.h"
 
 #include <gtest/gtest.h>
 
 #include <cstddef>
-#include <cstring>
 #include <string>
 
 // Modules that were built against these classes call their virtual operations by slot, so the order is part of the
-// interface. Slots are read from member pointers as g++ and clang make them: one more than the offset in bytes.
+// interface.
 
 namespace {
 
 using Tree = gp::TreeNode<cv::Object_AI *>;
 using Node = Tree::ChildNode;
 
-constexpr std::ptrdiff_t kFirstBehindDestructor = 2; // which has two slots
-
-template <typename Member> std::ptrdiff_t slotOf(Member member)
-{
-    std::ptrdiff_t value = 0;
-    std::memcpy(&value, &member, sizeof value);
-    return (value - 1) / static_cast<std::ptrdiff_t>(sizeof(void *));
-}
+using slots::kFirstBehindDestructor;
+using slots::slotOf;
 
 /** Shows what is protected. */
 struct Open : Tree
