@@ -68,7 +68,7 @@ QJsonValue writeLevel(const ORVCADConcreteLevel &level)
 QJsonObject writeTable(const ORVCADTableData &table)
 {
     return {{key::type, wordOf(table.type)},
-            {key::parsedDrawingName, table.drawingName},
+            {key::lowerDrawingName, table.drawingName},
             {key::range, writeRange(table.range)},
             {key::data, byRow(table.rows, writeCells)},
             {key::concrete, byRow(table.concrete, writeLevel)}};
@@ -113,7 +113,7 @@ void readLevel(int row, const QJsonValue &value, Levels &levels)
  *  @return false for a table that is left out */
 bool readTable(const QJsonObject &json, const Levels &shared, ORVCADTableData &table)
 {
-    const QJsonValue name = json.value(key::parsedDrawingName);
+    const QJsonValue name = json.value(key::lowerDrawingName);
     const QJsonValue type = json.value(key::type);
     const QJsonValue data = json.value(key::data);
     if (!data.isUndefined() && !data.isObject())
