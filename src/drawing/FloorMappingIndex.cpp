@@ -6,24 +6,36 @@ namespace drawing {
 
 namespace {
 
-using Numbers = FloorMappingIndex::Numbers;
+using Entry = FloorMappingIndex::Entry;
+using Entries = FloorMappingIndex::Entries;
 
-/** Each number once, in ascending order: that of the list. */
-void insertNumber(Numbers &numbers, qint64 number)
+/** The place of a number in the ascending order of the list, whether it is there or not. */
+template <typename List> auto placeOf(List &entries, qint64 number)
 {
-    const auto place = std::lower_bound(numbers.begin(), numbers.end(), number);
-    if (place == numbers.end() || *place != number)
-        numbers.insert(place, number);
+    return std::lower_bound(entries.begin(), entries.end(), number,
+                            [](const Entry &entry, qint64 sought) { return entry.number < sought; });
 }
 
-template <typename Key> void removeNumber(QHash<Key, Numbers> &lists, const Key &key, qint64 number)
+template <typename List> bool hasNumber(List &entries, qint64 number)
+{
+    const auto place = placeOf(entries, number);
+    return place != entries.end() && place->number == number;
+}
+
+/** Each record once. */
+void insertEntry(Entries &entries, const Entry &entry)
+{
+    if (!hasNumber(entries, entry.number))
+        entries.insert(placeOf(entries, entry.number), entry);
+}
+
+template <typename Key> void removeEntry(QHash<Key, Entries> &lists, const Key &key, const Entry &entry)
 {
     const auto list = lists.find(key);
     if (list == lists.end())
         return;
-    const auto place = std::lower_bound(list->begin(), list->end(), number);
-    if (place != list->end() && *place == number)
-        list->erase(place);
+    if (hasNumber(*list, entry.number))
+        list->erase(placeOf(*list, entry.number));
     if (list->isEmpty())
         lists.erase(list);
 }
@@ -33,40 +45,40 @@ template <typename Key> void removeNumber(QHash<Key, Numbers> &lists, const Key 
 bool FloorMappingIndex::holds(qint64 number, const QString &drawing) const
 {
     const auto list = m_byDrawing.constFind(drawing);
-    return list != m_byDrawing.constEnd() && std::binary_search(list->begin(), list->end(), number);
+    return list != m_byDrawing.constEnd() && hasNumber(*list, number);
 }
 
 void FloorMappingIndex::build(const FloorMappingList &list)
 {
     *this = FloorMappingIndex();
     for (auto record = list.begin(); record != list.end(); ++record)
-        add(record.key(), **record);
+        add({record.key(), record->get()});
 }
 
-void FloorMappingIndex::add(qint64 number, const ORVCADDrawingFloorMapping &mapping)
+void FloorMappingIndex::add(const Entry &entry)
 {
-    insertNumber(m_byFloor[{mapping.regionId, mapping.floorName}], number);
-    insertNumber(m_byRegion[mapping.regionId], number);
-    for (const QString &drawing : mapping.drawingNames)
-        addDrawing(number, drawing);
+    insertEntry(m_byFloor[{entry.record->regionId, entry.record->floorName}], entry);
+    insertEntry(m_byRegion[entry.record->regionId], entry);
+    for (const QString &drawing : entry.record->drawingNames)
+        addDrawing(entry, drawing);
 }
 
-void FloorMappingIndex::remove(qint64 number, const ORVCADDrawingFloorMapping &mapping)
+void FloorMappingIndex::remove(const Entry &entry)
 {
-    removeNumber(m_byFloor, {mapping.regionId, mapping.floorName}, number);
-    removeNumber(m_byRegion, mapping.regionId, number);
-    for (const QString &drawing : mapping.drawingNames)
-        removeDrawing(number, drawing);
+    removeEntry(m_byFloor, {entry.record->regionId, entry.record->floorName}, entry);
+    removeEntry(m_byRegion, entry.record->regionId, entry);
+    for (const QString &drawing : entry.record->drawingNames)
+        removeDrawing(entry, drawing);
 }
 
-void FloorMappingIndex::addDrawing(qint64 number, const QString &drawing)
+void FloorMappingIndex::addDrawing(const Entry &entry, const QString &drawing)
 {
-    insertNumber(m_byDrawing[drawing], number);
+    insertEntry(m_byDrawing[drawing], entry);
 }
 
-void FloorMappingIndex::removeDrawing(qint64 number, const QString &drawing)
+void FloorMappingIndex::removeDrawing(const Entry &entry, const QString &drawing)
 {
-    removeNumber(m_byDrawing, drawing, number);
+    removeEntry(m_byDrawing, drawing, entry);
 }
 
 } // namespace drawing

@@ -6,7 +6,7 @@
 #include <QMap>
 #include <QPair>
 #include <QString>
-#include <QVector>
+#include <QVarLengthArray>
 
 #include <memory>
 
@@ -16,28 +16,33 @@ namespace drawing {
  *  number when another one goes. */
 using FloorMappingList = QMap<qint64, std::shared_ptr<ORVCADDrawingFloorMapping>>;
 
-/** The records of a floor mapping set by place, region and drawing, each as the numbers of its records in list order. */
+/** The records of a floor mapping set by place, region and drawing. Valid as long as the list that it was built from. */
 class FloorMappingIndex
 {
 public:
-    using Numbers = QVector<qint64>;
+    struct Entry
+    {
+        qint64 number;
+        ORVCADDrawingFloorMapping *record;
+    };
+    using Entries = QVarLengthArray<Entry, 1>; // in list order; most have one, which then needs no memory of its own
 
-    Numbers ofFloor(qint64 region, const QString &floor) const { return m_byFloor.value({region, floor}); }
-    Numbers ofRegion(qint64 region) const { return m_byRegion.value(region); }
-    Numbers ofDrawing(const QString &drawing) const { return m_byDrawing.value(drawing); }
+    Entries ofFloor(qint64 region, const QString &floor) const { return m_byFloor.value({region, floor}); }
+    Entries ofRegion(qint64 region) const { return m_byRegion.value(region); }
+    Entries ofDrawing(const QString &drawing) const { return m_byDrawing.value(drawing); }
     /** Whether the record of that number holds the drawing. */
     bool holds(qint64 number, const QString &drawing) const;
 
     void build(const FloorMappingList &list);
-    void add(qint64 number, const ORVCADDrawingFloorMapping &mapping);
-    void remove(qint64 number, const ORVCADDrawingFloorMapping &mapping);
-    void addDrawing(qint64 number, const QString &drawing);
-    void removeDrawing(qint64 number, const QString &drawing);
+    void add(const Entry &entry);
+    void remove(const Entry &entry);
+    void addDrawing(const Entry &entry, const QString &drawing);
+    void removeDrawing(const Entry &entry, const QString &drawing);
 
 private:
-    QHash<QPair<qint64, QString>, Numbers> m_byFloor;
-    QHash<qint64, Numbers> m_byRegion;
-    QHash<QString, Numbers> m_byDrawing;
+    QHash<QPair<qint64, QString>, Entries> m_byFloor;
+    QHash<qint64, Entries> m_byRegion;
+    QHash<QString, Entries> m_byDrawing;
 };
 
 } // namespace drawing

@@ -5,6 +5,8 @@
 namespace {
 
 constexpr qint64 kNoRegion = -1;
+constexpr qint64 kFirstNumber = 1;
+constexpr qint64 kNoNumber = 0;
 constexpr qint64 kNeverIndexed = -1; // no number of changes
 
 } // namespace
@@ -22,18 +24,13 @@ const ORVCADDrawingFloorMappings::Index &ORVCADDrawingFloorMappings::index() con
     return m_index;
 }
 
-qint64 ORVCADDrawingFloorMappings::firstOfFloor(qint64 region, const QString &floor) const
-{
-    return floor.isEmpty() ? kNoNumber : index().ofFloor(region, floor).value(0, kNoNumber);
-}
-
 QStringList ORVCADDrawingFloorMappings::getMappingDrawingNames(qint64 region, const QString &floor) const
 {
     QStringList names;
     if (region == kNoRegion || floor.isEmpty())
         return names;
-    for (const qint64 number : index().ofFloor(region, floor))
-        names.append(m_mappings.value(number)->drawingNames);
+    for (const Index::Entry &entry : index().ofFloor(region, floor))
+        names.append(entry.record->drawingNames);
     return names;
 }
 
@@ -50,8 +47,8 @@ QStringList ORVCADDrawingFloorMappings::getMappingFloorNames(qint64 region) cons
     QStringList names;
     if (region == kNoRegion)
         return names;
-    for (const qint64 number : index().ofRegion(region))
-        names.append(m_mappings.value(number)->floorName);
+    for (const Index::Entry &entry : index().ofRegion(region))
+        names.append(entry.record->floorName);
     return names;
 }
 
@@ -60,10 +57,8 @@ QList<std::pair<qint64, QString>> ORVCADDrawingFloorMappings::getMappingFloors(c
     QList<std::pair<qint64, QString>> floors;
     if (drawing.isEmpty())
         return floors;
-    for (const qint64 number : index().ofDrawing(drawing)) {
-        const Record record = m_mappings.value(number);
-        floors.append({record->regionId, record->floorName});
-    }
+    for (const Index::Entry &entry : index().ofDrawing(drawing))
+        floors.append({entry.record->regionId, entry.record->floorName});
     return floors;
 }
 
@@ -71,26 +66,30 @@ QList<std::pair<qint64, QString>> ORVCADDrawingFloorMappings::getMappingFloors(c
 
 qint64 ORVCADDrawingFloorMappings::addMapping(const Record &mapping)
 {
-    const qint64 number = m_mappings.isEmpty() ? kNoNumber + 1 : m_mappings.lastKey() + 1;
+    const qint64 number = m_mappings.isEmpty() ? kFirstNumber : m_mappings.lastKey() + 1;
     m_mappings.insert(m_mappings.end(), number, mapping);
     return number;
 }
 
+ORVCADDrawingFloorMappings::Index::Entry ORVCADDrawingFloorMappings::addMapping(qint64 region, const QString &floor)
+{
+    const auto record = std::make_shared<ORVCADDrawingFloorMapping>();
+    record->regionId = region;
+    record->floorName = floor;
+    const Index::Entry entry{addMapping(record), record.get()};
+    m_index.add(entry);
+    return entry;
+}
+
 void ORVCADDrawingFloorMappings::addMapping(qint64 region, const QString &floor, const QString &drawing)
 {
-    index();
-    qint64 number = firstOfFloor(region, floor);
-    if (number == kNoNumber) {
-        const auto record = std::make_shared<ORVCADDrawingFloorMapping>();
-        record->regionId = region;
-        record->floorName = floor;
-        number = addMapping(record);
-        m_index.add(number, *record);
-    }
-    if (m_index.holds(number, drawing))
+    const Index::Entries found = index().ofFloor(region, floor);
+    const bool makesRecord = found.isEmpty() || floor.isEmpty(); // an empty name finds none
+    const Index::Entry entry = makesRecord ? addMapping(region, floor) : found.first();
+    if (m_index.holds(entry.number, drawing))
         return;
-    m_mappings.value(number)->drawingNames.append(drawing);
-    m_index.addDrawing(number, drawing);
+    entry.record->drawingNames.append(drawing);
+    m_index.addDrawing(entry, drawing);
     noteRecordChange();
 }
 
@@ -99,40 +98,47 @@ void ORVCADDrawingFloorMappings::removeMapping(const QString &drawing)
     if (drawing.isEmpty())
         return;
     qint64 passedOver = kNoNumber;
-    for (const qint64 number : index().ofDrawing(drawing)) {
-        if (number == passedOver)
+    for (const Index::Entry &entry : index().ofDrawing(drawing)) {
+        if (entry.number == passedOver)
             continue; // meant: the record that moved up into the place of one that went is not looked at
-        removeDrawing(number, drawing);
-        if (!m_mappings.value(number)->drawingNames.isEmpty())
+        removeDrawing(entry, drawing);
+        if (!entry.record->drawingNames.isEmpty())
             continue;
-        const auto behind = m_mappings.upperBound(number);
+        const auto behind = m_mappings.upperBound(entry.number);
         passedOver = behind == m_mappings.end() ? kNoNumber : behind.key();
-        erase(number);
+        remove(entry);
     }
 }
 
 void ORVCADDrawingFloorMappings::removeMapping(qint64 region)
 {
     if (region != kNoRegion)
-        erase(index().ofRegion(region).value(0, kNoNumber)); // meant: the others of the region stay
+        removeFirst(index().ofRegion(region)); // meant: the others of the region stay
 }
 
 void ORVCADDrawingFloorMappings::removeMapping(qint64 region, const QString &floor)
 {
-    erase(firstOfFloor(region, floor));
+    if (!floor.isEmpty())
+        removeFirst(index().ofFloor(region, floor));
 }
 
-void ORVCADDrawingFloorMappings::removeDrawing(qint64 number, const QString &drawing)
+void ORVCADDrawingFloorMappings::removeDrawing(const Index::Entry &entry, const QString &drawing)
 {
-    m_mappings.value(number)->drawingNames.removeAll(drawing);
-    m_index.removeDrawing(number, drawing);
+    entry.record->drawingNames.removeAll(drawing);
+    m_index.removeDrawing(entry, drawing);
     noteRecordChange();
 }
 
-void ORVCADDrawingFloorMappings::erase(qint64 number)
+void ORVCADDrawingFloorMappings::removeFirst(const Index::Entries &entries)
 {
-    if (const Record record = m_mappings.take(number))
-        m_index.remove(number, *record);
+    if (!entries.isEmpty())
+        remove(entries.first());
+}
+
+void ORVCADDrawingFloorMappings::remove(const Index::Entry &entry)
+{
+    m_index.remove(entry);
+    m_mappings.remove(entry.number); // with the last set that has it, this ends the record
 }
 
 void ORVCADDrawingFloorMappings::noteRecordChange() { m_indexedChanges = ++*m_changes; }

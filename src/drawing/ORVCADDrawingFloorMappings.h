@@ -59,15 +59,15 @@ private:
     using Record = std::shared_ptr<ORVCADDrawingFloorMapping>;
     using Index = drawing::FloorMappingIndex;
 
-    static constexpr qint64 kNoNumber = 0; ///< of no record
-
+    /** Brought up to date where a set that shares the records has changed one. */
     const Index &index() const;
-    /** Number of the first record of region and floor. */
-    qint64 firstOfFloor(qint64 region, const QString &floor) const;
+    Index::Entry addMapping(qint64 region, const QString &floor);
     /** Appends to the list alone. @return the record's number */
     qint64 addMapping(const Record &mapping);
-    void removeDrawing(qint64 number, const QString &drawing);
-    void erase(qint64 number);
+    void removeDrawing(const Index::Entry &entry, const QString &drawing);
+    /** The first of the records; nothing where there is none. */
+    void removeFirst(const Index::Entries &entries);
+    void remove(const Index::Entry &entry);
     void noteRecordChange();
 
     drawing::FloorMappingList m_mappings;
