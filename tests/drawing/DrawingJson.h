@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -7,7 +8,7 @@
 
 #include <cstdlib>
 
-/** JSON in tests: from a literal, and back to compact text. */
+/** JSON in tests: from a literal or a file, and back to compact text. */
 namespace drawing_test {
 
 /** A literal that is no JSON ends the test program: it is a slip of the test. */
@@ -26,6 +27,15 @@ inline QByteArray text(const QJsonValue &value)
 {
     const QByteArray array = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
     return array.mid(1, array.size() - 2);
+}
+
+/** A document below tests/data; a missing one ends the test program. */
+inline QJsonObject dataObject(const char *path)
+{
+    QFile file(QStringLiteral(ORVCAD_TEST_DATA "/") + QString::fromUtf8(path));
+    if (!file.open(QIODevice::ReadOnly))
+        std::abort();
+    return object(file.readAll());
 }
 
 } // namespace drawing_test

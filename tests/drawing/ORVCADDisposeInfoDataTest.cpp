@@ -156,6 +156,60 @@ TEST_F(ORVCADDisposeInfoDataTest, everyStageIsWrittenUnderItsKey)
     EXPECT_EQ(saved(), QJsonDocument(expected).toJson());
 }
 
+TEST_F(ORVCADDisposeInfoDataTest, exampleDocumentIsWhatItsRecordsAreWrittenAs)
+{
+    ORVCADSubDrawingDataSet subDrawings;
+    subDrawings.setSavePath(QStringLiteral("/project/parts"));
+    for (const char *path : {"/project/parts/S-02.dwg", "/project/parts/S-01.dwg"}) { // the last one comes first
+        ORVCADSubDrawingInfo part;
+        part.drawingPath = QString::fromUtf8(path);
+        subDrawings.addSubDrawing(QStringLiteral("/project/structure.dwg"), part);
+    }
+    set->subDrawings = &subDrawings;
+    ORVCADTableData table;
+    table.drawingName = QStringLiteral("S-01");
+    table.range = {{0, 0, 100, 50}};
+    table.rows = {{0, {"1", "0.000", "3.900"}}};
+    table.concrete = {{0, {{"beam", "C30"}}}};
+    ORVCADDrawingParseData parseData({table});
+    set->parseData = &parseData;
+    addFloor("F1", 0.0, 3.9);
+    set->floors->setAreaName(QStringLiteral("Tower A"));
+    set->floors->getFloor(0)->setCode(QStringLiteral("1"));
+    addDrawing("F1", "S-02", {15});
+    auto *beams = new ORVCADClassifiedLayers(QStringLiteral("S-02"), 15);
+    auto *layer = new ORVCADClassifiedLayer(QStringLiteral("S-BEAM"));
+    layer->getCADEdoIds() = {101, 102};
+    beams->add(layer);
+    set->classifiedLayers = new ORVCADClassifiedLayersData;
+    set->classifiedLayers->addLayers(beams);
+    set->scaleRevision = new ORVCADScaleReviseData;
+    set->scaleRevision->addItem(new ORVCADScaleReviseDataItem(QStringLiteral("S-02")));
+    set->scaleRevision->getScaleReviseData().at(0)->setOriginScale(100.0);
+    set->location = new ORVCADDrawingLocationData;
+    auto *place = new ORVCADDrawingLocationDataItem(QStringLiteral("S-02"));
+    place->addAxisInfo({QStringLiteral("1"), QStringLiteral("A"), 1200.5, -300.0});
+    set->location->addItem(place);
+    EXPECT_EQ(text(set->toJson()), text(dataObject("drawing/drawing-set.json")));
+}
+
+TEST_F(ORVCADDisposeInfoDataTest, partsOfTheExampleDocumentAreReadByTheirReaders)
+{
+    const QJsonObject example = dataObject("drawing/drawing-set.json");
+    set->floors = ORVCADFloors::fromJson(example.value("floorInfos").toObject());
+    ASSERT_NE(set->floors, nullptr);
+    EXPECT_EQ(set->floors->getFloor(0)->height(), 3.9);
+    set->elementMappings = ORVCADDrawingElementMappings::fromJson(example.value("matchElementInfo"));
+    EXPECT_EQ(set->elementMappings->getMatchElementType(QStringLiteral("S-02")), QSet<int>{15});
+    set->floorMappings = ORVCADDrawingFloorMappings::fromJson(example.value("matchFloorInfo"));
+    EXPECT_EQ(set->floorMappings->getMappingFloorNames(7), QStringList{""}); // the region id alone comes back
+    const auto tables = ORVCADDrawingParseData::fromJson(example.value("parseDrawing").toObject());
+    ASSERT_EQ(tables.size(), 1);
+    EXPECT_EQ(tables.at(0).rows.at(0).cells, (QStringList{"1", "0.000", "3.900"}));
+    const QJsonObject layers = example.value("classifyLayer").toArray().at(0).toObject();
+    EXPECT_EQ(ORVCADClassifiedLayers::fromJson(layers), nullptr); // nobody writes the key that it demands
+}
+
 TEST_F(ORVCADDisposeInfoDataTest, fileThatCannotBeOpenedIsAWarning)
 {
     g_warnings.clear();

@@ -152,6 +152,16 @@ TEST_F(ORVCADFloorSDCDataTest, whatIsReadIsWrittenAgain)
     EXPECT_TRUE(ok);
 }
 
+TEST_F(ORVCADFloorSDCDataTest, exampleDocumentIsReadAndWrittenAgain)
+{
+    const QJsonObject example = dataObject("drawing/floor-sdc.json");
+    const Floors floors = format.unserialize(example, ok);
+    ASSERT_TRUE(ok);
+    EXPECT_EQ(floors.at(0).ConcreteAnchorJoints.at(0).Anchor1.value, "35d");
+    EXPECT_TRUE(floors.at(0).FloorArea.null);
+    EXPECT_EQ(format.serialize(floors), example);
+}
+
 TEST_F(ORVCADFloorSDCDataTest, emptyArrayGivesNoFloorsAndIsAccepted)
 {
     EXPECT_TRUE(readFloors({}).empty());
