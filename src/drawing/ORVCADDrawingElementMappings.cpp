@@ -24,7 +24,7 @@ void ORVCADDrawingElementMappings::addMapping(const QString &drawing, int type)
 
 void ORVCADDrawingElementMappings::addMapping(const QString &drawing, const QSet<int> &types)
 {
-    const QSet<int> all = types; // they may be those of the record itself
+    const QList<int> all = types.values(); // they may be those of the record itself
     for (const int type : all)
         addMapping(drawing, type);
 }
@@ -71,7 +71,7 @@ void ORVCADDrawingElementMappings::removeMapping(const QString &drawing, int typ
 
 void ORVCADDrawingElementMappings::removeMapping(const QString &drawing, const QSet<int> &types)
 {
-    const QSet<int> all = types; // they may be those of the record itself
+    const QList<int> all = types.values(); // they may be those of the record itself
     for (const int type : all)
         removeMapping(drawing, type);
 }

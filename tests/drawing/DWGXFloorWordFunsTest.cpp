@@ -91,7 +91,7 @@ TEST(DWGXFloorWordFunsTest, numeralsOfAllFloorsFrom1To199)
 {
     ASSERT_EQ(kNumerals.size(), 199);
     for (int number = 1; number <= 199; ++number) {
-        const QString numeral = kNumerals.at(number - 1);
+        const QString &numeral = kNumerals.at(number - 1);
         EXPECT_EQ(DWGXFloorWordFuns::toFloorNames(number).value(0), numeral) << number;
         EXPECT_EQ(DWGXFloorWordFuns::toFloorNames(number).value(4), utf8("第") + numeral + utf8("层")) << number;
         EXPECT_EQ(DWGXFloorWordFuns::toFloorNames(-number).value(1), utf8("负") + numeral) << number;
