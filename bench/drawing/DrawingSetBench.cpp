@@ -15,6 +15,7 @@
 
 #include <cstdlib>
 #include <memory>
+#include <vector>
 
 namespace {
 
@@ -311,6 +312,9 @@ struct Mappings
             floorNames.append(numbered("F", i));
             elements.addMapping(names.last(), kBeam);
             floors.addMapping(i, floorNames.last(), names.last());
+            ORVCADSubDrawingInfo part;
+            part.drawingPath = QStringLiteral("/project/drawings/") + names.last() + QStringLiteral(".dwg");
+            parts.addSubDrawing(part.drawingPath, part);
         }
     }
 
@@ -326,6 +330,7 @@ struct Mappings
     QStringList floorNames;
     ORVCADDrawingElementMappings elements;
     ORVCADDrawingFloorMappings floors;
+    ORVCADSubDrawingDataSet parts;
 };
 
 void addLookups(bench::RatioTable &table)
@@ -345,6 +350,8 @@ void addLookups(bench::RatioTable &table)
         [](const Mappings &one, int i) { return one.floors.getMappingDrawingNames(i, one.floorNames.at(i)); });
     add("floors of a drawing", [](const Mappings &one, int i) { return one.floors.getMappingFloors(one.names.at(i)); });
     add("floors of a region", [](const Mappings &one, int i) { return one.floors.getMappingFloorNames(i); });
+    add("path of a sub-drawing",
+        [](const Mappings &one, int i) { return one.parts.getSubDrawingCompletePath(one.names.at(i)); });
     table.growth(
         "mappings added, 1,000 to 10,000 entries", kLarge, [] { bench::keep(Mappings(kLarge)); }, kMiddle,
         [] { bench::keep(Mappings(kMiddle)); }, kFlat);

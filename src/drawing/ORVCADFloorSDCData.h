@@ -81,7 +81,8 @@ public:
     ORVCADFloorSDCData();
 
     /** The document: one member, "FloorSDCData", the array of floors. A field without a value is not written; "Region"
-     *  always is, "ConcreteAnchorJoint" only where there are settings. */
+     *  always is, "ConcreteAnchorJoint" only where there are settings. A number that is not finite becomes null as
+     *  text, which the reader refuses. */
     QJsonObject serialize(const std::vector<Floor> &floors) const;
     /** Reads the document. It must have that one member and no other, an array of objects, each with an object "Region".
      *  A key that is missing leaves its field without a value.

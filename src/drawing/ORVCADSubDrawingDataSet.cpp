@@ -5,8 +5,6 @@
 #include <QFileInfo>
 #include <QJsonArray>
 
-#include <algorithm>
-
 namespace key = drawing::key;
 
 namespace {
@@ -30,6 +28,7 @@ void ORVCADSubDrawingDataSet::addSubDrawing(const QString &parent, const ORVCADS
         return;
     m_subDrawings.insert(parent, info);
     ++m_count;
+    m_pathsByName.clear();
 }
 
 QList<ORVCADSubDrawingInfo> ORVCADSubDrawingDataSet::getAllSubDrawingInfos() const { return m_subDrawings.values(); }
@@ -44,12 +43,19 @@ QStringList ORVCADSubDrawingDataSet::getAllSubDrawingNames() const
 
 QString ORVCADSubDrawingDataSet::getSubDrawingCompletePath(const QString &name) const
 {
-    if (name.isEmpty())
-        return QString();
-    const auto part = std::find_if(m_subDrawings.begin(), m_subDrawings.end(), [&](const ORVCADSubDrawingInfo &info) {
-        return baseName(info.drawingPath) == name;
-    });
-    return part == m_subDrawings.end() ? QString() : part->drawingPath;
+    return name.isEmpty() ? QString() : pathsByName().value(name);
+}
+
+const QHash<QString, QString> &ORVCADSubDrawingDataSet::pathsByName() const
+{
+    if (m_pathsByName.isEmpty()) {
+        for (const ORVCADSubDrawingInfo &part : m_subDrawings) {
+            const QString name = baseName(part.drawingPath);
+            if (!m_pathsByName.contains(name)) // the first of a name counts
+                m_pathsByName.insert(name, part.drawingPath);
+        }
+    }
+    return m_pathsByName;
 }
 
 QJsonObject ORVCADSubDrawingDataSet::toJson() const

@@ -3,6 +3,7 @@
 #include "ORVCADModelDataExport.h"
 #include "drawing/ORVCADSubDrawingInfo.h"
 
+#include <QHash>
 #include <QJsonObject>
 #include <QList>
 #include <QMultiHash>
@@ -29,14 +30,17 @@ public:
     /** Their drawing paths: complete ones, despite the name. */
     QStringList getAllSubDrawingNames() const;
     /** Path of the first of all parts whose file has that name without folder and last ending; empty if there is none
-     *  and for an empty name. */
+     *  and for an empty name. Only the first search after a part was added looks through all parts. */
     QString getSubDrawingCompletePath(const QString &name) const;
 
     /** Save path, and per parent its name and those of its parts, without folder and last ending. */
     QJsonObject toJson() const;
 
 private:
+    const QHash<QString, QString> &pathsByName() const;
+
     int m_count = 0;
     QString m_savePath;
     QMultiHash<QString, ORVCADSubDrawingInfo> m_subDrawings;
+    mutable QHash<QString, QString> m_pathsByName; ///< made when one is sought; empty while the parts change
 };

@@ -121,6 +121,17 @@ TEST(ORVCADSubDrawingDataSetTest, firstInTheListIsGivenForANameOfTwoFolders)
     EXPECT_EQ(set.getSubDrawingCompletePath(QStringLiteral("plan")), set.getAllSubDrawingNames().at(0));
 }
 
+TEST(ORVCADSubDrawingDataSetTest, partAddedAfterASearchIsFoundByTheNext)
+{
+    ORVCADSubDrawingDataSet set;
+    set.addSubDrawing(kParent, part("/one/plan.dwg"));
+    EXPECT_EQ(set.getSubDrawingCompletePath(QStringLiteral("section")), "");
+    set.addSubDrawing(kParent, part("/one/section.dwg"));
+    set.addSubDrawing(kParent, part("/two/plan.dwg")); // stands in front of the other now
+    EXPECT_EQ(set.getSubDrawingCompletePath(QStringLiteral("section")), "/one/section.dwg");
+    EXPECT_EQ(set.getSubDrawingCompletePath(QStringLiteral("plan")), "/two/plan.dwg");
+}
+
 TEST(ORVCADSubDrawingDataSetTest, partWithoutANameIsNotFoundByTheEmptyOne)
 {
     ORVCADSubDrawingDataSet set;
