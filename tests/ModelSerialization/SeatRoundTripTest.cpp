@@ -1,4 +1,4 @@
-#include "ModelSerialization/BuildingHost.h"
+#include "support/BuildingHost.h"
 #include "ModelSerialization/ORVCADBeamLocalModel2HBXService.h"
 #include "beam/BeamIdentifyInput.h"
 
