@@ -75,13 +75,17 @@ std::vector<Attribute> attributesOf(const QDomElement &element)
     std::vector<Attribute> result;
     const QDomNamedNodeMap map = element.attributes();
     if (map.length() <= kMostByIndex) {
-        for (int i = 0; i < map.length(); ++i)
-            result.emplace_back(map.item(i).nodeName(), map.item(i).nodeValue());
+        result.reserve(static_cast<std::size_t>(map.length()));
+        for (int i = 0; i < map.length(); ++i) {
+            const QDomNode attribute = map.item(i);
+            result.emplace_back(attribute.nodeName(), attribute.nodeValue());
+        }
     } else {
         for (const QString &name : attributeNames(element))
             result.emplace_back(name, element.attribute(name));
     }
-    std::sort(result.begin(), result.end());
+    std::sort(result.begin(), result.end(),
+              [](const Attribute &a, const Attribute &b) { return a.first < b.first; });
     return result;
 }
 
