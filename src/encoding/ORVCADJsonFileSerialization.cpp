@@ -58,7 +58,9 @@ QJsonArray recordArray(const QStringList &records)
 
 QString recordOf(const QJsonObject &object)
 {
+    constexpr int usualItem = 24; // characters
     QString record = QLatin1String("");
+    record.reserve(object.size() * usualItem);
     for (auto member = object.constBegin(); member != object.constEnd(); ++member)
         encoding::appendItem(record, member.key(), member.value().toString());
     encoding::cutLastSeparator(record);

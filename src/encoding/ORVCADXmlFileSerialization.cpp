@@ -84,15 +84,17 @@ std::vector<Attribute> attributesOf(const QDomElement &element)
         for (const QString &name : attributeNames(element))
             result.emplace_back(name, element.attribute(name));
     }
-    std::sort(result.begin(), result.end(),
-              [](const Attribute &a, const Attribute &b) { return a.first < b.first; });
+    std::sort(result.begin(), result.end(), [](const Attribute &a, const Attribute &b) { return a.first < b.first; });
     return result;
 }
 
 QString recordOf(const QDomElement &element)
 {
+    constexpr int usualItem = 24; // characters
+    const std::vector<Attribute> attributes = attributesOf(element);
     QString record = QLatin1String("");
-    for (const Attribute &one : attributesOf(element))
+    record.reserve(static_cast<int>(attributes.size()) * usualItem);
+    for (const Attribute &one : attributes)
         encoding::appendItem(record, one.first, one.second);
     encoding::cutLastSeparator(record);
     return record;

@@ -19,6 +19,8 @@ constexpr Section kSections[] = {{u"<!--", u"-->"}, {u"<![CDATA[", u"]]>"}, {u"<
 
 const Section *sectionAt(QStringView text)
 {
+    if (text.size() < 2 || (text[1] != u'!' && text[1] != u'?'))
+        return nullptr; // a tag, as nearly always
     for (const Section &one : kSections)
         if (text.startsWith(one.start))
             return &one;
