@@ -79,7 +79,7 @@ TEST(FlatItemTextTest, curvesUseTheGeometryForms)
     EXPECT_EQ(textOf(Curve(new vks::CLine2d(Point(0, 0), Point(1000, 0)))), "0,0,1000,0");
     EXPECT_EQ(textOf(Curve(new vks::CArc2d(Point(0, 0), Point(1000, 0), 1.0))), "0,0,1,1000,0");
     EXPECT_EQ(textOf(Curve()), "");
-    const Curve line = read<Curve>("0,0,1000,0");
+    const auto line = read<Curve>("0,0,1000,0");
     ASSERT_TRUE(line);
     EXPECT_EQ(line->EndPoint(), Point(1000, 0));
     EXPECT_FALSE(read<Curve>(""));
@@ -88,7 +88,7 @@ TEST(FlatItemTextTest, curvesUseTheGeometryForms)
 
 TEST(FlatItemTextTest, polygonsUseTheGeometryForms)
 {
-    const Polygon square = read<Polygon>("0,0;100,0;100,100;0,100;");
+    const auto square = read<Polygon>("0,0;100,0;100,100;0,100;");
     ASSERT_TRUE(square);
     EXPECT_EQ(textOf(square), "0,0;100,0;100,100;0,100;");
     EXPECT_EQ(textOf(Polygon()), "");
