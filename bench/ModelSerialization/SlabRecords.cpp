@@ -29,6 +29,16 @@ template <typename Element> void takeBar(SlabRecords::Bar &bar, const Element &e
     bar.stateDescript = element.stateDescript;
 }
 
+vks::CRefPtr<vks::CPolygon> polygonOf(const QString &text)
+{
+    return vks::CPolygon::LoadFromString(text.toLatin1().constData());
+}
+vks::CRefPtr<vks::CCurve2d> curveOf(const QString &text)
+{
+    const vks::CRefPtr<vks::CGeometry> geometry = vks::CGeometry::LoadFromStr(text.toLatin1().constData());
+    return dynamic_cast<vks::CCurve2d *>(geometry.get());
+}
+
 // ---- Into JSON
 
 void put(const SlabRecords::Record &record, QLatin1String geometryKey, QJsonObject &json)
@@ -225,4 +235,19 @@ void SlabRecords::fromJson(const QJsonObject &json)
     readArray(json.value(key::forcedBars).toArray(), forcedBars);
     readArray(json.value(key::negativeForcedBars).toArray(), negativeBars);
     readArray(json.value(key::beams).toArray(), beams);
+}
+
+void SlabRecords::addTo(Model &model) const
+{
+    for (const Board &board : boards)
+        (new Model::Board(&model))->surface = polygonOf(board.geometry);
+    for (const ForcedBar &bar : forcedBars) {
+        auto *element = new Model::ForcedBar(&model);
+        element->surface = polygonOf(bar.geometry);
+        element->supportPoly = polygonOf(bar.supportPoly);
+    }
+    for (const NegativeBar &bar : negativeBars)
+        (new Model::NegativeForcedBar(&model))->line = curveOf(bar.geometry);
+    for (const Beam &beam : beams)
+        (new Model::Beam(&model))->line = curveOf(beam.geometry);
 }

@@ -72,7 +72,8 @@ public:
 
     QJsonObject toJson() const;
     void fromJson(const QJsonObject &json);
-    std::size_t size() const { return boards.size() + forcedBars.size() + negativeBars.size() + beams.size(); }
+    /** Adds an element with its geometry for each record, without the other values. */
+    void addTo(Model &model) const;
 
     std::vector<Board> boards;
     std::vector<ForcedBar> forcedBars;

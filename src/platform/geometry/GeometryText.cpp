@@ -22,6 +22,7 @@ constexpr char kCompoundCurve[] = "COMPOUNDCURVE";
 constexpr char kPolygon[] = "POLYGON";
 constexpr char kCurvePolygon[] = "CURVEPOLYGON";
 constexpr char kEmpty[] = "EMPTY";
+constexpr std::size_t kUsualCorners = 5; // of the rings of a plan, with the first one at the end again
 
 void appendNumber(std::string &text, double value)
 {
@@ -79,8 +80,10 @@ private:
     }
     void addLine(const CCurve2d &line)
     {
-        if (m_run.empty())
+        if (m_run.empty()) {
+            m_run.reserve(kUsualCorners);
             m_run.push_back(line.StartPoint());
+        }
         m_run.push_back(line.EndPoint());
     }
     void addArc(const CCurve2d &arc)
@@ -221,6 +224,7 @@ private:
         Points result;
         if (!symbol('('))
             return std::nullopt;
+        result.reserve(kUsualCorners);
         do {
             CVec2<double> point;
             if (!number(point.x) || !number(point.y))
