@@ -1,6 +1,13 @@
 #include "cli/Applied.h"
 
 #include "cli/Files.h"
+#include "cli/ProjectInfo.h"
+#include "platform/host/HBXCheckError.h"
+#include "platform/host/IHBXCheck.h"
+#include "platform/host/IHBXDrawObjs.h"
+#include "platform/host/IHBXModel.h"
+
+#include <map>
 
 using hbx::embedded::HBXProject;
 using hbx::embedded::JournalEntry;
@@ -52,6 +59,25 @@ QStringList refusedSince(const HBXProject &project, std::size_t entries)
         if (journal[i].kind == JournalEntry::kWriteThrew)
             reasons.append(journal[i].reason);
     return reasons;
+}
+
+int doubledSince(IHBXModel &model, int drawObjsBefore)
+{
+    int doubled = 0;
+    for (int i = drawObjsBefore; i < model.drawObjects()->count(); ++i) {
+        HBXCheckError error;
+        std::map<qint64, QString> collisions;
+        model.checker()->checkDrawObj(model.drawObjects()->at(i), error, collisions);
+        doubled += collisions.empty() ? 0 : 1;
+    }
+    return doubled;
+}
+
+QString doubledLine(int doubled)
+{
+    return doubled == 0 ? QString()
+                        : QStringLiteral("\n%1 made where the same one stands already: was this applied before?")
+                              .arg(counted(doubled, QStringLiteral("object")));
 }
 
 Summary saveApplied(HBXProject &project, bool isComplete, bool isStrict, const QString &text, QJsonObject json)

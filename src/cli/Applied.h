@@ -8,6 +8,8 @@
 
 #include <vector>
 
+class IHBXModel;
+
 namespace orvcad {
 
 /** A member of a reply that was not written, or not whole. */
@@ -30,6 +32,11 @@ QString leftOutLines(const std::vector<LeftOut> &leftOut);
 
 /** What the host refused to write since its journal had so many entries, one reason each. */
 QStringList refusedSince(const hbx::embedded::HBXProject &project, std::size_t entries);
+
+/** Counts the objects made since a model had so many, which are the same as another one. */
+int doubledSince(IHBXModel &model, int drawObjsBefore);
+/** The line that tells of them; empty for none. */
+QString doubledLine(int doubled);
 
 /** Ends a command that wrote a reply into a project: saves it, but for a reply that left something out under --strict, and
  *  completes the summary by "project" and "saved". */

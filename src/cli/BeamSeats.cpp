@@ -200,7 +200,7 @@ QString SeatOutcome::text() const
         QStringLiteral("%1 read, %2 left out").arg(counted(members, QStringLiteral("seat"))).arg(leftOut.size());
     for (const Kind &kind : kinds)
         text += QStringLiteral("\n  ") + kind.text();
-    return text + leftOutLines(leftOut);
+    return text + leftOutLines(leftOut) + doubledLine(doubled);
 }
 
 QJsonObject SeatOutcome::toJson() const
@@ -208,7 +208,7 @@ QJsonObject SeatOutcome::toJson() const
     QJsonArray list;
     for (const Kind &kind : kinds)
         list.append(kind.toJson());
-    return {{"members", members}, {"kinds", list}, {"leftOut", orvcad::toJson(leftOut)}};
+    return {{"members", members}, {"doubled", doubled}, {"kinds", list}, {"leftOut", orvcad::toJson(leftOut)}};
 }
 
 QJsonObject seatDocument(const HBXProject &project, const std::vector<IHBXFloor *> &floors,
@@ -235,10 +235,12 @@ SeatOutcome applySeats(HBXProject &project, const QJsonObject &reply, const QStr
     SeatOutcome outcome;
     outcome.members = check.memberCount();
     outcome.leftOut = check.leftOut();
+    const int drawObjsBefore = model.drawObjects()->count();
     const HBXBatch batch(model, "orvcad beam seats apply");
     SeatWriter writer(project, outcome);
     for (const SeatReplyCheck::Member &member : check.sound())
         writer.write(member);
+    outcome.doubled = doubledSince(model, drawObjsBefore);
     return outcome;
 }
 

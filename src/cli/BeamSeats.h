@@ -68,6 +68,7 @@ struct SeatOutcome
     };
 
     int members = 0;
+    int doubled = 0;         ///< of the objects placed, those that are the same as another one
     std::vector<Kind> kinds; ///< those that the document has seats of
     std::vector<LeftOut> leftOut;
 

@@ -7,8 +7,6 @@
 #include "cli/ProjectInfo.h"
 #include "platform/embedded/HBXModelStore.h"
 #include "platform/host/HBXBatch.h"
-#include "platform/host/HBXCheckError.h"
-#include "platform/host/IHBXCheck.h"
 #include "platform/host/IHBXDrawObjs.h"
 #include "platform/host/IHBXElement.h"
 #include "platform/host/IHBXElementDrawObj.h"
@@ -114,6 +112,7 @@ public:
         beam.place = member.place;
         beam.name = record.Name;
         beam.type = record.ElementType;
+        beam.floor = record.FloorName;
         const int elementsBefore = m_model.elements()->count();
         IHBXElement *element = nullptr;
         const bool isWritten = m_service.localModel2BeamEnt(&record, element);
@@ -129,17 +128,6 @@ public:
             leaveOut(beam.place, beam.name, QStringLiteral("a value was refused: ") + reason);
         if (element)
             m_outcome.beams.push_back(beam);
-    }
-
-    /** Counts what now stands where the same stood before. */
-    void countDoubled(int drawObjsBefore)
-    {
-        for (int i = drawObjsBefore; i < m_model.drawObjects()->count(); ++i) {
-            HBXCheckError error;
-            std::map<qint64, QString> collisions;
-            m_model.checker()->checkDrawObj(m_model.drawObjects()->at(i), error, collisions);
-            m_outcome.doubled += collisions.empty() ? 0 : 1;
-        }
     }
 
 private:
@@ -192,16 +180,23 @@ QString BeamOutcome::Beam::text() const
 {
     const QString stops =
         stopped ? QStringLiteral(", %1 stopped").arg(counted(stopped, QStringLiteral("chain"))) : QString();
-    return QStringLiteral("%1 (%2): %3, %4 of %5, %6%7")
-        .arg(name, typeTitle(type), isReused ? QStringLiteral("reused") : QStringLiteral("made"),
+    return QStringLiteral("%1 (%2) on %3: %4, %5 of %6, %7%8")
+        .arg(name, typeTitle(type), floor, isReused ? QStringLiteral("reused") : QStringLiteral("made"),
              counted(chains, QStringLiteral("chain")), counted(segments, QStringLiteral("segment")),
              counted(spans, QStringLiteral("span")), stops);
 }
 
 QJsonObject BeamOutcome::Beam::toJson() const
 {
-    return {{"place", place},   {"name", name},         {"type", type},   {"element", isReused ? "reused" : "made"},
-            {"chains", chains}, {"segments", segments}, {"spans", spans}, {"stopped", stopped}};
+    return {{"place", place},
+            {"name", name},
+            {"type", type},
+            {"floor", floor},
+            {"element", isReused ? "reused" : "made"},
+            {"chains", chains},
+            {"segments", segments},
+            {"spans", spans},
+            {"stopped", stopped}};
 }
 
 int BeamOutcome::reused() const
@@ -223,7 +218,7 @@ BeamCounts BeamOutcome::made() const
 
 QString BeamOutcome::headline() const
 {
-    return QStringLiteral("%1 read: %2 made (and %3 reused), %4 left out")
+    return QStringLiteral("%1 read: %2 made (and %3 elements reused), %4 left out")
         .arg(counted(members, QStringLiteral("beam")), made().text())
         .arg(reused())
         .arg(leftOut.size());
@@ -234,11 +229,7 @@ QString BeamOutcome::text() const
     QStringList lines;
     for (const Beam &beam : beams)
         lines.append(beam.text());
-    QString text = headline() + cutLines(lines) + leftOutLines(leftOut);
-    if (doubled > 0)
-        text += QStringLiteral("\n%1 made where the same one stands already: was the reply applied before?")
-                    .arg(counted(doubled, QStringLiteral("segment")));
-    return text;
+    return headline() + cutLines(lines) + leftOutLines(leftOut) + doubledLine(doubled);
 }
 
 QJsonObject BeamOutcome::toJson() const
@@ -280,7 +271,7 @@ BeamOutcome applyBeams(HBXProject &project, const QJsonObject &reply, const QStr
     BeamWriter writer(project, outcome);
     for (const BeamReplyCheck::Member &member : check.sound())
         writer.write(member);
-    writer.countDoubled(drawObjsBefore);
+    outcome.doubled = doubledSince(model, drawObjsBefore);
     return outcome;
 }
 

@@ -33,6 +33,7 @@ struct BeamOutcome
         QString place; ///< in the reply: Beam[3]
         QString name;
         qint64 type = 0;
+        QString floor;
         bool isReused = false; ///< the floor had an element of that name and type
         int chains = 0;        ///< whole and linked
         int segments = 0;      ///< draw objects made, those of stopped chains, too
@@ -44,7 +45,7 @@ struct BeamOutcome
     };
 
     int members = 0;
-    int doubled = 0; ///< segments made that are the same as another one
+    int doubled = 0; ///< of the segments made, those that are the same as another one
     std::vector<Beam> beams;
     std::vector<LeftOut> leftOut;
 
