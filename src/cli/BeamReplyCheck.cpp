@@ -42,7 +42,7 @@ QString whyNotSection(const QJsonObject &element)
 {
     const QString outline = element.value(key::sectionPoly).toString();
     if (outline.isEmpty()) {
-        const QString width = whyNotSize(element, key::sectionWidth);
+        QString width = whyNotSize(element, key::sectionWidth);
         return width.isEmpty() ? whyNotSize(element, key::sectionHeight) : width;
     }
     const int subType = element.value(key::elementSubType).toInt();
@@ -79,24 +79,25 @@ QString whyNotSegment(const QJsonValue &value)
     const QJsonObject segment = value.toObject();
     if (!value.isObject())
         return QStringLiteral("is no object");
-    const QString wrong = wrongKey(segment, BeamSegmentInfo().toJsonObj(), kSegmentWhole, kSegmentRequired);
+    static const QJsonObject pattern = BeamSegmentInfo().toJsonObj();
+    QString wrong = wrongKey(segment, pattern, kSegmentWhole, kSegmentRequired);
     return wrong.isEmpty() ? whyNotAxis(segment.value(key::wordLine).toString()) : wrong;
 }
 
 QString whyNotSpan(const QJsonValue &value)
 {
-    return value.isObject() ? wrongKey(value.toObject(), BeamSpanInfo().toJsonObj(), kSpanWhole, {})
-                            : QStringLiteral("is no object");
+    static const QJsonObject pattern = BeamSpanInfo().toJsonObj();
+    return value.isObject() ? wrongKey(value.toObject(), pattern, kSpanWhole, {}) : QStringLiteral("is no object");
 }
 
 /** The first reason that an entry of an array gives, with its place. */
 template <typename Check> QString whyNotEntries(const QJsonObject &chain, QLatin1String key, Check check)
 {
-    const QJsonValue entries = chain.value(key);
-    if (!entries.isArray())
-        return chain.contains(key) ? QStringLiteral("%1 is no array").arg(key) : QString();
-    for (int i = 0; i < entries.toArray().size(); ++i) {
-        const QString reason = check(entries.toArray().at(i));
+    if (chain.contains(key) && !chain.value(key).isArray())
+        return QStringLiteral("%1 is no array").arg(key);
+    const QJsonArray entries = chain.value(key).toArray();
+    for (int i = 0; i < entries.size(); ++i) {
+        const QString reason = check(entries.at(i));
         if (!reason.isEmpty())
             return QStringLiteral("%1[%2]: %3").arg(key).arg(i).arg(reason);
     }
@@ -108,7 +109,7 @@ QString whyNotChain(const QJsonValue &value)
     const QJsonObject chain = value.toObject();
     if (!value.isObject())
         return QStringLiteral("is no object");
-    const QString reason = whyNotEntries(chain, key::segmentInfos, whyNotSegment);
+    QString reason = whyNotEntries(chain, key::segmentInfos, whyNotSegment);
     if (!reason.isEmpty())
         return reason;
     if (chain.value(key::segmentInfos).toArray().isEmpty())
@@ -195,10 +196,10 @@ QString BeamReplyCheck::whyNot(const QJsonValue &value, const BeamArray &array) 
 QString BeamReplyCheck::whyNotElement(const QJsonObject &element, const BeamArray &array) const
 {
     const QJsonObject pattern = BeamModelDataInfo::makeElementInfo(array.elementType)->toJsonObj();
-    const QString wrong = wrongKey(element, pattern, kElementWhole, kElementRequired);
+    QString wrong = wrongKey(element, pattern, kElementWhole, kElementRequired);
     if (!wrong.isEmpty())
         return wrong;
-    const QString wrongType = whyNotType(element.value(key::elementType).toInt(), array);
+    QString wrongType = whyNotType(element.value(key::elementType).toInt(), array);
     if (!wrongType.isEmpty())
         return wrongType;
     if (element.value(key::name).toString().isEmpty())

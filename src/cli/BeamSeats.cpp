@@ -163,7 +163,8 @@ QString SeatReplyCheck::whyNot(const QJsonValue &value, const SeatKind &kind) co
     const QJsonObject member = value.toObject();
     if (!value.isObject())
         return QStringLiteral("is no object");
-    QString reason = wrongKey(member, Seat().toJson(), kSeatWhole, kSeatRequired);
+    static const QJsonObject pattern = Seat().toJson();
+    QString reason = wrongKey(member, pattern, kSeatWhole, kSeatRequired);
     if (reason.isEmpty())
         reason = whyNotType(member.value(key::elementType).toInt(), kind);
     if (reason.isEmpty() && member.value(key::entName).toString().isEmpty())
