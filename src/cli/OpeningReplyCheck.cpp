@@ -1,5 +1,6 @@
 #include "cli/OpeningReplyCheck.h"
 
+#include "cli/MemberKinds.h"
 #include "doorwindow/DoorWindowKeys.h"
 #include "platform/host/IHBXElement.h"
 #include "platform/host/IHBXElements.h"
@@ -44,19 +45,13 @@ bool isOpening(qint64 elementType)
     return std::find(std::begin(kOpeningTypes), std::end(kOpeningTypes), elementType) != std::end(kOpeningTypes);
 }
 
-bool isInteger(const QJsonValue &value)
-{
-    // Two defaults that differ: only a number that fits gives the same for both.
-    return value.isDouble() && value.toInt(0) == value.toInt(1);
-}
-
 bool fits(const QJsonValue &value, Expected kind)
 {
     switch (kind) {
     case Expected::Text:
         return value.isString();
     case Expected::Integer:
-        return isInteger(value);
+        return isWhole(value);
     case Expected::Number:
         return value.isDouble();
     }

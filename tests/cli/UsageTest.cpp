@@ -21,7 +21,7 @@ TEST_F(UsageTest, unknownGroupIsNamedAndTheGroupsAreListed)
 {
     const QByteArray message = wrongUsage({"castle"});
     EXPECT_TRUE(message.startsWith("orvcad: \"castle\" is not understood here\n")) << message.toStdString();
-    for (const char *group : {"demo", "project", "floors", "opening", "drawing", "draw"})
+    for (const char *group : {"demo", "project", "floors", "opening", "beam", "drawing", "draw"})
         EXPECT_TRUE(message.contains(QByteArray("  ") + group + ' ')) << group;
 }
 
@@ -36,7 +36,7 @@ TEST_F(UsageTest, unknownVerbIsNamedAndTheVerbsOfItsGroupAreListed)
 
 TEST_F(UsageTest, groupWithoutAVerbIsWrongUsage)
 {
-    for (const char *group : {"project", "floors", "opening", "drawing"})
+    for (const char *group : {"project", "floors", "opening", "beam", "drawing"})
         EXPECT_TRUE(wrongUsage({group}).contains(QByteArray("Usage: orvcad ") + group)) << group;
 }
 
