@@ -51,6 +51,7 @@ void addProjectCommands(CLI::App &app, Command &command);
 void addFloorsCommands(CLI::App &app, Command &command);
 void addOpeningCommands(CLI::App &app, Command &command);
 void addDrawingCommands(CLI::App &app, Command &command);
+void addDrawingsCommands(CLI::App &app, Command &command);
 void addDrawCommand(CLI::App &app, Command &command);
 void addDemoCommand(CLI::App &app, Command &command);
 
