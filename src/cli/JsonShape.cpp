@@ -132,7 +132,7 @@ Fault faultOfMap(const QJsonObject &object, const JsonShape &shape)
 Fault faultOfList(const QJsonArray &list, const JsonShape &shape)
 {
     if (shape.length >= 0 && list.size() != shape.length)
-        return JsonFault{QString(), QStringLiteral("has %1 entries, not %2").arg(list.size()).arg(shape.length)};
+        return JsonFault{QString(), QStringLiteral("is no array of %1 entries").arg(shape.length)};
     for (int i = 0; i < list.size(); ++i)
         if (const Fault fault = faultIn(list.at(i), *shape.element))
             return below(step(i), fault);

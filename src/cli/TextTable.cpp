@@ -31,7 +31,23 @@ QString withoutBlanksAtTheEnd(QString line)
     return line;
 }
 
+QString printable(QString text)
+{
+    for (QChar &character : text)
+        if (character.category() == QChar::Other_Control)
+            character = QLatin1Char(' ');
+    return text;
+}
+
 } // namespace
+
+void TextTable::add(const QStringList &cells)
+{
+    QStringList row;
+    for (const QString &cell : cells)
+        row.append(printable(cell));
+    m_rows.push_back(row);
+}
 
 std::vector<int> TextTable::widths() const
 {

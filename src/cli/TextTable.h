@@ -21,8 +21,8 @@ public:
 
     explicit TextTable(std::vector<Column> columns) : m_columns(std::move(columns)) {}
 
-    /** As many cells as there are columns. */
-    void add(const QStringList &cells) { m_rows.push_back(cells); }
+    /** As many cells as there are columns. Control characters, which would move the cursor, become blanks. */
+    void add(const QStringList &cells);
     bool isEmpty() const { return m_rows.empty(); }
     /** The heading and the rows, without blanks at their ends. */
     QStringList lines() const;

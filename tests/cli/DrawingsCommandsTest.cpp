@@ -237,7 +237,7 @@ TEST_F(DrawingsCommandsTest, faultInAStageIsToldWithItsKeyPath)
         {"parseDrawing", R"({"table0": 7})", "parseDrawing.table0: is no object"},
         {"parseDrawing",
          R"({"table0": {"type": "", "drawingName": "", "range": [1, 2, 3], "data": {}, "concrete": {}}})",
-         "parseDrawing.table0.range: has 3 entries, not 4"},
+         "parseDrawing.table0.range: is no array of 4 entries"},
         {"parseDrawing",
          R"({"t": {"type": "", "drawingName": "", "range": [1, 2, 3, 4.5], "data": {"0": [1]}, "concrete": {}}})",
          "parseDrawing.t.range[3]: is no whole number from -2147483647 to 2147483647"},

@@ -20,6 +20,13 @@ TEST(TextTableTest, chineseCharactersCountTwice)
     EXPECT_EQ(table.lines(), (QStringList{"type    n", QStringLiteral("现浇板  1"), QStringLiteral("ＡＢ梁  2")}));
 }
 
+TEST(TextTableTest, controlCharactersBecomeBlanks)
+{
+    TextTable table({{"name"}, {"n"}});
+    table.add({"a\nb\x1b[31m", "1"});
+    EXPECT_EQ(table.lines(), (QStringList{"name      n", "a b [31m  1"}));
+}
+
 TEST(TextTableTest, tableWithoutRowsIsEmptyAndHasItsHeading)
 {
     const TextTable table({{"name"}});
