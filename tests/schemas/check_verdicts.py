@@ -1,6 +1,7 @@
-"""Holds a schema to one file of documents: it passes the accepted ones, and refuses each refused one at the places listed
-under "schema"; one without such a list breaks a rule that no schema can state. A schema may refer to others in its
-folder by their id."""
+"""Holds a schema to the documents that the reader of its format is tested with: it passes the accepted ones, and refuses
+each refused one at the places listed under "schema"; one without such a list breaks a rule that no schema can state. What
+the reader takes and the schema may refuse stands under "tolerated". A schema may refer to others in its folder by their
+id."""
 
 import argparse
 import json
@@ -25,7 +26,7 @@ def expectations(documents):
     """Name, document and places of all that is JSON."""
     for name, document in documents["accepted"].items():
         yield name, document, []
-    for name, test in documents["refused"].items():
+    for name, test in {**documents["refused"], **documents.get("tolerated", {})}.items():
         if "document" in test:
             yield name, test["document"], test.get("schema", [])
 
