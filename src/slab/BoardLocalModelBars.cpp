@@ -10,6 +10,8 @@ using Model = ORVCADBoardLocalModel_Sample;
 
 } // namespace
 
+// NOLINTBEGIN(performance-noexcept-move-constructor): handlers of events may throw
+
 Model::AbstractForcedBar::AbstractForcedBar(Types kind, cv::Object_AI *parent) : SectionObject(kind, parent)
 {
     bindProperties();
@@ -92,3 +94,5 @@ Model::RaftNegativeForcedBar::~RaftNegativeForcedBar() = default;
 Model::Object::Shape Model::RaftNegativeForcedBar::shape() const { return LineObject::shape(); }
 
 void Model::RaftNegativeForcedBar::bindProperties() { slab::bindProperty(*this, slab::property::barInfo(), barInfo); }
+
+// NOLINTEND(performance-noexcept-move-constructor)

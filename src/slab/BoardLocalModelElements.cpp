@@ -16,6 +16,8 @@ template <typename Geometry> Model::Object::Shape::BoxFunction boxOf(const vks::
 
 } // namespace
 
+// NOLINTBEGIN(performance-noexcept-move-constructor): handlers of events may throw
+
 Model::Object::Object(Types kind, cv::Object_AI *parent) : cv::Object_AI(parent), m_type(kind) { bindProperties(); }
 Model::Object::Object(Object &&other)
     : cv::Object_AI(std::move(other)), elementId(other.elementId), name(std::move(other.name)),
@@ -135,3 +137,5 @@ Model::AxisNet::AxisNet(AxisNet &&other) = default;
 Model::AxisNet::~AxisNet() = default;
 
 Model::Object::Shape Model::AxisNet::shape() const { return {this, boxOf(surface)}; }
+
+// NOLINTEND(performance-noexcept-move-constructor)

@@ -32,7 +32,7 @@ inline QString rowNumber() { return QStringLiteral("钢筋排数"); }
 template <typename T> T fieldValue(const Any &value)
 {
     if constexpr (std::is_same_v<T, qint32>) {
-        const double number = value.to<double>();
+        const auto number = value.to<double>();
         const bool fits =
             number > std::numeric_limits<qint32>::min() - 1.0 && number < std::numeric_limits<qint32>::max() + 1.0;
         return fits ? static_cast<qint32>(number) : 0;

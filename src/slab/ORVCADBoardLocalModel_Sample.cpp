@@ -50,6 +50,8 @@ private:
 template <typename Element> std::vector<const Element *> allOf(const Tree &model)
 {
     std::vector<const Element *> found;
+    if constexpr (std::is_same_v<Element, Model::Object>)
+        found.reserve(model.childCount());
     std::vector<const Tree *> waiting{&model};
     MadeAs<Element> madeAs;
     while (!waiting.empty()) {
@@ -78,6 +80,7 @@ template <typename Element> Element *added(Model &model, const QUuid &recongnize
 } // namespace
 
 ORVCADBoardLocalModel_Sample::ORVCADBoardLocalModel_Sample() = default;
+// NOLINTNEXTLINE(performance-noexcept-move-constructor): handlers of events may throw
 ORVCADBoardLocalModel_Sample::ORVCADBoardLocalModel_Sample(ORVCADBoardLocalModel_Sample &&other) = default;
 ORVCADBoardLocalModel_Sample::~ORVCADBoardLocalModel_Sample() = default;
 

@@ -18,10 +18,10 @@ class ORVCADBoardLocalModelTestAccess;
  *  main fields are properties too (docs/objects.md). Bars, slabs and supports are not linked to one another; where they
  *  lie tells what belongs together.
  *
- *      const ORVCADBoardLocalModel_Sample model = ...;
- *      for (const ORVCADBoardLocalModel_Sample::Board *slab : model.boards())
+ *      using Model = ORVCADBoardLocalModel_Sample;
+ *      for (const Model::Board *slab : model.boards())
  *          total += slab->surface ? slab->surface->Area() : 0.0;
- *      auto outlines = model.findObjects(Object::BoardKind | Object::BoardHoleKind);
+ *      auto outlines = model.findObjects(Model::Object::BoardKind | Model::Object::BoardHoleKind);
  *
  *  Lengths are millimetres and plan geometry is in millimetres of the floor. The elevations of slabs and rafts are
  *  metres; those of beams, walls and columns stay as the host gives them. Geometry is shared by counting: assigning a
