@@ -49,7 +49,7 @@ struct SlabBarProperty
 };
 
 /** Where working bars lie across their span, as parts of it, by "Position". */
-struct SlabBarPlaces
+struct ORVCADMODELDATA_EXPORT SlabBarPlaces
 {
     double first;  ///< of 0
     double second; ///< of 1
