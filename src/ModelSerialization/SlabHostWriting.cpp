@@ -92,6 +92,16 @@ GroupElement elementFor(const SlabTarget &target, const ElementRule &rule)
     return made && made->properties() && wasFilled(*made, rule.fill) ? GroupElement{made->id(), true} : GroupElement();
 }
 
+IHBXElement *elementOf(const SlabTarget &target, GroupElement &group, const ElementRule &rule)
+{
+    IHBXElements &elements = *target.model.elements();
+    if (group.id < 0)
+        return nullptr;
+    if (!elements.elementById(group.id))
+        group = elementFor(target, rule);
+    return elements.elementById(group.id);
+}
+
 IHBXElementDrawObj *writtenOrNull(const std::function<IHBXElementDrawObj *()> &write)
 {
     try {

@@ -97,6 +97,9 @@ struct GroupElement
 
 /** The element of that name and type on the floor if it matches, else a new one, whose name may have a suffix. */
 GroupElement elementFor(const SlabTarget &target, const ElementRule &rule);
+/** The element of a group. One that an earlier group shared, and that went since that group put nothing in, is found or made
+ *  anew; null for a group that has none. */
+IHBXElement *elementOf(const SlabTarget &target, GroupElement &group, const ElementRule &rule);
 /** Runs a write and takes what the host refuses in its own way, HBXModelException, for its end. */
 IHBXElementDrawObj *writtenOrNull(const std::function<IHBXElementDrawObj *()> &write);
 
@@ -129,7 +132,7 @@ void writeGroups(const SlabTarget &target, const std::vector<std::vector<Record>
     for (const auto &group : groups)
         elements.push_back(elementFor(target, ruleOf(group)));
     for (std::size_t i = 0; i < groups.size(); ++i) {
-        IHBXElement *element = target.model.elements()->elementById(elements[i].id);
+        IHBXElement *element = elementOf(target, elements[i], ruleOf(groups[i]));
         if (!element)
             continue;
         for (const Record &record : groups[i])

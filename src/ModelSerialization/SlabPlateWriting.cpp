@@ -122,7 +122,7 @@ void writePlates(const SlabTarget &target, const PlateKind &kind, std::vector<Pl
 
 QString elevationText(const char *baseWord, double metresAboveBase)
 {
-    const QString word = QString::fromUtf8(baseWord);
+    QString word = QString::fromUtf8(baseWord);
     if (hbx::isEqual(metresAboveBase, 0.0, kSameElevation))
         return word;
     const bool isAbove = hbx::isGreater(metresAboveBase, 0.0, kSameElevation);

@@ -218,6 +218,17 @@ TEST_F(SlabHoleWritingTest, holeInNoSlabLeavesNothing)
     EXPECT_EQ(elementCount(24), 0);
 }
 
+TEST_F(SlabHoleWritingTest, elementThatWentWithItsFirstGroupIsMadeAnewForTheNext)
+{
+    addHole(shapes::rectangle(20000, 0, 400, 300)); // in no slab
+    const auto *sound = addHole(shapes::rectangle(1000, 1000, 400, 300), "", "2C16");
+    write();
+    ASSERT_TRUE(only(24));
+    EXPECT_EQ(ids, (Service::IdMap{{only(24)->id(), sound->recongnizedID}}));
+    EXPECT_EQ(elementName(only(24)), "BD-400*300");
+    EXPECT_EQ(elementCount(24), 1);
+}
+
 TEST_F(SlabHoleWritingTest, refusedHoleLeavesNothing)
 {
     addHole(shapes::rectangle(1000, 1000, 400, 300));
