@@ -38,7 +38,7 @@ std::vector<Box> makeBoxes(unsigned seed)
     std::vector<Box> boxes;
     for (std::size_t i = 0; i < kCount; ++i) {
         const vks::CVec2<double> corner(place(random), place(random));
-        boxes.push_back({corner, corner + vks::CVec2<double>(size(random), size(random))});
+        boxes.emplace_back(corner, corner + vks::CVec2<double>(size(random), size(random)));
     }
     return boxes;
 }

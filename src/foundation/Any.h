@@ -23,7 +23,7 @@ public:
     /** Holds a copy. A text literal is held as const char *, so the text itself has to live on. */
     template <typename T, typename Held = std::decay_t<T>,
               typename = std::enable_if_t<!std::is_same_v<Held, Any> && !std::is_base_of_v<AnySource, Held>>>
-    Any(T &&value) // NOLINT(google-explicit-constructor): any value stands where an Any is asked for
+    Any(T &&value) // NOLINT(bugprone-forwarding-reference-overload): the condition leaves out Any itself
         : m_held(new Derived<Held>(std::forward<T>(value))), m_type(&typeid(Held))
     {}
     Any(const Any &other);
@@ -92,7 +92,8 @@ private:
 template <typename T> class Any::Derived : public Any::Base
 {
 public:
-    template <typename Source> explicit Derived(Source &&source) : held(std::forward<Source>(source)) {}
+    explicit Derived(const T &value) : held(value) {}
+    explicit Derived(T &&value) : held(std::move(value)) {}
 
     Base *clone() const override { return new Derived(held); }
     std::string text() const override
@@ -137,7 +138,7 @@ template <typename T> T Any::to() const
 template <typename Number, typename... Helds> bool Any::readNumber(Number &number) const
 {
     const auto read = [&number](auto held) {
-        number = static_cast<Number>(held);
+        number = static_cast<Number>(held); // NOLINT(bugprone-signed-char-misuse): the number of a char is meant
         if constexpr (std::is_integral_v<Number>) {
             using Held = decltype(held);
             if (static_cast<Held>(number) != held || (number < Number()) != (held < Held()))

@@ -82,10 +82,11 @@ Object_AI::Object_AI(const QString &name, Object_AI *parent)
 {}
 Object_AI::Object_AI(const char *name, Object_AI *parent) : Object_AI(QString::fromUtf8(name), parent) {}
 Object_AI::Object_AI(const Object_AI &other) : gp::Object_AI<Object_AI *, QString, Any>(other, this, 0) {}
-// NOLINTNEXTLINE(performance-noexcept-move-constructor): handlers of events may throw
-Object_AI::Object_AI(Object_AI &&other) : gp::Object_AI<Object_AI *, QString, Any>(std::move(other), this, 0) {}
 Object_AI &Object_AI::operator=(const Object_AI &other) = default;
+// NOLINTBEGIN(*-noexcept-move-*,*-exception-escape): handlers of events may throw
+Object_AI::Object_AI(Object_AI &&other) : gp::Object_AI<Object_AI *, QString, Any>(std::move(other), this, 0) {}
 Object_AI &Object_AI::operator=(Object_AI &&other) = default;
+// NOLINTEND(*-noexcept-move-*,*-exception-escape)
 
 // NOLINTNEXTLINE(bugprone-exception-escape): meant, it ends the process
 Object_AI::~Object_AI()

@@ -37,13 +37,13 @@ public:
     /** Copies name and properties into a root without methods and callback; a bound property stays bound to the same. */
     Object_AI(const Object_AI &other);
     /** Takes name, properties, children and place of the other. */
-    Object_AI(Object_AI &&other); // NOLINT(performance-noexcept-move-constructor): handlers of events may throw
+    Object_AI(Object_AI &&other); // NOLINT(*-noexcept-move-*,*-exception-escape): handlers may throw
     /** Copies name and properties. */
     Object_AI &operator=(const Object_AI &other);
     /** Deletes the present children, takes name, children and place of the other and exchanges the properties. */
-    Object_AI &operator=(Object_AI &&other); // NOLINT(performance-noexcept-move-constructor): as above
+    Object_AI &operator=(Object_AI &&other); // NOLINT(*-noexcept-move-*,*-exception-escape): likewise
     /** Ends the process with "There are no saved logs" where a log stands under the object. */
-    ~Object_AI() override;
+    ~Object_AI() override; // NOLINT(bugprone-exception-escape): meant
 
     /** A new log, the last child of this object, which owns it.
      *  @param type             kind of decision

@@ -55,9 +55,9 @@ public:
 
         PropertyAssistant &operator=(const Value &value);
         /** Copies the value of the other property. */
-        PropertyAssistant &operator=(const PropertyAssistant &other);
+        PropertyAssistant &operator=(const PropertyAssistant &other); // NOLINT(bugprone-unhandled-self-assignment)
 
-        operator Value() const { return m_owner->property(m_name); } // NOLINT(google-explicit-constructor)
+        operator Value() const { return m_owner->property(m_name); }
         template <typename T> T to() const { return Value(*this).template to<T>(); }
         template <typename T> T cast() const { return Value(*this).template cast<T>(); }
 
@@ -82,7 +82,7 @@ public:
     Object_AI &operator=(const Object_AI &other);
     /** Deletes the present children, takes name, children and place of the other and exchanges the properties. Nothing
      *  happens for an object that stands in this one, or is it. */
-    Object_AI &operator=(Object_AI &&other);
+    Object_AI &operator=(Object_AI &&other); // NOLINT(*-noexcept-move-*,*-exception-escape): handlers may throw
 
     const Name &objectName() const { return m_name; }
     void setObjectName(const Name &name) { m_name = name; }

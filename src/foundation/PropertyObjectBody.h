@@ -42,6 +42,7 @@ auto Object_AI<Data, Name, Value>::operator=(const Object_AI &other) -> Object_A
 }
 
 template <typename Data, typename Name, typename Value>
+// NOLINTNEXTLINE(*-noexcept-move-*,*-exception-escape): handlers of events may throw
 auto Object_AI<Data, Name, Value>::operator=(Object_AI &&other) -> Object_AI &
 {
     for (const Tree *above = &other; above; above = above->parentNode())
@@ -121,6 +122,7 @@ auto Object_AI<Data, Name, Value>::properties() const -> std::vector<property_t>
 }
 
 template <typename Data, typename Name, typename Value>
+// NOLINTNEXTLINE(readability-const-return-type): a const proxy cannot be assigned to
 auto Object_AI<Data, Name, Value>::operator[](const Name &name) const -> const PropertyAssistant
 {
     return {const_cast<Object_AI *>(this), name}; // a const proxy only reads
@@ -134,6 +136,7 @@ auto Object_AI<Data, Name, Value>::PropertyAssistant::operator=(const Value &val
 }
 
 template <typename Data, typename Name, typename Value>
+// NOLINTNEXTLINE(bugprone-unhandled-self-assignment): a property may be given its own value
 auto Object_AI<Data, Name, Value>::PropertyAssistant::operator=(const PropertyAssistant &other) -> PropertyAssistant &
 {
     m_owner->setProperty(m_name, other);

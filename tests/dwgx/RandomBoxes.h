@@ -20,13 +20,16 @@ inline std::vector<Box> make(std::size_t count, unsigned seed)
     std::vector<Box> boxes;
     for (std::size_t i = 0; i < count; ++i) {
         const vks::CVec2<double> corner(place(random), place(random));
-        boxes.push_back({corner, corner + vks::CVec2<double>(size(random), size(random))});
+        boxes.emplace_back(corner, corner + vks::CVec2<double>(size(random), size(random)));
     }
     return boxes;
 }
 
 /** A pointer that stands for the box at a position. */
-inline void *tag(std::size_t position) { return reinterpret_cast<void *>(position + 1); }
+inline void *tag(std::size_t position)
+{
+    return reinterpret_cast<void *>(position + 1); // NOLINT(performance-no-int-to-ptr): a mark, never followed
+}
 
 /** Tags of the first boxes, so many of them, that are no farther than the tolerance (mm) from a box; written without the
  *  box's own test, which the trees use. */

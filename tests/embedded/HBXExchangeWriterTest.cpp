@@ -7,9 +7,7 @@
 using namespace exchangetest;
 using hbx::embedded::DrawObjRecord;
 using hbx::embedded::ElementRecord;
-using hbx::embedded::HBXExchangeReader;
 using hbx::embedded::HBXExchangeWriter;
-using hbx::embedded::ProjectError;
 using hbx::embedded::ProjectRecord;
 
 namespace {

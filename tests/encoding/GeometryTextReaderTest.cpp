@@ -8,7 +8,6 @@
 
 using Reader = GeometryTextReader;
 using Point = vks::CVec2<double>;
-using testing::DoubleEq;
 using testing::ElementsAre;
 
 namespace {

@@ -79,7 +79,7 @@ TEST_F(Object_AITest, clearedLogsGoInOrderAndThoseWithLogsUnderThemLast)
     std::vector<QString> order;
     const auto logged = [&order](cv::Object_AI *object, const char *text) {
         cv::Log_AI *log = object->log("t", text, 1.0);
-        log->setCallbackBeforeDestroyed([&order, text] { order.push_back(text); });
+        log->setCallbackBeforeDestroyed([&order, text] { order.emplace_back(text); });
         return log;
     };
     logged(logged(logged(model.get(), "a"), "under a"), "under that");

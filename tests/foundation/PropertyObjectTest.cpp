@@ -30,6 +30,7 @@ Base::Setter setterOf(double &field)
 std::vector<QString> namesOf(const std::vector<cv::Object_AI *> &objects)
 {
     std::vector<QString> names;
+    names.reserve(objects.size());
     for (const cv::Object_AI *object : objects)
         names.push_back(object->objectName());
     return names;
@@ -174,7 +175,7 @@ TEST_F(PropertyObjectTest, laterBindingTakesThePlaceOfTheEarlier)
 TEST_F(PropertyObjectTest, exceptionsOfGettersAndSettersPassThrough)
 {
     slab->setProperty(
-        "elevation", [this]() -> Any { throw std::runtime_error("get"); },
+        "elevation", []() -> Any { throw std::runtime_error("get"); },
         [](const Any &) { throw std::runtime_error("set"); });
     EXPECT_THAT([&] { slab->property("elevation"); }, testing::ThrowsMessage<std::runtime_error>("get"));
     EXPECT_THAT([&] { slab->setProperty("elevation", 1); }, testing::ThrowsMessage<std::runtime_error>("set"));
@@ -449,14 +450,14 @@ TEST_F(PropertyObjectTest, callbackComesFirstOfAll)
     slab->setProperty("thickness", 120.0);
     slab->setMethod("note", methodGiving(1));
     slab->setCallbackBeforeDestroyed([&] {
-        order.push_back("slab");
+        order.emplace_back("slab");
         // Everything is still in its place.
         EXPECT_TRUE(slab->hasProperty("thickness"));
         EXPECT_EQ(slab->invokeMethod("note").cast<int>(), 1);
         EXPECT_EQ(slab->childCount(), 2U);
         EXPECT_EQ(slab->parent(), &storey);
     });
-    hole->setCallbackBeforeDestroyed([&] { order.push_back("hole"); });
+    hole->setCallbackBeforeDestroyed([&] { order.emplace_back("hole"); });
     delete slab;
     EXPECT_THAT(order, ElementsAre("slab", "hole"));
     EXPECT_THAT(storey.children(), ElementsAre(beam));

@@ -9,10 +9,7 @@
 
 namespace {
 
-using shapes::kPi;
-using vks::CArc2d;
 using vks::CCurve2d;
-using vks::CLine2d;
 using vks::CRefPtr;
 using Vec = vks::CVec2<double>;
 

@@ -162,6 +162,7 @@ TEST(CLoopTest, placeInLoopsOfArcsIsThatInTheirChords)
     constexpr int kChords = 500;
     for (int shape = 0; shape < 40; ++shape) {
         std::vector<Vec> corners;
+        corners.reserve(5);
         for (int i = 0; i < 5; ++i)
             corners.push_back(Vec(radius(random), 0).Rotated(2 * kPi * i / 5));
         CLoop arcs;

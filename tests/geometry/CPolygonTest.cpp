@@ -14,7 +14,6 @@ using shapes::box;
 using shapes::kPi;
 using shapes::polygon;
 using vks::CPolygon;
-using vks::CRefPtr;
 using Vec = vks::CVec2<double>;
 
 TEST(CPolygonTest, holesAreTakenOff)

@@ -4,6 +4,7 @@
 #include "platform/geometry/CurveZone.h"
 #include "platform/geometry/KernelTolerance.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace vks {
@@ -55,10 +56,9 @@ bool isShared(const Stretch &stretch, const CCurve2d &curve, const CCurve2d &oth
 
 bool sharesStretch(const CCurve2d &curve, const CCurve2d &other, double tolerance)
 {
-    for (const Stretch &stretch : stretchesNear(curve, other, tolerance))
-        if (isShared(stretch, curve, other, tolerance))
-            return true;
-    return false;
+    const std::vector<Stretch> stretches = stretchesNear(curve, other, tolerance);
+    return std::any_of(stretches.begin(), stretches.end(),
+                       [&](const Stretch &stretch) { return isShared(stretch, curve, other, tolerance); });
 }
 
 } // namespace

@@ -77,6 +77,7 @@ Geometry polygonOf(const Ring &shell, const std::vector<const Ring *> &holes)
     if (!outer)
         return nullptr;
     std::vector<Geometry> inner;
+    inner.reserve(holes.size());
     for (const Ring *hole : holes)
         inner.push_back(linearRing(*hole));
     std::vector<GEOSGeometry *> plain = released(inner);

@@ -48,6 +48,7 @@ std::vector<int> loopDepths(const std::vector<CRefPtr<CLoop>> &loops)
     if (loops.size() < 2)
         return depths;
     std::vector<CBox2<double>> boxes;
+    boxes.reserve(loops.size());
     for (const auto &loop : loops)
         boxes.push_back(loop->Box());
     for (std::size_t i = 0; i < loops.size(); ++i)
