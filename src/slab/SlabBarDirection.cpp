@@ -1,0 +1,46 @@
+#include "slab/SlabBarDirection.h"
+
+#include "platform/geometry/CPositionJudge.h"
+#include "slab/SlabSearchTolerance.h"
+
+#include <cmath>
+
+namespace {
+
+constexpr double kPi = 3.141592653589793;
+
+/** Angle from a to b, counter-clockwise, rad in -pi to pi. */
+double angleBetween(const vks::CVec2<double> &a, const vks::CVec2<double> &b)
+{
+    return std::atan2(a.Cross(b), a.Dot(b));
+}
+
+bool isNoTurn(double angle) { return std::fabs(angle) <= slab::kSameDirectionAngle + slab::kAngleNoise; }
+
+bool isNoTurnOrHalf(double angle) { return isNoTurn(angle) || isNoTurn(angle + kPi) || isNoTurn(angle - kPi); }
+
+} // namespace
+
+bool isSameDirPi(const vks::CVec2<double> &a, const vks::CVec2<double> &b)
+{
+    return isNoTurnOrHalf(std::fmod(angleBetween(a, b), kPi));
+}
+
+bool isSameLine(const vks::CCurve2d *p, const vks::CCurve2d *q)
+{
+    if (!p || !q || !isNoTurnOrHalf(std::fmod(angleBetween(q->EndVt(), p->EndVt()), 2 * kPi)))
+        return false;
+    vks::CPositionJudge judge;
+    judge.SetDistEpsilon(slab::kSameLineTolerance);
+    return judge.GetCurveCurvePosition(p, q) == vks::kCurvesOverlap;
+}
+
+bool needNormalizeStretchInfo(const vks::CCurve2d *curve)
+{
+    if (!curve)
+        return false;
+    const vks::CVec2<double> along = curve->EndVt();
+    const double angle = std::atan2(along.y, along.x);
+    const double turned = angle < 0.0 ? angle + 2 * kPi : angle;
+    return turned > slab::kNormalizeAboveAngle || turned < slab::kNormalizeBelowAngle;
+}
