@@ -2,6 +2,7 @@
 
 #include "drawing/DrawingKeys.h"
 #include "drawing/FloorElevation.h"
+#include "drawing/RecordSearch.h"
 #include "encoding/RecordFields.h"
 
 #include <QSet>
@@ -10,6 +11,7 @@
 
 using namespace encoding;
 using namespace drawing::elevation;
+using drawing::firstRecord;
 namespace key = drawing::key;
 
 struct ORVCADFloors::Fields
@@ -21,16 +23,6 @@ struct ORVCADFloors::Fields
 namespace {
 
 using Floors = QList<ORVCADFloor *>;
-
-// The list is handed out to callers, who may have put null into it.
-
-template <typename Condition> ORVCADFloor *firstFloor(const Floors &floors, Condition holds)
-{
-    for (ORVCADFloor *floor : floors)
-        if (floor && holds(*floor))
-            return floor;
-    return nullptr;
-}
 
 /** The floor that no later one beats. */
 template <typename Beats> ORVCADFloor *bestFloor(const Floors &floors, Beats beats)
@@ -64,17 +56,17 @@ ORVCADFloor *ORVCADFloors::getFloor(int index) const { return m_floors.value(ind
 
 ORVCADFloor *ORVCADFloors::getFloor(const QString &name) const
 {
-    return firstFloor(m_floors, [&](const ORVCADFloor &floor) { return floor.name() == name; });
+    return firstRecord(m_floors, [&](const ORVCADFloor &floor) { return floor.name() == name; });
 }
 
 ORVCADFloor *ORVCADFloors::getBaseFloor() const
 {
-    return firstFloor(m_floors, [](const ORVCADFloor &floor) { return floor.isBaseFloor(); });
+    return firstRecord(m_floors, [](const ORVCADFloor &floor) { return floor.isBaseFloor(); });
 }
 
 ORVCADFloor *ORVCADFloors::getFirstFloor() const
 {
-    return firstFloor(m_floors, [](const ORVCADFloor &floor) { return floor.isFirstFloor(); });
+    return firstRecord(m_floors, [](const ORVCADFloor &floor) { return floor.isFirstFloor(); });
 }
 
 ORVCADFloor *ORVCADFloors::getHighestFloor() const
@@ -92,7 +84,7 @@ ORVCADFloor *ORVCADFloors::getUpstairFloor(const ORVCADFloor *floor) const
     if (!floor)
         return nullptr;
     const double target = topOfAllStoreys(*floor);
-    return firstFloor(m_floors, [=](const ORVCADFloor &above) { return isEqual(above.btmElev(), target); });
+    return firstRecord(m_floors, [=](const ORVCADFloor &above) { return isEqual(above.btmElev(), target); });
 }
 
 ORVCADFloor *ORVCADFloors::getDownstairFloor(const ORVCADFloor *floor) const
@@ -100,7 +92,7 @@ ORVCADFloor *ORVCADFloors::getDownstairFloor(const ORVCADFloor *floor) const
     if (!floor)
         return nullptr;
     // Meant: one storey of the candidate counts, whatever number it stands for.
-    return firstFloor(m_floors, [=](const ORVCADFloor &below) { return isEqual(below.topElev(), floor->btmElev()); });
+    return firstRecord(m_floors, [=](const ORVCADFloor &below) { return isEqual(below.topElev(), floor->btmElev()); });
 }
 
 ORVCADFloor *ORVCADFloors::getMinGreaterZeroFloor() const

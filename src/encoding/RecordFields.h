@@ -214,6 +214,13 @@ constexpr auto fieldAs(QLatin1String key, T Record::*member, Flow flow = Flow::B
     return FieldRow<Kind, Record, T, detail::KeepPresent>{key, member, {}, flow, false};
 }
 
+/** As fieldOr, by a kind other than the one that the type has by itself. */
+template <typename Kind, typename Record, typename T>
+constexpr auto fieldAsOr(QLatin1String key, T Record::*member, Flow flow = Flow::Both)
+{
+    return FieldRow<Kind, Record, T, detail::UseZero>{key, member, {}, flow, false};
+}
+
 /** Calls visit(row) for each row in order: what other text forms of the same record walk. */
 template <typename Table, typename Visit> constexpr void forEachField(const Table &table, Visit &&visit)
 {

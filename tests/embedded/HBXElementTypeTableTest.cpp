@@ -51,20 +51,11 @@ TEST(HBXElementTypeTableTest, seatsOfBeamsHaveTheKeysOfTheirPayload)
     EXPECT_STREQ(elementTypeInfo(54)->analysisKey, "etPile");
 }
 
-TEST(HBXElementTypeTableTest, unknownNumbersAndNamesGiveNull)
+TEST(HBXElementTypeTableTest, unknownNumbersGiveNull)
 {
     for (const qint64 type : {-1LL, 2LL, 16LL, 84LL, 1000LL, 1004LL, 4294967296LL}) {
         EXPECT_EQ(elementTypeInfo(type), nullptr) << type;
     }
-    EXPECT_EQ(elementTypeInfoByName(QString()), nullptr);
-    EXPECT_EQ(elementTypeInfoByName(QStringLiteral("etBeam")), nullptr);
-}
-
-TEST(HBXElementTypeTableTest, typeIsFoundByItsOwnName)
-{
-    EXPECT_EQ(elementTypeInfoByName(QStringLiteral("梁"))->number, 15);
-    EXPECT_EQ(elementTypeInfoByName(QStringLiteral("现浇板"))->number, 19);
-    EXPECT_EQ(elementTypeInfoByName(QStringLiteral("砌体墙"))->number, 1003);
 }
 
 TEST(HBXElementTypeTableTest, noTwoTypesShareKeyNameOrColour)

@@ -1,5 +1,7 @@
 #include "platform/embedded/ExchangeSpan.h"
 
+#include "platform/embedded/HBXSpanKeys.h"
+
 #include <algorithm>
 #include <iterator>
 
@@ -10,25 +12,25 @@ enum class SpanValue { Integer, Number, Text };
 
 struct SpanKey
 {
-    const char *key;
+    QLatin1String key;
     SpanValue kind;
 };
 
 constexpr SpanKey kSpanKeys[] = {
-    {"SpanIndex", SpanValue::Integer},    {"StartElev", SpanValue::Number},
-    {"EndElev", SpanValue::Number},       {"SpanA1_A4", SpanValue::Text},
-    {"SpanLength", SpanValue::Number},    {"Section", SpanValue::Text},
-    {"AxisOffset", SpanValue::Number},    {"TopThroughBar", SpanValue::Text},
-    {"LeftSupportBar", SpanValue::Text},  {"SpanBar", SpanValue::Text},
-    {"RightSupportBar", SpanValue::Text}, {"BottomThroughBar", SpanValue::Text},
-    {"BottomBar", SpanValue::Text},       {"SideBar", SpanValue::Text},
-    {"SideLabelBar", SpanValue::Text},    {"TieBar", SpanValue::Text},
-    {"HoopBar", SpanValue::Text},         {"HoopBarLimbCount", SpanValue::Integer},
-    {"SecBeamWidth", SpanValue::Text},    {"SecBeamAddBar", SpanValue::Text},
-    {"HangBar", SpanValue::Text},         {"HangBarAnchor", SpanValue::Text},
-    {"DenseLength", SpanValue::Text},     {"HaunchingLength", SpanValue::Text},
-    {"HaunchingHeight", SpanValue::Text}, {"HaunchingBarInfo", SpanValue::Text},
-    {"OtherHoopBars", SpanValue::Text},
+    {spankey::spanIndex, SpanValue::Integer},    {spankey::startElev, SpanValue::Number},
+    {spankey::endElev, SpanValue::Number},       {spankey::measures, SpanValue::Text},
+    {spankey::spanLength, SpanValue::Number},    {spankey::section, SpanValue::Text},
+    {spankey::axisOffset, SpanValue::Number},    {spankey::topThroughBar, SpanValue::Text},
+    {spankey::leftSupportBar, SpanValue::Text},  {spankey::spanBar, SpanValue::Text},
+    {spankey::rightSupportBar, SpanValue::Text}, {spankey::bottomThroughBar, SpanValue::Text},
+    {spankey::bottomBar, SpanValue::Text},       {spankey::sideBar, SpanValue::Text},
+    {spankey::sideLabelBar, SpanValue::Text},    {spankey::tieBar, SpanValue::Text},
+    {spankey::hoopBar, SpanValue::Text},         {spankey::hoopBarLimbCount, SpanValue::Integer},
+    {spankey::secBeamWidth, SpanValue::Text},    {spankey::secBeamAddBar, SpanValue::Text},
+    {spankey::hangBar, SpanValue::Text},         {spankey::hangBarAnchor, SpanValue::Text},
+    {spankey::denseLength, SpanValue::Text},     {spankey::haunchingLength, SpanValue::Text},
+    {spankey::haunchingHeight, SpanValue::Text}, {spankey::haunchingBarInfo, SpanValue::Text},
+    {spankey::otherHoopBars, SpanValue::Text},
 };
 
 const char *wrongKind(SpanValue kind, const QJsonValue &value)
@@ -47,12 +49,12 @@ const char *wrongKind(SpanValue kind, const QJsonValue &value)
 
 void checkMember(const QString &key, const QJsonValue &value, const JsonPlace &place)
 {
-    const auto *known = std::find_if(std::begin(kSpanKeys), std::end(kSpanKeys),
-                                     [&](const SpanKey &each) { return key == QLatin1String(each.key); });
+    const auto *known =
+        std::find_if(std::begin(kSpanKeys), std::end(kSpanKeys), [&](const SpanKey &each) { return key == each.key; });
     if (known == std::end(kSpanKeys))
         place.refuse(QStringLiteral("has the unknown member \"%1\"").arg(key));
     if (const char *reason = wrongKind(known->kind, value))
-        JsonPlace(place, QLatin1String(known->key)).refuse(QLatin1String(reason));
+        JsonPlace(place, known->key).refuse(QLatin1String(reason));
 }
 
 } // namespace

@@ -26,13 +26,13 @@ public:
     /** The layer manager's title where it has one for the type, else the type's own name; for texts with "标注" behind
      *  it. */
     Names namesOf(const ElementTypeInfo &type) const;
+    /** The name that the project keeps for a title, else the title itself. */
+    QString storedName(const QString &label) const;
 
     /** Index, 1 to 9, of the drawing colour nearest to 0xRRGGBB. */
     static int colorIndexOf(int rgb);
 
 private:
-    QString storedName(const QString &label) const;
-
     QMap<QString, QString> m_storedNames;
 };
 

@@ -70,12 +70,4 @@ inline const ElementTypeInfo *elementTypeInfo(qint64 type)
     return place != std::end(kElementTypes) && place->number == type ? place : nullptr;
 }
 
-/** The type of an own name, null for any other text. */
-inline const ElementTypeInfo *elementTypeInfoByName(const QString &ownName)
-{
-    const auto place = std::find_if(std::begin(kElementTypes), std::end(kElementTypes),
-                                    [&ownName](const ElementTypeInfo &info) { return info.name() == ownName; });
-    return place == std::end(kElementTypes) ? nullptr : place;
-}
-
 } // namespace hbx

@@ -1,0 +1,3 @@
+#include "beam/FloorInfo.h"
+
+QJsonObject FloorInfo::toJsonObj() const { return {}; } // meant: BeamIdentifyContextData writes the values

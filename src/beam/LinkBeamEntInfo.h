@@ -1,0 +1,19 @@
+#pragma once
+
+#include "beam/BaseBeamEntInfo.h"
+
+/** Link beam (17) as an element: a beam between two walls. */
+class ORVCADMODELDATA_EXPORT LinkBeamEntInfo : public BaseBeamEntInfo
+{
+public:
+    ~LinkBeamEntInfo() override;
+    void fromJson(const QJsonObject &json) override;
+    QJsonObject toJsonObj() const override;
+
+    QString TopHoribar; ///< spelled with a small b, here and in JSON
+    QString BottomHoriBar;
+    QString SideBarAL;
+
+private:
+    struct Fields; // the one list, in the source
+};

@@ -1,0 +1,31 @@
+#include "beam/ORVCADBeamEDOInfo.h"
+
+#include "beam/BeamKeys.h"
+#include "encoding/RecordKinds.h"
+
+using namespace beam;
+using encoding::fieldAppended;
+using encoding::fieldOr;
+
+struct ORVCADBeamEDOInfo::Fields
+{
+    using Record = ORVCADBeamEDOInfo;
+    static constexpr auto table = std::make_tuple(
+        fieldOr(key::spanNum, &Record::nSpanNum), fieldOr(key::width, &Record::nWidth),
+        fieldOr(key::runStartElev, &Record::strStartElev), fieldOr(key::runEndElev, &Record::strEndElev),
+        fieldOr(key::startElevType, &Record::enStartElevType), fieldOr(key::endElevType, &Record::enEndElevType),
+        fieldAppended(key::segments, &Record::vecSegmentInfo));
+};
+
+QJsonObject ORVCADBeamEDOInfo::toJson() const
+{
+    QJsonObject json;
+    encoding::writeFields(*this, Fields::table, json);
+    return json;
+}
+
+void ORVCADBeamEDOInfo::fromJson(ORVCADBeamEDOInfo *target, const QJsonObject &json)
+{
+    if (target)
+        encoding::readFields(json, Fields::table, *target);
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "drawing/ORVCADDrawingFloorMapping.h"
+
+#include <QHash>
+#include <QMap>
+#include <QPair>
+#include <QString>
+#include <QVarLengthArray>
+
+#include <memory>
+
+namespace drawing {
+
+/** Records of a floor mapping set in list order, by a number that grows from record to record: so a record keeps its
+ *  number when another one goes. */
+using FloorMappingList = QMap<qint64, std::shared_ptr<ORVCADDrawingFloorMapping>>;
+
+/** The records of a floor mapping set by place, region and drawing. Valid as long as the list that it was built from. */
+class FloorMappingIndex
+{
+public:
+    struct Entry
+    {
+        qint64 number;
+        ORVCADDrawingFloorMapping *record;
+    };
+    using Entries = QVarLengthArray<Entry, 1>; // in list order; most have one, which then needs no memory of its own
+
+    Entries ofFloor(qint64 region, const QString &floor) const { return m_byFloor.value({region, floor}); }
+    Entries ofRegion(qint64 region) const { return m_byRegion.value(region); }
+    Entries ofDrawing(const QString &drawing) const { return m_byDrawing.value(drawing); }
+    /** Whether the record of that number holds the drawing. */
+    bool holds(qint64 number, const QString &drawing) const;
+
+    void build(const FloorMappingList &list);
+    void add(const Entry &entry);
+    void remove(const Entry &entry);
+    void addDrawing(const Entry &entry, const QString &drawing);
+    void removeDrawing(const Entry &entry, const QString &drawing);
+
+private:
+    QHash<QPair<qint64, QString>, Entries> m_byFloor;
+    QHash<qint64, Entries> m_byRegion;
+    QHash<QString, Entries> m_byDrawing;
+};
+
+} // namespace drawing

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+/** What a caller says of a drawing that is not split: a value that the library hands on and neither fills nor reads, so
+ *  the fields have no meaning here. */
+struct ORVCADFlatDrawingInfo
+{
+    QString text;
+    double first = 0.0;
+    double second = 0.0;
+    double third = 0.0;
+    double fourth = 0.0;
+};

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "drawing/ORVCADSubDrawingInfo.h"
+
+#include <QList>
+#include <QString>
+
+/** How a caller splits a drawing: a value that the library hands on and neither fills nor reads. */
+struct ORVCADSubDrawingSplitInfo
+{
+    QString drawing;
+    QList<ORVCADSubDrawingInfo> subDrawings;
+};

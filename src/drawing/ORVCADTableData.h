@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QList>
+#include <QPair>
+#include <QString>
+#include <QStringList>
+
+#include <array>
+
+/** Types of tables found on drawings. */
+constexpr int kFloorTable = 0;
+constexpr int kColumnTable = 1;
+constexpr int kUnknownTable = 10000;
+
+/** One row of a table. */
+struct ORVCADTableRowData
+{
+    int row = 0;
+    QStringList cells; ///< texts, from left to right
+};
+
+/** The concrete grades that a table states for one row. */
+struct ORVCADConcreteLevel
+{
+    int row = 0;
+    QList<QPair<QString, QString>> values; ///< what the grade is for, and the grade
+};
+
+/** A table found on a drawing: a grid of texts. Copying copies. */
+struct ORVCADTableData
+{
+    QString drawingName; ///< of the drawing on which it was found
+    int type = kFloorTable;
+    std::array<int, 4> range = {}; ///< where the table lies
+    QList<ORVCADTableRowData> rows;
+    QList<ORVCADConcreteLevel> concrete;
+};

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+/** A pair of names that a caller keeps of a split drawing: a value that the library hands on and neither fills nor
+ *  reads. */
+struct SplitMapInfo
+{
+    QString first;
+    QString second;
+};

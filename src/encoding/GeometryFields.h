@@ -1,0 +1,48 @@
+#pragma once
+
+#include "encoding/GeometryInfo.h"
+#include "encoding/ORVCADJsonCGeometryObjOper.h"
+#include "encoding/RecordFields.h"
+
+/** Geometry as a value in the rows of RecordFields.h, in one of its two text forms. */
+namespace encoding {
+
+/** The short texts of docs/formats/geometry-text.md, null as the empty text. A bad or missing text reads as null. */
+template <> struct ValueKind<vks::CRefPtr<vks::CCurve2d>>
+{
+    static QJsonValue toValue(const vks::CRefPtr<vks::CCurve2d> &curve) { return getCurveInfo(curve); }
+    static vks::CRefPtr<vks::CCurve2d> fromValue(const QJsonValue &json, const vks::CRefPtr<vks::CCurve2d> & /*none*/)
+    {
+        return ORVCADJsonCGeometryObjOper().getCurveInfo(json.toString());
+    }
+};
+
+template <> struct ValueKind<vks::CRefPtr<vks::CPolygon>>
+{
+    static QJsonValue toValue(const vks::CRefPtr<vks::CPolygon> &polygon) { return getPolyInfo(polygon); }
+    static vks::CRefPtr<vks::CPolygon> fromValue(const QJsonValue &json, const vks::CRefPtr<vks::CPolygon> & /*none*/)
+    {
+        return ORVCADJsonCGeometryObjOper().getPolyInfo(json.toString());
+    }
+};
+
+/** The kernel's own text, exact, null as the empty text. A bad or missing text, and a text of other geometry, reads as
+ *  null. */
+struct KernelText
+{
+    static QJsonValue toValue(const vks::CGeometry *geometry)
+    {
+        return geometry ? QString::fromStdString(geometry->ToText()) : QStringLiteral("");
+    }
+    static vks::CRefPtr<vks::CPolygon> fromValue(const QJsonValue &json, const vks::CRefPtr<vks::CPolygon> & /*none*/)
+    {
+        return vks::CPolygon::LoadFromString(json.toString().toUtf8().constData());
+    }
+    static vks::CRefPtr<vks::CCurve2d> fromValue(const QJsonValue &json, const vks::CRefPtr<vks::CCurve2d> & /*none*/)
+    {
+        const vks::CRefPtr<vks::CGeometry> geometry = vks::CGeometry::LoadFromStr(json.toString().toUtf8().constData());
+        return dynamic_cast<vks::CCurve2d *>(geometry.get());
+    }
+};
+
+} // namespace encoding
