@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ORVCADModelDataExport.h"
 #include "slab/ORVCADBoardLocalModel_Sample.h"
 
 class IHBXElementDrawObj;
@@ -16,14 +17,14 @@ namespace slabhost {
 using Local = ORVCADBoardLocalModel_Sample;
 
 /** @param model  in which the slabs of a bar are found by their ids */
-void read(IHBXModel &model, IHBXElementDrawObj &object, Local::ForcedBar &bar);
+ORVCADMODELDATA_EXPORT void read(IHBXModel &model, IHBXElementDrawObj &object, Local::ForcedBar &bar);
 /** Meant: the last item of "ReinforcementInfo" is the empty one behind the last ";", so it never counts. */
-void read(IHBXModel &model, IHBXElementDrawObj &object, Local::StraddleForcedBar &bar);
-void read(IHBXModel &model, IHBXElementDrawObj &object, Local::NegativeForcedBar &bar);
+ORVCADMODELDATA_EXPORT void read(IHBXModel &model, IHBXElementDrawObj &object, Local::StraddleForcedBar &bar);
+ORVCADMODELDATA_EXPORT void read(IHBXModel &model, IHBXElementDrawObj &object, Local::NegativeForcedBar &bar);
 /** Meant: supportPoly stays null. */
-void read(IHBXModel &model, IHBXElementDrawObj &object, Local::RaftMainForcedBar &bar);
-void read(IHBXModel &model, IHBXElementDrawObj &object, Local::RaftMainStraddleForcedBar &bar);
+ORVCADMODELDATA_EXPORT void read(IHBXModel &model, IHBXElementDrawObj &object, Local::RaftMainForcedBar &bar);
+ORVCADMODELDATA_EXPORT void read(IHBXModel &model, IHBXElementDrawObj &object, Local::RaftMainStraddleForcedBar &bar);
 /** Meant: labelPosition is always the host's own, while that of a slab's bar with both labels goes by its supports. */
-void read(IHBXModel &model, IHBXElementDrawObj &object, Local::RaftNegativeForcedBar &bar);
+ORVCADMODELDATA_EXPORT void read(IHBXModel &model, IHBXElementDrawObj &object, Local::RaftNegativeForcedBar &bar);
 
 } // namespace slabhost

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ORVCADModelDataExport.h"
 #include "slab/ORVCADBoardLocalModel_Sample.h"
 
 class IHBXElementDrawObj;
@@ -11,16 +12,16 @@ namespace slabhost {
 
 using Local = ORVCADBoardLocalModel_Sample;
 
-void read(IHBXElementDrawObj &object, Local::Raft &raft);
-void read(IHBXElementDrawObj &object, Local::Board &board);
+ORVCADMODELDATA_EXPORT void read(IHBXElementDrawObj &object, Local::Raft &raft);
+ORVCADMODELDATA_EXPORT void read(IHBXElementDrawObj &object, Local::Board &board);
 /** Meant: barInfo stays as it is, the host has only the three texts of the spans. */
-void read(IHBXElementDrawObj &object, Local::BoardHole &hole);
-void read(IHBXElementDrawObj &object, Local::Column &column);
-void read(IHBXElementDrawObj &object, Local::Beam &beam);
+ORVCADMODELDATA_EXPORT void read(IHBXElementDrawObj &object, Local::BoardHole &hole);
+ORVCADMODELDATA_EXPORT void read(IHBXElementDrawObj &object, Local::Column &column);
+ORVCADMODELDATA_EXPORT void read(IHBXElementDrawObj &object, Local::Beam &beam);
 /** Meant: the elevations go to the wall's own fields, startTopElev and endTopElev stay as they are. */
-void read(IHBXElementDrawObj &object, Local::Wall &wall);
+ORVCADMODELDATA_EXPORT void read(IHBXElementDrawObj &object, Local::Wall &wall);
 /** An object without a grid behind it gives its remark alone. An axis gives one pair, with the first of its curves, which
  *  is null for an axis without any. */
-void read(IHBXElementDrawObj &object, Local::AxisNet &net);
+ORVCADMODELDATA_EXPORT void read(IHBXElementDrawObj &object, Local::AxisNet &net);
 
 } // namespace slabhost

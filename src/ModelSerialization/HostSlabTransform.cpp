@@ -92,6 +92,7 @@ void Service::FromHost::readAxisNets() const
     constexpr int anySubType = -1;
     Objects objects;
     model.drawObjects()->queryDrawObjsOfFloor(objects, floor.id(), slabhost::types::axisNets, anySubType, true);
+    objects.removeAll(nullptr);
     for (Object *object : qAsConst(objects)) {
         Local::AxisNet *net = local.addAixsNet(); // meant: always with its id, and never with an identity
         net->elementId = object->id();
@@ -104,6 +105,7 @@ Service::FromHost::Objects Service::FromHost::objectsOf(const QSet<qint64> &type
 {
     Objects objects;
     floor.drawObjsOfTypes(objects, types, true);
+    objects.removeAll(nullptr);
     return objects;
 }
 
