@@ -2,8 +2,6 @@
 
 #include "ModelSerialization/ORVCADBoardLocalModelPersistenceService_Sample.h"
 #include "platform/dwgx/DWGXModel.h"
-#include "platform/dwgx/HBXCADFileHelper.h"
-#include "platform/dwgx/HBXCADIOperator.h"
 #include "platform/services/HBCZipFile.h"
 #include "slab/DrawingFolder.h"
 #include "slab/ORVCADBoardLocalIOModel_Sample.h"
@@ -14,8 +12,6 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <memory>
-
 namespace {
 
 using IOModel = ORVCADBoardLocalIOModel_Sample;
@@ -25,12 +21,6 @@ using ModelService = ORVCADBoardLocalModelPersistenceService_Sample;
 QString unpackedName(const QString &name) { return name + QLatin1String(".cadi2"); }
 QString packedName(const QString &name) { return name + QLatin1String(".wzd"); }
 
-bool writeDrawing(const dwgx::DWGXModel &drawing, const QString &path)
-{
-    const std::unique_ptr<HBXCADIOperator> drawings(HBXCADFileHelper::getInstance()->createCADIOperator());
-    return drawings && drawings->write(path, &drawing, QString(), QString());
-}
-
 /** The "drawing" of a document; empty on failure. */
 QJsonObject packedDrawing(const dwgx::DWGXModel &drawing)
 {
@@ -38,7 +28,7 @@ QJsonObject packedDrawing(const dwgx::DWGXModel &drawing)
     const QString name = QFileInfo(drawing.getFilePath()).completeBaseName();
     const QString unpacked = folder.filePath(unpackedName(name));
     QFile packed(folder.filePath(packedName(name)));
-    if (!folder.isMade() || !writeDrawing(drawing, unpacked) ||
+    if (!folder.isMade() || !slab::writeDrawing(drawing, unpacked) ||
         !HBCZipFile::compressFiles({unpacked}, packed.fileName()) || !packed.open(QIODevice::ReadOnly))
         return {};
     return {{slab::key::drawingName, name}, {slab::key::wzd, QString::fromLatin1(packed.readAll().toHex())}};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ModelSerialization/ORVCADBoardLocalModelPersistenceService_Sample.h"
 #include "ORVCADModelDataExport.h"
 
 #include <QString>
@@ -9,10 +10,12 @@
 
 namespace dwgx {
 class DWGXBaseBoxTree;
-}
+class DWGXModel;
+} // namespace dwgx
 class IHBXCurState;
 class IHBXModel;
 class IHBXService;
+class ORVCADBoardLocalIOModel_Sample;
 class ORVCADBoardLocalModel_Sample;
 
 /** Carries slab local models into the host and out of it. Nothing of it is ever made: all operations are static.
@@ -31,6 +34,43 @@ class ORVCADMODELDATA_EXPORT ORVCADBoardLocalModelTransformHBXService_Sample
 {
 public:
     using IdMap = std::map<qint64, QUuid>;
+
+    /** Which elements come out of the host. Compared as a whole, as the writer of JSON does; the values are the same. */
+    enum Parts : int {
+        Supports = ORVCADBoardLocalModelPersistenceService_Sample::Supports,    ///< 2
+        Boards = ORVCADBoardLocalModelPersistenceService_Sample::Boards,        ///< 4: slabs and their holes
+        BoardBars = ORVCADBoardLocalModelPersistenceService_Sample::BoardBars,  ///< 8
+        Rafts = ORVCADBoardLocalModelPersistenceService_Sample::Rafts,          ///< 32
+        RaftBars = ORVCADBoardLocalModelPersistenceService_Sample::RaftBars,    ///< 64
+        AxisNets = ORVCADBoardLocalModelPersistenceService_Sample::AxisNets,    ///< 128
+        Everything = ORVCADBoardLocalModelPersistenceService_Sample::Everything ///< 126: axis nets too
+    };
+
+    // ---- Out of the host
+
+    /** Adds an element to a local model for each draw object of a floor; what the model holds stays. Elements are in plan
+     *  geometry of the building and in copies, but for the outlines of slabs that bars point to (supportPoly and
+     *  supportPolys), which are the host's own. Each element but axis nets gets a fresh identity.
+     *
+     *  elementId is the draw object's id where Everything is asked for, else -1; axis nets always have it, and supports
+     *  never. An area bar that "ReinforcementInfo" links with no slab or raft is left out; one that is parallel to the
+     *  first bars of two groups of its place comes in twice, once for each row.
+     *
+     *  Order: rafts, slabs, holes, bars of rafts, bars of slabs, columns, beams, walls, axis nets. Rafts, Boards, RaftBars
+     *  and BoardBars give their own elements alone, Everything all, and any other value supports and axis nets.
+     *  @param topElev, btmElev  receive those of the floor, m
+     *  @return false, with everything as it was, for a null model and an unknown region or floor */
+    static bool hbx2local(IHBXModel *model, const QString &region, const QString &floor, double &topElev,
+                          double &btmElev, ORVCADBoardLocalModel_Sample *local, Parts parts);
+    /** The same for everything, with the drawing of a file, the floor, and the options of the project for bars, which take
+     *  the place of those that the model holds. False also where the drawing cannot be read; the elements stay in the model
+     *  then, and its drawing, floor and options are as they were. */
+    static bool hbx2local(IHBXModel *model, const QString &region, const QString &floor, const QString &drawingPath,
+                          ORVCADBoardLocalIOModel_Sample *io);
+    /** The same with a drawing in memory, of which the model gets a copy of its own, by way of a file below QDir::temp().
+     *  Where that file cannot be written, and for a null drawing, nothing is read. */
+    static bool hbx2local(IHBXModel *model, const QString &region, const QString &floor, dwgx::DWGXModel *drawing,
+                          ORVCADBoardLocalIOModel_Sample *io);
 
     // ---- Into the host
 
@@ -78,4 +118,7 @@ public:
     static void localRaftNegativeForcedBar2HBX(const ORVCADBoardLocalModel_Sample *local, IHBXService *service,
                                                dwgx::DWGXBaseBoxTree *boxTree, const QString &region,
                                                const QString &floor, IdMap &idMap);
+
+private:
+    struct FromHost;
 };

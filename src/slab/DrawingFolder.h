@@ -1,8 +1,13 @@
 #pragma once
 
+#include "platform/dwgx/HBXCADFileHelper.h"
+#include "platform/dwgx/HBXCADIOperator.h"
+
 #include <QDir>
 #include <QString>
 #include <QUuid>
+
+#include <memory>
 
 namespace slab {
 
@@ -34,5 +39,12 @@ private:
     bool m_isMade = false;
     bool m_isLeftBehind = false;
 };
+
+/** Writes a drawing file with the host's operator. False where that fails, or where the host has none. */
+inline bool writeDrawing(const dwgx::DWGXModel &drawing, const QString &path)
+{
+    const std::unique_ptr<HBXCADIOperator> drawings(HBXCADFileHelper::getInstance()->createCADIOperator());
+    return drawings && drawings->write(path, &drawing, QString(), QString());
+}
 
 } // namespace slab
