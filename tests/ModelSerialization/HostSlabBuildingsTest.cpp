@@ -1,7 +1,7 @@
-#include "ModelSerialization/BuildingHost.h"
 #include "ModelSerialization/ORVCADBoardLocalModelPersistenceService_Sample.h"
 #include "ModelSerialization/ORVCADBoardLocalModelTransformHBXService_Sample.h"
 #include "slab/ORVCADBoardLocalModel_Sample.h"
+#include "support/BuildingHost.h"
 
 namespace {
 

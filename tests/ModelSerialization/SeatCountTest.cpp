@@ -1,5 +1,5 @@
-#include "ModelSerialization/BuildingHost.h"
 #include "beam/BeamIdentifyInput.h"
+#include "support/BuildingHost.h"
 
 #include <QMap>
 

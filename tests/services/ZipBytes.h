@@ -34,7 +34,7 @@ public:
 private:
     static void append(const Member &member, QByteArray &bytes, QByteArray &directory)
     {
-        const QByteArray packed = qCompress(member.content).mid(4 + 2).chopped(4); // without sizes and checksum
+        const QByteArray packed = deflated(member.content);
         const QByteArray head = le16(member.encrypted ? 1 : 0) + le16(8) + le32(0) + le32(check(member)) +
                                 le32(packed.size()) +
                                 le32(member.statedSize < 0 ? member.content.size() : member.statedSize) +
@@ -44,6 +44,12 @@ private:
         bytes += "PK\3\4" + le16(20) + head + member.name + packed;
     }
 
+    static QByteArray deflated(const QByteArray &content)
+    {
+        if (content.isEmpty())
+            return QByteArray("\3\0", 2);                // one block without anything in it; qCompress makes none
+        return qCompress(content).mid(4 + 2).chopped(4); // without sizes and checksum
+    }
     static QByteArray le16(int value) { return le32(value).left(2); }
     static QByteArray le32(qint64 value)
     {
