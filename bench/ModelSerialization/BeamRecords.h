@@ -20,7 +20,11 @@ constexpr double kRowDistance = 3000.0;   // mm
 constexpr int kBeamsOfARow = 100;
 
 inline double startX(int beam) { return beam % kBeamsOfARow * kBeamDistance; }
-inline double startY(int beam) { return beam / kBeamsOfARow * kRowDistance; }
+inline double startY(int beam)
+{
+    const int row = beam / kBeamsOfARow;
+    return row * kRowDistance;
+}
 inline QString beamName(int beam) { return QStringLiteral("KL-%1").arg(beam); }
 
 inline std::shared_ptr<BeamSpanInfo> spanRecord(int index)

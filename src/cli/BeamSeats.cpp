@@ -220,7 +220,7 @@ QJsonObject seatDocument(const HBXProject &project, const std::vector<IHBXFloor 
         floorIds.insert(floor->id());
     ORVCADBeamSDCIdentifyInputModel input(false);
     getBeamSeatInfo(input, project.service()->model(), floorIds);
-    const QJsonObject document = input.beamSeatInfoToJsonObj();
+    QJsonObject document = input.beamSeatInfoToJsonObj();
     for (const SeatKind &kind : seatKinds()) {
         counts.emplace_back();
         counts.back().type = kind.elementType;

@@ -3,6 +3,9 @@
 #include "ModelSerialization/SlabReaderFixture.h"
 #include "beam/SeatHost.h"
 
+#include <algorithm>
+#include <vector>
+
 namespace {
 
 using hbx::embedded::curveOf;
@@ -22,9 +25,9 @@ protected:
     template <typename Element>
     std::vector<int> fieldsFor(const wchar_t *property, const std::vector<int> &values, qint32 Element::*field)
     {
-        std::vector<int> out;
-        for (int value : values)
-            out.push_back(fieldFor(property, value, field));
+        std::vector<int> out(values.size());
+        std::transform(values.begin(), values.end(), out.begin(),
+                       [&](int value) { return fieldFor(property, value, field); });
         return out;
     }
     template <typename Element> Element told()

@@ -32,6 +32,10 @@ public:
 /** A folder to work in and another one in the place of the system's temporary one. */
 class SlabIOModelFixture : public ::testing::Test
 {
+public:
+    SlabIOModelFixture(const SlabIOModelFixture &) = delete;
+    SlabIOModelFixture &operator=(const SlabIOModelFixture &) = delete;
+
 protected:
     using IOModel = ORVCADBoardLocalIOModel_Sample;
     using IOAccess = ORVCADBoardLocalIOModelTestAccess;
@@ -45,8 +49,6 @@ protected:
         else
             qputenv("TMPDIR", m_systems);
     }
-    SlabIOModelFixture(const SlabIOModelFixture &) = delete;
-    SlabIOModelFixture &operator=(const SlabIOModelFixture &) = delete;
 
     /** From now on QDir::temp() is that folder. */
     static void useTemporary(const QString &folder) { qputenv("TMPDIR", QFile::encodeName(folder)); }
