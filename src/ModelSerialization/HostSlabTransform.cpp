@@ -1,6 +1,7 @@
 #include "ModelSerialization/HostSlabTransform.h"
 
 #include "ModelSerialization/HostBarReading.h"
+#include "ModelSerialization/HostFloor.h"
 #include "ModelSerialization/HostSlabKeys.h"
 #include "ModelSerialization/HostSlabReading.h"
 #include "ModelSerialization/HostSlabValues.h"
@@ -156,7 +157,7 @@ void Service::FromHost::readAreaBars(const QSet<qint64> &types, Creator<Bar> cre
 bool Service::hbx2local(IHBXModel *model, const QString &region, const QString &floor, double &topElev, double &btmElev,
                         ORVCADBoardLocalModel_Sample *local, Parts parts)
 {
-    IHBXFloor *found = local ? slabhost::findFloor(model, region, floor) : nullptr;
+    IHBXFloor *found = local ? findFloor(model, region, floor) : nullptr;
     if (!found)
         return false;
     topElev = found->topElev();

@@ -2,6 +2,7 @@
 
 #include "ModelSerialization/BeamProperties.h"
 #include "ModelSerialization/BeamSubTypes.h"
+#include "ModelSerialization/HostFloor.h"
 #include "ModelSerialization/HostWriting.h"
 #include "ModelSerialization/SeatProperties.h"
 #include "beam/BeamKeys.h"
@@ -92,7 +93,7 @@ bool ORVCADBeamLocalModel2HBXService::localModel2BeamEnt(BaseBeamEntInfo *beam, 
     if (!model() || !beam)
         return false;
     beam->ElementSubType = subTypeMade(beam->ElementType, beam->ElementSubType);
-    IHBXFloor *floor = findFloor(*model(), beam->RegionName, beam->FloorName);
+    IHBXFloor *floor = findFloor(model(), beam->RegionName, beam->FloorName);
     if (!floor)
         return false;
     IHBXElements &elements = *model()->elements();
@@ -261,7 +262,7 @@ bool ORVCADBeamLocalModel2HBXService::checkBeforeReconstruct(const Seat &seat, I
 {
     if (!model() || !seat)
         return false;
-    IHBXFloor *found = findFloor(*model(), seat->RegionName, seat->FloorName);
+    IHBXFloor *found = findFloor(model(), seat->RegionName, seat->FloorName);
     if (!found)
         return false;
     floor = found;

@@ -1,5 +1,6 @@
 #include "ModelSerialization/ORVCADBoardLocalModelTransformHBXService_Sample.h"
 
+#include "ModelSerialization/HostFloor.h"
 #include "ModelSerialization/SlabBarReading.h"
 #include "ModelSerialization/SlabBarWriting.h"
 #include "ModelSerialization/SlabHoleWriting.h"

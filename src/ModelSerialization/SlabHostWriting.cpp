@@ -4,10 +4,7 @@
 #include "platform/host/HBXModelException.h"
 #include "platform/host/IHBXCheck.h"
 #include "platform/host/IHBXFloor.h"
-#include "platform/host/IHBXFloors.h"
 #include "platform/host/IHBXProperties.h"
-#include "platform/host/IHBXRegion.h"
-#include "platform/host/IHBXRegions.h"
 
 #include <algorithm>
 #include <cmath>
@@ -39,12 +36,6 @@ bool wasFilled(IHBXElement &element, const std::function<void(IHBXElement &)> &f
 }
 
 } // namespace
-
-IHBXFloor *findFloor(IHBXModel *model, const QString &regionName, const QString &floorName)
-{
-    IHBXRegion *region = model ? model->regions()->find(regionName) : nullptr;
-    return region ? region->floors()->find(floorName) : nullptr;
-}
 
 int truncated(double value)
 {

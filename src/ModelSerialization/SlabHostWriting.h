@@ -35,9 +35,6 @@ struct SlabTarget
     IdMap &ids; ///< receives what was written
 };
 
-/** Null for a null model, and when the region or the floor is unknown. */
-IHBXFloor *findFloor(IHBXModel *model, const QString &regionName, const QString &floorName);
-
 /** The number without its fraction; beyond the range the end of the range, for NaN 0. */
 ORVCADMODELDATA_EXPORT int truncated(double value);
 /** The tolerance for equal lengths: g_DistEpsilon; while that is 0, the larger of 1e-12 and 1e-12 times the size told. */

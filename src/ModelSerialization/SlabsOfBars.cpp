@@ -1,12 +1,11 @@
 #include "ModelSerialization/SlabsOfBars.h"
 
+#include "ModelSerialization/HostSlabValues.h"
 #include "ModelSerialization/SlabHostKeys.h"
 #include "ModelSerialization/SlabHostWriting.h"
 #include "platform/geometry/CPositionJudge.h"
-#include "platform/geometry/OrientProjectCurve2d.h"
 #include "platform/host/IHBXCurState.h"
 #include "platform/host/IHBXFloor.h"
-#include "platform/host/IHBXLineShape2D.h"
 #include "platform/host/IHBXProperties.h"
 #include "platform/host/IHBXService.h"
 #include "platform/services/HbxRelation.h"
@@ -65,17 +64,6 @@ std::vector<IHBXElementDrawObj *> slabsThat(std::vector<IHBXElementDrawObj *> sl
 }
 
 // ---- Overlap of negative bars
-
-Curve planCurve(IHBXElementDrawObj &bar)
-{
-    const auto *shape = dynamic_cast<IHBXLineShape2D *>(bar.shape());
-    Curve curve;
-    if (!shape || !shape->curve(curve))
-        return nullptr;
-    vks::CCoord3<double> frame;
-    shape->coordinates(frame, IHBXModel::g_bDefaultAutoCalc);
-    return vks::OrientProjectCurve2d(frame, curve, vks::CCoord3<double>(), vks::CVec3<double>(0.0, 0.0, 1.0), false);
-}
 
 Curve drawnCurve(IHBXElementDrawObj *bar)
 {
