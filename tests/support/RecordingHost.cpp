@@ -14,6 +14,7 @@
 #include "platform/host/IHBXFloors.h"
 #include "platform/host/IHBXModel.h"
 #include "platform/host/IHBXProperties.h"
+#include "platform/host/IHBXProperty.h"
 #include "platform/host/IHBXRegion.h"
 #include "platform/host/IHBXRegions.h"
 #include "platform/host/IHBXService.h"
@@ -70,6 +71,33 @@ template <typename Object> QList<Object *> &wrapAll(State &state, QList<Object *
     return objects;
 }
 
+/** Made for each asking, as the real one is. */
+class RecordingProperty : public Recording<IHBXProperty>
+{
+public:
+    RecordingProperty(State &state, std::shared_ptr<IHBXProperty> real) : Recording(state, *real), m_kept(real) {}
+    bool hasValue() const override { return m_real.hasValue(); }
+    int intValue() const override { return m_real.intValue(); }
+    void revert() override
+    {
+        called("property.revert");
+        m_real.revert();
+    }
+    void setInt(int value, bool flag) override
+    {
+        called("property.setInt", value, flag);
+        m_real.setInt(value, flag);
+    }
+    void setString(const QString &value, bool flag) override
+    {
+        called("property.setString", quoted(value), flag);
+        m_real.setString(value, flag);
+    }
+
+private:
+    std::shared_ptr<IHBXProperty> m_kept;
+};
+
 class RecordingProperties : public Recording<IHBXProperties>
 {
 public:
@@ -78,7 +106,9 @@ public:
     std::shared_ptr<IHBXProperty> &property(std::shared_ptr<IHBXProperty> &out, const std::wstring &name) override
     {
         called("property", quoted(name));
-        return m_real.property(out, name);
+        if (m_real.property(out, name))
+            out = std::make_shared<RecordingProperty>(m_state, out);
+        return out;
     }
     bool isNull(const std::wstring &name) const override { return m_real.isNull(name); }
     int asInt(const QString &key) const override { return m_real.asInt(key); }

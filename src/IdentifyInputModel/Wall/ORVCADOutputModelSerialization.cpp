@@ -3,7 +3,9 @@
 #include "IdentifyInputModel/Wall/WallArchiveRecords.h"
 #include "IdentifyInputModel/Wall/WallRecords.h"
 
+#include <algorithm>
 #include <memory>
+#include <vector>
 
 using namespace wall;
 
@@ -22,17 +24,29 @@ void writeWalls(ORVCADFileSerialization &archive, QLatin1String documentKey, con
     archive.writeRecordMap(documentKey, records);
 }
 
+/** New elements in the order of their addresses, so that a map has them in the order in which they are filled. */
+template <typename Element> std::vector<std::unique_ptr<Element>> newElements(int count)
+{
+    std::vector<std::unique_ptr<Element>> elements;
+    for (int i = 0; i < count; ++i)
+        elements.push_back(std::make_unique<Element>());
+    std::sort(elements.begin(), elements.end());
+    return elements;
+}
+
 template <typename Element, typename Table>
 void readWalls(ORVCADFileSerialization &archive, QLatin1String documentKey, Walls<Element> &walls, const Table &table)
 {
     QMap<QString, QStringList> records;
     archive.readRecordMap(documentKey, records);
-    for (auto entry = records.constBegin(); entry != records.constEnd(); ++entry) {
-        auto element = std::make_unique<Element>();
-        encoding::readFlatRecord(entry.key(), table, *element);
+    auto elements = newElements<Element>(records.size());
+    auto element = elements.begin();
+    for (auto entry = records.constBegin(); entry != records.constEnd(); ++entry, ++element) {
+        encoding::readFlatRecord(entry.key(), table, **element);
         std::list<IdentifyResultData> pieces;
         appendRecords(entry.value(), record::piece, pieces);
-        walls[element.release()] = std::move(pieces);
+        walls.emplace(element->get(), std::move(pieces));
+        element->release(); // now the map's
     }
 }
 

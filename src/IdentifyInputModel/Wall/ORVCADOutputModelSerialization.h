@@ -29,7 +29,8 @@ public:
 
     /** Elements that are equal in all that is written become one, with the pieces of all; a null element is left out. */
     void saveBrickWallIdentifyData(const BrickWalls &walls);
-    /** Adds a new element, which belongs to the caller, for each in the document. */
+    /** Adds a new element, which belongs to the caller, for each in the document; the map has these in the order of
+     *  their records. */
     void loadBrickWallIdentifyData(BrickWalls &walls);
     void saveForceWallIdentifyData(const ForceWalls &walls);
     void loadForceWallIdentifyData(ForceWalls &walls);

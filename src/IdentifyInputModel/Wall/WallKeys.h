@@ -30,6 +30,15 @@ constexpr QLatin1String brickReply = "BrickWallIdentifyData"_key;
 constexpr QLatin1String forceReply = "ForceWallIdentifyData"_key;
 } // namespace document
 
+/** Keys above the document in a reply. */
+namespace reply {
+using encoding::operator""_key;
+
+constexpr QLatin1String brickWalls = "eBrickWall"_key;
+constexpr QLatin1String forceWalls = "eWall"_key;
+constexpr QLatin1String elementsAndEdos = "ElementsAndEdos"_key;
+} // namespace reply
+
 /** Keys of items. */
 namespace key {
 using encoding::operator""_key;

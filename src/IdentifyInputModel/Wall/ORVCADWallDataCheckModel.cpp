@@ -1,0 +1,3 @@
+#include "IdentifyInputModel/Wall/ORVCADWallDataCheckModel.h"
+
+ORVCADWallDataCheckModel::~ORVCADWallDataCheckModel() = default;

@@ -1,0 +1,3 @@
+#include "IdentifyInputModel/Wall/ORVCADWallDataOutputModel.h"
+
+ORVCADWallDataOutputModel::~ORVCADWallDataOutputModel() = default;
