@@ -1,47 +1,22 @@
 #pragma once
 
-#include "IdentifyInputModel/Wall/ORVCADCloudEntBrickWallStruct.h"
-#include "IdentifyInputModel/Wall/ORVCADWallDataOutputModel.h"
-#include "IdentifyInputModel/Wall/OwnedWalls.h"
+#include "IdentifyInputModel/Wall/WallKindOutputModel.h"
 
-#include <QJsonObject>
-
-#include <string>
-
-/** Brick walls that were identified: elements, each with its pieces. What a reply of the identification holds, and what
- *  walls of the host are put into to become such a document (docs/formats/wall-documents.md).
- *
- *  The elements belong to the model, which deletes them; it cannot be copied. They stand in the order of their addresses,
- *  which for those of one document is the order of their records. Saving changes nothing. */
-class ORVCADMODELDATA_EXPORT ORVCADWallBrickDataOutputModel : public ORVCADWallDataOutputModel
+/** Brick walls that were identified. */
+class ORVCADMODELDATA_EXPORT ORVCADWallBrickDataOutputModel
+    : public wall::WallKindOutputModel<ORVCADCloudEntBrickWallStruct>
 {
 public:
-    using Walls = wall::OwnedWalls<ORVCADCloudEntBrickWallStruct>::Map;
-
     ORVCADWallBrickDataOutputModel();
     ~ORVCADWallBrickDataOutputModel() override;
 
     /** Copies each entry into the map, in place of what it has for that element; its others stay. The elements remain the
      *  model's: the map must not outlive it and must not delete them. */
-    void getBrickWallIdentifyData(Walls &walls) const { m_walls.copyInto(walls); }
+    void getBrickWallIdentifyData(Walls &walls) const { copyInto(walls); }
     /** Appends a copy of the piece to an element, which belongs to the model from now on and must come from new. Null is
      *  kept and never written. */
     void setBrickWallIdentifyData(ORVCADCloudEntBrickWallStruct *element, const IdentifyResultData &piece)
     {
-        m_walls.append(element, piece);
+        m_walls[element].push_back(piece);
     }
-
-    /** The whole document; the text is replaced. */
-    void saveToJson(std::wstring &text) const;
-    /** Inserts the document into the object under that key. Null does nothing. */
-    void saveToJson(const QString &key, QJsonObject *json) const;
-    void saveToXml(std::wstring &text) const;
-
-    /** Adds the walls of a document. A text that is none leaves the model as it is, and nothing tells so; what is missing
-     *  in it reads as 0, empty or null. Of two elements that are equal in all that is written the later one counts. */
-    void loadFromJson(const std::wstring &text);
-    void loadFromXml(const std::wstring &text);
-
-private:
-    wall::OwnedWalls<ORVCADCloudEntBrickWallStruct> m_walls;
 };
