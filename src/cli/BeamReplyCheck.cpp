@@ -4,7 +4,6 @@
 #include "beam/BeamKeys.h"
 #include "cli/MemberKinds.h"
 #include "encoding/GeometryTextReader.h"
-#include "platform/geometry/KernelTolerance.h"
 #include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXFloors.h"
 #include "platform/host/IHBXModel.h"
@@ -63,17 +62,6 @@ QString whyNotType(qint64 elementType, const BeamArray &array)
     return QStringLiteral("type %1 is no beam (15, 17, 47)").arg(elementType);
 }
 
-/** An empty text is a beam without an axis, which a building may have. */
-QString whyNotAxis(const QString &text)
-{
-    GeometryTextReader::Curve axis;
-    if (text.isEmpty())
-        return {};
-    if (!GeometryTextReader::reconstructCurve(text, axis))
-        return QStringLiteral("WordLine is no curve");
-    return axis->Length() > vks::g_DistEpsilon ? QString() : QStringLiteral("WordLine has no length");
-}
-
 QString whyNotSegment(const QJsonValue &value)
 {
     const QJsonObject segment = value.toObject();
@@ -81,7 +69,7 @@ QString whyNotSegment(const QJsonValue &value)
         return QStringLiteral("is no object");
     static const QJsonObject pattern = BeamSegmentInfo().toJsonObj();
     QString wrong = wrongKey(segment, pattern, kSegmentWhole, kSegmentRequired);
-    return wrong.isEmpty() ? whyNotAxis(segment.value(key::wordLine).toString()) : wrong;
+    return wrong.isEmpty() ? whyNotAxis(key::wordLine, segment.value(key::wordLine).toString()) : wrong;
 }
 
 QString whyNotSpan(const QJsonValue &value)

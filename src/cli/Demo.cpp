@@ -8,6 +8,7 @@
 #include "cli/Openings.h"
 #include "cli/PlanSvg.h"
 #include "cli/ProjectInfo.h"
+#include "cli/WallTour.h"
 #include "drawing/ORVCADFloor.h"
 #include "drawing/ORVCADFloors.h"
 #include "platform/host/IHBXFloor.h"
@@ -31,6 +32,13 @@ const QString kDrawnFloor = QStringLiteral("Level 1");
 const QString kOriginal = QStringLiteral("building.hbxdb");
 const QString kRestored = QStringLiteral("restored.hbxdb");
 
+const WallTour::Stop kBrickWalls{"brick", kDrawnFloor, kOriginal, kRestored, QStringLiteral("walls.json")};
+
+// Load-bearing walls: the building has none, so another one stands in.
+const QString kHall = QStringLiteral(":/demo/precast-hall.json");
+const WallTour::Stop kForceWalls{"force", QStringLiteral("Ground floor"), QStringLiteral("hall.hbxdb"),
+                                 QStringLiteral("hall-restored.hbxdb"), QStringLiteral("hall-walls.json")};
+
 /** What the tour says as it goes. */
 class Tour
 {
@@ -45,6 +53,7 @@ public:
         for (const QString &line : outcome.split('\n'))
             m_lines.append(QStringLiteral("  ") + line);
     }
+    void step(const WallTour::Step &step) { this->step(step.typed, step.outcome); }
     void say(const QString &line) { m_lines.append(line); }
     QString text() const { return m_lines.join('\n'); }
 
@@ -53,17 +62,19 @@ private:
     QStringList m_lines;
 };
 
-std::unique_ptr<HBXProject> importBuilding(Tour &tour, const QString &path)
+/** Puts a building of the program and a project of it into the directory: two files of the same name. */
+std::unique_ptr<HBXProject> importBuilding(Tour &tour, const QString &building, const QString &projectFile)
 {
-    const QByteArray json = readFile(kBuilding);
-    writeResult(tour.path(QStringLiteral("building.json")), json);
+    const QByteArray json = readFile(building);
+    const QString jsonFile = QString(projectFile).replace(QLatin1String(".hbxdb"), QLatin1String(".json"));
+    writeResult(tour.path(jsonFile), json);
     ProjectError error;
-    auto project = HBXProject::fromJson(json, QStringLiteral("building.json"), error);
+    auto project = HBXProject::fromJson(json, jsonFile, error);
     if (!project)
         throw CommandFailure(kBadInput, error.file, error.place, error.reason);
-    saveProjectAs(*project, path);
+    saveProjectAs(*project, tour.path(projectFile));
     tour.say(QStringLiteral("Building: %1 (%2)").arg(project->name(), project->source()));
-    tour.step(QStringLiteral("project import building.json -o building.hbxdb"), projectInfo(*project).counts());
+    tour.step(QStringLiteral("project import %1 -o %2").arg(jsonFile, projectFile), projectInfo(*project).counts());
     return project;
 }
 
@@ -106,13 +117,14 @@ void writeBeams(Tour &tour, HBXProject &project)
               counts.text());
 }
 
-void drawFloor(Tour &tour, const HBXProject &project, const QString &projectFile, const QString &picture)
+void drawFloor(Tour &tour, const HBXProject &project, const QString &projectFile, const QString &picture,
+               const QString &floorName = kDrawnFloor)
 {
     IHBXRegion &region = requireRegion(project, QString());
-    IHBXFloor &floor = requireFloor(project, region, kDrawnFloor);
+    IHBXFloor &floor = requireFloor(project, region, floorName);
     const PlanSvg plan = drawPlan(*project.service()->model(), floor, project.name());
     writeResult(tour.path(picture), plan.document);
-    tour.step(QStringLiteral("draw %1 --floor \"%2\" -o %3").arg(projectFile, kDrawnFloor, picture),
+    tour.step(QStringLiteral("draw %1 --floor \"%2\" -o %3").arg(projectFile, floorName, picture),
               QStringLiteral("%1 at 1:%2").arg(counted(plan.drawn, QStringLiteral("placed object"))).arg(plan.scale));
 }
 
@@ -148,8 +160,26 @@ BeamOutcome applyBeamPayload(Tour &tour, HBXProject &project)
     return outcome;
 }
 
+/** The walls of another building, from one copy to the other, with pictures. */
+WallTour visitHall(Tour &tour, const QString &directory)
+{
+    WallTour walls(directory, kForceWalls);
+    auto project = importBuilding(tour, kHall, kForceWalls.original);
+    tour.step(walls.write(*project));
+    tour.say(QStringLiteral("A copy, ") + walls.strip(*project));
+    saveProjectAs(*project, tour.path(kForceWalls.restored));
+    project = openProject(tour.path(kForceWalls.restored));
+    drawFloor(tour, *project, kForceWalls.restored, QStringLiteral("hall-before.svg"), kForceWalls.floor);
+    tour.step(walls.apply(*project));
+    drawFloor(tour, *project, kForceWalls.restored, QStringLiteral("hall-after.svg"), kForceWalls.floor);
+    project.reset();
+    tour.say(walls.compare());
+    return walls;
+}
+
 /** Compares the saved projects, says what came of it and gives the summary of the tour. */
-Summary conclude(Tour &tour, const QString &directory, const OpeningOutcome &openings, const BeamOutcome &beams)
+Summary conclude(Tour &tour, const QString &directory, const OpeningOutcome &openings, const BeamOutcome &beams,
+                 WallTour &brickWalls)
 {
     const auto original = openProject(tour.path(kOriginal));
     const auto restored = openProject(tour.path(kRestored));
@@ -157,14 +187,20 @@ Summary conclude(Tour &tour, const QString &directory, const OpeningOutcome &ope
     const BeamComparison beamComparison = compareBeams(*original, *restored, kDrawnFloor);
     tour.say(comparison.text());
     tour.say(beamComparison.text());
-    tour.say(QStringLiteral("Everything stands in %1; before.svg and after.svg are the pictures.").arg(directory));
-    const bool isSame = comparison.isSame() && beamComparison.isSame();
+    tour.say(brickWalls.compare());
+    const WallTour forceWalls = visitHall(tour, directory);
+    tour.say(QStringLiteral("Everything stands in %1; before.svg and after.svg, hall-before.svg and "
+                            "hall-after.svg are the pictures.")
+                 .arg(directory));
+    const bool isSame = comparison.isSame() && beamComparison.isSame() && brickWalls.isSame() && forceWalls.isSame();
     return {tour.text(),
             {{"directory", directory},
              {"apply", openings.toJson()},
              {"comparison", comparison.toJson()},
              {"applyBeams", beams.toJson()},
-             {"beamComparison", beamComparison.toJson()}},
+             {"beamComparison", beamComparison.toJson()},
+             {"brickWalls", brickWalls.toJson()},
+             {"forceWalls", forceWalls.toJson()}},
             isSame && openings.leftOut.empty() && beams.leftOut.empty() ? kDone : kLeftOut};
 }
 
@@ -173,17 +209,22 @@ Summary conclude(Tour &tour, const QString &directory, const OpeningOutcome &ope
 Summary runDemo(const QString &directory)
 {
     Tour tour(directory);
-    auto project = importBuilding(tour, tour.path(kOriginal));
+    WallTour walls(directory, kBrickWalls);
+    auto project = importBuilding(tour, kBuilding, kOriginal);
     writeAndReadFloors(tour, *project);
     writePayload(tour, *project);
     writeBeams(tour, *project);
+    tour.step(walls.write(*project));
+    const QString lostWalls = walls.strip(*project);
     project = stripCopy(tour, *project, tour.path(kRestored));
+    tour.say(lostWalls);
     drawFloor(tour, *project, kRestored, QStringLiteral("before.svg"));
+    tour.step(walls.apply(*project)); // ahead of the openings, which stand in them
     const OpeningOutcome openings = applyPayload(tour, *project);
     const BeamOutcome beams = applyBeamPayload(tour, *project);
     drawFloor(tour, *project, kRestored, QStringLiteral("after.svg"));
     project.reset();
-    return conclude(tour, directory, openings, beams);
+    return conclude(tour, directory, openings, beams, walls);
 }
 
 } // namespace orvcad

@@ -1,5 +1,8 @@
 #include "cli/MemberKinds.h"
 
+#include "encoding/GeometryTextReader.h"
+#include "platform/geometry/KernelTolerance.h"
+
 namespace orvcad {
 
 namespace {
@@ -35,6 +38,16 @@ QString wrongKey(const QJsonObject &member, const QJsonObject &pattern, const QS
             return QStringLiteral("%1 is not a whole number of 32 bits").arg(known.key());
     }
     return {};
+}
+
+QString whyNotAxis(QLatin1String key, const QString &text)
+{
+    GeometryTextReader::Curve axis;
+    if (text.isEmpty())
+        return {};
+    if (!GeometryTextReader::reconstructCurve(text, axis))
+        return QStringLiteral("%1 is no curve").arg(key);
+    return axis->Length() > vks::g_DistEpsilon ? QString() : QStringLiteral("%1 has no length").arg(key);
 }
 
 } // namespace orvcad

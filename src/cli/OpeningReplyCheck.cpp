@@ -79,6 +79,17 @@ QString elementNameOf(const QJsonObject &member)
 
 } // namespace
 
+IHBXFloor *floorOfCode(IHBXModel &model, const QString &regionName, const QString &floorCode, QString &reason)
+{
+    IHBXRegion *region = model.regions()->find(regionName);
+    IHBXFloor *floor = region ? region->floors()->findByCode(floorCode) : nullptr;
+    if (!region)
+        reason = QStringLiteral("unknown region \"%1\"").arg(regionName);
+    else if (!floor)
+        reason = QStringLiteral("unknown floor code \"%1\" in region \"%2\"").arg(floorCode, regionName);
+    return floor;
+}
+
 QString OpeningReplyCheck::LeftOut::text() const
 {
     return QStringLiteral("member %1 (%2): %3")
@@ -128,15 +139,7 @@ QString OpeningReplyCheck::whyNot(int index, const QJsonObject &member)
 
 IHBXFloor *OpeningReplyCheck::floorOf(const QJsonObject &member, QString &reason) const
 {
-    const QString regionName = member[key::regionName].toString();
-    const QString floorCode = member[key::floorName].toString();
-    IHBXRegion *region = m_model.regions()->find(regionName);
-    IHBXFloor *floor = region ? region->floors()->findByCode(floorCode) : nullptr;
-    if (!region)
-        reason = QStringLiteral("unknown region \"%1\"").arg(regionName);
-    else if (!floor)
-        reason = QStringLiteral("unknown floor code \"%1\" in region \"%2\"").arg(floorCode, regionName);
-    return floor;
+    return floorOfCode(m_model, member[key::regionName].toString(), member[key::floorName].toString(), reason);
 }
 
 QString OpeningReplyCheck::whyNotElement(const QJsonObject &member)

@@ -1,0 +1,69 @@
+#include "cli/WallComparison.h"
+
+#include "IdentifyInputModel/Wall/WallKeys.h"
+#include "cli/Files.h"
+#include "cli/ProjectInfo.h"
+#include "cli/WallReply.h"
+
+#include <QJsonArray>
+#include <QMap>
+
+using hbx::embedded::HBXProject;
+
+namespace orvcad {
+
+namespace {
+
+/** Element and pieces by floor and name; the number of an entry, and the ids in it, are each project's own. */
+using Walls = QMap<QString, QJsonArray>;
+
+Walls wallsOf(const WallReply &reply, const WallKind &kind)
+{
+    const QJsonObject document = reply.document()[kind.reply].toObject()[wall::reply::elementsAndEdos].toObject();
+    const QJsonObject map = document[kind.document].toObject();
+    Walls walls;
+    for (int i = 0; i < map.size() / 2; ++i) {
+        QJsonObject element = map[QStringLiteral("key_%1").arg(i)].toObject();
+        element.remove(wall::key::edoId);
+        const auto text = [&element](QLatin1String key) { return element[key].toString(); };
+        const QString name = QStringLiteral("%1 on floor %2 of %3")
+                                 .arg(text(wall::key::entName), text(wall::key::floorCode), text(wall::key::region));
+        walls[name] = {element, map[QStringLiteral("value_%1").arg(i)]};
+    }
+    return walls;
+}
+
+} // namespace
+
+QString WallComparison::text() const
+{
+    const QStringList lines{QStringLiteral("Compared with the original: %1 of %2 walls, %3")
+                                .arg(counted(compared, QStringLiteral("piece")), kind,
+                                     isSame() ? QStringLiteral("the reply written again is the same but for ids")
+                                              : QStringLiteral("the reply written again DIFFERS"))};
+    return (lines + deviations).join(QStringLiteral("\n  "));
+}
+
+QJsonObject WallComparison::toJson() const
+{
+    return {{"kind", kind}, {"compared", compared}, {"deviations", QJsonArray::fromStringList(deviations)}};
+}
+
+WallComparison compareWalls(HBXProject &expected, HBXProject &found, const WallKind &kind, const QString &floor)
+{
+    const WallReply before(expected, kind, pickFloors(expected, QString(), floor));
+    const WallReply after(found, kind, pickFloors(found, QString(), floor));
+    WallComparison comparison;
+    comparison.kind = QString::fromLatin1(kind.word);
+    comparison.compared = before.pieces();
+    const Walls wanted = wallsOf(before, kind);
+    Walls there = wallsOf(after, kind);
+    for (auto wall = wanted.begin(); wall != wanted.end(); ++wall)
+        if (there.take(wall.key()) != *wall)
+            comparison.deviations.append(wall.key());
+    for (auto wall = there.begin(); wall != there.end(); ++wall)
+        comparison.deviations.append(wall.key() + QStringLiteral(", which the original lacks"));
+    return comparison;
+}
+
+} // namespace orvcad

@@ -1,0 +1,233 @@
+#include "cli/WallReplyCheck.h"
+
+#include "IdentifyInputModel/Wall/WallKeys.h"
+#include "cli/MemberKinds.h"
+#include "cli/OpeningReplyCheck.h"
+
+#include <QJsonDocument>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+using namespace wall;
+
+namespace orvcad {
+
+namespace {
+
+/** What a text of a record is used for. */
+enum class Use {
+    Name,         ///< must arrive as it is
+    Bars,         ///< is cut where the form cuts it
+    Whole,        ///< a number
+    WholeOrEmpty, ///< or nothing
+};
+
+struct KeyRule
+{
+    QLatin1String key;
+    Use use;
+    bool isRequired = false;
+};
+constexpr KeyRule kElementKeys[] = {
+    {key::entName, Use::Name, true},    {key::elementType, Use::Whole, true},
+    {key::elementSubType, Use::Whole},  {key::width, Use::Whole, true},
+    {key::floorCode, Use::Name, true},  {key::region, Use::Name, true},
+    {key::material, Use::WholeOrEmpty}, {key::throughBar, Use::Bars},
+    {key::transverseBar, Use::Bars},    {key::tieBar, Use::Bars},
+    {key::hreBar, Use::Bars},           {key::vreBar, Use::Bars},
+};
+constexpr KeyRule kPieceKeys[] = {
+    {key::pieceLine, Use::Name, true}, {key::startTopElev, Use::Name},  {key::startBottomElev, Use::Name},
+    {key::endTopElev, Use::Name},      {key::endBottomElev, Use::Name},
+};
+constexpr int kNoWidth = -1; // stands for a thickness that is not written
+
+const QRegularExpression &separator()
+{
+    static const QRegularExpression pattern(QStringLiteral("[/:]"));
+    return pattern;
+}
+
+bool isWholeText(const QString &text)
+{
+    bool isWhole = false;
+    text.toInt(&isWhole);
+    return isWhole;
+}
+
+QString whyNotValue(const QJsonValue &value, const KeyRule &rule)
+{
+    const QString text = value.toString();
+    if (!value.isString())
+        return QStringLiteral("%1 is not text").arg(rule.key);
+    if (rule.use == Use::Name && text.contains(separator()))
+        return QStringLiteral("%1 holds \"/\" or \":\", which cuts it").arg(rule.key);
+    const bool isNumber = rule.use == Use::Whole || (rule.use == Use::WholeOrEmpty && !text.isEmpty());
+    return isNumber && !isWholeText(text) ? QStringLiteral("%1 is not the text of a whole number").arg(rule.key)
+                                          : QString();
+}
+
+template <std::size_t Count> QString whyNotRecord(const QJsonObject &record, const KeyRule (&rules)[Count])
+{
+    for (const KeyRule &rule : rules) {
+        const bool isThere = record.contains(rule.key);
+        if (!isThere && rule.isRequired)
+            return QStringLiteral("%1 is missing").arg(rule.key);
+        QString reason = isThere ? whyNotValue(record.value(rule.key), rule) : QString();
+        if (!reason.isEmpty())
+            return reason;
+    }
+    return {};
+}
+
+/** The record with the keys that are used, and nothing behind a separator. */
+template <std::size_t Count> QJsonObject used(const QJsonObject &record, const KeyRule (&rules)[Count])
+{
+    QJsonObject kept;
+    for (const KeyRule &rule : rules)
+        if (record.contains(rule.key))
+            kept[rule.key] = record.value(rule.key).toString().section(separator(), 0, 0);
+    return kept;
+}
+
+QString whyNotPiece(const QJsonValue &value)
+{
+    if (!value.isObject())
+        return QStringLiteral("is no object");
+    const QJsonObject piece = value.toObject();
+    QString reason = whyNotRecord(piece, kPieceKeys);
+    return reason.isEmpty() ? whyNotAxis(key::pieceLine, piece.value(key::pieceLine).toString()) : reason;
+}
+
+QString keyName(int number) { return QStringLiteral("key_%1").arg(number); }
+QString valueName(int number) { return QStringLiteral("value_%1").arg(number); }
+
+/** The object of that key; throws naming the place. */
+QJsonObject objectIn(const QJsonObject &object, const QString &key, const QString &place, const QString &file,
+                     const WallKind &kind)
+{
+    if (!object.value(key).isObject())
+        throw CommandFailure(kBadInput, file, place,
+                             QStringLiteral("no object of that key: no reply of %1 walls").arg(kind.word));
+    return object.value(key).toObject();
+}
+
+} // namespace
+
+QString cutName(const QJsonObject &element)
+{
+    for (const KeyRule &rule : kElementKeys)
+        if (rule.use == Use::Name && element.value(rule.key).toString().contains(separator()))
+            return whyNotValue(element.value(rule.key), rule);
+    return {};
+}
+
+QStringList cutBars(const QJsonObject &element)
+{
+    QStringList cuts;
+    for (const KeyRule &rule : kElementKeys) {
+        const QString text = element.value(rule.key).toString();
+        if (rule.use == Use::Bars && text.contains(separator()))
+            cuts.append(
+                QStringLiteral("%1 \"%2\" is cut to \"%3\"").arg(rule.key, text, text.section(separator(), 0, 0)));
+    }
+    return cuts;
+}
+
+WallReplyCheck::WallReplyCheck(IHBXModel &model, const WallKind &kind, const QJsonObject &reply, const QString &file)
+    : m_model(model), m_kind(kind)
+{
+    const QString above = QStringLiteral("%1.%2").arg(kind.reply, reply::elementsAndEdos);
+    const QJsonObject walls = objectIn(reply, kind.reply, kind.reply, file, kind);
+    const QJsonObject document = objectIn(walls, reply::elementsAndEdos, above, file, kind);
+    const QJsonObject map = objectIn(document, kind.document, above + '.' + kind.document, file, kind);
+    m_memberCount = map.size() / 2; // as the reader counts
+    for (int number = 0; number < m_memberCount; ++number)
+        look(map, number);
+    lookForUnread(map);
+    std::stable_sort(m_sound.begin(), m_sound.end(),
+                     [](const Member &a, const Member &b) { return a.edoId < b.edoId; });
+}
+
+void WallReplyCheck::look(const QJsonObject &map, int number)
+{
+    const QString above = m_kind.document + QLatin1Char('.');
+    const QJsonValue element = map.value(keyName(number));
+    const QJsonValue pieces = map.value(valueName(number));
+    Member member;
+    member.place = above + keyName(number);
+    member.edoId = element.toObject().value(key::edoId).toString().toLongLong();
+    member.element = used(element.toObject(), kElementKeys);
+    const QString name = element.toObject().value(key::entName).toString();
+    QString reason = whyNot(element, pieces);
+    // By its record, as the reader compares them: the one that is read later replaces the other.
+    const QByteArray record = QJsonDocument(element.toObject()).toJson(QJsonDocument::Compact);
+    if (reason.isEmpty() && m_places.contains(record))
+        reason = QStringLiteral("is the same element as %1").arg(m_places.value(record));
+    if (!reason.isEmpty())
+        return leaveOut(member.place, name, reason);
+    m_places.insert(record, member.place);
+    for (const QString &cut : cutBars(element.toObject()))
+        leaveOut(member.place, name, cut);
+    lookAtPieces(pieces.toArray(), above + valueName(number), member);
+    m_sound.push_back(member);
+}
+
+void WallReplyCheck::lookAtPieces(const QJsonArray &pieces, const QString &place, Member &member)
+{
+    for (int i = 0; i < pieces.size(); ++i) {
+        const QString piecePlace = QStringLiteral("%1[%2]").arg(place).arg(i);
+        const QString reason = whyNotPiece(pieces.at(i));
+        if (!reason.isEmpty()) {
+            leaveOut(piecePlace, member.text(key::entName), reason);
+            ++member.leftOut;
+            continue;
+        }
+        member.pieces.append(used(pieces.at(i).toObject(), kPieceKeys));
+        member.piecePlaces.append(piecePlace);
+    }
+}
+
+void WallReplyCheck::lookForUnread(const QJsonObject &map)
+{
+    QStringList unread = map.keys();
+    for (int number = 0; number < m_memberCount; ++number) {
+        unread.removeOne(keyName(number));
+        unread.removeOne(valueName(number));
+    }
+    for (const QString &key : unread)
+        leaveOut(m_kind.document + QLatin1Char('.') + key, {},
+                 QStringLiteral("is not read: half of the %1 keys are entries, counted from 0").arg(map.size()));
+}
+
+QString WallReplyCheck::whyNot(const QJsonValue &element, const QJsonValue &pieces) const
+{
+    if (!element.isObject())
+        return element.isUndefined() ? QStringLiteral("is missing") : QStringLiteral("is no object");
+    if (!pieces.isArray())
+        return QStringLiteral("its pieces are no array");
+    const QJsonObject record = element.toObject();
+    QString reason = whyNotRecord(record, kElementKeys);
+    if (!reason.isEmpty())
+        return reason;
+    const auto text = [&record](QLatin1String key) { return record.value(key).toString(); };
+    if (text(key::elementType).toInt() != m_kind.elementType)
+        return QStringLiteral("type %1 is no %2 wall (%3)")
+            .arg(text(key::elementType), QString::fromLatin1(m_kind.word))
+            .arg(m_kind.elementType);
+    if (text(key::entName).isEmpty())
+        return QStringLiteral("has no name");
+    const int width = text(key::width).toInt();
+    if (width <= 0 && width != kNoWidth)
+        return QStringLiteral("width is not above 0");
+    floorOfCode(m_model, text(key::region), text(key::floorCode), reason);
+    return reason;
+}
+
+void WallReplyCheck::leaveOut(const QString &place, const QString &name, const QString &reason)
+{
+    m_leftOut.push_back({place, name, reason});
+}
+
+} // namespace orvcad
