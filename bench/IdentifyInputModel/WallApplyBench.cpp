@@ -1,0 +1,167 @@
+#include "IdentifyInputModel/Wall/JsonWall2HBX.h"
+#include "platform/embedded/HBXProject.h"
+#include "platform/host/HBXCheckError.h"
+#include "platform/host/IHBXCheck.h"
+#include "platform/host/IHBXDrawObjs.h"
+#include "platform/host/IHBXModel.h"
+#include "platform/host/IHBXService.h"
+#include "support/RatioBench.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+#include <cstdlib>
+#include <map>
+#include <memory>
+#include <vector>
+
+using hbx::embedded::HBXProject;
+using hbx::embedded::ProjectError;
+
+namespace {
+
+QByteArray buildingText()
+{
+    QFile file(QStringLiteral(ORVCAD_TEST_DATA "/buildings/masonry-block.json"));
+    if (!file.open(QIODevice::ReadOnly))
+        std::abort();
+    return file.readAll();
+}
+
+QJsonObject elementOf(int number, const QString &name)
+{
+    return {{"edoId", QString::number(number)},
+            {"entName", name},
+            {"elementType", "1003"},
+            {"elementSubType", "316"},
+            {"material", "3"},
+            {"width", "200"},
+            {"floorCode", "1"},
+            {"region", "Block"}};
+}
+
+/** Walls spread over a floor, each where no other one is. */
+QJsonObject pieceOf(int number)
+{
+    const int x = number % 100 * 6000;
+    const int y = number / 100 * 3000;
+    return {{"sWorldLine", QStringLiteral("%1,%2,%3,%2").arg(x).arg(y).arg(x + 5000)},
+            {"sPfnStartPtTopElev", "2.8"},
+            {"sPfnStartPtBottomElev", "0"},
+            {"sPfnEndPtTopElev", "2.8"},
+            {"sPfnEndPtBottomElev", "0"},
+            {"sPolys", QStringLiteral("%1,%2;%3,%2;%3,%4;%1,%4;").arg(x).arg(y - 100).arg(x + 5000).arg(y + 100)}};
+}
+
+/** How the pieces of a reply are shared out. */
+struct Shares
+{
+    int piecesOfElement;
+    bool oneName; ///< all elements are called the same, so that the host has to find another name for each
+};
+
+/** Members are put in in the order of their keys: an object of many takes long otherwise. */
+QByteArray replyText(int pieces, const Shares &shares)
+{
+    std::vector<std::pair<QString, QJsonValue>> members;
+    for (int first = 0; first < pieces; first += shares.piecesOfElement) {
+        const QString number = QString::number(first / shares.piecesOfElement);
+        QJsonArray array;
+        for (int i = first; i < std::min(pieces, first + shares.piecesOfElement); ++i)
+            array.append(pieceOf(i));
+        members.emplace_back("key_" + number, elementOf(first, shares.oneName ? QString("Q") : "Q" + number));
+        members.emplace_back("value_" + number, array);
+    }
+    std::sort(members.begin(), members.end(), [](const auto &a, const auto &b) { return a.first < b.first; });
+    QJsonObject map;
+    for (const auto &[key, value] : members)
+        map.insert(key, value);
+    const QJsonObject document{{"BrickWallIdentifyData", map}};
+    return QJsonDocument(QJsonObject{{"eBrickWall", QJsonObject{{"ElementsAndEdos", document}}}}).toJson();
+}
+
+/** Writes a reply into a building that is fresh for each run. */
+class Apply
+{
+public:
+    Apply(int pieces, const Shares &shares) : m_reply(replyText(pieces, shares)) {}
+
+    void prepare()
+    {
+        static const QByteArray building = buildingText();
+        ProjectError error;
+        m_project = HBXProject::fromJson(building, QStringLiteral("masonry-block.json"), error);
+        if (!m_project)
+            std::abort();
+    }
+    void run() { jsonBrickWall2HBX(m_project->service(), QJsonDocument::fromJson(m_reply).object()); }
+    /** What the command asks of each object that was made. */
+    void check()
+    {
+        IHBXModel &model = *m_project->service()->model();
+        HBXCheckError error;
+        std::map<qint64, QString> collisions;
+        for (int i = 0; i < model.drawObjects()->count(); ++i)
+            bench::keep(model.checker()->checkDrawObj(model.drawObjects()->at(i), error, collisions));
+    }
+    bench::Work work()
+    {
+        return {[this] { prepare(); }, [this] { run(); }};
+    }
+    bench::Work checking()
+    {
+        return {[this] {
+                    prepare();
+                    run();
+                },
+                [this] { check(); }};
+    }
+    const QByteArray &reply() const { return m_reply; }
+
+private:
+    QByteArray m_reply;
+    std::unique_ptr<HBXProject> m_project;
+};
+
+/** What no reader of the reply can avoid: the document, and a look at each value. */
+void walk(const QByteArray &reply)
+{
+    const QJsonObject walls = QJsonDocument::fromJson(reply).object()["eBrickWall"].toObject();
+    int length = 0;
+    for (const QJsonValue member : walls["ElementsAndEdos"].toObject()["BrickWallIdentifyData"].toObject())
+        for (const QJsonValue piece : member.toArray())
+            for (const QJsonValue value : piece.toObject())
+                length += value.toString().size();
+    bench::keep(length);
+}
+
+} // namespace
+
+int main()
+{
+    constexpr int kSmall = 1000;
+    constexpr int kLarge = 10000;
+    constexpr double kLinear = 1.3; // cost per piece at the large size to that at the small one
+
+    bench::RatioTable table("Walls");
+    const struct
+    {
+        const char *name;
+        Shares shares;
+    } replies[] = {{"one element", {kLarge, false}},
+                   {"ten pieces each", {10, false}},
+                   {"a piece each", {1, false}},
+                   {"a piece each, one name for all", {1, true}}};
+    for (const auto &reply : replies) {
+        Apply small(kSmall, reply.shares);
+        Apply large(kLarge, reply.shares);
+        const std::string name = reply.name;
+        table.row(name + " / reply parsed and walked", kLarge, large.work(), [&] { walk(large.reply()); });
+        table.growth(name + ", cost per piece", kLarge, large.work(), kSmall, small.work(), kLinear);
+        table.growth(name + ", check of all", kLarge, large.checking(), kSmall, small.checking(), kLinear);
+    }
+    return table.print();
+}
