@@ -11,7 +11,7 @@ TEST_F(DemoTest, tourBringsOpeningsAndBeamsBackWithoutDeviations)
     const Result result = run({"demo", "tour", "--json"});
     EXPECT_EQ(result.exitCode, 0) << result.err.toStdString();
     const QJsonObject summary = result.json();
-    EXPECT_EQ(keys(summary), "apply,applyBeams,beamComparison,comparison,directory");
+    EXPECT_EQ(keys(summary), "apply,applyBeams,beamComparison,brickWalls,comparison,directory,forceWalls");
     EXPECT_EQ(summary["directory"], "tour");
     // 21 doors and 17 windows, of which 64 and 23 are placed; the file puts each of them into a wall.
     EXPECT_EQ(summary["apply"], QJsonValue(QJsonObject{{"members", 125},
@@ -31,24 +31,47 @@ TEST_F(DemoTest, tourBringsOpeningsAndBeamsBackWithoutDeviations)
     EXPECT_EQ(summary["beamComparison"], QJsonValue(QJsonObject{{"compared", 129}, {"deviations", QJsonArray()}}));
 }
 
+TEST_F(DemoTest, tourBringsBrickAndForceWallsBackWithoutDeviations)
+{
+    const Result result = run({"demo", "tour", "--json"});
+    EXPECT_EQ(result.exitCode, 0) << result.err.toStdString();
+    // Level 1 of the building file has 5 brick walls in 57 pieces, the ground floor of the hall 3 force walls in 50.
+    const struct
+    {
+        const char *key;
+        int elements;
+        int pieces;
+    } kinds[] = {{"brickWalls", 5, 57}, {"forceWalls", 3, 50}};
+    for (const auto &kind : kinds) {
+        const QJsonObject walls = result.json()[kind.key].toObject();
+        EXPECT_EQ(walls["apply"].toObject()["elementsMade"], kind.elements);
+        EXPECT_EQ(walls["apply"].toObject()["renamed"], 0);
+        EXPECT_EQ(walls["apply"].toObject()["placed"], kind.pieces);
+        EXPECT_EQ(walls["apply"].toObject()["leftOut"], QJsonArray());
+        EXPECT_EQ(walls["comparison"].toObject()["compared"], kind.pieces);
+        EXPECT_EQ(walls["comparison"].toObject()["deviations"], QJsonArray());
+    }
+}
+
 TEST_F(DemoTest, tourLeavesItsFiles)
 {
     ASSERT_EQ(run({"demo", "tour"}).exitCode, 0);
     EXPECT_EQ(QDir(path("tour")).entryList(QDir::Files, QDir::Name).join(' ').toStdString(),
-              "after.svg beams.json before.svg building.hbxdb building.json floors.json openings.json restored.hbxdb");
+              "after.svg beams.json before.svg building.hbxdb building.json floors.json hall-after.svg hall-before.svg "
+              "hall-restored.hbxdb hall-walls.json hall.hbxdb hall.json openings.json restored.hbxdb walls.json");
     QFile original(sample("masonry-block"));
     ASSERT_TRUE(original.open(QIODevice::ReadOnly));
     EXPECT_EQ(read("tour/building.json"), original.readAll());
 }
 
-TEST_F(DemoTest, picturesDifferByTheOpeningsAndBeamsOfTheDrawnFloor)
+TEST_F(DemoTest, picturesDifferByTheOpeningsBeamsAndWallsOfTheDrawnFloor)
 {
     ASSERT_EQ(run({"demo", "tour"}).exitCode, 0);
     QDomDocument before;
     QDomDocument after;
     ASSERT_TRUE(before.setContent(read("tour/before.svg")));
     ASSERT_TRUE(after.setContent(read("tour/after.svg")));
-    for (const char *group : {"class=\"type-4\"", "class=\"type-5\"", "class=\"type-15\""}) {
+    for (const char *group : {"class=\"type-4\"", "class=\"type-5\"", "class=\"type-15\"", "class=\"type-1003\""}) {
         EXPECT_FALSE(read("tour/before.svg").contains(group)) << group;
         EXPECT_TRUE(read("tour/after.svg").contains(group)) << group;
     }
@@ -67,9 +90,14 @@ TEST_F(DemoTest, tourTellsItsStepsAsOneWouldTypeThem)
           "$ orvcad opening export building.hbxdb -o openings.json\n  38 elements and 87 placed openings, 87 of them",
           "$ orvcad beam export building.hbxdb --floor \"Level 1\" -o beams.json\n  2 elements, 129 chains of 129 "
           "segments, ",
+          "$ orvcad wall reply building.hbxdb --kind brick --floor \"Level 1\" -o walls.json\n"
+          "  5 brick walls in 57 pieces of 1 floor",
           "A copy, restored.hbxdb, loses all doors and windows (38 elements) and the beams of Level 1 (2 elements), "
           "with ",
-          "$ orvcad draw restored.hbxdb --floor \"Level 1\" -o before.svg\n  97 placed objects at 1:",
+          "restored.hbxdb loses the brick walls of Level 1 (5 elements), with all that is placed.",
+          "$ orvcad draw restored.hbxdb --floor \"Level 1\" -o before.svg\n  40 placed objects at 1:",
+          "$ orvcad wall apply restored.hbxdb --kind brick walls.json\n"
+          "  5 brick walls read: 5 elements made (0 under another name), 57 pieces placed, 0 left out",
           "$ orvcad opening apply restored.hbxdb openings.json\n"
           "  125 members read: 38 elements made, 87 openings placed (87 in a wall, 0 in none), 0 left out",
           "$ orvcad beam apply restored.hbxdb beams.json\n  2 beams read: 2 elements, 129 chains of 129 segments, ",
@@ -77,7 +105,18 @@ TEST_F(DemoTest, tourTellsItsStepsAsOneWouldTypeThem)
           "Compared with the original: 87 openings, the payload written again is the same but for ids; each in the "
           "wall",
           "Compared with the original: 129 segments of beams, the payload written again is the same",
-          "Everything stands in tour; before.svg and after.svg are the pictures."}) {
+          "Compared with the original: 57 pieces of brick walls, the reply written again is the same but for ids",
+          "Building: Precast hall (",
+          "$ orvcad project import hall.json -o hall.hbxdb\n",
+          "$ orvcad wall reply hall.hbxdb --kind force --floor \"Ground floor\" -o hall-walls.json\n"
+          "  3 force walls in 50 pieces of 1 floor",
+          "A copy, hall-restored.hbxdb loses the force walls of Ground floor (3 elements), with all that is placed.",
+          "$ orvcad draw hall-restored.hbxdb --floor \"Ground floor\" -o hall-before.svg\n",
+          "$ orvcad wall apply hall-restored.hbxdb --kind force hall-walls.json\n  3 force walls read: 3 elements made",
+          "$ orvcad draw hall-restored.hbxdb --floor \"Ground floor\" -o hall-after.svg\n",
+          "Compared with the original: 50 pieces of force walls, the reply written again is the same but for ids",
+          "Everything stands in tour; before.svg and after.svg, hall-before.svg and hall-after.svg are the "
+          "pictures."}) {
         const int found = result.out.indexOf(step, place);
         EXPECT_GE(found, place) << step << "\nis missing in\n" << result.out.toStdString();
         place = std::max(place, found);
@@ -89,6 +128,8 @@ TEST_F(DemoTest, typedStepsDoWhatTheTourDid)
     ASSERT_EQ(run({"demo", "tour"}).exitCode, 0);
     EXPECT_EQ(run({"opening", "export", "tour/building.hbxdb"}).out, read("tour/openings.json"));
     EXPECT_EQ(run({"beam", "export", "tour/building.hbxdb", "--floor", "Level 1"}).out, read("tour/beams.json"));
+    EXPECT_EQ(run({"wall", "reply", "tour/building.hbxdb", "--kind", "brick", "--floor", "Level 1"}).out,
+              read("tour/walls.json"));
     EXPECT_EQ(run({"floors", "export", "tour/building.hbxdb"}).out, read("tour/floors.json"));
     EXPECT_EQ(run({"draw", "tour/restored.hbxdb", "--floor", "Level 1"}).out, read("tour/after.svg"));
 }
