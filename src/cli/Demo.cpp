@@ -166,7 +166,7 @@ WallTour visitHall(Tour &tour, const QString &directory)
     WallTour walls(directory, kForceWalls);
     auto project = importBuilding(tour, kHall, kForceWalls.original);
     tour.step(walls.write(*project));
-    tour.say(QStringLiteral("A copy, ") + walls.strip(*project));
+    tour.say(QStringLiteral("A copy: ") + walls.strip(*project));
     saveProjectAs(*project, tour.path(kForceWalls.restored));
     project = openProject(tour.path(kForceWalls.restored));
     drawFloor(tour, *project, kForceWalls.restored, QStringLiteral("hall-before.svg"), kForceWalls.floor);

@@ -106,11 +106,11 @@ TEST_F(DemoTest, tourTellsItsStepsAsOneWouldTypeThem)
           "wall",
           "Compared with the original: 129 segments of beams, the payload written again is the same",
           "Compared with the original: 57 pieces of brick walls, the reply written again is the same but for ids",
-          "Building: Precast hall (",
+          "Building: Precast hall on piles (",
           "$ orvcad project import hall.json -o hall.hbxdb\n",
           "$ orvcad wall reply hall.hbxdb --kind force --floor \"Ground floor\" -o hall-walls.json\n"
           "  3 force walls in 50 pieces of 1 floor",
-          "A copy, hall-restored.hbxdb loses the force walls of Ground floor (3 elements), with all that is placed.",
+          "A copy: hall-restored.hbxdb loses the force walls of Ground floor (3 elements), with all that is placed.",
           "$ orvcad draw hall-restored.hbxdb --floor \"Ground floor\" -o hall-before.svg\n",
           "$ orvcad wall apply hall-restored.hbxdb --kind force hall-walls.json\n  3 force walls read: 3 elements made",
           "$ orvcad draw hall-restored.hbxdb --floor \"Ground floor\" -o hall-after.svg\n",
