@@ -17,6 +17,7 @@ struct Arguments
     std::string floor;
     std::string input;
     std::string output;
+    std::string kind;
     bool strict = false;
 
     static QString text(const std::string &value) { return QString::fromStdString(value); }
@@ -33,6 +34,14 @@ inline void addProject(CLI::App *verb, const std::shared_ptr<Arguments> &argumen
 inline void addOutput(CLI::App *verb, const std::shared_ptr<Arguments> &arguments, const std::string &what)
 {
     verb->add_option("-o,--output", arguments->output, what + "; standard output if absent");
+}
+
+/** --kind brick|force. */
+inline void addWallKind(CLI::App *verb, const std::shared_ptr<Arguments> &arguments)
+{
+    verb->add_option("--kind", arguments->kind, "Kind of walls: brick or force")
+        ->required()
+        ->check(CLI::IsMember({"brick", "force"}));
 }
 
 inline void addPlace(CLI::App *verb, const std::shared_ptr<Arguments> &arguments, bool floorRequired)

@@ -51,9 +51,13 @@ void addProjectCommands(CLI::App &app, Command &command);
 void addFloorsCommands(CLI::App &app, Command &command);
 void addOpeningCommands(CLI::App &app, Command &command);
 void addBeamCommands(CLI::App &app, Command &command);
+void addWallCommands(CLI::App &app, Command &command);
 void addDrawingCommands(CLI::App &app, Command &command);
 void addDrawingsCommands(CLI::App &app, Command &command);
 void addDrawCommand(CLI::App &app, Command &command);
 void addDemoCommand(CLI::App &app, Command &command);
+
+/** Verbs of the group of walls. */
+void addWallExportCommand(CLI::App &group, Command &command);
 
 } // namespace orvcad
