@@ -58,6 +58,7 @@ void addDrawCommand(CLI::App &app, Command &command);
 void addDemoCommand(CLI::App &app, Command &command);
 
 /** Verbs of the group of walls. */
+void addWallExportCommand(CLI::App &group, Command &command);
 void addWallReplyCommands(CLI::App &group, Command &command);
 
 } // namespace orvcad

@@ -46,7 +46,7 @@ protected:
         const QJsonObject document{{"BrickWallIdentifyData", map}};
         write("walls.json", QJsonObject{{"eBrickWall", QJsonObject{{"ElementsAndEdos", document}}}});
     }
-    Result apply(const QStringList &more = {"--json"}) const
+    Result applyFile(const QStringList &more = {"--json"}) const
     {
         return run(QStringList{"wall", "apply", "house.hbxdb", "--kind", "brick", "walls.json"} + more);
     }
@@ -54,7 +54,7 @@ protected:
     {
         importSmallHouse();
         writeReply(mapOf(walls));
-        return apply();
+        return applyFile();
     }
     /** "place: reason" of all that was left out. */
     static QStringList leftOut(const Result &result)
@@ -105,7 +105,7 @@ TEST_F(WallCommandsTest, applySaysWhatWasMadeAndLeftOut)
 {
     importSmallHouse();
     writeReply(mapOf({{element("Q1"), QJsonArray{piece(), 17}}}));
-    const Result result = apply(QStringList());
+    const Result result = applyFile(QStringList());
     EXPECT_EQ(result.exitCode, 3);
     EXPECT_EQ(result.out.toStdString(),
               "1 brick wall read: 1 element made (1 under another name), 1 piece placed, 1 left out\n"
@@ -139,7 +139,7 @@ TEST_F(WallCommandsTest, forceWallsComeByTheirOwnKey)
     EXPECT_EQ(result.exitCode, 0) << result.err.toStdString();
     EXPECT_EQ(result.json()["kind"], "force");
     EXPECT_EQ(made(result), (QStringList{"W1: W1, 1"}));
-    EXPECT_EQ(apply().error()["reason"], "no object of that key: no reply of brick walls");
+    EXPECT_EQ(applyFile().error()["reason"], "no object of that key: no reply of brick walls");
 }
 
 TEST_F(WallCommandsTest, elevationThatTheHostRefusesIsToldAndThePieceIsPlaced)
@@ -191,7 +191,7 @@ TEST_F(WallCommandsTest, keysThatAreNoEntriesAreTold)
     QJsonObject map = mapOf({{element("Q2"), QJsonArray{piece()}}});
     map["key_7"] = element("Q3");
     writeReply(map);
-    const Result result = apply();
+    const Result result = applyFile();
     EXPECT_EQ(result.exitCode, 3);
     EXPECT_EQ(leftOut(result),
               (QStringList{kPlace + "key_7: is not read: half of the 3 keys are entries, counted from 0"}));
@@ -203,7 +203,7 @@ TEST_F(WallCommandsTest, strictSavesNothingWhenSomethingIsLeftOut)
     importSmallHouse();
     const QByteArray before = read("house.hbxdb");
     writeReply(mapOf({{element("Q2"), QJsonArray{piece(), 17}}}));
-    const Result result = apply({"--strict", "--json"});
+    const Result result = applyFile({"--strict", "--json"});
     EXPECT_EQ(result.exitCode, 3);
     EXPECT_EQ(result.json()["saved"], false);
     EXPECT_EQ(read("house.hbxdb"), before);
@@ -226,7 +226,6 @@ struct Damage
     const char *leftOut;
     int madeWalls;
 };
-void PrintTo(const Damage &damage, std::ostream *out) { *out << damage.name; }
 
 class DamagedWallTest : public WallCommandsTest, public ::testing::WithParamInterface<int>
 {
@@ -292,7 +291,7 @@ TEST_P(DamagedWallTest, isLeftOutWithItsPlaceAndTheOtherWallIsPlaced)
     if (damage.element.isUndefined())
         map["other"] = 1; // keeps the number of entries
     writeReply(map);
-    const Result result = apply();
+    const Result result = applyFile();
     EXPECT_EQ(result.exitCode, 3) << damage.name << '\n' << result.err.toStdString();
     EXPECT_EQ(leftOut(result).value(0).toStdString(), (kPlace + damage.leftOut).toStdString()) << damage.name;
     EXPECT_EQ(result.json()["walls"].toArray().size(), damage.madeWalls + 1) << damage.name;
@@ -389,7 +388,7 @@ TEST_F(WallCommandsTest, tenThousandPiecesWithBrokenOnesPlaceEverySoundOne)
     for (int i = 0; i < 10000; ++i)
         pieces.append(i % 10 == 3 ? QJsonValue("broken") : QJsonValue(piece(QString("0,%1,500,%1").arg(i * 5))));
     writeReply(mapOf({{element("Q2"), pieces}}));
-    const Result result = apply();
+    const Result result = applyFile();
     EXPECT_EQ(result.exitCode, 3);
     EXPECT_EQ(result.json()["placed"], 9000);
     EXPECT_EQ(result.json()["leftOut"].toArray().size(), 1000);

@@ -1,0 +1,238 @@
+#include "cli/WallInput.h"
+
+#include "IdentifyInputModel/Wall/ORVCADWallInputModelConvertion.h"
+#include "cli/ProjectInfo.h"
+#include "encoding/ORVCADXmlFileSerialization.h"
+#include "platform/dwgx/DWGXModel.h"
+#include "platform/embedded/HBXWallOptions.h"
+#include "platform/host/IHBXFloor.h"
+#include "platform/host/IHBXRegion.h"
+#include "platform/host/IHBXService.h"
+
+#include <QDomDocument>
+#include <QJsonDocument>
+#include <QTextCodec>
+
+namespace orvcad {
+
+namespace {
+
+using Brick = ORVCADWallBrickDataInputModel;
+using Force = ORVCADWallForceDataInputModel;
+using Reading = ORVCADWallInputModelConvertion;
+
+/** What a getter appends to an empty list. */
+template <typename List> List taken(const Reading &reading, void (Reading::*get)(List &) const)
+{
+    List list;
+    (reading.*get)(list);
+    return list;
+}
+
+int takeWalls(const Reading &reading, Brick &model)
+{
+    auto walls = taken(reading, &Reading::getCadEntBrickWallDataInfo);
+    const auto count = static_cast<int>(walls.size());
+    model.setCadEntBrickWallDataInfo(std::move(walls));
+    return count;
+}
+
+int takeWalls(const Reading &reading, Force &model)
+{
+    auto walls = taken(reading, &Reading::getCadEntForceWallDataInfo);
+    const auto count = static_cast<int>(walls.size());
+    model.setCadEntForceWallDataInfo(std::move(walls));
+    return count;
+}
+
+/** Everything that both kinds of walls are told; the counts go into the summary. */
+void takeFloor(const Reading &reading, ORVCADWallDataInputModel &model, QJsonObject &summary)
+{
+    auto bricks = taken(reading, &Reading::getCurFloorModelBrickLineEntDataInfo);
+    auto forces = taken(reading, &Reading::getCurFloorModelForceLineEntDataInfo);
+    auto axes = taken(reading, &Reading::getCurFloorModelAxisLineEntDataInfo);
+    auto columns = taken(reading, &Reading::getCurFloorModelPointEntDataInfo);
+    summary["brickLines"] = static_cast<int>(bricks.size());
+    summary["forceLines"] = static_cast<int>(forces.size());
+    summary["axisLines"] = static_cast<int>(axes.size());
+    summary["columns"] = static_cast<int>(columns.size());
+    model.setCurFloorModelBrickLineEntDataInfo(std::move(bricks));
+    model.setCurFloorModelForceLineEntDataInfo(std::move(forces));
+    model.setCurFloorModelAxisLineEntDataInfo(std::move(axes));
+    model.setCurFloorModelPointEntDataInfo(std::move(columns));
+    model.setCadLayerInfo(taken(reading, &Reading::getCadLayerInfo));
+    model.setDWGXBaseOptions(taken(reading, &Reading::getDWGXBaseOptions));
+}
+
+int colorOf(const dwgx::DWGXEntity &entity, const dwgx::DWGXLayer &layer)
+{
+    return entity.color == dwgx::kColorByLayer ? layer.color : entity.color;
+}
+
+ORVCADCloudLineEdoInfo recordOf(const dwgx::DWGXLine &line, const dwgx::DWGXLayer &layer)
+{
+    ORVCADCloudLineEdoInfo record;
+    record.color = colorOf(line, layer);
+    record.blockID = line.blockId;
+    record.line = line.curve;
+    record.edoId = line.id;
+    return record;
+}
+
+ORVCADCloudTextEdoInfo recordOf(const dwgx::DWGXText &text, const dwgx::DWGXLayer &layer)
+{
+    ORVCADCloudTextEdoInfo record;
+    const auto corners = text.corners();
+    record.text = text.content.toStdWString();
+    record.anglePts.assign(corners.begin(), corners.end());
+    record.color = colorOf(text, layer);
+    record.blockID = text.blockId;
+    record.dir = text.direction();
+    record.edoId = text.id;
+    return record;
+}
+
+template <typename Record, typename Entity>
+std::list<Record> recordsOf(const std::vector<Entity> &entities, const dwgx::DWGXLayer &layer)
+{
+    std::list<Record> records;
+    for (const Entity &entity : entities)
+        records.push_back(recordOf(entity, layer));
+    return records;
+}
+
+bool isXml(const QByteArray &bytes) { return QDomDocument().setContent(bytes, false); }
+
+QByteArray declaredBytes(const QString &xml) { return QTextCodec::codecForName("GB2312")->fromUnicode(xml); }
+
+/** Whether a document with nothing else in it parses again. */
+template <typename Write> bool readsBack(Write &&write)
+{
+    ORVCADXmlFileSerialization archive{QString()};
+    write(archive);
+    archive.save(QString());
+    return isXml(declaredBytes(archive.content()));
+}
+
+bool layerReadsBack(const QString &layer)
+{
+    return readsBack([&layer](ORVCADXmlFileSerialization &archive) {
+        QMap<QString, QStringList> records{{layer, {}}};
+        archive.writeRecordMap(QStringLiteral("layer"), records);
+    });
+}
+
+bool textReadsBack(const QString &text)
+{
+    return readsBack([&text](ORVCADXmlFileSerialization &archive) {
+        archive.writeRecord(QStringLiteral("record"), QStringLiteral("text:") + text);
+    });
+}
+
+} // namespace
+
+WallInput::WallInput(hbx::embedded::HBXProject &project, IHBXFloor &floor, Kind kind)
+    : m_model(Brick(EORVCADIdentifyType(kind)))
+{
+    project.makeCurrent();
+    project.setCurrent(floor.region()->name(), floor.name());
+    if (kind == kForce)
+        m_model = Force(EORVCADIdentifyType(kind));
+    IHBXModel *host = project.service()->model();
+    hbx::embedded::HBXWallOptions options(host);
+    const Reading reading(floor.id(), &options, host, EORVCADIdentifyType(kind));
+    m_summary = {{"kind", kind == kBrick ? "brick" : "force"},
+                 {"floor", floor.name()},
+                 {"layers", 0},
+                 {"lines", 0},
+                 {"texts", 0}};
+    m_summary["walls"] = std::visit([&reading](auto &model) { return takeWalls(reading, model); }, m_model);
+    takeFloor(reading, base(), m_summary);
+    QString code;
+    base().setProjectName(project.name().toStdWString());
+    base().setFloorName(floor.name().toStdWString());
+    base().setFloorCode(floor.code(code).toStdWString());
+}
+
+void WallInput::addDrawing(const dwgx::DWGXModel &drawing, const QString &name)
+{
+    base().setDrawingName(name.toStdWString());
+    for (const dwgx::DWGXLayer &layer : drawing.layers()) {
+        if (!layer.lines.empty())
+            base().setCadLineEdoDataInfo(layer.name.toStdWString(),
+                                         recordsOf<ORVCADCloudLineEdoInfo>(layer.lines, layer));
+        if (!layer.texts.empty())
+            base().setCadTextEdoDataInfo(layer.name.toStdWString(),
+                                         recordsOf<ORVCADCloudTextEdoInfo>(layer.texts, layer));
+        if (!layer.lines.empty() || !layer.texts.empty())
+            m_layers.append(layer.name);
+        for (const dwgx::DWGXText &text : layer.texts)
+            if (text.content.contains(u'/'))
+                m_texts.emplace_back(layer.name, text.content);
+    }
+    m_summary["layers"] = m_layers.size();
+    m_summary["lines"] = drawing.lineCount();
+    m_summary["texts"] = drawing.textCount();
+}
+
+ORVCADWallDataInputModel &WallInput::base()
+{
+    return std::visit([](auto &model) -> ORVCADWallDataInputModel & { return model; }, m_model);
+}
+
+QByteArray WallInput::json() const
+{
+    std::wstring text;
+    std::visit([&text](const auto &model) { model.saveToJson(text); }, m_model);
+    return QString::fromStdWString(text).toUtf8();
+}
+
+QByteArray WallInput::xml() const
+{
+    std::wstring text;
+    std::visit([&text](const auto &model) { model.saveToXml(text); }, m_model);
+    return declaredBytes(QString::fromStdWString(text));
+}
+
+QByteArray WallInput::cloud() const
+{
+    const Brick *model = std::get_if<Brick>(&m_model);
+    if (!model)
+        return {};
+    QJsonObject document;
+    model->saveToJson_ToCloud(document);
+    return QJsonDocument(document).toJson();
+}
+
+QStringList WallInput::unreadable(const QByteArray &xml) const
+{
+    if (isXml(xml))
+        return {};
+    QStringList reasons;
+    for (const QString &layer : m_layers)
+        if (!layerReadsBack(layer))
+            reasons.append(QStringLiteral("layer \"%1\" is no name in XML").arg(layer));
+    for (const auto &[layer, text] : m_texts)
+        if (!textReadsBack(text))
+            reasons.append(
+                QStringLiteral("text \"%1\" on layer \"%2\" is no name in XML behind its \"/\"").arg(text, layer));
+    if (reasons.isEmpty())
+        reasons.append(QStringLiteral("a name of the floor is no name in XML behind its \"/\""));
+    return reasons;
+}
+
+QString WallInput::text() const
+{
+    const auto count = [this](const char *key, const char *singular) {
+        return counted(m_summary[QLatin1String(key)].toInt(), QLatin1String(singular));
+    };
+    return QStringLiteral("%1 %2, %3, %4, %5 and %6 of %7; %8 with %9")
+        .arg(m_summary["kind"].toString(), count("walls", "wall element"), count("brickLines", "brick wall"),
+             count("forceLines", "force wall"), count("axisLines", "axis line"), count("columns", "column"),
+             m_summary["floor"].toString(), count("layers", "layer"),
+             count("lines", "line") + QStringLiteral(" and ") + count("texts", "text"));
+}
+
+QJsonObject WallInput::summary() const { return m_summary; }
+
+} // namespace orvcad
