@@ -83,6 +83,19 @@ TEST_F(HBXElementsTest, uniqueNamesTakeTheFirstFreeSuffix)
     EXPECT_EQ(unique(48, "B"), QStringLiteral("B"));
 }
 
+TEST_F(HBXElementsTest, renamingGivesBackTheSuffixOfItsOwnBaseAlone)
+{
+    for (const char *name : {"B", "B-1", "B-2", "B-2-1", "C", "C-1"})
+        element(19, name);
+    EXPECT_EQ(unique(19, "B"), QStringLiteral("B-3"));
+    EXPECT_EQ(unique(19, "C"), QStringLiteral("C-2"));
+    elements().findElement(QStringLiteral("B-2"), floor()->id(), 19, true, 0)->setName(QStringLiteral("D"));
+    EXPECT_EQ(unique(19, "B"), QStringLiteral("B-2"));
+    EXPECT_EQ(unique(19, "C"), QStringLiteral("C-2"));
+    elements().findElement(QStringLiteral("B"), floor()->id(), 19, true, 0)->setName(QStringLiteral("E"));
+    EXPECT_EQ(unique(19, "B"), QStringLiteral("B"));
+}
+
 TEST_F(HBXElementsTest, setNameThrowsForAnEmptyAndForATakenName)
 {
     IHBXElement *first = element(19, "A");

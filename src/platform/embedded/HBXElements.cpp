@@ -28,6 +28,16 @@ PropertyRecords firstProperties(qint64 type, qint64 subType)
     return {};
 }
 
+/** A name that becomes free may be one that others were counted up past. */
+void giveBackSuffix(QHash<QString, int> &takenSuffixes, const QString &name)
+{
+    const int dash = name.lastIndexOf(QLatin1Char('-'));
+    const auto taken = dash < 0 ? takenSuffixes.end() : takenSuffixes.find(name.left(dash));
+    const int suffix = name.midRef(dash + 1).toInt();
+    if (taken != takenSuffixes.end() && suffix > 0)
+        *taken = std::min(*taken, suffix - 1);
+}
+
 /** Base of a name where none is given: what the type is called. */
 QString typeName(qint64 type)
 {
@@ -187,7 +197,7 @@ void HBXElements::forgetName(HBXElement &element)
     named->remove(element.id());
     if (named->isEmpty())
         contents.elementsByName.erase(named);
-    contents.takenSuffixes.clear();
+    giveBackSuffix(contents.takenSuffixes, element.ownName());
 }
 
 void HBXElements::remove(HBXElement &element)

@@ -25,7 +25,7 @@ struct HBXTypeContents
     HBXIdList<HBXElement> elements;
     HBXIdList<HBXElementDrawObj> drawObjs; ///< entered ones
     QHash<QString, HBXIdList<HBXElement>> elementsByName;
-    /** By wanted name: a suffix up to which all are taken; forgotten whenever a name becomes free. */
+    /** By wanted name: a suffix up to which all are taken. A name that becomes free lowers that of its own base. */
     QHash<QString, int> takenSuffixes;
     HBXPlaceIndex places; ///< of the draw objects
 };
