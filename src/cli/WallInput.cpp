@@ -226,11 +226,11 @@ QString WallInput::text() const
     const auto count = [this](const char *key, const char *singular) {
         return counted(m_summary[QLatin1String(key)].toInt(), QLatin1String(singular));
     };
-    return QStringLiteral("%1 %2, %3, %4, %5 and %6 of %7; %8 with %9")
-        .arg(m_summary["kind"].toString(), count("walls", "wall element"), count("brickLines", "brick wall"),
-             count("forceLines", "force wall"), count("axisLines", "axis line"), count("columns", "column"),
-             m_summary["floor"].toString(), count("layers", "layer"),
-             count("lines", "line") + QStringLiteral(" and ") + count("texts", "text"));
+    const QString walls = counted(m_summary["walls"].toInt(), m_summary["kind"].toString() + " wall element");
+    return QStringLiteral("%1, %2, %3, %4 and %5 of %6; %7 with %8 and %9")
+        .arg(walls, count("brickLines", "placed brick wall"), count("forceLines", "placed force wall"),
+             count("axisLines", "axis line"), count("columns", "column"), m_summary["floor"].toString(),
+             count("layers", "layer"), count("lines", "line"), count("texts", "text"));
 }
 
 QJsonObject WallInput::summary() const { return m_summary; }

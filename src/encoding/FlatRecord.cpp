@@ -1,6 +1,7 @@
 #include "encoding/FlatRecord.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace encoding {
 
@@ -28,6 +29,18 @@ void cutLastSeparator(QString &record)
 {
     if (record.endsWith(kItemEnd))
         record.chop(1);
+}
+
+FlatRecordText::FlatRecordText(int items) : m_text(QLatin1String(""))
+{
+    constexpr int usualItem = 24; // characters
+    m_text.reserve(items * usualItem);
+}
+
+QString FlatRecordText::take()
+{
+    cutLastSeparator(m_text);
+    return std::move(m_text);
 }
 
 FlatItems::FlatItems(QStringView record)

@@ -33,6 +33,20 @@ ORVCADMODELDATA_EXPORT void appendItem(QString &record, QStringView key, QString
 /** Takes away the record's last character if it is "/". */
 ORVCADMODELDATA_EXPORT void cutLastSeparator(QString &record);
 
+/** Puts a record together item by item. */
+class ORVCADMODELDATA_EXPORT FlatRecordText
+{
+public:
+    /** @param items  how many are to come; only for speed */
+    explicit FlatRecordText(int items);
+    void add(QStringView key, QStringView value) { appendItem(m_text, key, value); }
+    /** The record without a "/" at its end; empty without items, and never null. Nothing can be added behind it. */
+    QString take();
+
+private:
+    QString m_text;
+};
+
 /** Calls visit(key, value) for each item in order. The empty record has one item: empty key, empty value. */
 template <typename Visit> void forEachItem(QStringView record, Visit &&visit)
 {

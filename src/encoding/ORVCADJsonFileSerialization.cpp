@@ -58,13 +58,10 @@ QJsonArray recordArray(const QStringList &records)
 
 QString recordOf(const QJsonObject &object)
 {
-    constexpr int usualItem = 24; // characters
-    QString record = QLatin1String("");
-    record.reserve(object.size() * usualItem);
+    encoding::FlatRecordText record(object.size());
     for (auto member = object.constBegin(); member != object.constEnd(); ++member)
-        encoding::appendItem(record, member.key(), member.value().toString());
-    encoding::cutLastSeparator(record);
-    return record;
+        record.add(member.key(), member.value().toString());
+    return record.take();
 }
 
 void appendRecords(const QJsonArray &array, QStringList &records)

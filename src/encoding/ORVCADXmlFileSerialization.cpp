@@ -1,22 +1,16 @@
 #include "encoding/ORVCADXmlFileSerialization.h"
 
 #include "encoding/FlatRecord.h"
+#include "encoding/XmlAttributes.h"
 #include "encoding/XmlSafety.h"
-
-#include <QTextStream>
-
-#include <algorithm>
-#include <utility>
-#include <vector>
 
 namespace {
 
-using Attribute = std::pair<QString, QString>;
+using encoding::XmlAttribute;
 
 constexpr auto kEncoding = "GB2312";
 constexpr auto kDeclaration = "<?xml version=\"1.0\" encoding=\"GB2312\"?>\n";
 constexpr auto kLayerName = "layerName";
-constexpr int kMostByIndex = 64;                  // attributes; each costs a walk over those before it
 constexpr qint64 kMostListText = qint64(1) << 24; // characters that a list may give
 
 void writeItems(encoding::XmlTextWriter &writer, const QString &record)
@@ -53,64 +47,26 @@ void writeMapEntry(encoding::XmlTextWriter &writer, int number, const QString &k
     writer.endElement();
 }
 
-/** Names of the attributes, from the element's own text: `<name a="…" b="…"/>`, no quotes within the values. */
-QStringList attributeNames(const QDomElement &element)
-{
-    QString text;
-    QTextStream stream(&text);
-    element.cloneNode(false).save(stream, -1);
-    stream.flush();
-    QStringList names;
-    const QVector<QStringRef> pieces = text.splitRef(u'"');
-    for (int i = 0; i + 1 < pieces.size(); i += 2) {
-        const int blank = pieces[i].lastIndexOf(u' ');
-        names.append(pieces[i].mid(blank + 1).chopped(1).toString()); // without the "="
-    }
-    return names;
-}
-
-/** In the order of the names, since QDomDocument gives them in another order in each process. */
-std::vector<Attribute> attributesOf(const QDomElement &element)
-{
-    std::vector<Attribute> result;
-    const QDomNamedNodeMap map = element.attributes();
-    if (map.length() <= kMostByIndex) {
-        result.reserve(static_cast<std::size_t>(map.length()));
-        for (int i = 0; i < map.length(); ++i) {
-            const QDomNode attribute = map.item(i);
-            result.emplace_back(attribute.nodeName(), attribute.nodeValue());
-        }
-    } else {
-        for (const QString &name : attributeNames(element))
-            result.emplace_back(name, element.attribute(name));
-    }
-    std::sort(result.begin(), result.end(), [](const Attribute &a, const Attribute &b) { return a.first < b.first; });
-    return result;
-}
-
 QString recordOf(const QDomElement &element)
 {
-    constexpr int usualItem = 24; // characters
-    const std::vector<Attribute> attributes = attributesOf(element);
-    QString record = QLatin1String("");
-    record.reserve(static_cast<int>(attributes.size()) * usualItem);
-    for (const Attribute &one : attributes)
-        encoding::appendItem(record, one.first, one.second);
-    encoding::cutLastSeparator(record);
-    return record;
+    const std::vector<XmlAttribute> attributes = encoding::attributesOf(element);
+    encoding::FlatRecordText record(static_cast<int>(attributes.size()));
+    for (const XmlAttribute &one : attributes)
+        record.add(one.name, one.value);
+    return record.take();
 }
 
 QString mapKeyOf(const QDomElement &element)
 {
-    QString record = QLatin1String("");
-    for (const Attribute &one : attributesOf(element)) {
-        if (one.first.contains(QLatin1String(kLayerName)))
-            encoding::appendItem(record, one.second, {});
+    const std::vector<XmlAttribute> attributes = encoding::attributesOf(element);
+    encoding::FlatRecordText record(static_cast<int>(attributes.size()));
+    for (const XmlAttribute &one : attributes) {
+        if (one.name.contains(QLatin1String(kLayerName)))
+            record.add(one.value, {});
         else
-            encoding::appendItem(record, one.first, one.second);
+            record.add(one.name, one.value);
     }
-    encoding::cutLastSeparator(record);
-    return record;
+    return record.take();
 }
 
 /** One record per child; a child that is no element gives an empty one. */

@@ -30,8 +30,8 @@ TEST_F(WallExportCommandTest, forceWallsHaveTheirOwnListAndType)
 {
     importSmallHouse();
     const Result result = run({"wall", "export", "house.hbxdb", "--kind", "force", "--floor", "1", "-o", "in.json"});
-    EXPECT_EQ(result.out.toStdString(), "Wrote force 0 wall elements, 1 brick wall, 0 force walls, 0 axis lines and 0 "
-                                        "columns of Level 1; 0 layers with 0 lines and 0 texts\n");
+    EXPECT_EQ(result.out.toStdString(), "Wrote 0 force wall elements, 1 placed brick wall, 0 placed force walls, 0 "
+                                        "axis lines and 0 columns of Level 1; 0 layers with 0 lines and 0 texts\n");
     EXPECT_TRUE(readJson("in.json")["CadEntForceWallDataInfo"].isArray());
     EXPECT_EQ(readJson("in.json")["IdentifyType"]["identifyTpe"], "2");
 }
@@ -54,7 +54,7 @@ TEST_F(WallExportCommandTest, documentGoesToStandardOutputWithoutAFile)
     importSmallHouse();
     const Result result = run({"wall", "export", "house.hbxdb", "--kind", "brick", "--floor", "1"});
     EXPECT_TRUE(QJsonDocument::fromJson(result.out).isObject());
-    EXPECT_TRUE(result.err.startsWith("Wrote brick 1 wall element,")) << result.err.toStdString();
+    EXPECT_TRUE(result.err.startsWith("Wrote 1 brick wall element, 1 placed brick wall,")) << result.err.toStdString();
 }
 
 TEST_F(WallExportCommandTest, xmlWarnsOfLayersThatAreNoNames)

@@ -125,13 +125,13 @@ protected:
         dwgx::DWGXLine line;
         line.curve = new vks::CLine2d(vks::CVec2<double>(0, 0), vks::CVec2<double>(1, 0));
         line.blockId = 2;
-        ASSERT_TRUE(drawing->addLine(name, line));
+        ASSERT_TRUE(drawing->addLine(name, std::move(line)));
         dwgx::DWGXText entity;
         entity.content = QString::fromUtf8(text);
         entity.height = 100;
         entity.point = {10, 20};
         entity.color = 5;
-        ASSERT_TRUE(drawing->addText(name, entity));
+        ASSERT_TRUE(drawing->addText(name, std::move(entity)));
     }
     QStringList unreadable(WallInput::Kind kind = WallInput::kForce)
     {

@@ -89,4 +89,19 @@ TEST(FlatRecordTest, hugeRecordIsSplitInOneWalk)
     EXPECT_TRUE(items.value(QLatin1String("b")).isEmpty());
 }
 
+TEST(FlatRecordTest, recordIsPutTogetherWithoutASlashAtItsEnd)
+{
+    encoding::FlatRecordText record(2);
+    record.add(u"a", u"1");
+    record.add(u"b", {});
+    EXPECT_EQ(record.take(), "a:1/b");
+}
+
+TEST(FlatRecordTest, recordPutTogetherOfNoItemsIsEmptyAndNotNull)
+{
+    const QString record = encoding::FlatRecordText(0).take();
+    EXPECT_TRUE(record.isEmpty());
+    EXPECT_FALSE(record.isNull());
+}
+
 } // namespace

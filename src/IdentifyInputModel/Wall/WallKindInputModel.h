@@ -45,7 +45,8 @@ private:
     void loadAll(ORVCADInputModelSerialization &archive);
 };
 
-extern template class WallKindInputModel<ORVCADCloudEntBrickWallStruct>;
-extern template class WallKindInputModel<ORVCADCloudEntForceWallStruct>;
+// Exported by name: the records are not, and would hide it.
+extern template class ORVCADMODELDATA_EXPORT WallKindInputModel<ORVCADCloudEntBrickWallStruct>;
+extern template class ORVCADMODELDATA_EXPORT WallKindInputModel<ORVCADCloudEntForceWallStruct>;
 
 } // namespace wall
