@@ -51,27 +51,30 @@ public:
         m_kind.write(m_project.service(), replyOf(m_kind, member));
         noteObjects(member, drawObjsBefore);
         noteRefusals(member, journalBefore);
-        if (m_model.elements()->count() == elementsBefore) {
+        if (m_model.elements()->count() > elementsBefore)
+            noteWall(member, *m_model.elements()->at(elementsBefore), m_model.drawObjects()->count() - drawObjsBefore);
+        else
             leaveOut(member, member.place, QStringLiteral("the host made no element"));
-            return;
-        }
-        WallOutcome::Wall wall;
-        wall.place = member.place;
-        wall.wanted = member.text(wall::key::entName);
-        m_model.elements()->at(elementsBefore)->name(wall.name);
-        wall.floor = member.text(wall::key::floorCode);
-        wall.placed = m_model.drawObjects()->count() - drawObjsBefore;
-        wall.leftOut = member.leftOut + member.pieces.size() - wall.placed;
-        if (wall.placed < member.pieces.size())
-            leaveOut(member, member.place,
-                     QStringLiteral("the host made %1 of its %2")
-                         .arg(wall.placed)
-                         .arg(counted(member.pieces.size(), QStringLiteral("piece"))));
-        wall.doubled = m_doubled;
-        m_outcome.walls.push_back(wall);
     }
 
 private:
+    void noteWall(const WallReplyCheck::Member &member, const IHBXElement &element, int placed)
+    {
+        WallOutcome::Wall wall;
+        wall.place = member.place;
+        wall.wanted = member.text(wall::key::entName);
+        element.name(wall.name);
+        wall.floor = member.text(wall::key::floorCode);
+        wall.placed = placed;
+        wall.leftOut = member.leftOut + member.pieces.size() - placed;
+        wall.doubled = m_doubled;
+        m_outcome.walls.push_back(wall);
+        if (placed < member.pieces.size())
+            leaveOut(member, member.place,
+                     QStringLiteral("the host made %1 of its %2")
+                         .arg(placed)
+                         .arg(counted(member.pieces.size(), QStringLiteral("piece"))));
+    }
     /** Has the host check the new objects, and notes which piece each of them is, if all were made. */
     void noteObjects(const WallReplyCheck::Member &member, int drawObjsBefore)
     {
