@@ -46,7 +46,7 @@ protected:
     Walls m_walls; ///< owns its keys
 };
 
-extern template class WallKindOutputModel<ORVCADCloudEntBrickWallStruct>;
-extern template class WallKindOutputModel<ORVCADCloudEntForceWallStruct>;
+extern template class ORVCADMODELDATA_EXPORT WallKindOutputModel<ORVCADCloudEntBrickWallStruct>;
+extern template class ORVCADMODELDATA_EXPORT WallKindOutputModel<ORVCADCloudEntForceWallStruct>;
 
 } // namespace wall
