@@ -135,7 +135,6 @@ TEST_F(ORVCADWallEdoGeneratorTest, nullRecordIsPassedOver)
 TEST_F(ORVCADWallEdoGeneratorTest, brickElementTakesTheFourProperties)
 {
     load();
-    add(brickWall(), {});
     add(brickWall(), {piece()});
     generateBrick(service());
     IHBXElement *element = find("Q1");
