@@ -2,6 +2,9 @@
 
 #include <QMap>
 
+#include <algorithm>
+#include <iterator>
+
 using namespace column;
 using dwgx::JsonPlace;
 

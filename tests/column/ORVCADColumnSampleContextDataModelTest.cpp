@@ -2,6 +2,8 @@
 
 #include "ColumnFixture.h"
 
+#include <type_traits>
+
 namespace {
 
 using Context = ORVCADColumnSampleContextDataModel;

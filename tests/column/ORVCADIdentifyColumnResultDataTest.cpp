@@ -4,6 +4,7 @@
 #include "encoding/ORVCADJsonCGeometryObjOper.h"
 
 #include <memory>
+#include <utility>
 
 namespace {
 
