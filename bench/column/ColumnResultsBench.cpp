@@ -64,7 +64,8 @@ Model columns(int count)
     model.drawing = QStringLiteral("S-07");
     model.floorCode = QStringLiteral("3");
     for (int i = 0; i < count; ++i) {
-        const Point at(i % 100 * 600.5, i / 100 * 720.3);
+        const int row = i / 100;
+        const Point at(i % 100 * 600.5, row * 720.3);
         auto record = std::make_shared<ORVCADIdentifyColumnResultData>();
         record->barInfo = {"12C20", "4C22", "2C20", "3C18", "A8@100/200", "4*5", 41, 62};
         record->pfnSection = QStringLiteral("500*600");
