@@ -9,9 +9,11 @@
 #include "drawing/ORVCADSubDrawingDataSet.h"
 #include "support/RatioBench.h"
 
+#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QPair>
 
 #include <cstdlib>
 #include <memory>
@@ -357,6 +359,86 @@ void addLookups(bench::RatioTable &table)
         [] { bench::keep(Mappings(kMiddle)); }, kFlat);
 }
 
+// Every drawing of a large set on every floor of a high building.
+
+struct Building
+{
+    Building(int drawings, int floors)
+    {
+        for (int floor = 0; floor < floors; ++floor)
+            floorNames.append(numbered("F", floor));
+        for (int drawing = 0; drawing < drawings; ++drawing) {
+            names.append(numbered("S-", drawing));
+            for (const QString &floor : qAsConst(floorNames))
+                mappings.addMapping(kRegion, floor, names.last());
+        }
+        mappings.getMappingFloors(names.last()); // the first lookup indexes
+    }
+
+    QStringList names;
+    QStringList floorNames;
+    ORVCADDrawingFloorMappings mappings;
+};
+
+/** The same pairs in hash tables that are made for the two questions. */
+struct BuildingByHand
+{
+    explicit BuildingByHand(const Building &building)
+    {
+        for (const QString &floor : building.floorNames)
+            drawings.insert({kRegion, floor}, building.names);
+        for (const QString &name : building.names)
+            for (const QString &floor : building.floorNames)
+                floors[name].append({kRegion, floor});
+    }
+
+    QHash<QPair<qint64, QString>, QStringList> drawings;
+    QHash<QString, QList<std::pair<qint64, QString>>> floors;
+};
+
+void addBuilding(bench::RatioTable &table)
+{
+    constexpr int kDrawings = 5000;
+    constexpr int kSmall = 50;
+    constexpr int kStoreys = 60;
+    constexpr double kFlat = 3.0;   // what misses of the processor's caches cost
+    constexpr double kLookup = 3.0; // the records are asked for each floor name; the hashes hold ready answers
+    const Building large(kDrawings, kStoreys);
+    const Building small(kSmall, kStoreys);
+    const BuildingByHand byHand(large);
+    const auto floorsOfAll = [](const Building &one) {
+        return [&one] {
+            for (const QString &name : one.names)
+                bench::keep(one.mappings.getMappingFloors(name));
+        };
+    };
+    const auto drawingsOfAll = [](const Building &one) {
+        return [&one] {
+            for (const QString &floor : one.floorNames)
+                bench::keep(one.mappings.getMappingDrawingNames(kRegion, floor));
+        };
+    };
+    table.growth("drawings of a floor, 50 to 5,000 by 60", kStoreys, drawingsOfAll(large), kStoreys,
+                 drawingsOfAll(small), kFlat);
+    table.row(
+        "floors of each of 5,000 drawings / two hashes", kDrawings, floorsOfAll(large),
+        [&] {
+            for (const QString &name : large.names) {
+                auto floors = byHand.floors.value(name);
+                floors.detach(); // an answer is a list of its own here too
+                bench::keep(floors);
+            }
+        },
+        kLookup);
+    table.row(
+        "drawings of each of 60 floors / two hashes", kStoreys, drawingsOfAll(large),
+        [&] {
+            for (const QString &floor : large.floorNames)
+                bench::keep(byHand.drawings.value({kRegion, floor}));
+        },
+        kLookup);
+}
+
 } // namespace
 
 int main()
@@ -364,5 +446,6 @@ int main()
     bench::RatioTable table("Drawing set");
     addReadAndWrite(table);
     addLookups(table);
+    addBuilding(table);
     return table.print();
 }

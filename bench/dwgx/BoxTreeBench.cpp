@@ -3,6 +3,7 @@
 #define BOOST_ALLOW_DEPRECATED_HEADERS // which the R-tree of Boost 1.74 itself includes
 
 #include "platform/dwgx/DWGXBaseBoxTree.h"
+#include "support/FloorBoxes.h"
 #include "support/RatioBench.h"
 
 #include <boost/geometry/geometries/box.hpp>
@@ -11,7 +12,6 @@
 
 #include <iterator>
 #include <memory>
-#include <random>
 #include <vector>
 
 namespace {
@@ -28,20 +28,6 @@ using BareTree = bgi::rtree<TreeEntry, bgi::quadratic<16>>;
 constexpr std::size_t kCount = 10000;
 constexpr double kQueryCeiling = 0.06;   // of a look through all boxes
 constexpr double kBareTreeCeiling = 1.6; // of the bare tree
-
-/** Walls, beams and columns of a large floor: boxes up to 6 m in a square of 200 m. */
-std::vector<Box> makeBoxes(unsigned seed)
-{
-    std::mt19937 random(seed);
-    std::uniform_real_distribution<double> place(0.0, 200000.0);
-    std::uniform_real_distribution<double> size(100.0, 6000.0);
-    std::vector<Box> boxes;
-    for (std::size_t i = 0; i < kCount; ++i) {
-        const vks::CVec2<double> corner(place(random), place(random));
-        boxes.emplace_back(corner, corner + vks::CVec2<double>(size(random), size(random)));
-    }
-    return boxes;
-}
 
 TreeBox treeBox(const Box &box) { return {TreePoint(box.minPt.x, box.minPt.y), TreePoint(box.maxPt.x, box.maxPt.y)}; }
 
@@ -74,8 +60,8 @@ template <typename Ask> auto forEachQuery(const std::vector<Box> &queries, Ask a
 
 int main()
 {
-    const std::vector<Box> boxes = makeBoxes(1);
-    const std::vector<Box> queries = makeBoxes(2);
+    const std::vector<Box> boxes = bench::floorBoxes(kCount, 1);
+    const std::vector<Box> queries = bench::floorBoxes(kCount, 2);
     const auto tree = treeOf(boxes);
     const BareTree bareTree(entriesOf(boxes));
     std::vector<void *> found;

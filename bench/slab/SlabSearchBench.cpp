@@ -5,6 +5,7 @@
 
 #include "slab/GeneratedFloor.h"
 #include "slab/ORVCADBoardLocalModelSearchService_Sample.h"
+#include "support/FloorBoxes.h"
 #include "support/RatioBench.h"
 
 #include <boost/geometry/geometries/box.hpp>
@@ -14,7 +15,6 @@
 #include <chrono>
 #include <cstdio>
 #include <iterator>
-#include <random>
 #include <vector>
 
 namespace {
@@ -36,22 +36,6 @@ constexpr std::size_t kCount = 10000;
 constexpr double kReach = 2.0;           // mm between boxes that touch
 constexpr double kBareTreeCeiling = 1.3; // of the bare tree
 constexpr double kLookThroughCeiling = 0.06;
-
-/** Boxes up to 6 m in a square of 200 m. */
-std::vector<Box> makeBoxes(unsigned seed)
-{
-    std::mt19937 random(seed);
-    std::uniform_real_distribution<double> place(0.0, 200000.0);
-    std::uniform_real_distribution<double> size(100.0, 6000.0);
-    std::vector<Box> boxes;
-    for (std::size_t i = 0; i < kCount; ++i) {
-        const double x = place(random);
-        const Point corner(x, place(random));
-        const double width = size(random);
-        boxes.emplace_back(corner, corner + Point(width, size(random)));
-    }
-    return boxes;
-}
 
 void addBoard(Model &model, const Box &box)
 {
@@ -79,9 +63,9 @@ std::vector<TreeEntry> entriesOf(const std::vector<const Object *> &objects)
 void measureIndex(bench::RatioTable &table)
 {
     Model model;
-    for (const Box &box : makeBoxes(1))
+    for (const Box &box : bench::floorBoxes(kCount, 1))
         addBoard(model, box);
-    const std::vector<Box> queries = makeBoxes(2);
+    const std::vector<Box> queries = bench::floorBoxes(kCount, 2);
     const std::vector<const Object *> objects = model.objects();
     const Search search(&model, Object::AllKinds);
     const BareTree bareTree(entriesOf(objects));

@@ -4,11 +4,7 @@
 #include "platform/host/HBXModelException.h"
 #include "platform/host/IHBXElement.h"
 #include "platform/host/IHBXElementDrawObj.h"
-#include "platform/host/IHBXFloors.h"
-#include "platform/host/IHBXModel.h"
 #include "platform/host/IHBXProperties.h"
-#include "platform/host/IHBXRegion.h"
-#include "platform/host/IHBXRegions.h"
 #include "platform/services/DwgxRound.h"
 
 #include <cmath>
@@ -56,12 +52,6 @@ template <typename Write> void unlessRefused(Write write)
 } // namespace
 
 std::string batchKey(int site) { return "ModelSerialization\\ORVCADBeamLocalModel2HBXService" + std::to_string(site); }
-
-IHBXFloor *findFloor(IHBXModel &model, const QString &regionName, const QString &floorName)
-{
-    IHBXRegion *region = model.regions()->find(regionName);
-    return region ? region->floors()->find(floorName) : nullptr;
-}
 
 bool setName(IHBXElement &element, const QString &name)
 {

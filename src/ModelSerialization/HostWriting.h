@@ -8,8 +8,6 @@
 
 class IHBXElement;
 class IHBXElementDrawObj;
-class IHBXFloor;
-class IHBXModel;
 class IHBXProperties;
 
 /** The steps that every reconstruction of beams and their seats takes in the host. */
@@ -18,8 +16,6 @@ namespace beam {
 /** Key of the bracket that belongs to a site of reconstruction. */
 std::string batchKey(int site);
 
-/** Null when the region or the floor is unknown. */
-IHBXFloor *findFloor(IHBXModel &model, const QString &regionName, const QString &floorName);
 /** False when the host refuses the name, whatever it throws. */
 bool setName(IHBXElement &element, const QString &name);
 

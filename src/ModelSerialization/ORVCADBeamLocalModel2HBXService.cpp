@@ -1,6 +1,8 @@
 #include "ModelSerialization/ORVCADBeamLocalModel2HBXService.h"
 
 #include "ModelSerialization/BeamProperties.h"
+#include "ModelSerialization/BeamSubTypes.h"
+#include "ModelSerialization/HostFloor.h"
 #include "ModelSerialization/HostWriting.h"
 #include "ModelSerialization/SeatProperties.h"
 #include "beam/BeamKeys.h"
@@ -38,19 +40,9 @@ constexpr int kTieBeamSite = 532;
 constexpr int kPileSite = 613;
 constexpr int kFoundationSite = 712;
 
-/** Sub-types that are made as another one. */
-struct SubTypeChange
-{
-    qint64 elementType;
-    qint64 from;
-    qint64 to;
-};
-constexpr SubTypeChange kSubTypeChanges[] = {{type::foundationBeam, 135, 134}, {type::beam, 12, 11}};
 constexpr int kPileMadeAsAnother = 169;
 constexpr int kPileMadeInstead = 128;
 
-/** Sub-types of beams whose section may be an outline. */
-constexpr qint64 kOutlinedSubTypes[] = {11, 148, 134};
 constexpr int kRectangularPile = 64;
 constexpr int kRectangularTieBeam = 70;
 
@@ -63,21 +55,6 @@ struct FoundationKind
 };
 constexpr FoundationKind kIsolatedFoundation = {type::isolatedFoundation, 41, type::isolatedFoundationUnit, 43};
 constexpr FoundationKind kPileCap = {type::pileCap, 48, type::pileCapUnit, 51};
-
-void normaliseSubType(BaseBeamEntInfo &beam)
-{
-    for (const SubTypeChange &change : kSubTypeChanges)
-        if (beam.ElementType == change.elementType && beam.ElementSubType == change.from) {
-            beam.ElementSubType = change.to;
-            return;
-        }
-}
-
-bool mayHaveOutline(qint64 subType)
-{
-    return std::find(std::begin(kOutlinedSubTypes), std::end(kOutlinedSubTypes), subType) !=
-           std::end(kOutlinedSubTypes);
-}
 
 /** By number; records that are missing come last and have no number. */
 bool comesBefore(const std::shared_ptr<BeamSegmentInfo> &a, const std::shared_ptr<BeamSegmentInfo> &b)
@@ -115,8 +92,8 @@ bool ORVCADBeamLocalModel2HBXService::localModel2BeamEnt(BaseBeamEntInfo *beam, 
 {
     if (!model() || !beam)
         return false;
-    normaliseSubType(*beam);
-    IHBXFloor *floor = findFloor(*model(), beam->RegionName, beam->FloorName);
+    beam->ElementSubType = subTypeMade(beam->ElementType, beam->ElementSubType);
+    IHBXFloor *floor = findFloor(model(), beam->RegionName, beam->FloorName);
     if (!floor)
         return false;
     IHBXElements &elements = *model()->elements();
@@ -285,7 +262,7 @@ bool ORVCADBeamLocalModel2HBXService::checkBeforeReconstruct(const Seat &seat, I
 {
     if (!model() || !seat)
         return false;
-    IHBXFloor *found = findFloor(*model(), seat->RegionName, seat->FloorName);
+    IHBXFloor *found = findFloor(model(), seat->RegionName, seat->FloorName);
     if (!found)
         return false;
     floor = found;

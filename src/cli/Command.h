@@ -50,8 +50,10 @@ using Command = std::function<Summary()>;
 void addProjectCommands(CLI::App &app, Command &command);
 void addFloorsCommands(CLI::App &app, Command &command);
 void addOpeningCommands(CLI::App &app, Command &command);
+void addBeamCommands(CLI::App &app, Command &command);
 void addColumnCommands(CLI::App &app, Command &command);
 void addDrawingCommands(CLI::App &app, Command &command);
+void addDrawingsCommands(CLI::App &app, Command &command);
 void addDrawCommand(CLI::App &app, Command &command);
 void addDemoCommand(CLI::App &app, Command &command);
 

@@ -1,5 +1,7 @@
 #include "cli/Demo.h"
 
+#include "cli/BeamComparison.h"
+#include "cli/Beams.h"
 #include "cli/Files.h"
 #include "cli/FloorsDocument.h"
 #include "cli/OpeningComparison.h"
@@ -26,6 +28,8 @@ namespace {
 
 const QString kBuilding = QStringLiteral(":/demo/masonry-block.json");
 const QString kDrawnFloor = QStringLiteral("Level 1");
+const QString kOriginal = QStringLiteral("building.hbxdb");
+const QString kRestored = QStringLiteral("restored.hbxdb");
 
 /** What the tour says as it goes. */
 class Tour
@@ -93,6 +97,15 @@ QJsonObject writePayload(Tour &tour, const HBXProject &project)
     return reply;
 }
 
+void writeBeams(Tour &tour, HBXProject &project)
+{
+    BeamCounts counts;
+    const QJsonObject document = beamDocument(project, pickFloors(project, QString(), kDrawnFloor), counts);
+    writeResult(tour.path(QStringLiteral("beams.json")), QJsonDocument(document).toJson());
+    tour.step(QStringLiteral("beam export building.hbxdb --floor \"%1\" -o beams.json").arg(kDrawnFloor),
+              counts.text());
+}
+
 void drawFloor(Tour &tour, const HBXProject &project, const QString &projectFile, const QString &picture)
 {
     IHBXRegion &region = requireRegion(project, QString());
@@ -103,13 +116,16 @@ void drawFloor(Tour &tour, const HBXProject &project, const QString &projectFile
               QStringLiteral("%1 at 1:%2").arg(counted(plan.drawn, QStringLiteral("placed object"))).arg(plan.scale));
 }
 
-/** The copy that has lost its doors and windows, saved and opened again. */
+/** The copy that has lost its doors and windows and the beams of a floor, saved and opened again. */
 std::unique_ptr<HBXProject> stripCopy(Tour &tour, HBXProject &project, const QString &path)
 {
-    const int removed = removeOpenings(project);
+    const int openings = removeOpenings(project);
+    const int beams = removeBeams(project, *pickFloors(project, QString(), kDrawnFloor).front());
     saveProjectAs(project, path);
-    tour.say(QStringLiteral("A copy, restored.hbxdb, loses all doors and windows: %1 removed with all that is placed.")
-                 .arg(counted(removed, QStringLiteral("element"))));
+    tour.say(
+        QStringLiteral("A copy, restored.hbxdb, loses all doors and windows (%1) and the beams of %2 (%3), with all "
+                       "that is placed.")
+            .arg(counted(openings, QStringLiteral("element")), kDrawnFloor, counted(beams, QStringLiteral("element"))));
     return openProject(path);
 }
 
@@ -122,28 +138,52 @@ OpeningOutcome applyPayload(Tour &tour, HBXProject &project)
     return outcome;
 }
 
+BeamOutcome applyBeamPayload(Tour &tour, HBXProject &project)
+{
+    const QString path = tour.path(QStringLiteral("beams.json"));
+    BeamOutcome outcome = applyBeams(project, readJsonFile(path).object(), path);
+    saveProject(project);
+    tour.step(QStringLiteral("beam apply restored.hbxdb beams.json"),
+              outcome.headline() + leftOutLines(outcome.leftOut));
+    return outcome;
+}
+
+/** Compares the saved projects, says what came of it and gives the summary of the tour. */
+Summary conclude(Tour &tour, const QString &directory, const OpeningOutcome &openings, const BeamOutcome &beams)
+{
+    const auto original = openProject(tour.path(kOriginal));
+    const auto restored = openProject(tour.path(kRestored));
+    const OpeningComparison comparison = compareOpenings(*original, *restored);
+    const BeamComparison beamComparison = compareBeams(*original, *restored, kDrawnFloor);
+    tour.say(comparison.text());
+    tour.say(beamComparison.text());
+    tour.say(QStringLiteral("Everything stands in %1; before.svg and after.svg are the pictures.").arg(directory));
+    const bool isSame = comparison.isSame() && beamComparison.isSame();
+    return {tour.text(),
+            {{"directory", directory},
+             {"apply", openings.toJson()},
+             {"comparison", comparison.toJson()},
+             {"applyBeams", beams.toJson()},
+             {"beamComparison", beamComparison.toJson()}},
+            isSame && openings.leftOut.empty() && beams.leftOut.empty() ? kDone : kLeftOut};
+}
+
 } // namespace
 
 Summary runDemo(const QString &directory)
 {
     Tour tour(directory);
-    const QString original = tour.path(QStringLiteral("building.hbxdb"));
-    const QString restored = tour.path(QStringLiteral("restored.hbxdb"));
-
-    auto project = importBuilding(tour, original);
+    auto project = importBuilding(tour, tour.path(kOriginal));
     writeAndReadFloors(tour, *project);
     writePayload(tour, *project);
-    project = stripCopy(tour, *project, restored);
-    drawFloor(tour, *project, QStringLiteral("restored.hbxdb"), QStringLiteral("before.svg"));
-    const OpeningOutcome outcome = applyPayload(tour, *project);
-    drawFloor(tour, *project, QStringLiteral("restored.hbxdb"), QStringLiteral("after.svg"));
-
-    const OpeningComparison comparison = compareOpenings(*openProject(original), *openProject(restored));
-    tour.say(comparison.text());
-    tour.say(QStringLiteral("Everything stands in %1; before.svg and after.svg are the pictures.").arg(directory));
-    return {tour.text(),
-            {{"directory", directory}, {"apply", outcome.toJson()}, {"comparison", comparison.toJson()}},
-            comparison.isSame() && outcome.leftOut.empty() ? kDone : kLeftOut};
+    writeBeams(tour, *project);
+    project = stripCopy(tour, *project, tour.path(kRestored));
+    drawFloor(tour, *project, kRestored, QStringLiteral("before.svg"));
+    const OpeningOutcome openings = applyPayload(tour, *project);
+    const BeamOutcome beams = applyBeamPayload(tour, *project);
+    drawFloor(tour, *project, kRestored, QStringLiteral("after.svg"));
+    project.reset();
+    return conclude(tour, directory, openings, beams);
 }
 
 } // namespace orvcad

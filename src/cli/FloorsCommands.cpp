@@ -3,6 +3,7 @@
 #include "cli/Files.h"
 #include "cli/FloorsDocument.h"
 #include "cli/ProjectInfo.h"
+#include "cli/TextTable.h"
 #include "drawing/ORVCADFloor.h"
 #include "drawing/ORVCADFloors.h"
 
@@ -42,28 +43,30 @@ QJsonObject describe(ORVCADFloors &floors)
 
 QString shown(const QJsonValue &name) { return name.isString() ? name.toString() : QStringLiteral("-"); }
 
-QString tableRow(const QString &number, const QString &name, const QString &bottom, const QString &top,
-                 const QString &storeys, const QString &upstairs, const QString &downstairs)
+TextTable tableOf(const QJsonArray &floors)
 {
-    const QStringList cells{number.rightJustified(3),     QLatin1Char(' ') + name.leftJustified(20),
-                            bottom.rightJustified(9),     top.rightJustified(9),
-                            storeys.rightJustified(8),    QLatin1Char(' ') + upstairs.leftJustified(16),
-                            QLatin1Char(' ') + downstairs};
-    return cells.join(QLatin1Char(' '));
+    constexpr auto right = TextTable::Align::Right;
+    TextTable table({{"no", right},
+                     {"floor"},
+                     {"bottom m", right},
+                     {"top m", right},
+                     {"storeys", right},
+                     {"upstairs"},
+                     {"downstairs"}});
+    int number = 0;
+    for (const QJsonValue value : floors) {
+        const QJsonObject floor = value.toObject();
+        table.add({QString::number(++number), floor["name"].toString(), QString::number(floor["bottomElev"].toDouble()),
+                   QString::number(floor["topElev"].toDouble()), QString::number(floor["standardCount"].toInt()),
+                   shown(floor["upstairs"]), shown(floor["downstairs"])});
+    }
+    return table;
 }
 
 QString toText(const QJsonObject &description)
 {
     QStringList lines{QStringLiteral("Area %1").arg(description["areaName"].toString())};
-    lines.append(tableRow("no", "floor", "bottom m", "top m", "storeys", "upstairs", "downstairs"));
-    int number = 0;
-    for (const QJsonValue &value : description["floors"].toArray()) {
-        const QJsonObject floor = value.toObject();
-        lines.append(tableRow(
-            QString::number(++number), floor["name"].toString(), QString::number(floor["bottomElev"].toDouble()),
-            QString::number(floor["topElev"].toDouble()), QString::number(floor["standardCount"].toInt()),
-            shown(floor["upstairs"]), shown(floor["downstairs"])));
-    }
+    lines += tableOf(description["floors"].toArray()).lines();
     lines.append(QStringLiteral("base %1, first %2, highest %3, lowest %4")
                      .arg(shown(description["base"]), shown(description["first"]), shown(description["highest"]),
                           shown(description["lowest"])));

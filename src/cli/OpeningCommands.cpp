@@ -1,3 +1,4 @@
+#include "cli/Applied.h"
 #include "cli/Arguments.h"
 #include "cli/Command.h"
 #include "cli/Files.h"
@@ -40,18 +41,7 @@ Summary applyReply(const Arguments &arguments)
     const auto project = openProject(Arguments::text(arguments.project));
     const QJsonArray members = openingMembers(readJsonFile(input).object(), input);
     const OpeningOutcome outcome = applyOpenings(*project, members);
-    const bool complete = outcome.leftOut.empty();
-    const bool saved = complete || !arguments.strict;
-    if (saved)
-        saveProject(*project);
-
-    QJsonObject json = outcome.toJson();
-    json["project"] = project->path();
-    json["saved"] = saved;
-    QString text = outcome.text();
-    if (!saved)
-        text += QStringLiteral("\nNothing was saved (--strict).");
-    return {text, json, complete ? kDone : kLeftOut};
+    return saveApplied(*project, outcome.leftOut.empty(), arguments.strict, outcome.text(), outcome.toJson());
 }
 
 Summary showOptions(const Arguments &arguments)

@@ -1,5 +1,6 @@
 #include "cli/Openings.h"
 
+#include "cli/Applied.h"
 #include "cli/Command.h"
 #include "cli/ProjectInfo.h"
 #include "doorwindow/DoorWindowKeys.h"
@@ -20,8 +21,6 @@ using hbx::embedded::HBXProject;
 namespace orvcad {
 
 namespace {
-
-constexpr int kMostLinesOfLeftOut = 20;
 
 const QSet<qint64> &openingTypes()
 {
@@ -52,22 +51,17 @@ void countNew(IHBXModel &model, int elementsBefore, int drawObjsBefore, OpeningO
 
 QString OpeningOutcome::text() const
 {
-    QString text = QStringLiteral("%1 read: %2 made, %3 placed (%4 in a wall, %5 in none), %6 left out")
-                       .arg(counted(members, QStringLiteral("member")), counted(elements, QStringLiteral("element")),
-                            counted(placed, QStringLiteral("opening")))
-                       .arg(attached)
-                       .arg(placed - attached)
-                       .arg(leftOut.size());
-    int lines = 0;
-    for (const auto &member : leftOut) {
-        if (++lines > kMostLinesOfLeftOut) {
-            text +=
-                QStringLiteral("\n  … and %1 more; --json lists all").arg(int(leftOut.size()) - kMostLinesOfLeftOut);
-            break;
-        }
-        text += QStringLiteral("\n  left out: ") + member.text();
-    }
-    return text;
+    const QString text =
+        QStringLiteral("%1 read: %2 made, %3 placed (%4 in a wall, %5 in none), %6 left out")
+            .arg(counted(members, QStringLiteral("member")), counted(elements, QStringLiteral("element")),
+                 counted(placed, QStringLiteral("opening")))
+            .arg(attached)
+            .arg(placed - attached)
+            .arg(leftOut.size());
+    QStringList lines;
+    for (const auto &member : leftOut)
+        lines.append(QStringLiteral("left out: ") + member.text());
+    return text + cutLines(lines);
 }
 
 QJsonObject OpeningOutcome::toJson() const

@@ -58,8 +58,10 @@ void describe(CLI::App &app, Flags &flags, orvcad::Command &command)
     orvcad::addProjectCommands(app, command);
     orvcad::addFloorsCommands(app, command);
     orvcad::addOpeningCommands(app, command);
+    orvcad::addBeamCommands(app, command);
     orvcad::addColumnCommands(app, command);
     orvcad::addDrawingCommands(app, command);
+    orvcad::addDrawingsCommands(app, command);
     orvcad::addDrawCommand(app, command);
 }
 

@@ -76,6 +76,10 @@ constexpr QLatin1String depthNum = "depthNum"_key;
 constexpr QLatin1String point = "point"_key;
 
 // The floor exchange: floors, then the settings of an element type.
+constexpr QLatin1String floorSdcData = "FloorSDCData"_key;
+constexpr QLatin1String region = "Region"_key;
+constexpr QLatin1String concreteAnchorJoint = "ConcreteAnchorJoint"_key;
+
 constexpr QLatin1String id = "ID"_key;
 constexpr QLatin1String description = "Description"_key;
 constexpr QLatin1String stdFloorCount = "StdFloorCount"_key;

@@ -68,8 +68,7 @@ struct ORVCADFloorSDCData::Fields
 };
 
 ORVCADFloorSDCData::ORVCADFloorSDCData()
-    : m_floorsKey(QStringLiteral("FloorSDCData")), m_regionKey(QStringLiteral("Region")),
-      m_jointsKey(QStringLiteral("ConcreteAnchorJoint"))
+    : m_floorsKey(key::floorSdcData), m_regionKey(key::region), m_jointsKey(key::concreteAnchorJoint)
 {}
 
 // Writing.

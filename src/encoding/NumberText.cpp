@@ -4,9 +4,11 @@
 #include <fast_float/fast_float.h>
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <cstring>
 #include <iterator>
+#include <limits>
 
 namespace encoding {
 
@@ -154,6 +156,23 @@ bool readPlainNumber(QStringView text, double &value)
     return whole && std::isfinite(value) && !(mayUnderflow && value == 0.0);
 }
 
+/** Reads a sign and digits, so few of them that the number fits; false for whatever else may be an integer. */
+template <typename T> bool readPlainInteger(QStringView text, T &value)
+{
+    const bool negative = text.startsWith(u'-');
+    const QStringView digits = negative ? text.mid(1) : text;
+    if (digits.isEmpty() || digits.size() > std::numeric_limits<T>::digits10)
+        return false;
+    T number = 0;
+    for (const QChar digit : digits) {
+        if (digit < u'0' || digit > u'9')
+            return false;
+        number = number * 10 + (digit.unicode() - u'0');
+    }
+    value = negative ? -number : number;
+    return true;
+}
+
 } // namespace
 
 char *writeNumber(char *out, double value)
@@ -186,6 +205,25 @@ double readNumber(QStringView text, bool *ok)
     if (ok)
         *ok = true;
     return value;
+}
+
+void appendInteger(QString &text, qint64 value)
+{
+    char digits[std::numeric_limits<qint64>::digits10 + 2]; // and a sign
+    const auto result = std::to_chars(digits, std::end(digits), value);
+    text.append(QLatin1String(digits, static_cast<int>(result.ptr - digits)));
+}
+
+int readInt(QStringView text)
+{
+    int value = 0;
+    return readPlainInteger(text, value) ? value : text.toString().toInt();
+}
+
+qint64 readLongLong(QStringView text)
+{
+    qint64 value = 0;
+    return readPlainInteger(text, value) ? value : text.toString().toLongLong();
 }
 
 } // namespace encoding

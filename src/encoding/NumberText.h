@@ -26,4 +26,12 @@ ORVCADMODELDATA_EXPORT void appendNumber(QString &text, double value);
  *  @param ok  set to whether the text is a number; null is allowed */
 ORVCADMODELDATA_EXPORT double readNumber(QStringView text, bool *ok);
 
+/** Appends an integer in plain base 10. */
+ORVCADMODELDATA_EXPORT void appendInteger(QString &text, qint64 value);
+
+/** Reads an integer of base 10 as QString::toInt and QString::toLongLong do; 0 for what is none or does not fit. White
+ *  space around and a leading plus pass. */
+ORVCADMODELDATA_EXPORT int readInt(QStringView text);
+ORVCADMODELDATA_EXPORT qint64 readLongLong(QStringView text);
+
 } // namespace encoding

@@ -3,7 +3,13 @@
 #include <QMap>
 #include <QUuid>
 
+#include <atomic>
+
 namespace cv {
+
+namespace {
+std::atomic<qint64> g_logs{0}; // of all trees, which may belong to several threads
+}
 
 struct Log_AI::Record
 {
@@ -16,9 +22,13 @@ struct Log_AI::Record
 
 Log_AI::Log_AI(const QString &type, const QString &descript, double confidenceLevel, Object_AI *parent)
     : Object_AI(parent), m_record(new Record{QUuid::createUuid(), type, descript, {}, confidenceLevel})
-{}
+{
+    ++g_logs;
+}
 
-Log_AI::~Log_AI() = default;
+Log_AI::~Log_AI() { --g_logs; }
+
+bool Log_AI::anyExists() { return g_logs > 0; }
 
 Log_AI *Log_AI::setValue(const QString &key, const QVariant &value)
 {

@@ -31,6 +31,9 @@ private:
 
     Log_AI(const QString &type, const QString &descript, double confidenceLevel, Object_AI *parent);
 
+    /** Whether there is a log in any tree: without one, none has to be searched for them. */
+    static bool anyExists();
+
     std::unique_ptr<Record> m_record;
 };
 

@@ -93,7 +93,7 @@ Object_AI::~Object_AI()
 {
     // What dies with an object above was searched with that one: another search of all below would be quadratic in a
     // chain. Logs that were made since are found by the object that they stand under.
-    if (hasLogs(*this, diesWithParent() ? FindDirectChildren : FindWholeSubtree))
+    if (Log_AI::anyExists() && hasLogs(*this, diesWithParent() ? FindDirectChildren : FindWholeSubtree))
         refuseToDie();
 }
 

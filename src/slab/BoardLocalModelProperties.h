@@ -1,11 +1,11 @@
 #pragma once
 
 #include "foundation/Object_AI.h"
+#include "slab/TruncatedNumber.h"
 
 #include <QString>
 #include <QtGlobal>
 
-#include <limits>
 #include <type_traits>
 
 /** The properties of the elements of a slab model: their names, and how they are bound to fields. */
@@ -32,10 +32,7 @@ inline QString rowNumber() { return QStringLiteral("钢筋排数"); }
 template <typename T> T fieldValue(const Any &value)
 {
     if constexpr (std::is_same_v<T, qint32>) {
-        const auto number = value.to<double>();
-        const bool fits =
-            number > std::numeric_limits<qint32>::min() - 1.0 && number < std::numeric_limits<qint32>::max() + 1.0;
-        return fits ? static_cast<qint32>(number) : 0;
+        return truncated(value.to<double>());
     } else {
         return value.to<T>();
     }

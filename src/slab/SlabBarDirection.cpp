@@ -19,6 +19,8 @@ bool isNoTurn(double angle) { return std::fabs(angle) <= slab::kSameDirectionAng
 
 bool isNoTurnOrHalf(double angle) { return isNoTurn(angle) || isNoTurn(angle + kPi) || isNoTurn(angle - kPi); }
 
+bool isNoStretch(double length) { return std::fabs(length) <= slab::kNoStretch; }
+
 } // namespace
 
 bool isSameDirPi(const vks::CVec2<double> &a, const vks::CVec2<double> &b)
@@ -43,4 +45,14 @@ bool needNormalizeStretchInfo(const vks::CCurve2d *curve)
     const double angle = std::atan2(along.y, along.x);
     const double turned = angle < 0.0 ? angle + 2 * kPi : angle;
     return turned > slab::kNormalizeAboveAngle || turned < slab::kNormalizeBelowAngle;
+}
+
+BarReach barReach(const vks::CCurve2d *line, double leftStretch, double rightStretch)
+{
+    const bool exchanged = needNormalizeStretchInfo(line);
+    if (isNoStretch(leftStretch))
+        return exchanged ? BarReach::ToLeft : BarReach::ToRight;
+    if (isNoStretch(rightStretch))
+        return exchanged ? BarReach::ToRight : BarReach::ToLeft;
+    return BarReach::ToBoth;
 }

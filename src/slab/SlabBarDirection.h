@@ -21,3 +21,10 @@ ORVCADMODELDATA_EXPORT bool isSameLine(const vks::CCurve2d *p, const vks::CCurve
  *  end, counted counter-clockwise from the x axis, is below 0.4014 rad (23 degrees) or above that plus half a turn. True
  *  for a line without length, which has no direction. */
 ORVCADMODELDATA_EXPORT bool needNormalizeStretchInfo(const vks::CCurve2d *curve);
+
+/** The side of its line that a top bar reaches to, left and right as seen along a line in the usual sense. */
+enum class BarReach { ToLeft = 0, ToRight = 1, ToBoth = 2 };
+
+/** A length of at most 0.5 either way is none. A bar without a left one reaches to the right, else one without a right one
+ *  to the left, else both ways; along a line whose sides are exchanged (needNormalizeStretchInfo) the other way round. */
+ORVCADMODELDATA_EXPORT BarReach barReach(const vks::CCurve2d *line, double leftStretch, double rightStretch);

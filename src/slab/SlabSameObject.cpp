@@ -7,7 +7,6 @@
 #include "slab/SlabSearchTolerance.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -37,19 +36,9 @@ vks::CRefPtr<vks::CPolygon> repaired(const vks::CPolygon *netArea)
     return vks::PolygonRepair(netArea, slab::kNetAreaRepairDistance, slab::kNetAreaRepairAngle, directed);
 }
 
-/** The side of its line that a top bar reaches to, left and right as seen along a line in the usual sense. */
-enum class Reach { ToLeft = 0, ToRight = 1, ToBoth = 2 };
-
-bool isNoStretch(double length) { return std::fabs(length) <= slab::kNoStretch; }
-
-Reach reachOf(const Model::NegativeForcedBar &bar)
+BarReach reachOf(const Model::NegativeForcedBar &bar)
 {
-    const bool exchanged = needNormalizeStretchInfo(bar.line);
-    if (isNoStretch(bar.leftStretchLength))
-        return exchanged ? Reach::ToLeft : Reach::ToRight;
-    if (isNoStretch(bar.rightStretchLength))
-        return exchanged ? Reach::ToRight : Reach::ToLeft;
-    return Reach::ToBoth;
+    return barReach(bar.line, bar.leftStretchLength, bar.rightStretchLength);
 }
 
 /** Kinds without a test pass by the low byte of their number. */

@@ -1,7 +1,7 @@
-#include "ModelSerialization/BuildingHost.h"
 #include "ModelSerialization/ORVCADBeamHBXModelConvertService.h"
 #include "ModelSerialization/ORVCADBeamLocalModel2HBXService.h"
 #include "beam/ORVCADBeamCollectDataModel.h"
+#include "support/BuildingHost.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

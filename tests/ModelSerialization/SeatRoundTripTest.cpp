@@ -1,6 +1,6 @@
-#include "ModelSerialization/BuildingHost.h"
 #include "ModelSerialization/ORVCADBeamLocalModel2HBXService.h"
 #include "beam/BeamIdentifyInput.h"
+#include "support/BuildingHost.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

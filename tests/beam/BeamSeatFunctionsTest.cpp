@@ -18,7 +18,7 @@ protected:
 
     SeatInfo *add(ORVCADBeamSeatIDType type, qint64 id, const QUuid &segment)
     {
-        SeatInfo *seat = createBeamSeatInfo<SeatInfo>(type, id, segment);
+        auto *seat = createBeamSeatInfo<SeatInfo>(type, id, segment);
         m_seats.append(seat);
         return seat;
     }
@@ -26,7 +26,7 @@ protected:
 };
 
 using Families = ::testing::Types<ORVCADBeamEdoInfoTmp, ORVCADBeamElementInfo>;
-TYPED_TEST_SUITE(BeamSeatFunctionsTest, Families);
+TYPED_TEST_SUITE(BeamSeatFunctionsTest, Families, );
 
 TYPED_TEST(BeamSeatFunctionsTest, seatThatIsADrawObjectHasANullSegment)
 {

@@ -6,12 +6,12 @@ namespace {
 
 using DemoTest = CliFixture;
 
-TEST_F(DemoTest, tourBringsTheOpeningsBackWithoutDeviations)
+TEST_F(DemoTest, tourBringsOpeningsAndBeamsBackWithoutDeviations)
 {
     const Result result = run({"demo", "tour", "--json"});
     EXPECT_EQ(result.exitCode, 0) << result.err.toStdString();
     const QJsonObject summary = result.json();
-    EXPECT_EQ(keys(summary), "apply,comparison,directory");
+    EXPECT_EQ(keys(summary), "apply,applyBeams,beamComparison,comparison,directory");
     EXPECT_EQ(summary["directory"], "tour");
     // 21 doors and 17 windows, of which 64 and 23 are placed; the file puts each of them into a wall.
     EXPECT_EQ(summary["apply"], QJsonValue(QJsonObject{{"members", 125},
@@ -22,29 +22,36 @@ TEST_F(DemoTest, tourBringsTheOpeningsBackWithoutDeviations)
                                                        {"leftOut", QJsonArray()}}));
     EXPECT_EQ(summary["comparison"],
               QJsonValue(QJsonObject{{"compared", 87}, {"sameDocument", true}, {"deviations", QJsonArray()}}));
+    // Level 1 of the building file has 2 beams in 129 places, none of them linked.
+    EXPECT_EQ(summary["applyBeams"]["members"], 2);
+    EXPECT_EQ(summary["applyBeams"]["made"]["elements"], 2);
+    EXPECT_EQ(summary["applyBeams"]["made"]["chains"], 129);
+    EXPECT_EQ(summary["applyBeams"]["made"]["segments"], 129);
+    EXPECT_EQ(summary["applyBeams"]["leftOut"], QJsonArray());
+    EXPECT_EQ(summary["beamComparison"], QJsonValue(QJsonObject{{"compared", 129}, {"deviations", QJsonArray()}}));
 }
 
 TEST_F(DemoTest, tourLeavesItsFiles)
 {
     ASSERT_EQ(run({"demo", "tour"}).exitCode, 0);
     EXPECT_EQ(QDir(path("tour")).entryList(QDir::Files, QDir::Name).join(' ').toStdString(),
-              "after.svg before.svg building.hbxdb building.json floors.json openings.json restored.hbxdb");
+              "after.svg beams.json before.svg building.hbxdb building.json floors.json openings.json restored.hbxdb");
     QFile original(sample("masonry-block"));
     ASSERT_TRUE(original.open(QIODevice::ReadOnly));
     EXPECT_EQ(read("tour/building.json"), original.readAll());
 }
 
-TEST_F(DemoTest, picturesDifferByTheDoorsAndWindowsOfTheDrawnFloor)
+TEST_F(DemoTest, picturesDifferByTheOpeningsAndBeamsOfTheDrawnFloor)
 {
     ASSERT_EQ(run({"demo", "tour"}).exitCode, 0);
     QDomDocument before;
     QDomDocument after;
     ASSERT_TRUE(before.setContent(read("tour/before.svg")));
     ASSERT_TRUE(after.setContent(read("tour/after.svg")));
-    EXPECT_FALSE(read("tour/before.svg").contains("class=\"type-4\""));
-    EXPECT_FALSE(read("tour/before.svg").contains("class=\"type-5\""));
-    EXPECT_TRUE(read("tour/after.svg").contains("class=\"type-4\""));
-    EXPECT_TRUE(read("tour/after.svg").contains("class=\"type-5\""));
+    for (const char *group : {"class=\"type-4\"", "class=\"type-5\"", "class=\"type-15\""}) {
+        EXPECT_FALSE(read("tour/before.svg").contains(group)) << group;
+        EXPECT_TRUE(read("tour/after.svg").contains(group)) << group;
+    }
 }
 
 TEST_F(DemoTest, tourTellsItsStepsAsOneWouldTypeThem)
@@ -58,13 +65,18 @@ TEST_F(DemoTest, tourTellsItsStepsAsOneWouldTypeThem)
           "$ orvcad floors export building.hbxdb -o floors.json && orvcad floors show floors.json\n"
           "  6 floors of \"Block\": base none, first Level 1, highest Level 5",
           "$ orvcad opening export building.hbxdb -o openings.json\n  38 elements and 87 placed openings, 87 of them",
-          "A copy, restored.hbxdb, loses all doors and windows: 38 elements removed",
-          "$ orvcad draw restored.hbxdb --floor \"Level 1\" -o before.svg\n  226 placed objects at 1:",
+          "$ orvcad beam export building.hbxdb --floor \"Level 1\" -o beams.json\n  2 elements, 129 chains of 129 "
+          "segments, ",
+          "A copy, restored.hbxdb, loses all doors and windows (38 elements) and the beams of Level 1 (2 elements), "
+          "with ",
+          "$ orvcad draw restored.hbxdb --floor \"Level 1\" -o before.svg\n  97 placed objects at 1:",
           "$ orvcad opening apply restored.hbxdb openings.json\n"
           "  125 members read: 38 elements made, 87 openings placed (87 in a wall, 0 in none), 0 left out",
+          "$ orvcad beam apply restored.hbxdb beams.json\n  2 beams read: 2 elements, 129 chains of 129 segments, ",
           "$ orvcad draw restored.hbxdb --floor \"Level 1\" -o after.svg\n  266 placed objects at 1:",
           "Compared with the original: 87 openings, the payload written again is the same but for ids; each in the "
           "wall",
+          "Compared with the original: 129 segments of beams, the payload written again is the same",
           "Everything stands in tour; before.svg and after.svg are the pictures."}) {
         const int found = result.out.indexOf(step, place);
         EXPECT_GE(found, place) << step << "\nis missing in\n" << result.out.toStdString();
@@ -76,6 +88,7 @@ TEST_F(DemoTest, typedStepsDoWhatTheTourDid)
 {
     ASSERT_EQ(run({"demo", "tour"}).exitCode, 0);
     EXPECT_EQ(run({"opening", "export", "tour/building.hbxdb"}).out, read("tour/openings.json"));
+    EXPECT_EQ(run({"beam", "export", "tour/building.hbxdb", "--floor", "Level 1"}).out, read("tour/beams.json"));
     EXPECT_EQ(run({"floors", "export", "tour/building.hbxdb"}).out, read("tour/floors.json"));
     EXPECT_EQ(run({"draw", "tour/restored.hbxdb", "--floor", "Level 1"}).out, read("tour/after.svg"));
 }

@@ -21,7 +21,7 @@ TEST_F(UsageTest, unknownGroupIsNamedAndTheGroupsAreListed)
 {
     const QByteArray message = wrongUsage({"castle"});
     EXPECT_TRUE(message.startsWith("orvcad: \"castle\" is not understood here\n")) << message.toStdString();
-    for (const char *group : {"demo", "project", "floors", "opening", "drawing", "draw"})
+    for (const char *group : {"demo", "project", "floors", "opening", "beam", "drawing", "drawings", "draw"})
         EXPECT_TRUE(message.contains(QByteArray("  ") + group + ' ')) << group;
 }
 
@@ -36,7 +36,7 @@ TEST_F(UsageTest, unknownVerbIsNamedAndTheVerbsOfItsGroupAreListed)
 
 TEST_F(UsageTest, groupWithoutAVerbIsWrongUsage)
 {
-    for (const char *group : {"project", "floors", "opening", "drawing"})
+    for (const char *group : {"project", "floors", "opening", "beam", "drawing", "drawings"})
         EXPECT_TRUE(wrongUsage({group}).contains(QByteArray("Usage: orvcad ") + group)) << group;
 }
 
@@ -61,6 +61,9 @@ TEST_F(UsageTest, missingArgumentIsNamedWithTheUsageOfTheVerb)
         {{"drawing", "make", "house.hbxdb", "--floor", "1"}, "--output", "orvcad drawing make"},
         {{"drawing", "make", "house.hbxdb", "-o", "a.cadi2"}, "--floor", "orvcad drawing make"},
         {{"drawing", "show"}, "DRAWING", "orvcad drawing show"},
+        {{"drawings", "show"}, "SET", "orvcad drawings show"},
+        {{"drawings", "floors"}, "FLOORS", "orvcad drawings floors"},
+        {{"drawings", "words"}, "FLOOR", "orvcad drawings words"},
         {{"draw", "house.hbxdb"}, "--floor", "orvcad draw"},
     };
     for (const Case &usage : cases) {

@@ -1,6 +1,7 @@
 #include "drawing/ORVCADDisposeInfoData.h"
 
 #include "DrawingJson.h"
+#include "DrawingSetFilling.h"
 #include "DrawingSetFixture.h"
 
 #include <QFile>
@@ -191,6 +192,19 @@ TEST_F(ORVCADDisposeInfoDataTest, exampleDocumentIsWhatItsRecordsAreWrittenAs)
     place->addAxisInfo({QStringLiteral("1"), QStringLiteral("A"), 1200.5, -300.0});
     set->location->addItem(place);
     EXPECT_EQ(text(set->toJson()), text(dataObject("drawing/drawing-set.json")));
+}
+
+TEST_F(ORVCADDisposeInfoDataTest, fullSetIsWrittenByteForByteAsTheExampleFileOfABuilding)
+{
+    QFile file(QStringLiteral(ORVCAD_EXAMPLES "/precast-hall.drawing-set.json"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray expected = file.readAll();
+    ORVCADSubDrawingDataSet subDrawings;
+    ORVCADDrawingParseData parseData;
+    set->subDrawings = &subDrawings;
+    set->parseData = &parseData;
+    drawing_test::fillSet(object(expected), *set);
+    EXPECT_EQ(saved(), expected);
 }
 
 TEST_F(ORVCADDisposeInfoDataTest, partsOfTheExampleDocumentAreReadByTheirReaders)

@@ -2,6 +2,8 @@
 
 #include "DrawingJson.h"
 
+#include <QHash>
+
 #include <gmock/gmock.h>
 
 #include <memory>
@@ -164,6 +166,58 @@ TEST_F(ORVCADDrawingFloorMappingsTest, onlyTheNextNeighbourIsPassedOver)
     EXPECT_EQ(mappings.getMappingFloorNames(1), (QStringList{"F2", "F4", "F5"}));
     EXPECT_EQ(mappings.getMappingDrawingNames(1, name("F4")), (QStringList{"a", "b"}));
     EXPECT_EQ(mappings.getMappingDrawingNames(1, name("F5")), QStringList{"b"});
+}
+
+namespace {
+
+/** What a record of a pattern holds: a the drawing alone, b it and another, c another alone. */
+QStringList drawingsOf(QChar letter)
+{
+    const QHash<QChar, QStringList> drawings = {{'a', {"gone"}}, {'b', {"gone", "other"}}, {'c', {"other"}}};
+    return drawings.value(letter);
+}
+
+/** The pattern after the drawing was removed: an a goes, and the record that moves up into its place is not looked at. */
+QString afterRemoval(const QString &pattern)
+{
+    QString left;
+    for (int i = 0; i < pattern.size(); ++i) {
+        if (pattern.at(i) != 'a')
+            left.append('c');
+        else if (++i < pattern.size())
+            left.append(pattern.at(i));
+    }
+    return left;
+}
+
+} // namespace
+
+TEST(DrawingFloorMappingsRemovalTest, everyPatternOfNeighboursIsLeftAsTheWalkLeavesIt)
+{
+    constexpr int kPatterns = 3 * 3 * 3 * 3 * 3 * 3;
+    EXPECT_EQ(afterRemoval("aabab"), "acb");
+    for (int number = 0; number < kPatterns; ++number) {
+        QString pattern;
+        for (int rest = number; pattern.size() < 6; rest /= 3)
+            pattern.append(QChar('a' + rest % 3));
+        ORVCADDrawingFloorMappings mappings;
+        for (int i = 0; i < pattern.size(); ++i)
+            for (const QString &drawing : drawingsOf(pattern.at(i)))
+                mappings.addMapping(1, QStringLiteral("F%1").arg(i), drawing);
+        mappings.removeMapping(name("gone"));
+
+        QStringList left;
+        for (const QJsonValue record : mappings.toJson().toArray()) {
+            QStringList drawings;
+            for (const QJsonValue drawing : record.toObject().value("DrawingNames").toArray())
+                drawings.append(drawing.toString());
+            left.append(drawings.join('+'));
+        }
+        QStringList expected;
+        for (const QChar letter : afterRemoval(pattern))
+            expected.append(drawingsOf(letter).join('+'));
+        EXPECT_EQ(left, expected) << pattern.toStdString();
+    }
 }
 
 TEST_F(ORVCADDrawingFloorMappingsTest, removedRegionLosesItsFirstRecordOnly)

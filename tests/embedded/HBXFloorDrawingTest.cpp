@@ -4,7 +4,6 @@
 #include "platform/dwgx/HBXCADIOperator.h"
 #include "platform/embedded/HBXProject.h"
 #include "platform/geometry/CArc2d.h"
-#include "platform/host/IHBXDrawObjs.h"
 #include "platform/host/IHBXElement.h"
 #include "platform/host/IHBXElementDrawObj.h"
 #include "platform/host/IHBXFloor.h"
@@ -14,6 +13,7 @@
 #include "platform/host/IHBXRegions.h"
 #include "platform/host/IHBXService.h"
 #include "platform/host/IHBXShape.h"
+#include "support/BuildingHost.h"
 
 #include <gtest/gtest.h>
 
@@ -239,31 +239,11 @@ TEST_F(HBXFloorDrawingTest, layerNamesThatTheProjectKeepsAreUsed)
 class SampleFloorDrawingTest : public ::testing::TestWithParam<const char *>
 {
 protected:
-    void SetUp() override
-    {
-        const QString path = QStringLiteral(ORVCAD_TEST_DATA "/buildings/%1.json").arg(GetParam());
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        hbx::embedded::ProjectError error;
-        m_project = HBXProject::fromJson(file.readAll(), path, error);
-        ASSERT_TRUE(m_project) << qPrintable(error.text());
-    }
-    template <typename Visit> void forEachFloor(Visit visit) const
-    {
-        IHBXRegions *regions = m_project->service()->model()->regions();
-        for (int region = 0; region < regions->count(); ++region) {
-            IHBXFloors *floors = regions->at(region)->floors();
-            for (int floor = 0; floor < floors->count(); ++floor)
-                visit(*floors->at(floor));
-        }
-    }
     /** Names of the elements behind the floor's objects that have an outline and no children, in alphabetical order. */
     QStringList namesOfOutlines(const IHBXFloor &floor) const
     {
-        QList<IHBXElementDrawObj *> objects;
-        m_project->service()->model()->drawObjects()->queryDrawObjsOfFloor(objects, floor.id(), -1, -1, true);
         QStringList names;
-        for (IHBXElementDrawObj *object : objects) {
+        for (IHBXElementDrawObj *object : m_building.drawObjsOf(floor)) {
             vks::CRefPtr<vks::CPolygon> outline;
             QString name;
             const bool drawn = object->shape() && object->childCount() == 0 && object->type() != 74;
@@ -274,14 +254,14 @@ protected:
         return names;
     }
 
-    std::unique_ptr<HBXProject> m_project;
+    BuildingHost m_building{GetParam()};
 };
 
 TEST_P(SampleFloorDrawingTest, everyObjectWithAnOutlineIsNamedOnce)
 {
     int named = 0;
-    forEachFloor([&](IHBXFloor &floor) {
-        const auto drawing = hbx::embedded::makeFloorDrawing(m_project->service()->model(), &floor);
+    m_building.forEachFloor([&](IHBXFloor &floor) {
+        const auto drawing = hbx::embedded::makeFloorDrawing(&m_building.model(), &floor);
         QStringList texts;
         for (const DWGXLayer &layer : drawing->layers())
             for (const DWGXText &text : layer.texts)
@@ -304,8 +284,8 @@ TEST_P(SampleFloorDrawingTest, drawingReadsBackFromItsFileAsItWas)
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));
         return file.readAll();
     };
-    forEachFloor([&](IHBXFloor &floor) {
-        const auto drawing = hbx::embedded::makeFloorDrawing(m_project->service()->model(), &floor);
+    m_building.forEachFloor([&](IHBXFloor &floor) {
+        const auto drawing = hbx::embedded::makeFloorDrawing(&m_building.model(), &floor);
         ASSERT_TRUE(files->write(path, drawing.get(), floor.name(), QString()));
         const QByteArray first = content();
         const std::unique_ptr<DWGXModel> back(DWGXModel::createObject());

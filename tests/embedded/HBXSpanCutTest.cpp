@@ -67,6 +67,34 @@ TEST_F(HBXSpanCutTest, freeEndsAreSpansOfTheirOwn)
     EXPECT_EQ(cut(), (QStringList{"2000: 0,0,250,250", "7000: 250,250,250,250", "1000: 250,250,0,0"}));
 }
 
+TEST_F(HBXSpanCutTest, wallCutsTheBeamHoweverFarItReaches)
+{
+    for (const double reach : {200.0, 1500.0, 3999.0, 4001.0, 70000.0, 5e6, 1e11}) {
+        IHBXElement *of = element(1003);
+        of->properties()->setDouble(L"Thickness", 200, true);
+        IHBXElementDrawObj *wall = placed(of);
+        as<IHBXCustomLineSolidShape>(wall)->setLine(
+            curveOf(QStringLiteral("LINESTRING(5000 -%1, 5000 100)").arg(reach, 0, 'f', 0).toLatin1()));
+        EXPECT_EQ(cut(), (QStringList{"5000: 0,0,100,100", "5000: 100,100,0,0"})) << reach;
+        wall->remove();
+        EXPECT_EQ(cut(), QStringList{"10000: 0,0,0,0"}) << reach;
+    }
+}
+
+TEST_F(HBXSpanCutTest, columnThatWasMovedIsFoundWhereItStandsNow)
+{
+    column(4000, 0);
+    ASSERT_EQ(cut().size(), 2);
+    QList<IHBXElementDrawObj *> columns;
+    beam->floor()->drawObjsOfTypes(columns, {25}, true);
+    const Point away(4000, 50000);
+    as<IHBXCustomPointSolidShape>(columns.first())->setInsertPoint(&away);
+    EXPECT_EQ(cut(), QStringList{"10000: 0,0,0,0"});
+    const Point back(6000, 0);
+    as<IHBXCustomPointSolidShape>(columns.first())->setInsertPoint(&back);
+    EXPECT_EQ(cut(), (QStringList{"6000: 0,0,250,250", "4000: 250,250,0,0"}));
+}
+
 TEST_F(HBXSpanCutTest, singleColumnInTheMiddleLeavesTwoFreeSpans)
 {
     column(4000, 0);

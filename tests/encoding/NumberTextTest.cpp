@@ -278,3 +278,53 @@ TEST(NumberTextTest, readerAgreesWithQStringToDoubleInAMillionCases)
     for (int i = 0; i < kRuns; ++i)
         ASSERT_EQ(differenceInReading(cases.text()), "");
 }
+
+TEST(NumberTextTest, integersAreWrittenInPlainDecimal)
+{
+    QString text = QStringLiteral("=");
+    for (const qint64 value :
+         {qint64(0), qint64(-7), std::numeric_limits<qint64>::max(), std::numeric_limits<qint64>::min()})
+        encoding::appendInteger(text, value);
+    EXPECT_EQ(text, "=0-79223372036854775807-9223372036854775808");
+}
+
+TEST(NumberTextTest, integersAreReadAsQStringDoes)
+{
+    for (const char *text : {"0",
+                             "12",
+                             "-12",
+                             "+12",
+                             " 12 ",
+                             "-",
+                             "",
+                             "1.5",
+                             "1e3",
+                             "0x10",
+                             "12a",
+                             "- 1",
+                             "--1",
+                             "007",
+                             "999999999",
+                             "2147483647",
+                             "2147483648",
+                             "-2147483648",
+                             "-2147483649",
+                             "999999999999999999",
+                             "9223372036854775807",
+                             "9223372036854775808",
+                             "-9223372036854775808",
+                             "1,000",
+                             "１２"}) {
+        const QString wide = QString::fromUtf8(text);
+        EXPECT_EQ(encoding::readInt(wide), wide.toInt()) << text;
+        EXPECT_EQ(encoding::readLongLong(wide), wide.toLongLong()) << text;
+    }
+}
+
+TEST(NumberTextTest, integerThatDoesNotFitReadsAsZero)
+{
+    EXPECT_EQ(encoding::readInt(u"2147483648"), 0);
+    EXPECT_EQ(encoding::readLongLong(u"2147483648"), 2147483648);
+    EXPECT_EQ(encoding::readLongLong(u"9223372036854775808"), 0);
+    EXPECT_EQ(encoding::readInt(u"12 mm"), 0);
+}

@@ -190,3 +190,28 @@ TEST(NeedNormalizeStretchInfoTest, failsForNullAndHoldsForALineWithoutDirection)
     EXPECT_FALSE(needNormalizeStretchInfo(nullptr));
     EXPECT_TRUE(needNormalizeStretchInfo(&point));
 }
+
+TEST(BarReachTest, aBarReachesToTheSideOfTheStretchThatItHas)
+{
+    const Line upward({0, 0}, {0, 1000});
+    EXPECT_EQ(barReach(&upward, 800, 0), BarReach::ToLeft);
+    EXPECT_EQ(barReach(&upward, 0, 800), BarReach::ToRight);
+    EXPECT_EQ(barReach(&upward, 0, 0), BarReach::ToRight);
+    EXPECT_EQ(barReach(&upward, 800, 900), BarReach::ToBoth);
+}
+
+TEST(BarReachTest, sidesAreExchangedAlongALineThatIsNormalized)
+{
+    const Line along({0, 0}, {1000, 0});
+    EXPECT_EQ(barReach(&along, 800, 0), BarReach::ToRight);
+    EXPECT_EQ(barReach(&along, 0, 800), BarReach::ToLeft);
+    EXPECT_EQ(barReach(&along, 800, 900), BarReach::ToBoth);
+}
+
+TEST(BarReachTest, halfAMillimetreIsNoStretch)
+{
+    const Line upward({0, 0}, {0, 1000});
+    EXPECT_EQ(barReach(&upward, 0.5, 800), BarReach::ToRight);
+    EXPECT_EQ(barReach(&upward, -0.5, 800), BarReach::ToRight);
+    EXPECT_EQ(barReach(&upward, 0.6, 800), BarReach::ToBoth);
+}

@@ -3,19 +3,12 @@
 #include "slab/GeneratedFloor.h"
 #include "slab/PlainSlabSearch.h"
 #include "slab/SlabSearchFixture.h"
+#include "support/BuildingHost.h"
 
-#include "platform/embedded/HBXProject.h"
 #include "platform/host/IHBXCustomLineSolidShape.h"
-#include "platform/host/IHBXDrawObjs.h"
 #include "platform/host/IHBXElementDrawObj.h"
 #include "platform/host/IHBXFloor.h"
-#include "platform/host/IHBXFloors.h"
 #include "platform/host/IHBXModel.h"
-#include "platform/host/IHBXRegion.h"
-#include "platform/host/IHBXRegions.h"
-#include "platform/host/IHBXService.h"
-
-#include <QFile>
 
 #include <algorithm>
 #include <map>
@@ -23,7 +16,6 @@
 #include <set>
 
 using namespace slabs;
-using hbx::embedded::HBXProject;
 
 namespace {
 
@@ -168,31 +160,6 @@ const std::set<qint64> kWalls = {0, 1, 1003};
 class SampleBuildingSearchTest : public ::testing::TestWithParam<const char *>
 {
 protected:
-    void SetUp() override
-    {
-        QFile file(QStringLiteral(ORVCAD_TEST_DATA "/buildings/%1.json").arg(GetParam()));
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        hbx::embedded::ProjectError error;
-        m_project = HBXProject::fromJson(file.readAll(), file.fileName(), error);
-        ASSERT_TRUE(m_project) << qPrintable(error.text());
-    }
-
-    template <typename Visit> void forEachFloor(Visit visit) const
-    {
-        IHBXRegions *regions = m_project->service()->model()->regions();
-        for (int region = 0; region < regions->count(); ++region) {
-            IHBXFloors *floors = regions->at(region)->floors();
-            for (int floor = 0; floor < floors->count(); ++floor)
-                visit(*floors->at(floor));
-        }
-    }
-    QList<IHBXElementDrawObj *> objectsOf(const IHBXFloor &floor) const
-    {
-        QList<IHBXElementDrawObj *> objects;
-        m_project->service()->model()->drawObjects()->queryDrawObjsOfFloor(objects, floor.id(), -1, -1, true);
-        return objects;
-    }
-
     /** Adds what a draw object is here, moved by up to that many mm. */
     void add(Model &model, IHBXElementDrawObj &object, double jitter)
     {
@@ -210,9 +177,11 @@ protected:
     }
     void fill(Model &model, const IHBXFloor &floor, double jitter)
     {
-        for (IHBXElementDrawObj *object : objectsOf(floor))
+        for (IHBXElementDrawObj *object : m_building.drawObjsOf(floor))
             add(model, *object, jitter);
     }
+
+    BuildingHost m_building{GetParam()};
 
 private:
     shapes::PolygonPtr outline(IHBXElementDrawObj &object, double jitter)
@@ -234,7 +203,6 @@ private:
         support<Support>(model, shape->worldLine(axis, true), shape->width(true), shape->distanceToLeft());
     }
 
-    std::unique_ptr<HBXProject> m_project;
     std::mt19937 m_random;
 };
 
@@ -243,7 +211,7 @@ private:
 TEST_P(SampleBuildingSearchTest, givesTheSameHitsAsLookingAtEveryElement)
 {
     int slabs = 0;
-    forEachFloor([&](const IHBXFloor &floor) {
+    m_building.forEachFloor([&](const IHBXFloor &floor) {
         Model model;
         fill(model, floor, 0);
         Comparison itself(model, kAll);

@@ -16,4 +16,16 @@ void HBXFloor::drawObjsOfTypes(QList<IHBXElementDrawObj *> &out, const QSet<qint
     sortById(out);
 }
 
+QList<IHBXElementDrawObj *> HBXFloor::drawObjsMeeting(const vks::CBox2<double> &box, double tolerance,
+                                                      const QSet<qint64> &types)
+{
+    QList<IHBXElementDrawObj *> found;
+    m_contents.forTypes(types, [&](HBXTypeContents &type) {
+        for (HBXElementDrawObj *object : type.places.meeting(box, tolerance))
+            found.append(object);
+    });
+    sortById(found);
+    return found;
+}
+
 } // namespace hbx::embedded

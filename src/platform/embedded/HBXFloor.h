@@ -28,6 +28,9 @@ public:
 
     const FloorRecord &record() const { return m_record; }
     HBXFloorContents &contents() { return m_contents; }
+    /** Of what drawObjsOfTypes gives, that which comes within a tolerance (mm) of a box. */
+    QList<IHBXElementDrawObj *> drawObjsMeeting(const vks::CBox2<double> &box, double tolerance,
+                                                const QSet<qint64> &types);
 
 private:
     HBXRegion &m_region;

@@ -8,12 +8,15 @@
 namespace hbx::embedded {
 namespace {
 
-constexpr double kCellSide = 1000.0;   // mm: few parts of a building have their corners closer than this
+constexpr double kCellSide = 4000.0;   // mm, of the lowest level: most parts of a building are smaller
 constexpr double kFarthestCell = 1e15; // beyond, all share the outermost cells
 
-std::int64_t lineOf(double coordinate)
+double cellSide(int level) { return std::ldexp(kCellSide, level); }
+
+std::int64_t lineOf(double coordinate, int level)
 {
-    return static_cast<std::int64_t>(std::clamp(std::floor(coordinate / kCellSide), -kFarthestCell, kFarthestCell));
+    return static_cast<std::int64_t>(
+        std::clamp(std::floor(coordinate / cellSide(level)), -kFarthestCell, kFarthestCell));
 }
 
 bool isNear(const vks::CVec2<double> &a, const vks::CVec2<double> &b, double tolerance)
@@ -21,18 +24,26 @@ bool isNear(const vks::CVec2<double> &a, const vks::CVec2<double> &b, double tol
     return std::fabs(a.x - b.x) <= tolerance && std::fabs(a.y - b.y) <= tolerance;
 }
 
+bool isPlace(const vks::CBox2<double> &box) { return box.IsValid() && box.minPt.IsFinite() && box.maxPt.IsFinite(); }
+
+const vks::CBox2<double> &boxOf(const HBXElementDrawObj *object) { return object->placedShape().worldBox(); }
+
 } // namespace
 
 std::size_t HBXPlaceIndex::CellHash::operator()(const Cell &cell) const
 {
     constexpr std::uint64_t kMix = 0x9E3779B97F4A7C15u; // spreads neighbouring columns
-    return static_cast<std::size_t>(static_cast<std::uint64_t>(cell.column) * kMix +
-                                    static_cast<std::uint64_t>(cell.row));
+    const auto line = static_cast<std::uint64_t>(cell.column) * kMix + static_cast<std::uint64_t>(cell.level);
+    return static_cast<std::size_t>(line * kMix + static_cast<std::uint64_t>(cell.row));
 }
 
-HBXPlaceIndex::Cell HBXPlaceIndex::cellOf(const vks::CVec2<double> &corner)
+HBXPlaceIndex::Cell HBXPlaceIndex::cellOf(const Box &box)
 {
-    return {lineOf(corner.x), lineOf(corner.y)};
+    const double size = std::max(box.Width(), box.Height());
+    int level = 0;
+    while (level < kLevelCount - 1 && cellSide(level) < size)
+        ++level;
+    return {level, lineOf(box.minPt.x, level), lineOf(box.minPt.y, level)};
 }
 
 void HBXPlaceIndex::remove(HBXElementDrawObj &object)
@@ -46,8 +57,9 @@ void HBXPlaceIndex::unfile(HBXElementDrawObj *object)
     const auto filed = m_filed.find(object);
     if (filed == m_filed.end())
         return;
-    std::vector<HBXElementDrawObj *> &cell = m_cells[filed->second];
-    cell.erase(std::find(cell.begin(), cell.end(), object));
+    std::vector<Entry> &cell = m_cells[filed->second];
+    cell.erase(std::find_if(cell.begin(), cell.end(), [object](const Entry &entry) { return entry.object == object; }));
+    --m_counts[static_cast<std::size_t>(filed->second.level)];
     m_filed.erase(filed);
 }
 
@@ -55,31 +67,73 @@ void HBXPlaceIndex::fileAll()
 {
     for (HBXElementDrawObj *object : m_unfiled) {
         unfile(object);
-        const vks::CBox2<double> &box = object->placedShape().worldBox();
-        if (!box.IsValid() || !box.minPt.IsFinite())
+        const Box &box = boxOf(object);
+        if (!isPlace(box))
             continue;
-        const Cell cell = cellOf(box.minPt);
-        m_cells[cell].push_back(object);
+        const Cell cell = cellOf(box);
+        m_cells[cell].push_back({object, box});
         m_filed.emplace(object, cell);
+        ++m_counts[static_cast<std::size_t>(cell.level)];
     }
     m_unfiled.clear();
 }
 
-std::vector<HBXElementDrawObj *> HBXPlaceIndex::sameBox(const vks::CBox2<double> &box, double tolerance)
+HBXPlaceIndex::Objects HBXPlaceIndex::meeting(const Box &box, double tolerance)
 {
-    std::vector<HBXElementDrawObj *> found;
-    if (!box.IsValid() || !box.minPt.IsFinite())
+    Objects found;
+    if (!isPlace(box))
         return found;
     fileAll();
-    const Cell first = cellOf(box.minPt - vks::CVec2<double>(tolerance, tolerance));
-    const Cell last = cellOf(box.minPt + vks::CVec2<double>(tolerance, tolerance));
-    for (std::int64_t column = first.column; column <= last.column; ++column)
-        for (std::int64_t row = first.row; row <= last.row; ++row)
-            if (const auto cell = m_cells.find({column, row}); cell != m_cells.end())
-                found.insert(found.end(), cell->second.begin(), cell->second.end());
+    const Box reach = box.Grown(tolerance);
+    for (int level = 0; level < kLevelCount; ++level)
+        addMeeting(level, reach, found);
+    return found;
+}
+
+void HBXPlaceIndex::addMeeting(int level, const Box &reach, Objects &found) const
+{
+    const std::size_t count = m_counts[static_cast<std::size_t>(level)];
+    if (count == 0)
+        return;
+    // Boxes that begin one cell before may reach into the first one.
+    const std::int64_t firstColumn = lineOf(reach.minPt.x, level) - 1;
+    const std::int64_t firstRow = lineOf(reach.minPt.y, level) - 1;
+    const std::int64_t lastColumn = lineOf(reach.maxPt.x, level);
+    const std::int64_t lastRow = lineOf(reach.maxPt.y, level);
+    const double cells =
+        (static_cast<double>(lastColumn - firstColumn) + 1) * (static_cast<double>(lastRow - firstRow) + 1);
+    // The boxes of the highest level may be of any size.
+    if (level == kLevelCount - 1 || cells > static_cast<double>(m_filed.size())) {
+        addMeetingOneByOne(level, reach, found);
+        return;
+    }
+    for (std::int64_t column = firstColumn; column <= lastColumn; ++column)
+        for (std::int64_t row = firstRow; row <= lastRow; ++row)
+            if (const auto cell = m_cells.find({level, column, row}); cell != m_cells.end())
+                addTouching(cell->second, reach, found);
+}
+
+void HBXPlaceIndex::addMeetingOneByOne(int level, const Box &reach, Objects &found) const
+{
+    for (const auto &[cell, entries] : m_cells)
+        if (cell.level == level)
+            addTouching(entries, reach, found);
+}
+
+void HBXPlaceIndex::addTouching(const std::vector<Entry> &cell, const Box &reach, Objects &found)
+{
+    for (const Entry &entry : cell)
+        if (entry.box.Touches(reach, 0.0))
+            found.push_back(entry.object);
+}
+
+HBXPlaceIndex::Objects HBXPlaceIndex::sameBox(const Box &box, double tolerance)
+{
+    if (!isPlace(box))
+        return {};
+    Objects found = meeting({box.minPt, box.minPt}, tolerance);
     const auto isElsewhere = [&](const HBXElementDrawObj *object) {
-        const vks::CBox2<double> &other = object->placedShape().worldBox();
-        return !isNear(other.minPt, box.minPt, tolerance) || !isNear(other.maxPt, box.maxPt, tolerance);
+        return !isNear(boxOf(object).minPt, box.minPt, tolerance) || !isNear(boxOf(object).maxPt, box.maxPt, tolerance);
     };
     found.erase(std::remove_if(found.begin(), found.end(), isElsewhere), found.end());
     return found;

@@ -1,5 +1,7 @@
 #include "platform/embedded/HBXSpanCut.h"
 
+#include "platform/embedded/HBXElementDrawObj.h"
+#include "platform/embedded/HBXFloor.h"
 #include "platform/embedded/HBXSpanKeys.h"
 #include "platform/geometry/CArc2d.h"
 #include "platform/geometry/CurveZone.h"
@@ -57,6 +59,17 @@ vks::CRefPtr<vks::CPolygon> worldPolyOf(IHBXElementDrawObj &object)
     vks::CRefPtr<vks::CPolygon> outline;
     const IHBXShape *shape = object.shape();
     return shape ? shape->worldPoly(outline, IHBXModel::g_bDefaultAutoCalc) : outline;
+}
+
+/** Those that come near enough to a box to be met, and on a floor of another host perhaps more. */
+QList<IHBXElementDrawObj *> objectsNear(IHBXFloor *floor, const vks::CBox2<double> &box, const QSet<qint64> &types)
+{
+    if (auto *own = dynamic_cast<HBXFloor *>(floor))
+        return own->drawObjsMeeting(box, kSeatGap, types);
+    QList<IHBXElementDrawObj *> objects;
+    if (floor)
+        floor->drawObjsOfTypes(objects, types, true);
+    return objects;
 }
 
 /** The axis goes on for the size of the support, so that the middle of one that it ends in is found; an arc once around
@@ -123,20 +136,12 @@ bool HBXSpanCut::isSupport(IHBXElementDrawObj &object) const
 void HBXSpanCut::addSupports()
 {
     IHBXElementDrawObj &own = *m_pieces.front().object;
-    IHBXFloor *floor = own.floor();
-    if (!floor)
-        return;
     QSet<qint64> types(std::begin(kSupportTypes), std::end(kSupportTypes));
     types.insert(own.type());
-    QList<IHBXElementDrawObj *> objects;
-    floor->drawObjsOfTypes(objects, types, true);
-    for (IHBXElementDrawObj *object : qAsConst(objects)) {
-        const auto outline = isSupport(*object) ? worldPolyOf(*object) : nullptr;
-        if (!outline)
-            continue;
-        for (const Piece &piece : m_pieces)
-            addSeats(piece, *outline);
-    }
+    for (const Piece &piece : m_pieces)
+        for (IHBXElementDrawObj *object : objectsNear(own.floor(), piece.axis->Box(), types))
+            if (const auto outline = isSupport(*object) ? worldPolyOf(*object) : nullptr)
+                addSeats(piece, *outline);
 }
 
 void HBXSpanCut::addSeats(const Piece &piece, const vks::CPolygon &support)

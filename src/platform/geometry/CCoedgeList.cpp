@@ -4,12 +4,20 @@
 
 namespace vks {
 
+namespace {
+
+constexpr std::size_t kUsualCurves = 4; // of the rings of a plan
+
+} // namespace
+
 void CCoedgeList::AddCurve(CCurve2d *curve, bool reversed)
 {
     if (!curve)
         return;
     if (reversed)
         curve->Reverse();
+    if (m_curves.empty())
+        m_curves.reserve(kUsualCurves);
     m_curves.emplace_back(curve);
 }
 

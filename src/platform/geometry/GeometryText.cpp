@@ -9,6 +9,7 @@
 #include <cmath>
 #include <cstring>
 #include <optional>
+#include <utility>
 
 namespace vks {
 
@@ -22,6 +23,8 @@ constexpr char kCompoundCurve[] = "COMPOUNDCURVE";
 constexpr char kPolygon[] = "POLYGON";
 constexpr char kCurvePolygon[] = "CURVEPOLYGON";
 constexpr char kEmpty[] = "EMPTY";
+constexpr std::size_t kUsualCorners = 5;    // of the rings of a plan, with the first one at the end again
+constexpr std::size_t kUsualPointText = 20; // characters, the comma with them
 
 void appendNumber(std::string &text, double value)
 {
@@ -31,6 +34,7 @@ void appendNumber(std::string &text, double value)
 
 void appendPoints(std::string &text, const Points &points)
 {
+    text.reserve(text.size() + points.size() * kUsualPointText);
     text += '(';
     for (std::size_t i = 0; i < points.size(); ++i) {
         if (i > 0)
@@ -67,7 +71,7 @@ public:
     std::string finish()
     {
         endRun();
-        return m_memberCount > 1 ? kCompoundCurve + ('(' + m_members + ')') : m_members;
+        return m_memberCount > 1 ? kCompoundCurve + ('(' + m_members + ')') : std::move(m_members);
     }
 
 private:
@@ -79,8 +83,10 @@ private:
     }
     void addLine(const CCurve2d &line)
     {
-        if (m_run.empty())
+        if (m_run.empty()) {
+            m_run.reserve(kUsualCorners);
             m_run.push_back(line.StartPoint());
+        }
         m_run.push_back(line.EndPoint());
     }
     void addArc(const CCurve2d &arc)
@@ -221,6 +227,7 @@ private:
         Points result;
         if (!symbol('('))
             return std::nullopt;
+        result.reserve(kUsualCorners);
         do {
             CVec2<double> point;
             if (!number(point.x) || !number(point.y))
@@ -301,7 +308,10 @@ void GeometryText::appendPolygon(std::string &text, const std::vector<CRefPtr<CL
         curved = curved || hasArc(*loop);
     }
     text += curved ? kCurvePolygon : kPolygon;
-    text += rings.empty() ? std::string(" ") + kEmpty : '(' + rings + ')';
+    if (rings.empty())
+        text.append(" ").append(kEmpty);
+    else
+        text.append("(").append(rings).append(")");
 }
 
 CRefPtr<CGeometry> GeometryText::read(const char *text) { return text ? Reader(text).geometry() : nullptr; }

@@ -2,6 +2,7 @@
 
 #include "embedded/ExchangeDocuments.h"
 #include "platform/embedded/HBXProject.h"
+#include "platform/host/IHBXDrawObjs.h"
 #include "platform/host/IHBXElement.h"
 #include "platform/host/IHBXElementDrawObj.h"
 #include "platform/host/IHBXElements.h"
@@ -36,13 +37,26 @@ public:
     IHBXModel &model() const { return *service()->model(); }
     void makeCurrent() const { m_project->makeCurrent(); }
 
+    template <typename Visit> void forEachFloor(Visit visit) const
+    {
+        for (int region = 0; region < model().regions()->count(); ++region) {
+            IHBXFloors &floors = *model().regions()->at(region)->floors();
+            for (int floor = 0; floor < floors.count(); ++floor)
+                visit(*floors.at(floor));
+        }
+    }
     QSet<qint64> floorIds() const
     {
         QSet<qint64> ids;
-        for (int i = 0; i < model().regions()->count(); ++i)
-            for (int k = 0; k < model().regions()->at(i)->floors()->count(); ++k)
-                ids.insert(model().regions()->at(i)->floors()->at(k)->id());
+        forEachFloor([&](const IHBXFloor &floor) { ids.insert(floor.id()); });
         return ids;
+    }
+    /** All draw objects of a floor, whatever their type. */
+    QList<IHBXElementDrawObj *> drawObjsOf(const IHBXFloor &floor) const
+    {
+        QList<IHBXElementDrawObj *> objects;
+        model().drawObjects()->queryDrawObjsOfFloor(objects, floor.id(), -1, -1, true);
+        return objects;
     }
     QList<IHBXElement *> elements(const QSet<qint64> &types) const
     {

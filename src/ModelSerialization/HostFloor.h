@@ -1,0 +1,9 @@
+#pragma once
+
+class IHBXFloor;
+class IHBXModel;
+class QString;
+
+/** The floor that records name, which stays the host's; null when the region or the floor is unknown, and without a
+ *  model. */
+IHBXFloor *findFloor(IHBXModel *model, const QString &regionName, const QString &floorName);

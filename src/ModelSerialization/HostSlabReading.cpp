@@ -1,0 +1,133 @@
+#include "ModelSerialization/HostSlabReading.h"
+
+#include "ModelSerialization/HostSlabKeys.h"
+#include "ModelSerialization/HostSlabValues.h"
+#include "platform/host/IHBXAxisGrid.h"
+#include "platform/host/IHBXCustomLineSolidShape.h"
+#include "platform/host/IHBXCustomPointSolidShape.h"
+#include "platform/host/IHBXFaceSolidShape.h"
+#include "platform/host/IHBXModel.h"
+
+namespace slabhost {
+namespace {
+
+double thicknessOf(IHBXElementDrawObj &object)
+{
+    const auto *shape = dynamic_cast<const IHBXFaceSolidShape *>(object.shape());
+    return shape ? -shape->height() : 0.0; // plates hang down from their top
+}
+
+void readStrip(IHBXElementDrawObj &object, Local::Support &support)
+{
+    const auto *shape = dynamic_cast<const IHBXCustomLineSolidShape *>(object.shape());
+    if (!shape)
+        return;
+    CurvePtr axis;
+    if (shape->worldLine(axis, IHBXModel::g_bDefaultAutoCalc))
+        support.line = axis->Clone();
+    support.width = shape->width(IHBXModel::g_bDefaultAutoCalc);
+    support.distanceToLeft = shape->distanceToLeft();
+}
+
+// ---- Axis nets
+
+/** The groups of axes of one direction; the second counts where the first is empty. */
+struct AxisGroups
+{
+    int first;
+    int second;
+};
+constexpr AxisGroups kGroupsU{0, 1};
+constexpr AxisGroups kGroupsV{2, 3};
+
+std::vector<HBXAxis> axesOf(const IHBXAxisGrid &grid, AxisGroups groups)
+{
+    std::vector<HBXAxis> axes;
+    grid.axes(axes, groups.first);
+    if (axes.empty())
+        grid.axes(axes, groups.second);
+    return axes;
+}
+
+void readHalf(const std::vector<HBXAxis> &axes, const vks::CCoord3<double> &frame, AxisGridHalf &half)
+{
+    for (const HBXAxis &axis : axes)
+        half.data.emplace_back(axis.label, axis.curves.empty() ? nullptr : curveInPlan(frame, axis.curves.front()));
+    if (!axes.empty()) {
+        half.start = axes.front().label;
+        half.end = axes.back().label;
+    }
+}
+
+} // namespace
+
+void read(IHBXElementDrawObj &object, Local::Raft &raft)
+{
+    const HostSlabValues values(object);
+    raft.surface = outlineOf<IHBXFaceSolidShape>(object);
+    raft.thickness = thicknessOf(object);
+    raft.topElev = values.metres(key::topElev);
+    raft.bottomElev = values.metres(key::bottomElev);
+    raft.stateDescript = values.text(key::remark);
+}
+
+void read(IHBXElementDrawObj &object, Local::Board &board)
+{
+    const HostSlabValues values(object);
+    board.surface = outlineOf<IHBXFaceSolidShape>(object);
+    board.thickness = thicknessOf(object);
+    board.elev = values.metres(key::topElev);
+    board.stateDescript = values.text(key::remark);
+}
+
+void read(IHBXElementDrawObj &object, Local::BoardHole &hole)
+{
+    const HostSlabValues values(object);
+    hole.surface = outlineOf<IHBXCustomPointSolidShape, IHBXFaceSolidShape>(object);
+    hole.longSpanReinforceBar = values.text(key::longSpanReinforcedBar);
+    hole.shortSpanReinforceBar = values.text(key::shortSpanReinforcedBar);
+    hole.obliqueReinforceBar = values.text(key::obliqueReinforcedBar);
+    hole.stateDescript = values.text(key::remark);
+}
+
+void read(IHBXElementDrawObj &object, Local::Column &column)
+{
+    column.surface = outlineOf<IHBXFaceSolidShape, IHBXCustomPointSolidShape>(object);
+    column.topElev = HostSlabValues(object).number(key::topElev);
+}
+
+void read(IHBXElementDrawObj &object, Local::Beam &beam)
+{
+    const HostSlabValues values(object);
+    readStrip(object, beam);
+    beam.startTopElev = values.number(key::startPtTopElev);
+    beam.endTopElev = values.number(key::endPtTopElev);
+}
+
+void read(IHBXElementDrawObj &object, Local::Wall &wall)
+{
+    const HostSlabValues values(object);
+    readStrip(object, wall);
+    wall.wallStartTopElev = values.number(key::startPtTopElev);
+    wall.wallEndTopElev = values.number(key::endPtTopElev);
+}
+
+void read(IHBXElementDrawObj &object, Local::AxisNet &net)
+{
+    net.stateDescript = HostSlabValues(object).text(key::remark);
+    const std::unique_ptr<IHBXAxisGrid> grid(IHBXAxisGrid::createFromObj(&object));
+    const IHBXShape *shape = object.shape();
+    if (!grid || !shape)
+        return;
+    grid->prepare();
+    vks::CCoord3<double> frame;
+    shape->coordinates(frame, IHBXModel::g_bDefaultAutoCalc);
+    if (const PolygonPtr outline = sharedOutline(shape))
+        net.surface = outline->Clone();
+    net.axisGrid = std::make_shared<AxisGrid_Sample>();
+    net.axisGrid->gridV.direction = 1; // that of U stays 0
+    readHalf(axesOf(*grid, kGroupsU), frame, net.axisGrid->gridU);
+    readHalf(axesOf(*grid, kGroupsV), frame, net.axisGrid->gridV);
+}
+
+} // namespace slabhost

@@ -1,0 +1,80 @@
+#include "ModelSerialization/HostSlabValues.h"
+
+#include "ModelSerialization/SlabHostWriting.h"
+#include "platform/geometry/KernelTolerance.h"
+#include "platform/geometry/OrientProjectCurve2d.h"
+#include "platform/host/IHBXLineShape2D.h"
+#include "platform/host/IHBXModel.h"
+#include "platform/host/IHBXProperties.h"
+
+#include <cmath>
+
+namespace slabhost {
+namespace {
+
+constexpr double kMillimetresInMetre = 1000.0;
+
+} // namespace
+
+HostSlabValues::HostSlabValues(IHBXElementDrawObj &object) : m_properties(object.properties()) {}
+
+int HostSlabValues::integer(const QString &key) const { return m_properties ? m_properties->asInt(key) : 0; }
+
+double HostSlabValues::number(const QString &key) const { return m_properties ? m_properties->asDouble(key) : 0.0; }
+
+double HostSlabValues::metres(const QString &key) const { return number(key) / kMillimetresInMetre; }
+
+QString HostSlabValues::text(const QString &key) const
+{
+    QString value;
+    if (m_properties)
+        m_properties->asString(value, key);
+    return value;
+}
+
+qint32 HostSlabValues::hook(const QString &key) const { return truncated(text(key).toDouble()); }
+
+CurvePtr HostSlabValues::curve(const QString &key) const
+{
+    CurvePtr value;
+    if (m_properties)
+        m_properties->asCurve(value, key);
+    return value;
+}
+
+HostSlabLinks::HostSlabLinks(const QString &reinforcementInfo) : m_items(reinforcementInfo.split(QLatin1Char(';'))) {}
+
+QStringList HostSlabLinks::fields(int item) const { return m_items.at(item).split(QLatin1Char(',')); }
+
+qint64 HostSlabLinks::id(int item) const { return fields(item).constFirst().toLongLong(); }
+
+PolygonPtr sharedOutline(const IHBXShape *shape)
+{
+    PolygonPtr outline;
+    if (shape)
+        shape->worldPoly(outline, IHBXModel::g_bDefaultAutoCalc);
+    return outline;
+}
+
+CurvePtr curveInPlan(const vks::CCoord3<double> &frame, const vks::CCurve2d *curve)
+{
+    if (!curve)
+        return nullptr;
+    if (frame.IsAbsent())
+        return curve->Clone();
+    const bool isUpright = !(std::fabs(frame.Normal().z) > vks::g_DistEpsilon);
+    const vks::CCoord3<double> plan;
+    return isUpright ? nullptr : vks::OrientProjectCurve2d(frame, curve, plan, plan.Normal(), false);
+}
+
+CurvePtr planCurve(IHBXElementDrawObj &object)
+{
+    const auto *shape = dynamic_cast<const IHBXLineShape2D *>(object.shape());
+    if (!shape)
+        return nullptr;
+    vks::CCoord3<double> frame;
+    CurvePtr curve;
+    return curveInPlan(shape->coordinates(frame, IHBXModel::g_bDefaultAutoCalc), shape->curve(curve));
+}
+
+} // namespace slabhost

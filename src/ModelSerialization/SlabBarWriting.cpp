@@ -1,0 +1,178 @@
+#include "ModelSerialization/SlabBarWriting.h"
+
+#include "ModelSerialization/SlabHostKeys.h"
+#include "ModelSerialization/SlabsOfBars.h"
+#include "platform/host/HBXModelException.h"
+#include "platform/host/IHBXCurState.h"
+#include "platform/host/IHBXDrawObjStatus.h"
+#include "platform/host/IHBXFaceShape2D.h"
+#include "platform/host/IHBXLineShape2D.h"
+#include "platform/host/IHBXProperties.h"
+#include "platform/services/ValidateBarInfo.h"
+
+#include <algorithm>
+
+namespace slabhost {
+namespace {
+
+using Slabs = std::vector<IHBXElementDrawObj *>;
+using Group = std::vector<SlabBarRecord>;
+
+constexpr bool kBarFlag = true; // of every write to a bar
+constexpr int kAnyLayerKind = -1;
+constexpr int kNoSlab = -1;
+constexpr int kStraddling = 1; // "Type"
+
+QString textIn(IHBXElementDrawObj &object, const std::wstring &property)
+{
+    QString text;
+    const IHBXProperties *properties = object.properties();
+    return properties ? properties->asString(text, property) : text;
+}
+
+/** Takes the links to a bar out of its slabs again, unless the bar stays. */
+class SlabLinkGuard
+{
+public:
+    explicit SlabLinkGuard(const Slabs &slabs)
+    {
+        for (IHBXElementDrawObj *slab : slabs)
+            m_links.emplace_back(slab, textIn(*slab, property::reinforcementInfo));
+    }
+    ~SlabLinkGuard()
+    {
+        for (const auto &[slab, links] : m_links)
+            restore(*slab, links);
+    }
+    SlabLinkGuard(const SlabLinkGuard &) = delete;
+    SlabLinkGuard &operator=(const SlabLinkGuard &) = delete;
+
+    void release() { m_links.clear(); }
+
+private:
+    static void restore(IHBXElementDrawObj &slab, const QString &links)
+    {
+        try {
+            if (textIn(slab, property::reinforcementInfo) != links)
+                slab.properties()->setString(property::reinforcementInfo, links, kBarFlag);
+        } catch (const HBXModelException &) {
+            // The host does not take back what it gave: the others are restored all the same.
+        }
+    }
+
+    std::vector<std::pair<IHBXElementDrawObj *, QString>> m_links; // what the slabs had before
+};
+
+ElementRule ruleOf(const SlabBarKind &kind, const SlabBarRecord &record)
+{
+    const QString barInfo = record.barInfo;
+    return {kind.type, kind.subType, record.name,
+            [barInfo](const IHBXProperties &properties) {
+                QString held;
+                return properties.asString(held, property::barInfo) == barInfo;
+            },
+            [barInfo, straddles = kind.straddles](IHBXElement &element) {
+                element.properties()->setString(property::barInfo, barInfo, kBarFlag);
+                if (straddles)
+                    element.properties()->setInt(property::type, kStraddling, kBarFlag);
+            }};
+}
+
+void writeProperties(const SlabBarKind &kind, const SlabBarRecord &record, IHBXElementDrawObj &bar)
+{
+    if (IHBXProperties *properties = bar.properties())
+        for (const SlabBarProperty &property : kind.properties)
+            property.write(record, *properties);
+}
+
+/** Names the first of its slabs at a bar: name[id]. */
+void writeCatalog(IHBXElementDrawObj &bar, const Slabs &slabs)
+{
+    IHBXProperties *properties = bar.properties();
+    if (slabs.empty() || !properties || !properties->hasProperty(property::catalog))
+        return;
+    QString name;
+    if (const IHBXElement *element = slabs.front()->element())
+        element->name(name);
+    const QString id = QString::number(slabs.front()->id());
+    properties->setString(property::catalog, QStringLiteral("%1[%2]").arg(name, id), kBarFlag);
+}
+
+IHBXElementDrawObj *writeAreaBar(const SlabBarTarget &target, const SlabBarKind &kind, IHBXElement &element,
+                                 const SlabBarRecord &record)
+{
+    DrawObjGuard made(createDrawObj(target.floor, element));
+    IHBXElementDrawObj *bar = made.get();
+    if (!bar)
+        return nullptr;
+    writeProperties(kind, record, *bar);
+    if (auto *shape = dynamic_cast<IHBXFaceShape2D *>(bar->shape()))
+        shape->setPolygon(record.area);
+    target.floor.model.drawObjects()->addDrawObj(bar);
+    const Slabs slabs = findBoardEdosByPoly(target.slabs, record.area);
+    SlabLinkGuard links(slabs);
+    syncReinfInfo(&target.service, bar, slabs);
+    writeCatalog(*bar, slabs);
+    if (!passesCheck(target.floor, *bar))
+        return nullptr;
+    links.release();
+    return made.release();
+}
+
+/** The slab that a line bar now depends on, as the host holds it. */
+int dependOnSlab(const SlabBarTarget &target, const SlabBarRecord &record, IHBXElementDrawObj &bar)
+{
+    IHBXProperties *properties = bar.properties();
+    const IHBXElementDrawObj *slab = findBoardByCurve(target.slabs, record.curve);
+    if (properties)
+        properties->setInt(property::dependSlabId, slab ? static_cast<int>(slab->id()) : kNoSlab, kBarFlag);
+    target.floor.model.drawObjects()->addDrawObj(&bar);
+    return properties ? properties->asInt(property::dependSlabId) : kNoSlab;
+}
+
+IHBXElementDrawObj *writeLineBar(const SlabBarTarget &target, const SlabBarKind &kind, IHBXElement &element,
+                                 const SlabBarRecord &record)
+{
+    DrawObjGuard made(createDrawObj(target.floor, element));
+    IHBXElementDrawObj *bar = made.get();
+    if (!bar)
+        return nullptr;
+    if (IHBXCurState *state = target.floor.state)
+        bar->status()->setLayer(state->currentLayer(kAnyLayerKind));
+    writeProperties(kind, record, *bar);
+    if (auto *shape = dynamic_cast<IHBXLineShape2D *>(bar->shape()))
+        shape->setLine(record.line);
+    const int slabId = dependOnSlab(target, record, *bar);
+    // Meant: the bars of rafts, too, are compared with the negative bars of slabs.
+    const bool stays = checkBFJOverlap(&target.service, slabId, record.line, static_cast<int>(type::negativeBar),
+                                       static_cast<int>(bar->id()));
+    return stays ? made.release() : nullptr;
+}
+
+using WriteBar = IHBXElementDrawObj *(*)(const SlabBarTarget &, const SlabBarKind &, IHBXElement &,
+                                         const SlabBarRecord &);
+
+void writeBars(const SlabBarTarget &target, const SlabBarKind &kind, std::vector<SlabBarRecord> records, WriteBar write)
+{
+    const auto isInvalid = [](const Group &group) { return !ValidateBarInfo(kSlabBarInfo, group.front().barInfo); };
+    auto groups =
+        grouped(std::move(records), [](const SlabBarRecord &record) { return std::pair(record.name, record.barInfo); });
+    groups.erase(std::remove_if(groups.begin(), groups.end(), isInvalid), groups.end());
+    writeGroups(
+        target.floor, groups, [&kind](const Group &group) { return ruleOf(kind, group.front()); },
+        [&](IHBXElement &element, const SlabBarRecord &record) { return write(target, kind, element, record); });
+}
+
+} // namespace
+
+void writeAreaBars(const SlabBarTarget &target, const SlabBarKind &kind, std::vector<SlabBarRecord> records)
+{
+    writeBars(target, kind, std::move(records), writeAreaBar);
+}
+
+void writeLineBars(const SlabBarTarget &target, const SlabBarKind &kind, std::vector<SlabBarRecord> records)
+{
+    writeBars(target, kind, std::move(records), writeLineBar);
+}
+
+} // namespace slabhost

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "cli/Command.h"
+#include "platform/embedded/HBXProject.h"
+
+#include <QJsonArray>
+#include <QStringList>
+
+#include <vector>
+
+class IHBXModel;
+
+namespace orvcad {
+
+/** A member of a reply that was not written, or not whole. */
+struct LeftOut
+{
+    QString place; ///< in the document: Beam[3].EDOInfo[0]
+    QString name;  ///< of the element
+    QString reason;
+
+    QString text() const;
+    QJsonObject toJson() const;
+};
+
+QJsonArray toJson(const std::vector<LeftOut> &leftOut);
+
+/** Lines of a summary, each on a line of its own behind a line break: the first twenty, and how many more there are. */
+QString cutLines(const QStringList &lines);
+/** The same for members that were left out. */
+QString leftOutLines(const std::vector<LeftOut> &leftOut);
+
+/** What the host refused to write since its journal had so many entries, one reason each. */
+QStringList refusedSince(const hbx::embedded::HBXProject &project, std::size_t entries);
+
+/** Counts the objects made since a model had so many, which are the same as another one. */
+int doubledSince(IHBXModel &model, int drawObjsBefore);
+/** The line that tells of them; empty for none. */
+QString doubledLine(int doubled);
+
+/** Ends a command that wrote a reply into a project: saves it, but for a reply that left something out under --strict, and
+ *  completes the summary by "project" and "saved". */
+Summary saveApplied(hbx::embedded::HBXProject &project, bool isComplete, bool isStrict, const QString &text,
+                    QJsonObject json);
+
+} // namespace orvcad

@@ -1,0 +1,56 @@
+#include "cli/BeamComparison.h"
+
+#include "beam/BeamKeys.h"
+#include "cli/BeamReplyCheck.h"
+#include "cli/Beams.h"
+#include "cli/Files.h"
+#include "cli/ProjectInfo.h"
+
+#include <QJsonArray>
+
+#include <algorithm>
+
+using hbx::embedded::HBXProject;
+
+namespace orvcad {
+
+QString BeamComparison::text() const
+{
+    const QStringList lines{QStringLiteral("Compared with the original: %1 of beams, %2")
+                                .arg(counted(compared, QStringLiteral("segment")),
+                                     isSame() ? QStringLiteral("the payload written again is the same")
+                                              : QStringLiteral("the payload written again DIFFERS"))};
+    return (lines + deviations).join(QStringLiteral("\n  "));
+}
+
+QJsonObject BeamComparison::toJson() const
+{
+    return {{"compared", compared}, {"deviations", QJsonArray::fromStringList(deviations)}};
+}
+
+BeamComparison compareBeams(HBXProject &expected, HBXProject &found, const QString &floor)
+{
+    BeamCounts counts;
+    BeamCounts again;
+    const QJsonObject before = beamDocument(expected, pickFloors(expected, QString(), floor), counts);
+    const QJsonObject after = beamDocument(found, pickFloors(found, QString(), floor), again);
+    BeamComparison comparison;
+    comparison.compared = counts.segments;
+    for (const BeamArray &array : beamArrays()) {
+        const QJsonArray wanted = before.value(array.key).toArray();
+        const QJsonArray there = after.value(array.key).toArray();
+        for (int i = 0; i < std::max(wanted.size(), there.size()); ++i)
+            if (wanted.at(i) != there.at(i))
+                comparison.deviations.append(QStringLiteral("%1[%2] (%3)")
+                                                 .arg(array.key)
+                                                 .arg(i)
+                                                 .arg((i < wanted.size() ? wanted : there)
+                                                          .at(i)
+                                                          .toObject()[beam::key::elementInfo]
+                                                          .toObject()[beam::key::name]
+                                                          .toString()));
+    }
+    return comparison;
+}
+
+} // namespace orvcad

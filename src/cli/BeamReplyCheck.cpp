@@ -1,0 +1,213 @@
+#include "cli/BeamReplyCheck.h"
+
+#include "ModelSerialization/BeamSubTypes.h"
+#include "beam/BeamKeys.h"
+#include "cli/ExpectedValue.h"
+#include "cli/MemberKinds.h"
+#include "encoding/GeometryTextReader.h"
+#include "platform/geometry/KernelTolerance.h"
+#include "platform/host/IHBXFloor.h"
+#include "platform/host/IHBXFloors.h"
+#include "platform/host/IHBXModel.h"
+#include "platform/host/IHBXRegion.h"
+#include "platform/host/IHBXRegions.h"
+
+#include <QJsonArray>
+
+#include <algorithm>
+
+using namespace beam;
+
+namespace orvcad {
+
+namespace {
+
+/** Sizes travel with six significant digits: the host would get 0 for a larger one, mm. */
+constexpr int kSizeLimit = 1000000;
+
+const QStringList kElementWhole{key::elementType, key::elementSubType, key::type};
+const QStringList kElementRequired{key::name, key::elementType, key::floorName, key::regionName};
+const QStringList kSegmentWhole{key::index};
+const QStringList kSegmentRequired{key::index, key::wordLine, key::lineWidth};
+const QStringList kSpanWhole{key::spanIndex, key::hoopBarLimbCount};
+
+QString whyNotSize(const QJsonObject &element, QLatin1String key)
+{
+    const QJsonValue size = element.value(key);
+    if (fits(size, Expected::Integer) && std::abs(size.toInt()) < kSizeLimit)
+        return {};
+    return QStringLiteral("%1 is not a whole number of millimetres").arg(key);
+}
+
+QString whyNotSection(const QJsonObject &element)
+{
+    const QString outline = element.value(key::sectionPoly).toString();
+    if (outline.isEmpty()) {
+        QString width = whyNotSize(element, key::sectionWidth);
+        return width.isEmpty() ? whyNotSize(element, key::sectionHeight) : width;
+    }
+    const int subType = element.value(key::elementSubType).toInt();
+    if (!mayHaveOutline(subTypeMade(element.value(key::elementType).toInt(), subType)))
+        return QStringLiteral("a beam of sub-type %1 has no outline, and SectionPoly is one").arg(subType);
+    GeometryTextReader::Polygon polygon;
+    return GeometryTextReader::reconstructPoly(outline, polygon) ? QString()
+                                                                 : QStringLiteral("SectionPoly is no outline");
+}
+
+QString whyNotType(qint64 elementType, const BeamArray &array)
+{
+    if (elementType == array.elementType)
+        return {};
+    for (const BeamArray &other : beamArrays())
+        if (other.elementType == elementType)
+            return QStringLiteral("a beam of type %1 belongs into \"%2\"").arg(elementType).arg(other.key);
+    return QStringLiteral("type %1 is no beam (15, 17, 47)").arg(elementType);
+}
+
+/** An empty text is a beam without an axis, which a building may have. */
+QString whyNotAxis(const QString &text)
+{
+    GeometryTextReader::Curve axis;
+    if (text.isEmpty())
+        return {};
+    if (!GeometryTextReader::reconstructCurve(text, axis))
+        return QStringLiteral("WordLine is no curve");
+    return axis->Length() > vks::g_DistEpsilon ? QString() : QStringLiteral("WordLine has no length");
+}
+
+QString whyNotSegment(const QJsonValue &value)
+{
+    const QJsonObject segment = value.toObject();
+    if (!value.isObject())
+        return QStringLiteral("is no object");
+    static const QJsonObject pattern = BeamSegmentInfo().toJsonObj();
+    QString wrong = wrongKey(segment, pattern, kSegmentWhole, kSegmentRequired);
+    return wrong.isEmpty() ? whyNotAxis(segment.value(key::wordLine).toString()) : wrong;
+}
+
+QString whyNotSpan(const QJsonValue &value)
+{
+    static const QJsonObject pattern = BeamSpanInfo().toJsonObj();
+    return value.isObject() ? wrongKey(value.toObject(), pattern, kSpanWhole, {}) : QStringLiteral("is no object");
+}
+
+/** The first reason that an entry of an array gives, with its place. */
+template <typename Check> QString whyNotEntries(const QJsonObject &chain, QLatin1String key, Check check)
+{
+    if (chain.contains(key) && !chain.value(key).isArray())
+        return QStringLiteral("%1 is no array").arg(key);
+    const QJsonArray entries = chain.value(key).toArray();
+    for (int i = 0; i < entries.size(); ++i) {
+        const QString reason = check(entries.at(i));
+        if (!reason.isEmpty())
+            return QStringLiteral("%1[%2]: %3").arg(key).arg(i).arg(reason);
+    }
+    return {};
+}
+
+QString whyNotChain(const QJsonValue &value)
+{
+    const QJsonObject chain = value.toObject();
+    if (!value.isObject())
+        return QStringLiteral("is no object");
+    QString reason = whyNotEntries(chain, key::segmentInfos, whyNotSegment);
+    if (!reason.isEmpty())
+        return reason;
+    if (chain.value(key::segmentInfos).toArray().isEmpty())
+        return QStringLiteral("has no segment");
+    return whyNotEntries(chain, key::spanInfos, whyNotSpan);
+}
+
+} // namespace
+
+const std::vector<BeamArray> &beamArrays()
+{
+    static const std::vector<BeamArray> arrays{
+        {type::beam, key::beams}, {type::linkBeam, key::linkBeams}, {type::foundationBeam, key::foundationBeams}};
+    return arrays;
+}
+
+IHBXFloor *floorOfNames(IHBXModel &model, const QString &regionName, const QString &floorName, QString &reason)
+{
+    IHBXRegion *region = model.regions()->find(regionName);
+    IHBXFloor *floor = region ? region->floors()->find(floorName) : nullptr;
+    if (!region)
+        reason = QStringLiteral("unknown region \"%1\"").arg(regionName);
+    else if (!floor)
+        reason = QStringLiteral("unknown floor \"%1\" in region \"%2\"").arg(floorName, regionName);
+    return floor;
+}
+
+BeamReplyCheck::BeamReplyCheck(IHBXModel &model, const QJsonObject &reply, const QString &file) : m_model(model)
+{
+    const auto isThere = [&](const BeamArray &array) { return reply.contains(array.key); };
+    if (std::none_of(beamArrays().begin(), beamArrays().end(), isThere))
+        throw CommandFailure(
+            kBadInput, file, {},
+            QStringLiteral("has none of the keys \"Beam\", \"LinkBeam\" and \"FDBeam\": no reply of beams"));
+    for (const BeamArray &array : beamArrays()) {
+        const QJsonValue members = reply.value(array.key);
+        if (isThere(array) && !members.isArray())
+            throw CommandFailure(kBadInput, file, array.key, QStringLiteral("is no array"));
+        int index = 0;
+        for (const QJsonValue member : members.toArray())
+            look(QStringLiteral("%1[%2]").arg(array.key).arg(index++), member, array);
+    }
+}
+
+void BeamReplyCheck::look(const QString &place, const QJsonValue &value, const BeamArray &array)
+{
+    ++m_memberCount;
+    QJsonObject object = value.toObject();
+    const QString name = object.value(key::elementInfo).toObject().value(key::name).toString();
+    const QString reason = whyNot(value, array);
+    if (!reason.isEmpty()) {
+        m_leftOut.push_back({place, name, reason});
+        return;
+    }
+    Member member{place, std::make_shared<BeamModelDataInfo>(), {}};
+    const QJsonArray chains = object.value(key::edoInfos).toArray();
+    QJsonArray kept;
+    for (int i = 0; i < chains.size(); ++i) {
+        const QString chainReason = whyNotChain(chains.at(i));
+        if (!chainReason.isEmpty()) {
+            m_leftOut.push_back({QStringLiteral("%1.%2[%3]").arg(place, key::edoInfos).arg(i), name, chainReason});
+            continue;
+        }
+        kept.append(chains.at(i));
+        member.chains.push_back(i);
+    }
+    object.insert(key::edoInfos, kept);
+    member.beam->fromJson(object);
+    m_sound.push_back(member);
+}
+
+QString BeamReplyCheck::whyNot(const QJsonValue &value, const BeamArray &array) const
+{
+    const QJsonObject member = value.toObject();
+    if (!value.isObject())
+        return QStringLiteral("is no object");
+    if (!member.value(key::elementInfo).isObject())
+        return QStringLiteral("%1 is no object").arg(key::elementInfo);
+    if (member.contains(key::edoInfos) && !member.value(key::edoInfos).isArray())
+        return QStringLiteral("%1 is no array").arg(key::edoInfos);
+    return whyNotElement(member.value(key::elementInfo).toObject(), array);
+}
+
+QString BeamReplyCheck::whyNotElement(const QJsonObject &element, const BeamArray &array) const
+{
+    const QJsonObject pattern = BeamModelDataInfo::makeElementInfo(array.elementType)->toJsonObj();
+    QString wrong = wrongKey(element, pattern, kElementWhole, kElementRequired);
+    if (!wrong.isEmpty())
+        return wrong;
+    QString wrongType = whyNotType(element.value(key::elementType).toInt(), array);
+    if (!wrongType.isEmpty())
+        return wrongType;
+    if (element.value(key::name).toString().isEmpty())
+        return QStringLiteral("has no name");
+    QString reason;
+    floorOfNames(m_model, element.value(key::regionName).toString(), element.value(key::floorName).toString(), reason);
+    return reason.isEmpty() ? whyNotSection(element) : reason;
+}
+
+} // namespace orvcad

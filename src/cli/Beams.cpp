@@ -1,0 +1,289 @@
+#include "cli/Beams.h"
+
+#include "ModelSerialization/ORVCADBeamHBXModelConvertService.h"
+#include "ModelSerialization/ORVCADBeamLocalModel2HBXService.h"
+#include "beam/ORVCADBeamCollectDataModel.h"
+#include "cli/BeamReplyCheck.h"
+#include "cli/ProjectInfo.h"
+#include "platform/embedded/HBXModelStore.h"
+#include "platform/host/HBXBatch.h"
+#include "platform/host/IHBXDrawObjs.h"
+#include "platform/host/IHBXElement.h"
+#include "platform/host/IHBXElementDrawObj.h"
+#include "platform/host/IHBXElements.h"
+#include "platform/host/IHBXFloor.h"
+#include "platform/host/IHBXModel.h"
+#include "platform/host/IHBXService.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <algorithm>
+#include <map>
+
+using hbx::embedded::HBXProject;
+
+namespace orvcad {
+
+namespace {
+
+using Service = ORVCADBeamLocalModel2HBXService;
+
+const QSet<qint64> &beamTypes()
+{
+    static const QSet<qint64> types = [] {
+        QSet<qint64> all;
+        for (const BeamArray &array : beamArrays())
+            all.insert(array.elementType);
+        return all;
+    }();
+    return types;
+}
+
+/** What orders the chains of an element: their axes, and where these are the same, all the rest. */
+QByteArray orderOf(const BeamEdoInfo &chain)
+{
+    QString axes;
+    for (const auto &segment : chain.segments)
+        axes += segment->WordLine + QLatin1Char('\n');
+    return axes.toUtf8() + QJsonDocument(chain.toJsonObj()).toJson(QJsonDocument::Compact);
+}
+
+void sortChains(BeamModelDataInfo &beam)
+{
+    std::multimap<QByteArray, std::shared_ptr<BeamEdoInfo>> sorted;
+    for (const auto &chain : beam.edoInfos)
+        sorted.emplace(orderOf(*chain), chain);
+    beam.edoInfos.clear();
+    for (const auto &entry : sorted)
+        beam.edoInfos.push_back(entry.second);
+}
+
+void count(const BeamModelDataInfo &beam, BeamCounts &counts)
+{
+    ++counts.elements;
+    counts.chains += static_cast<int>(beam.edoInfos.size());
+    for (const auto &chain : beam.edoInfos) {
+        counts.segments += static_cast<int>(chain->segments.size());
+        counts.spans += static_cast<int>(chain->spans.size());
+    }
+}
+
+std::vector<QJsonObject> spanObjects(const BeamEdoInfo &chain)
+{
+    std::vector<QJsonObject> spans;
+    for (const auto &span : chain.spans)
+        spans.push_back(span->toJsonObj());
+    return spans;
+}
+
+/** What stopped a chain, by the numbers of the service. */
+QString stopReason(int result)
+{
+    switch (result) {
+    case Service::kSegmentsNotConsecutive:
+        return QStringLiteral("the numbers of its segments do not follow one another");
+    case Service::kNoDrawObj:
+        return QStringLiteral("the host made no draw object");
+    case Service::kNoLineShape:
+        return QStringLiteral("the draw object is no line");
+    case Service::kSizesNotWritten:
+        return QStringLiteral("the host took neither width nor offset");
+    case Service::kElevationsNotWritten:
+        return QStringLiteral("the host took neither elevation");
+    default:
+        return QStringLiteral("result %1").arg(result);
+    }
+}
+
+/** Writes beams one by one and keeps account. */
+class BeamWriter
+{
+public:
+    explicit BeamWriter(HBXProject &project, BeamOutcome &outcome)
+        : m_project(project), m_model(*project.service()->model()), m_service(project.service()), m_outcome(outcome)
+    {}
+
+    void write(const BeamReplyCheck::Member &member)
+    {
+        const std::size_t journalBefore = m_project.journal().entries().size();
+        BaseBeamEntInfo &record = *member.beam->elementInfo;
+        BeamOutcome::Beam beam;
+        beam.place = member.place;
+        beam.name = record.Name;
+        beam.type = record.ElementType;
+        beam.floor = record.FloorName;
+        const int elementsBefore = m_model.elements()->count();
+        IHBXElement *element = nullptr;
+        const bool isWritten = m_service.localModel2BeamEnt(&record, element);
+        beam.isReused = m_model.elements()->count() == elementsBefore;
+        if (isWritten)
+            for (std::size_t i = 0; i < member.chains.size(); ++i)
+                writeChain(*member.beam->edoInfos[i], member.chains[i], *element, beam);
+        else
+            leaveOut(beam.place, beam.name,
+                     element ? QStringLiteral("the host did not take the element whole; its chains were not made")
+                             : QStringLiteral("the host made no element"));
+        for (const QString &reason : refusedSince(m_project, journalBefore))
+            leaveOut(beam.place, beam.name, QStringLiteral("a value was refused: ") + reason);
+        if (element)
+            m_outcome.beams.push_back(beam);
+    }
+
+private:
+    void writeChain(BeamEdoInfo &chain, int position, IHBXElement &element, BeamOutcome::Beam &beam)
+    {
+        const int before = m_model.drawObjects()->count();
+        const int result = m_service.localModel2BeamEdo(&chain, &element);
+        const int made = m_model.drawObjects()->count() - before;
+        beam.segments += made;
+        if (result != Service::kDone) {
+            ++beam.stopped;
+            leaveOut(QStringLiteral("%1.EDOInfo[%2]").arg(beam.place).arg(position), beam.name,
+                     QStringLiteral("stopped behind %1 of %2, which stay unlinked: %3")
+                         .arg(made)
+                         .arg(counted(static_cast<int>(chain.segments.size()), QStringLiteral("segment")),
+                              stopReason(result)));
+            return;
+        }
+        ++beam.chains;
+        // Ids only ever grow: the first object made is the head.
+        m_project.store().setSpans(m_model.drawObjects()->at(before), spanObjects(chain));
+        beam.spans += static_cast<int>(chain.spans.size());
+    }
+    void leaveOut(const QString &place, const QString &name, const QString &reason)
+    {
+        m_outcome.leftOut.push_back({place, name, reason});
+    }
+
+    HBXProject &m_project;
+    IHBXModel &m_model;
+    Service m_service;
+    BeamOutcome &m_outcome;
+};
+
+} // namespace
+
+QString BeamCounts::text() const
+{
+    return QStringLiteral("%1, %2 of %3, %4")
+        .arg(counted(elements, QStringLiteral("element")), counted(chains, QStringLiteral("chain")),
+             counted(segments, QStringLiteral("segment")), counted(spans, QStringLiteral("span")));
+}
+
+QJsonObject BeamCounts::toJson() const
+{
+    return {{"elements", elements}, {"chains", chains}, {"segments", segments}, {"spans", spans}};
+}
+
+QString BeamOutcome::Beam::text() const
+{
+    const QString stops =
+        stopped ? QStringLiteral(", %1 stopped").arg(counted(stopped, QStringLiteral("chain"))) : QString();
+    return QStringLiteral("%1 (%2) on %3: %4, %5 of %6, %7%8")
+        .arg(name, typeTitle(type), floor, isReused ? QStringLiteral("reused") : QStringLiteral("made"),
+             counted(chains, QStringLiteral("chain")), counted(segments, QStringLiteral("segment")),
+             counted(spans, QStringLiteral("span")), stops);
+}
+
+QJsonObject BeamOutcome::Beam::toJson() const
+{
+    return {{"place", place},
+            {"name", name},
+            {"type", type},
+            {"floor", floor},
+            {"element", isReused ? "reused" : "made"},
+            {"chains", chains},
+            {"segments", segments},
+            {"spans", spans},
+            {"stopped", stopped}};
+}
+
+int BeamOutcome::reused() const
+{
+    return static_cast<int>(std::count_if(beams.begin(), beams.end(), [](const Beam &beam) { return beam.isReused; }));
+}
+
+BeamCounts BeamOutcome::made() const
+{
+    BeamCounts sum;
+    for (const Beam &beam : beams) {
+        sum.elements += beam.isReused ? 0 : 1;
+        sum.chains += beam.chains;
+        sum.segments += beam.segments;
+        sum.spans += beam.spans;
+    }
+    return sum;
+}
+
+QString BeamOutcome::headline() const
+{
+    return QStringLiteral("%1 read: %2 made (and %3 elements reused), %4 left out")
+        .arg(counted(members, QStringLiteral("beam")), made().text())
+        .arg(reused())
+        .arg(leftOut.size());
+}
+
+QString BeamOutcome::text() const
+{
+    QStringList lines;
+    for (const Beam &beam : beams)
+        lines.append(beam.text());
+    return headline() + cutLines(lines) + leftOutLines(leftOut) + doubledLine(doubled);
+}
+
+QJsonObject BeamOutcome::toJson() const
+{
+    QJsonArray list;
+    for (const Beam &beam : beams)
+        list.append(beam.toJson());
+    return {{"members", members}, {"made", made().toJson()}, {"reused", reused()},
+            {"doubled", doubled}, {"beams", list},           {"leftOut", orvcad::toJson(leftOut)}};
+}
+
+QJsonObject beamDocument(HBXProject &project, const std::vector<IHBXFloor *> &floors, BeamCounts &counts)
+{
+    project.makeCurrent(); // stored spans are asked of the current project
+    QSet<qint64> floorIds;
+    for (const IHBXFloor *floor : floors)
+        floorIds.insert(floor->id());
+    const auto beams = ORVCADBeamHBXModelConvertService().convertHBXToCollectDataModel(project.service()->model(),
+                                                                                       floorIds, beamTypes());
+    for (const auto &beam : beams) {
+        sortChains(*beam);
+        count(*beam, counts);
+    }
+    ORVCADBeamCollectDataModel collected;
+    collected.setBeamIdentifyInfo(beams);
+    return collected.toJsonObj();
+}
+
+BeamOutcome applyBeams(HBXProject &project, const QJsonObject &reply, const QString &file)
+{
+    IHBXModel &model = *project.service()->model();
+    const BeamReplyCheck check(model, reply, file);
+    BeamOutcome outcome;
+    outcome.members = check.memberCount();
+    outcome.leftOut = check.leftOut();
+
+    const int drawObjsBefore = model.drawObjects()->count();
+    const HBXBatch batch(model, "orvcad beam apply");
+    BeamWriter writer(project, outcome);
+    for (const BeamReplyCheck::Member &member : check.sound())
+        writer.write(member);
+    outcome.doubled = doubledSince(model, drawObjsBefore);
+    return outcome;
+}
+
+int removeBeams(HBXProject &project, const IHBXFloor &floor)
+{
+    IHBXModel &model = *project.service()->model();
+    const HBXBatch batch(model, "orvcad remove beams");
+    QList<IHBXElement *> elements;
+    model.elements()->queryElements(elements, {floor.id()}, beamTypes(), true);
+    for (IHBXElement *element : qAsConst(elements))
+        element->remove();
+    return elements.size();
+}
+
+} // namespace orvcad

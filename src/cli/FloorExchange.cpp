@@ -1,0 +1,160 @@
+#include "cli/FloorExchange.h"
+
+#include "cli/Command.h"
+#include "cli/Files.h"
+#include "drawing/DrawingKeys.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <algorithm>
+
+namespace orvcad {
+
+namespace {
+
+namespace key = drawing::key;
+using Faults = std::vector<JsonFault>;
+using Kind = JsonShape::Kind;
+constexpr auto kTaken = JsonShape::Missing::Taken;
+
+// The format, in the order in which its reader goes through it. The reader itself tells no place.
+
+constexpr JsonShape kWhole{Kind::Whole32};
+constexpr JsonShape kNumber{Kind::Number};
+constexpr JsonShape kText{Kind::TextOrPassedOver};
+
+constexpr JsonShape::Member kRegionMembers[] = {{key::id, &kWhole, kTaken}, {key::description, &kText, kTaken}};
+constexpr JsonShape kRegion = objectOf(kRegionMembers);
+
+constexpr JsonShape::Member kSettingMembers[] = {
+    {key::typeId, &kWhole, kTaken},          {key::basicElementTypeId, &kWhole, kTaken},
+    {key::concGradeId, &kWhole, kTaken},     {key::concTypeId, &kWhole, kTaken},
+    {key::mortarGradeId, &kWhole, kTaken},   {key::mortarTypeId, &kWhole, kTaken},
+    {key::aseismicLevelId, &kWhole, kTaken}, {key::anchor1, &kText, kTaken},
+    {key::anchor2, &kText, kTaken},          {key::anchor3, &kText, kTaken},
+    {key::anchor4, &kText, kTaken},          {key::anchor5, &kText, kTaken},
+    {key::anchor6, &kText, kTaken},          {key::joint1, &kText, kTaken},
+    {key::joint2, &kText, kTaken},           {key::joint3, &kText, kTaken},
+    {key::joint4, &kText, kTaken},           {key::joint5, &kText, kTaken},
+    {key::joint6, &kText, kTaken},           {key::protectiveLayerThickness, &kWhole, kTaken},
+    {key::remark, &kText, kTaken},
+};
+constexpr JsonShape kSetting = objectOf(kSettingMembers);
+constexpr JsonShape kSettings = listOf(kSetting);
+
+constexpr JsonShape::Member kFloorMembers[] = {
+    {key::id, &kWhole, kTaken},
+    {key::description, &kText, kTaken},
+    {key::height, &kNumber, kTaken},
+    {key::stdFloorCount, &kWhole, kTaken},
+    {key::structuralElevation, &kNumber, kTaken},
+    {key::startFloorNo, &kWhole, kTaken},
+    {key::remark, &kText, kTaken},
+    {key::code, &kText, kTaken},
+    {key::slabThickness, &kNumber, kTaken},
+    {key::floorArea, &kNumber, kTaken},
+    {key::relatedFloorId, &kText, kTaken},
+    {key::region, &kRegion},
+    {key::concreteAnchorJoint, &kSettings, kTaken},
+};
+constexpr JsonShape kFloor = objectOf(kFloorMembers);
+constexpr JsonShape kFloors = listOf(kFloor);
+
+constexpr JsonShape::Member kDocumentMembers[] = {{key::floorSdcData, &kFloors}};
+constexpr JsonShape kDocument = closed(objectOf(kDocumentMembers));
+
+// Comparison of a document with what is written from it.
+
+QString inside(const QString &place, const QString &key) { return place.isEmpty() ? key : place + '.' + key; }
+
+QString whyLost(const QJsonValue &value, const JsonShape::Member *member)
+{
+    if (!member)
+        return QStringLiteral("is no key of this format");
+    return value.isArray() ? QStringLiteral("is empty, so it is not written")
+                           : QStringLiteral("is no text, so the field has no value");
+}
+
+void compare(const QJsonValue &before, const QJsonValue &after, const JsonShape &shape, const QString &place,
+             Faults &faults);
+
+void compareObjects(const QJsonObject &before, const QJsonObject &after, const JsonShape &shape, const QString &place,
+                    Faults &faults)
+{
+    for (auto value = before.begin(); value != before.end(); ++value) {
+        const JsonShape::Member *member = shape.member(value.key());
+        if (member && after.contains(value.key()))
+            compare(*value, after.value(value.key()), *member->shape, inside(place, value.key()), faults);
+        else
+            faults.push_back({inside(place, value.key()), whyLost(*value, member)});
+    }
+    for (const QString &key : after.keys())
+        if (!before.contains(key))
+            faults.push_back({inside(place, key), QStringLiteral("is written and was not there")});
+}
+
+void compareLists(const QJsonArray &before, const QJsonArray &after, const JsonShape &shape, const QString &place,
+                  Faults &faults)
+{
+    if (before.size() != after.size())
+        faults.push_back(
+            {place, QStringLiteral("has %1 entries, and %2 are written").arg(before.size()).arg(after.size())});
+    for (int i = 0; i < std::min(before.size(), after.size()); ++i)
+        compare(before.at(i), after.at(i), *shape.element, QStringLiteral("%1[%2]").arg(place).arg(i), faults);
+}
+
+void compare(const QJsonValue &before, const QJsonValue &after, const JsonShape &shape, const QString &place,
+             Faults &faults)
+{
+    if (shape.kind == Kind::Object)
+        compareObjects(before.toObject(), after.toObject(), shape, place, faults);
+    else if (shape.kind == Kind::List)
+        compareLists(before.toArray(), after.toArray(), shape, place, faults);
+    else if (before != after)
+        faults.push_back({place, QStringLiteral("is written as another value")});
+}
+
+Faults differences(const QJsonObject &before, const QJsonObject &after)
+{
+    Faults faults;
+    compare(before, after, kDocument, QString(), faults);
+    return faults;
+}
+
+/** Throws for a document that the reader refuses. */
+std::vector<ORVCADFloorSDCData::Floor> readFloors(const QJsonObject &document, const QString &path)
+{
+    bool ok = false;
+    auto floors = ORVCADFloorSDCData().unserialize(document, ok);
+    if (ok)
+        return floors;
+    const JsonFault fault = firstRefusal(document).value_or(
+        JsonFault{QStringLiteral("%1[%2]").arg(key::floorSdcData).arg(floors.size()), QStringLiteral("is refused")});
+    throw CommandFailure(kBadInput, path, fault.place, fault.reason);
+}
+
+} // namespace
+
+std::optional<JsonFault> firstRefusal(const QJsonObject &document)
+{
+    if (!document.contains(key::floorSdcData))
+        return JsonFault{QString(), QStringLiteral("no floor exchange: FloorSDCData is missing")};
+    return firstFault(document, kDocument);
+}
+
+FloorExchange readFloorExchange(const QString &path)
+{
+    const QJsonDocument json = readJsonFile(path);
+    if (!json.isObject())
+        throw CommandFailure(kBadInput, path, {}, QStringLiteral("no floor exchange: its top is no object"));
+    const ORVCADFloorSDCData format;
+    FloorExchange exchange;
+    exchange.floors = readFloors(json.object(), path);
+    exchange.written = format.serialize(exchange.floors);
+    exchange.notKept = differences(json.object(), exchange.written);
+    exchange.notStable = differences(exchange.written, format.serialize(readFloors(exchange.written, path)));
+    return exchange;
+}
+
+} // namespace orvcad

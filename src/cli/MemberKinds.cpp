@@ -1,0 +1,39 @@
+#include "cli/MemberKinds.h"
+
+#include "cli/ExpectedValue.h"
+
+namespace orvcad {
+
+namespace {
+
+Expected kindOf(const QJsonValue &pattern)
+{
+    if (pattern.isDouble())
+        return Expected::Number;
+    return pattern.isBool() ? Expected::Truth : Expected::Text;
+}
+
+} // namespace
+
+QString wrongKey(const QJsonObject &member, const QJsonObject &pattern, const QStringList &whole,
+                 const QStringList &required)
+{
+    const auto wrong = [](const QString &key, Expected kind) {
+        return QStringLiteral("%1 is not %2").arg(key, wordFor(kind));
+    };
+    for (const QString &key : required)
+        if (!member.contains(key))
+            return QStringLiteral("%1 is missing").arg(key);
+    for (auto known = pattern.begin(); known != pattern.end(); ++known) {
+        const auto value = member.find(known.key());
+        if (value == member.end())
+            continue;
+        if (value->type() != known->type())
+            return wrong(known.key(), kindOf(*known));
+        if (whole.contains(known.key()) && !fits(*value, Expected::Integer))
+            return wrong(known.key(), Expected::Integer);
+    }
+    return {};
+}
+
+} // namespace orvcad

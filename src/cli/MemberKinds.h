@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QStringList>
+
+namespace orvcad {
+
+/** Why the values of a member of a reply cannot be taken; empty when they can. Readers take 0 or nothing for a value of the
+ *  wrong kind, which would stand in the building then, so the command line looks first.
+ *  @param pattern   the JSON of a fresh record: tells the kind that each key's value has
+ *  @param whole     keys whose numbers are whole ones of 32 bits
+ *  @param required  keys without which the record would mean something else */
+QString wrongKey(const QJsonObject &member, const QJsonObject &pattern, const QStringList &whole,
+                 const QStringList &required);
+
+} // namespace orvcad

@@ -1,0 +1,144 @@
+#include "encoding/ORVCADJsonFileSerialization.h"
+
+#include "encoding/FlatRecord.h"
+
+#include <QJsonArray>
+#include <QJsonValue>
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace {
+
+using Member = std::pair<QString, QJsonValue>;
+
+QString keyName(int i) { return QStringLiteral("key_%1").arg(i); }
+QString valueName(int i) { return QStringLiteral("value_%1").arg(i); }
+
+/** An object of many members. One that is not put behind all others costs as much as there are members already. */
+QJsonObject objectOf(std::vector<Member> &members)
+{
+    std::stable_sort(members.begin(), members.end(),
+                     [](const Member &a, const Member &b) { return a.first < b.first; });
+    QJsonObject object;
+    for (const Member &member : members)
+        object.insert(member.first, member.second);
+    return object;
+}
+
+QJsonObject largeRecordObject(const QString &record)
+{
+    std::vector<Member> members;
+    encoding::forEachItem(record, [&members](QStringView key, QStringView value) {
+        members.emplace_back(key.toString(), value.toString());
+    });
+    return objectOf(members);
+}
+
+/** Of two items of one key the later one counts. */
+QJsonObject recordObject(const QString &record)
+{
+    constexpr int largeSize = 2000; // characters; no usual record comes near it
+    if (record.size() > largeSize)
+        return largeRecordObject(record);
+    QJsonObject object;
+    encoding::forEachItem(record,
+                          [&object](QStringView key, QStringView value) { object.insert(key, value.toString()); });
+    return object;
+}
+
+QJsonArray recordArray(const QStringList &records)
+{
+    QJsonArray array;
+    for (const QString &record : records)
+        array.append(recordObject(record));
+    return array;
+}
+
+QString recordOf(const QJsonObject &object)
+{
+    constexpr int usualItem = 24; // characters
+    QString record = QLatin1String("");
+    record.reserve(object.size() * usualItem);
+    for (auto member = object.constBegin(); member != object.constEnd(); ++member)
+        encoding::appendItem(record, member.key(), member.value().toString());
+    encoding::cutLastSeparator(record);
+    return record;
+}
+
+void appendRecords(const QJsonArray &array, QStringList &records)
+{
+    records.reserve(records.size() + array.size());
+    for (const QJsonValue element : array)
+        records.append(recordOf(element.toObject()));
+}
+
+} // namespace
+
+ORVCADJsonFileSerialization::ORVCADJsonFileSerialization(const QString &text) : ORVCADFileSerialization(text) {}
+
+ORVCADJsonFileSerialization::~ORVCADJsonFileSerialization() = default;
+
+void ORVCADJsonFileSerialization::writeRecordMap(const QString &key, QMap<QString, QStringList> &records)
+{
+    std::vector<Member> members;
+    int i = 0;
+    for (auto entry = records.constBegin(); entry != records.constEnd(); ++entry, ++i) {
+        members.emplace_back(keyName(i), recordObject(entry.key()));
+        members.emplace_back(valueName(i), recordArray(entry.value()));
+    }
+    m_root.insert(key, objectOf(members));
+}
+
+void ORVCADJsonFileSerialization::writeRecordList(const QString &key, const QStringList &records)
+{
+    m_root.insert(key, recordArray(records));
+}
+
+void ORVCADJsonFileSerialization::writeRecord(const QString &key, const QString &record)
+{
+    m_root.insert(key, recordObject(record));
+}
+
+void ORVCADJsonFileSerialization::readRecordMap(const QString &key, QMap<QString, QStringList> &records)
+{
+    const QJsonObject object = m_document.object().value(key).toObject();
+    const int count = object.size() / 2; // meant: of an odd number of keys the last one is left out
+    for (int i = 0; i < count; ++i) {
+        QStringList entry;
+        appendRecords(object.value(valueName(i)).toArray(), entry);
+        records.insert(recordOf(object.value(keyName(i)).toObject()), entry);
+    }
+}
+
+void ORVCADJsonFileSerialization::readRecordList(const QString &key, QStringList &records)
+{
+    appendRecords(m_document.object().value(key).toArray(), records);
+}
+
+void ORVCADJsonFileSerialization::readRecord(const QString &key, QString &record)
+{
+    const QJsonValue value = m_document.object().value(key);
+    if (!value.isUndefined())
+        record = record + recordOf(value.toObject());
+}
+
+void ORVCADJsonFileSerialization::save(const QString & /*text*/)
+{
+    m_document.setObject(m_root);
+    m_content = QString::fromUtf8(m_document.toJson(QJsonDocument::Indented));
+}
+
+bool ORVCADJsonFileSerialization::parse()
+{
+    QJsonParseError error;
+    m_document = QJsonDocument::fromJson(m_content.toUtf8(), &error);
+    return error.error == QJsonParseError::NoError && !m_document.isNull();
+}
+
+void ORVCADJsonFileSerialization::insertRootInto(const QString &key, QJsonObject *object) const
+{
+    if (object)
+        object->insert(key, m_root);
+}

@@ -1,0 +1,48 @@
+#include "platform/services/WLRReinfInfoOperator.h"
+
+#include "platform/host/IHBXElementDrawObj.h"
+#include "platform/host/IHBXProperties.h"
+
+#include <QString>
+#include <QVector>
+
+#include <algorithm>
+#include <string>
+
+namespace {
+
+const std::wstring kReinforcementInfo = L"ReinforcementInfo";
+
+bool names(const QString &links, const QString &id)
+{
+    const auto items = links.splitRef(QLatin1Char(';'));
+    return std::any_of(items.begin(), items.end(), [&id](const QStringRef &item) {
+        return item.left(std::max(0, item.indexOf(QLatin1Char(',')))) == id;
+    });
+}
+
+void addLink(IHBXElementDrawObj *from, const IHBXElementDrawObj *to, int kind)
+{
+    IHBXProperties *properties = from && to ? from->properties() : nullptr;
+    if (!properties || !properties->hasProperty(kReinforcementInfo))
+        return;
+    QString links;
+    const QString id = QString::number(to->id());
+    if (!names(properties->asString(links, kReinforcementInfo), id))
+        properties->setString(kReinforcementInfo, links + QStringLiteral("%1,%2;").arg(id).arg(kind), true);
+}
+
+} // namespace
+
+// The objects know their host themselves.
+WLRReinfInfoOperator::WLRReinfInfoOperator(IHBXService *) {}
+
+void WLRReinfInfoOperator::addReinfInfo2Reinf(IHBXElementDrawObj *bar, IHBXElementDrawObj *slab, int kind)
+{
+    addLink(bar, slab, kind);
+}
+
+void WLRReinfInfoOperator::addReinfInfo2Slab(IHBXElementDrawObj *slab, IHBXElementDrawObj *bar, int kind)
+{
+    addLink(slab, bar, kind);
+}

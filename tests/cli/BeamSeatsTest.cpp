@@ -1,0 +1,146 @@
+#include "CliFixture.h"
+
+namespace {
+
+class BeamSeatsTest : public CliFixture
+{
+protected:
+    static QJsonObject pile()
+    {
+        return {
+            {"ElementType", 54},     {"ElementSubType", 64},
+            {"EntName", "ZH-1"},     {"FloorName", "Level 1"},
+            {"RegionName", "House"}, {"SectionWidth", 400},
+            {"SectinoHeight", 400},  {"TopElev", "-1"},
+            {"Type", "1"},           {"WorldPoly", "POLYGON((4800 6800, 5200 6800, 5200 7200, 4800 7200, 4800 6800))"}};
+    }
+    static QJsonObject tieBeam()
+    {
+        return {{"ElementType", 18},     {"ElementSubType", 70},
+                {"EntName", "LL-1"},     {"FloorName", "Level 1"},
+                {"RegionName", "House"}, {"SectionWidth", 300},
+                {"SectinoHeight", 500},  {"TopElev", "-1"},
+                {"BtmElev", "-1"},       {"CenterLine", "LINESTRING(0 0, 4000 0)"}};
+    }
+    static QJsonObject with(QJsonObject object, const QString &key, const QJsonValue &value)
+    {
+        object[key] = value;
+        return object;
+    }
+    Result apply(const QString &key, const QJsonArray &seats)
+    {
+        importSmallHouse();
+        write("seats.json", QJsonObject{{key, seats}});
+        return run({"beam", "seats", "apply", "house.hbxdb", "seats.json", "--json"});
+    }
+    /** The reason for which a single seat was left out. */
+    std::string leftOut(const QString &key, const QJsonValue &seat)
+    {
+        const Result result = apply(key, {seat});
+        const QJsonValue reason = result.json().value("leftOut")[0]["reason"];
+        EXPECT_EQ(result.exitCode, reason.isString() ? 3 : 0) << result.err.toStdString();
+        return reason.toString().toStdString();
+    }
+};
+
+TEST_F(BeamSeatsTest, exportCountsWhatTheBuildingFileHas)
+{
+    importSample("precast-hall");
+    const Result result = run({"beam", "seats", "export", "house.hbxdb", "--floor", "Foundation", "-o", "seats.json"});
+    EXPECT_EQ(result.out.toStdString(), "Wrote 24 isolated footings, 0 pile caps, 48 piles, 0 tie beams of 1 floor\n");
+    const QJsonObject seats = readJson("seats.json").object();
+    EXPECT_EQ(keys(seats), "etIsolatedFD,etPile,etPileCap,etTieBeam");
+    EXPECT_EQ(seats["etPile"].toArray().size(), 48);
+}
+
+TEST_F(BeamSeatsTest, seatsOfABuildingGoIntoACopyWithoutThem)
+{
+    importSample("precast-hall");
+    ASSERT_EQ(run({"beam", "seats", "export", "house.hbxdb", "-o", "seats.json"}).exitCode, 0);
+    QFile file(sample("precast-hall"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    QJsonObject building = QJsonDocument::fromJson(file.readAll()).object();
+    QJsonArray regions = building["regions"].toArray();
+    QJsonObject region = regions[0].toObject();
+    QJsonArray floors = region["floors"].toArray();
+    QJsonObject floor = floors[0].toObject();
+    ASSERT_EQ(floor["name"], "Foundation");
+    floor["elements"] = QJsonArray();
+    floors[0] = floor;
+    region["floors"] = floors;
+    regions[0] = region;
+    building["regions"] = regions;
+    write("copy.json", building);
+    ASSERT_EQ(run({"project", "import", "copy.json", "-o", "copy.hbxdb"}).exitCode, 0);
+
+    const Result result = run({"beam", "seats", "apply", "copy.hbxdb", "seats.json", "--json"});
+    EXPECT_EQ(result.exitCode, 0) << result.out.toStdString();
+    EXPECT_EQ(keys(result.json()), "doubled,kinds,leftOut,members,project,saved");
+    EXPECT_EQ(result.json()["members"], 72);
+    const QJsonValue footings = result.json().value("kinds")[0];
+    EXPECT_EQ(footings["title"], "isolated footing");
+    EXPECT_EQ(footings["elementsMade"], 1);
+    EXPECT_EQ(footings["reused"], 23);
+    EXPECT_EQ(footings["unitsMade"], 24); // a unit for each seat, also below one foundation
+    EXPECT_EQ(footings["placed"], 24);
+    EXPECT_EQ(result.json().value("kinds")[1]["placed"], 48);
+    const Result again = run({"beam", "seats", "export", "copy.hbxdb", "-o", "again.json", "--json"});
+    EXPECT_EQ(again.json()["52"], 24);
+    EXPECT_EQ(again.json()["54"], 48);
+}
+
+TEST_F(BeamSeatsTest, soundSeatsAreMadeAndSaved)
+{
+    const Result result = apply("etTieBeam", {tieBeam()});
+    EXPECT_EQ(result.exitCode, 0) << result.out.toStdString();
+    EXPECT_EQ(result.json().value("kinds")[0]["placed"], 1);
+    EXPECT_EQ(result.json()["saved"], true);
+    EXPECT_EQ(run({"beam", "seats", "export", "house.hbxdb", "-o", "out.json", "--json"}).json()["18"], 1);
+}
+
+TEST_F(BeamSeatsTest, seatsThatCannotBeUsedAreLeftOut)
+{
+    EXPECT_EQ(leftOut("etPile", pile()), "");
+    EXPECT_EQ(leftOut("etPile", 4), "is no object");
+    EXPECT_EQ(leftOut("etPile", with(pile(), "EntName", "")), "has no name");
+    EXPECT_EQ(leftOut("etPile", with(pile(), "EntName", QJsonValue::Undefined)), "EntName is missing");
+    EXPECT_EQ(leftOut("etPileCap", pile()), "type 54 is no pile cap");
+    EXPECT_EQ(leftOut("etPile", with(pile(), "FloorName", "Attic")), "unknown floor \"Attic\" in region \"House\"");
+    EXPECT_EQ(leftOut("etPile", with(pile(), "WorldPoly", "")), "WorldPoly is no outline");
+    EXPECT_EQ(leftOut("etPile", with(pile(), "WorldPoly", "a box")), "WorldPoly is no outline");
+    EXPECT_EQ(leftOut("etPile", with(pile(), "Mirror", 1)), "Mirror is not true or false");
+    EXPECT_EQ(leftOut("etPile", with(pile(), "SectionWidth", "400")), "SectionWidth is not a number");
+    EXPECT_EQ(leftOut("etTieBeam", with(tieBeam(), "CenterLine", "")), "CenterLine is no curve");
+    EXPECT_EQ(leftOut("etTieBeam", with(tieBeam(), "CenterLine", "LINESTRING(0 0, 0 0)")), "CenterLine has no length");
+}
+
+TEST_F(BeamSeatsTest, heightWithAFractionWouldBeReadAsZeroAndIsLeftOut)
+{
+    EXPECT_EQ(leftOut("etPile", with(pile(), "Height", 2900.5)), "Height is not a whole number of 32 bits");
+}
+
+TEST_F(BeamSeatsTest, elevationThatTheHostRefusesIsTold)
+{
+    const std::string told = leftOut("etPile", with(pile(), "TopElev", "roof"));
+    EXPECT_EQ(told.rfind("a value was refused: ", 0), 0U) << told;
+}
+
+TEST_F(BeamSeatsTest, strictApplySavesNothingWhenASeatIsLeftOut)
+{
+    importSmallHouse();
+    const QByteArray before = read("house.hbxdb");
+    write("seats.json", QJsonObject{{"etPile", QJsonArray{pile(), 1}}});
+    EXPECT_EQ(run({"beam", "seats", "apply", "house.hbxdb", "seats.json", "--strict"}).exitCode, 3);
+    EXPECT_EQ(read("house.hbxdb"), before);
+}
+
+TEST_F(BeamSeatsTest, documentWithoutSeatsIsRefused)
+{
+    importSmallHouse();
+    write("seats.json", QByteArray("{}"));
+    refusal({"beam", "seats", "apply", "house.hbxdb", "seats.json"}, "seats.json");
+    write("seats.json", QByteArray(R"({"etPile": 1})"));
+    EXPECT_EQ(refusal({"beam", "seats", "apply", "house.hbxdb", "seats.json"}, "seats.json")["place"], "etPile");
+}
+
+} // namespace
