@@ -2,6 +2,7 @@
 #include "cli/ColumnDocumentCheck.h"
 #include "cli/Command.h"
 #include "cli/Files.h"
+#include "cli/ProjectInfo.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -22,26 +23,37 @@ QString heldText(const QJsonObject &content)
     return parts.join(QStringLiteral(", "));
 }
 
-QString findingText(const QString &file, const ColumnFinding &finding)
+QString verdict(const ColumnDocumentCheck &check)
 {
-    return QStringLiteral("%1: %2: %3").arg(file, finding.place, finding.reason);
+    const int count = static_cast<int>(check.notKept().size());
+    return count == 0 ? QStringLiteral("written again, it is the same document")
+                      : QStringLiteral("written again, it differs at %1").arg(counted(count, QStringLiteral("place")));
+}
+
+QStringList linesOf(const QString &file, const ColumnDocumentCheck &check)
+{
+    const auto line = [&](const QString &place, const QString &reason) {
+        return QStringLiteral("%1: %2: %3").arg(file, place, reason);
+    };
+    QStringList lines{line(check.title(), heldText(check.content()))};
+    for (const JsonFault &finding : check.findings())
+        lines.append(line(finding.place, finding.reason));
+    for (const JsonFault &fault : check.writtenOtherwise())
+        lines.append(line(fault.place, fault.reason));
+    if (check.missingKeys() > 0)
+        lines.append(QStringLiteral("missing keys, read as 0, false or empty: %1").arg(check.missingKeys()));
+    return lines << verdict(check);
 }
 
 Summary summaryOf(const QString &file, const ColumnDocumentCheck &check)
 {
-    QStringList lines{QStringLiteral("%1: %2: %3").arg(file, check.title(), heldText(check.content()))};
-    QJsonArray findings;
-    for (const ColumnFinding &finding : check.findings()) {
-        lines.append(findingText(file, finding));
-        findings.append(QJsonObject{{"place", finding.place}, {"reason", finding.reason}});
-    }
-    if (check.missingKeys() > 0)
-        lines.append(QStringLiteral("missing keys, read as 0, false or empty: %1").arg(check.missingKeys()));
     QJsonObject json = check.content();
     json["file"] = file;
-    json["findings"] = findings;
+    json["findings"] = faultsToJson(check.findings());
     json["missingKeys"] = check.missingKeys();
-    return {lines.join('\n'), json, findings.isEmpty() ? kDone : kLeftOut};
+    json["same"] = check.notKept().empty();
+    json["notKept"] = faultsToJson(check.notKept());
+    return {linesOf(file, check).join('\n'), json, check.findings().empty() ? kDone : kLeftOut};
 }
 
 Summary checkFile(const QString &file)

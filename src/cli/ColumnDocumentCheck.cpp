@@ -1,5 +1,8 @@
 #include "cli/ColumnDocumentCheck.h"
 
+#include "cli/JsonDifference.h"
+
+#include <QHash>
 #include <QMap>
 
 #include <algorithm>
@@ -87,11 +90,76 @@ template <> QJsonObject contentOf<IdentifyInputFields>(const QJsonObject &docume
             {"hoopSettings", lengthOf(hoops[key::hoopBarSettings])}};
 }
 
+template <typename Fields> QJsonObject writtenAgain(const QJsonObject &document)
+{
+    return filled<typename Fields::Record>(document).toJson();
+}
+
+template <> QJsonObject writtenAgain<HoopBarFields>(const QJsonObject &document)
+{
+    ORVCADColumnHoopBarSettingPar par;
+    par.fromJson(document);
+    return par.toJson();
+}
+
+// Comparison of a document with what is written from it.
+
+/** The pictures of a written par in the order of the document, since they are written in the order of their ids; null for
+ *  one that was left out. */
+QJsonObject inOrderOf(const QJsonObject &document, QJsonObject par)
+{
+    QMap<int, QJsonValue> pictures;
+    for (const QJsonValue picture : par[key::hoopBarPicInfos].toArray())
+        pictures.insert(picture.toObject()[key::id].toInt(), picture);
+    QJsonArray ordered;
+    for (const QJsonValue picture : document[key::hoopBarPicInfos].toArray()) {
+        const QJsonValue written = pictures.take(picture.toObject()[key::id].toInt());
+        ordered.append(written.isObject() ? written : QJsonValue(QJsonValue::Null));
+    }
+    par[key::hoopBarPicInfos] = ordered;
+    return par;
+}
+
+/** A written document with the pictures of hoops in the order of the one that it was made from. */
+QJsonObject withPicturesInOrderOf(const QJsonObject &document, QJsonObject written)
+{
+    if (written.contains(key::hoopBarPicInfos))
+        return inOrderOf(document, written);
+    if (written.contains(key::hoopBarSettingPar))
+        written[key::hoopBarSettingPar] =
+            inOrderOf(document[key::hoopBarSettingPar].toObject(), written[key::hoopBarSettingPar].toObject());
+    return written;
+}
+
+/** What holds a place, from the place itself up to the document. */
+QStringList holdersOf(QString place)
+{
+    QStringList holders{place};
+    while (!place.isEmpty()) {
+        place.truncate(std::max(0, std::max(place.lastIndexOf(u'.'), place.lastIndexOf(u'['))));
+        holders.append(place);
+    }
+    return holders;
+}
+
+/** For a value that is sound, and has another form when it is written. */
+QString howWritten(const JsonDifference &difference)
+{
+    const QString written = difference.after.toVariant().toString();
+    if (difference.after.isString())
+        return QStringLiteral("is written as \"%1\": geometry has one form and six digits").arg(written);
+    if (difference.before.isString())
+        return QStringLiteral("is written as the number %1").arg(written);
+    return QStringLiteral("is written as %1: a number has 53 bits")
+        .arg(QString::number(difference.after.toDouble(), 'f', 0));
+}
+
 } // namespace
 
 template <typename Fields> void ColumnDocumentCheck::check(const QJsonObject &document)
 {
     m_content = contentOf<Fields>(document);
+    m_written = writtenAgain<Fields>(document);
     m_look.lookAtObject(document, Fields::table, JsonPlace());
 }
 
@@ -123,6 +191,25 @@ ColumnDocumentCheck::ColumnDocumentCheck(const QJsonObject &document)
     checkHoopBars(document[key::hoopBarSettingPar].toObject(), JsonPlace(top, key::hoopBarSettingPar));
     if (document.contains(key::hoopBarSettingPar))
         checkLimbs(document, top);
+    compareWithWritten(document);
+}
+
+void ColumnDocumentCheck::compareWithWritten(const QJsonObject &document)
+{
+    QHash<QString, QString> reasons;
+    for (const JsonFault &finding : findings())
+        reasons.insert(finding.place, finding.reason);
+    for (const JsonDifference &difference : differencesBetween(document, withPicturesInOrderOf(document, m_written))) {
+        if (difference.before.isUndefined())
+            continue;
+        const QStringList holders = holdersOf(difference.place);
+        const auto found = std::find_if(holders.begin(), holders.end(),
+                                        [&](const QString &holder) { return reasons.contains(holder); });
+        const bool isTold = found != holders.end();
+        m_notKept.push_back({difference.place, isTold ? reasons[*found] : howWritten(difference)});
+        if (!isTold)
+            m_writtenOtherwise.push_back(m_notKept.back());
+    }
 }
 
 void ColumnDocumentCheck::checkHoopBars(const QJsonObject &par, const JsonPlace &place)

@@ -1,24 +1,18 @@
 #pragma once
 
 #include "cli/ExpectedValue.h"
+#include "cli/JsonFault.h"
 #include "column/ColumnInputFields.h"
 #include "column/ColumnResultFields.h"
 #include "encoding/GeometryTextReader.h"
 #include "platform/dwgx/StrictJson.h"
 
-#include <QSet>
 #include <QStringList>
 
+#include <algorithm>
 #include <vector>
 
 namespace orvcad {
-
-/** A value in a document that its reader does not take as it stands. */
-struct ColumnFinding
-{
-    QString place; ///< such as resultData[3].columnInfo.dAngle
-    QString reason;
-};
 
 /** Walks through a JSON value along the tables by which records are read, and notes what the readers pass over in
  *  silence. A missing key is only counted: what is missing reads as 0, false or empty, and nothing is lost. */
@@ -27,7 +21,7 @@ class ColumnRecordLook
 public:
     using Place = dwgx::JsonPlace;
 
-    const std::vector<ColumnFinding> &findings() const { return m_findings; }
+    const std::vector<JsonFault> &findings() const { return m_findings; }
     int missingKeys() const { return m_missingKeys; }
 
     void note(const Place &place, const QString &reason) { m_findings.push_back({place.text(), reason}); }
@@ -41,8 +35,10 @@ public:
         }
         const QJsonObject object = value.toObject();
         QStringList unknown = object.keys();
+        QStringList known;
         encoding::forEachField(table, [&](const auto &row) {
             using Kind = typename std::decay_t<decltype(row)>::KindOfValue;
+            known.append(row.key);
             unknown.removeOne(row.key);
             const auto member = object.constFind(row.key);
             if (member == object.constEnd())
@@ -51,7 +47,7 @@ public:
                 lookAt(Tag<Kind>(), *member, Place(place, row.key));
         });
         for (const QString &key : qAsConst(unknown))
-            noteUnknown(place, key);
+            noteUnknown(place, key, inOtherCase(key, known));
     }
 
 private:
@@ -65,11 +61,20 @@ private:
         if (!fits(value, kind))
             note(place, QStringLiteral("is not ") + wordFor(kind));
     }
-    void noteUnknown(const Place &place, const QString &key)
+    /** The first of the keys that differs in the case of its letters alone; empty when there is none. */
+    static QString inOtherCase(const QString &key, const QStringList &keys)
+    {
+        const auto same = [&](const QString &one) { return one.compare(key, Qt::CaseInsensitive) == 0; };
+        const auto found = std::find_if(keys.begin(), keys.end(), same);
+        return found == keys.end() ? QString() : *found;
+    }
+    /** @param meant  a key of the record that may be meant, empty for none */
+    void noteUnknown(const Place &place, const QString &key, const QString &meant)
     {
         const QString holder = place.text();
-        m_findings.push_back(
-            {holder.isEmpty() ? key : holder + u'.' + key, QStringLiteral("is no key of this record, and not read")});
+        const QString reason = QStringLiteral("is no key of this record, and not read");
+        m_findings.push_back({holder.isEmpty() ? key : holder + u'.' + key,
+                              meant.isEmpty() ? reason : QStringLiteral("%1: %2 is one").arg(reason, meant)});
     }
 
     void lookAt(Plain<QString>, const QJsonValue &value, const Place &place) { expect(value, Expected::Text, place); }
@@ -137,7 +142,7 @@ private:
             lookAt(Tag<EntryKind>(), entry, Place(place, index++));
     }
 
-    std::vector<ColumnFinding> m_findings;
+    std::vector<JsonFault> m_findings;
     int m_missingKeys = 0;
 };
 

@@ -24,15 +24,17 @@ QJsonObject sample(const QString &name)
     return object(file.readAll());
 }
 
-/** "place: reason" of each finding. */
-std::string findings(const QJsonObject &document)
+/** "place: reason" of each. */
+std::string textOf(const std::vector<orvcad::JsonFault> &faults)
 {
     QStringList lines;
-    const ColumnDocumentCheck check(document);
-    for (const auto &finding : check.findings())
-        lines.append(finding.place + ": " + finding.reason);
+    for (const auto &fault : faults)
+        lines.append(fault.place + ": " + fault.reason);
     return lines.join('\n').toStdString();
 }
+
+std::string findings(const QJsonObject &document) { return textOf(ColumnDocumentCheck(document).findings()); }
+std::string notKept(const QByteArray &document) { return textOf(ColumnDocumentCheck(object(document)).notKept()); }
 
 std::string findings(const QByteArray &document) { return findings(object(document)); }
 
@@ -139,7 +141,7 @@ TEST(ColumnDocumentCheckTest, keyThatNothingReadsIsNamed)
 {
     EXPECT_EQ(findings(R"({"eType": 1, "columnCodes": [], "oSemnticParsePar": {}, "columnOptions": {"kzMark": ""}})"),
               "columnOptions.kzMark: is no key of this record, and not read\n"
-              "oSemnticParsePar: is no key of this record, and not read");
+              "oSemnticParsePar: is no key of this record, and not read: oSemnTicParsePar is one");
 }
 
 TEST(ColumnDocumentCheckTest, pictureWhoseIdIsKnownIsNamed)
@@ -156,6 +158,58 @@ TEST(ColumnDocumentCheckTest, idBeyond32BitsInHoopSettingsIsNamed)
 {
     EXPECT_EQ(findings(R"({"ColumnHoopBarSettings": [{"HoopBarBPicID": 5000000000}]})"),
               "ColumnHoopBarSettings[0].HoopBarBPicID: is not a whole number of 32 bits");
+}
+
+TEST(ColumnDocumentCheckTest, whatDoesNotSurviveIsNamedWithTheFindingThatTellsWhy)
+{
+    EXPECT_EQ(notKept(R"({"drawing": 5, "FloorCode": "1", "floorCode": "1", "resultData": [7, {"bCreateElement": 1,
+                          "cadLineIDs": [1, "2", "x"], "columnInfo": {"dAngle": "0.5", "extra": {"a": 1}}}]})"),
+              "FloorCode: is no key of this record, and not read: floorCode is one\n"
+              "drawing: is not text\n"
+              "resultData[0]: is no object\n"
+              "resultData[1].bCreateElement: is not true or false\n"
+              "resultData[1].cadLineIDs[1]: is written as the number 2\n"
+              "resultData[1].cadLineIDs[2]: is not a whole number of 64 bits\n"
+              "resultData[1].columnInfo.dAngle: is not a number\n"
+              "resultData[1].columnInfo.extra: is no key of this record, and not read");
+}
+
+TEST(ColumnDocumentCheckTest, whatIsNoFaultMayStillBeWrittenOtherwise)
+{
+    EXPECT_EQ(notKept(R"({"strCurFloorCode": "1", "axisLineList": ["0,0,1,0", "0,0,1234567.5,0"]})"),
+              "axisLineList[1]: is written as \"0,0,1.23457e+06,0\": geometry has one form and six digits");
+    EXPECT_EQ(notKept(R"({"strCurFloorCode": "1", "columnOptions": {"MaxSearchExtent": 3e3}})"), "");
+}
+
+TEST(ColumnDocumentCheckTest, valueWithAFindingMaySurvive)
+{
+    const QByteArray crossed = R"({"resultData": [{"cadPoly": "0,0;100,100;100,0;0,100;"}]})";
+    EXPECT_EQ(findings(crossed), "resultData[0].cadPoly: is no valid outline");
+    EXPECT_EQ(notKept(crossed), "");
+}
+
+TEST(ColumnDocumentCheckTest, missingKeyIsNoLossThoughItIsWritten)
+{
+    EXPECT_EQ(notKept(R"({"resultData": [{}]})"), "");
+}
+
+TEST(ColumnDocumentCheckTest, picturesAreComparedByTheirIdsWhichAreWrittenInOrder)
+{
+    const QByteArray hoops = R"({"ColumnHoopBarPicInfos": [{"id": 8, "BarPicID": 62}, {"id": 3, "BarPicID": 41},
+                                 {"id": 8, "BarPicID": 63}]})";
+    EXPECT_EQ(notKept(hoops), "ColumnHoopBarPicInfos[2]: has the id 8 of picture 0, and is left out");
+    EXPECT_EQ(notKept(R"({"eType": 1, "oHoopBarSettingPar": )" + hoops + '}'),
+              "oHoopBarSettingPar.ColumnHoopBarPicInfos[2]: has the id 8 of picture 0, and is left out");
+}
+
+TEST(ColumnDocumentCheckTest, manyFaultsAreToldInTheTimeThatTheirNumberTakes)
+{
+    QJsonArray ids;
+    for (int i = 0; i < 100000; ++i)
+        ids.append("none");
+    const ColumnDocumentCheck check({{"resultData", QJsonArray{QJsonObject{{"cadLineIDs", ids}}}}});
+    EXPECT_EQ(check.findings().size(), 100000U);
+    EXPECT_EQ(check.notKept().size(), 100000U);
 }
 
 TEST(ColumnDocumentCheckTest, limbTextWithoutPicturesIsNamed)
