@@ -3,9 +3,10 @@
 #include "encoding/ORVCADJsonFileSerialization.h"
 #include "encoding/ORVCADXmlFileSerialization.h"
 
-#include <gtest/gtest.h>
+#include "encoding/ArchiveFixture.h"
+#include "encoding/LocaleCodec.h"
 
-#include <memory>
+#include <type_traits>
 
 namespace {
 
@@ -58,6 +59,82 @@ TEST(ORVCADFileSerializationTest, hasNoMetaObjectOfItsOwnAndNoParent)
         EXPECT_STREQ(archive->metaObject()->className(), "QObject");
         EXPECT_EQ(archive->parent(), nullptr);
     }
+}
+
+using Json = ORVCADJsonFileSerialization;
+using Xml = ORVCADXmlFileSerialization;
+
+/** What holds for both forms of a document. */
+template <typename Archive> class ArchiveTest : public ArchiveFixture<Archive>
+{
+protected:
+    static QString emptyDocument() { return std::is_same_v<Archive, Json> ? "{}" : "<r/>"; }
+};
+
+struct FormNames
+{
+    template <typename Archive> static std::string GetName(int /*number*/)
+    {
+        return std::is_same_v<Archive, Json> ? "Json" : "Xml";
+    }
+};
+
+using Forms = testing::Types<Json, Xml>;
+TYPED_TEST_SUITE(ArchiveTest, Forms, FormNames);
+
+TYPED_TEST(ArchiveTest, contentIsEmptyBeforeSave)
+{
+    this->written.writeRecord("k", "a:1");
+    EXPECT_EQ(this->written.content(), "");
+}
+
+TYPED_TEST(ArchiveTest, missingKeyLeavesTheOutputAsItIs)
+{
+    const QString text = this->emptyDocument();
+    EXPECT_TRUE(this->record(text).isNull());
+    EXPECT_EQ(this->record(text, "x:1"), "x:1");
+    EXPECT_EQ(this->list(text, {"x"}), QStringList{"x"});
+    EXPECT_EQ(this->map(text, {{"x", {}}}).size(), 1);
+}
+
+TYPED_TEST(ArchiveTest, mapReadsBackWhole)
+{
+    const RecordMap records{{"WALL", {"a:1", "a:2"}}, {"AXIS|3", {"b"}}, {"E", {}}, {"", {"c:3"}}, {"x:1", {""}},
+                            {"墙", {"d:轴 线"}}};
+    const LocaleCodec local("GB18030");
+    EXPECT_EQ(this->readBack(records), records);
+}
+
+TYPED_TEST(ArchiveTest, mapKeepsItsEntriesWhenItIsWritten)
+{
+    RecordMap records{{"WALL", {"a:1"}}};
+    this->written.writeRecordMap("k", records);
+    EXPECT_EQ(records, (RecordMap{{"WALL", {"a:1"}}}));
+}
+
+TYPED_TEST(ArchiveTest, valueWithoutTextReadsBackAsAKeyWithoutValue)
+{
+    this->written.writeRecord("k", "a:/b");
+    this->written.save({});
+    EXPECT_EQ(this->record(this->written.content()), "a/b");
+}
+
+TYPED_TEST(ArchiveTest, valueIsCutAtItsSecondColon)
+{
+    this->written.writeRecord("k", "text:KZ:1");
+    this->written.save({});
+    EXPECT_EQ(this->record(this->written.content()), "text:KZ");
+}
+
+TYPED_TEST(ArchiveTest, textThatEndsEarlyIsRefusedWhereverItEnds)
+{
+    RecordMap records{{"PLAN|WALL", {"a:1"}}};
+    this->written.writeRecordMap("k", records);
+    this->written.writeRecordList("l", {"a:1", "b:2"});
+    this->written.save({});
+    const QString text = this->written.content().trimmed();
+    for (int size = 0; size < text.size(); ++size)
+        EXPECT_FALSE(this->parsed(text.left(size))) << size;
 }
 
 } // namespace

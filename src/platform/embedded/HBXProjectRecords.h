@@ -4,6 +4,7 @@
 #include "platform/geometry/CPolygon.h"
 #include "platform/host/IHBXAxisGrid.h"
 #include "platform/host/IHBXShape.h"
+#include "platform/services/HBXMaterial.h"
 
 #include <QJsonObject>
 #include <QString>
@@ -105,11 +106,7 @@ struct OptionRecord
     QString value;
 };
 
-struct MaterialRecord
-{
-    int number = 0;
-    QString name;
-};
+using MaterialRecord = HBXMaterial;
 
 struct ProjectRecord
 {

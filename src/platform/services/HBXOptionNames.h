@@ -38,3 +38,11 @@ inline constexpr char s_strBrickWall[] = "砌体墙线";
 inline constexpr char s_strWindowsLine[] = "门窗线";
 inline constexpr char s_strColumn[] = "柱边线";
 inline constexpr char s_strHoleLabel[] = "门窗洞标注";
+
+// Labels of the options of wall recognition, UTF-8, to be translated in their own context.
+inline constexpr char s_strMaxOpeningWidth[] = "最大洞口宽度(mm)";
+inline constexpr char s_strMaxWallLineWidth[] = "平行墙线宽度范围(mm)";
+inline constexpr char s_strWallLineWidthDeviation[] = "平行墙线宽度误差范围(mm)";
+inline constexpr char s_strWallEndExtension[] = "墙端头相交延伸误差范围(mm)";
+inline constexpr char s_strWallAndWindowExtenH[] = "墙端头与门窗相交延伸误差范围(水平)(mm)";
+inline constexpr char s_strWallAndWindowExtenV[] = "墙端头与门窗相交延伸误差范围(垂直)(mm)";
