@@ -23,7 +23,8 @@ constexpr int kSmall = 2'000;
 constexpr int kLarge = 200'000;
 
 // Ceilings of the ratios.
-constexpr double kRoad = 1.25;
+constexpr double kWritten = 1.3;
+constexpr double kRead = 1.5; // geometry is built and checked here, which the walk does not do
 constexpr double kGrowth = 1.8;
 
 using Point = vks::CVec2<double>;
@@ -202,10 +203,10 @@ int main()
     bench::RatioTable table("Replies of the column service, per column");
     table.row(
         "written / QJsonObjects with texts ready", kSize, [&] { bench::keep(written(model)); },
-        [&] { bench::keep(writtenByHand(model, texts)); }, kRoad);
+        [&] { bench::keep(writtenByHand(model, texts)); }, kWritten);
     table.row(
         "read / parsed and walked", kSize, reading(bytes, target),
-        [&] { bench::keep(walked(QJsonDocument::fromJson(bytes).object())); }, kRoad);
+        [&] { bench::keep(walked(QJsonDocument::fromJson(bytes).object())); }, kRead);
 
     const Model small = columns(kSmall);
     const Model large = columns(kLarge);
