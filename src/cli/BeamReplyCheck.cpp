@@ -2,6 +2,7 @@
 
 #include "ModelSerialization/BeamSubTypes.h"
 #include "beam/BeamKeys.h"
+#include "cli/ExpectedValue.h"
 #include "cli/MemberKinds.h"
 #include "encoding/GeometryTextReader.h"
 #include "platform/host/IHBXFloor.h"
@@ -32,7 +33,7 @@ const QStringList kSpanWhole{key::spanIndex, key::hoopBarLimbCount};
 QString whyNotSize(const QJsonObject &element, QLatin1String key)
 {
     const QJsonValue size = element.value(key);
-    if (isWhole(size) && std::abs(size.toInt()) < kSizeLimit)
+    if (fits(size, Expected::Integer) && std::abs(size.toInt()) < kSizeLimit)
         return {};
     return QStringLiteral("%1 is not a whole number of millimetres").arg(key);
 }

@@ -52,6 +52,7 @@ void addFloorsCommands(CLI::App &app, Command &command);
 void addOpeningCommands(CLI::App &app, Command &command);
 void addBeamCommands(CLI::App &app, Command &command);
 void addWallCommands(CLI::App &app, Command &command);
+void addColumnCommands(CLI::App &app, Command &command);
 void addDrawingCommands(CLI::App &app, Command &command);
 void addDrawingsCommands(CLI::App &app, Command &command);
 void addDrawCommand(CLI::App &app, Command &command);

@@ -49,14 +49,6 @@ QJsonArray floorsToJson(const std::vector<Floor> &floors)
     return array;
 }
 
-QJsonArray faultsToJson(const std::vector<JsonFault> &faults)
-{
-    QJsonArray array;
-    for (const JsonFault &fault : faults)
-        array.append(QJsonObject{{"place", fault.place}, {"reason", fault.reason}});
-    return array;
-}
-
 QStringList floorLines(const QJsonArray &floors)
 {
     TextTable table({{"id", Align::Right},

@@ -2,12 +2,11 @@
 
 #include "cli/Command.h"
 #include "cli/Files.h"
+#include "cli/JsonDifference.h"
 #include "drawing/DrawingKeys.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
-
-#include <algorithm>
 
 namespace orvcad {
 
@@ -66,59 +65,44 @@ constexpr JsonShape kDocument = closed(objectOf(kDocumentMembers));
 
 // Comparison of a document with what is written from it.
 
-QString inside(const QString &place, const QString &key) { return place.isEmpty() ? key : place + '.' + key; }
+/** The shape of the entries of a list, or of the value itself. */
+const JsonShape &entryOf(const JsonShape &shape) { return shape.kind == Kind::List ? *shape.element : shape; }
 
-QString whyLost(const QJsonValue &value, const JsonShape::Member *member)
+/** Whether the format has a key, told with the keys of the objects that it stands in. */
+bool isKnown(const QStringList &keys)
 {
-    if (!member)
-        return QStringLiteral("is no key of this format");
-    return value.isArray() ? QStringLiteral("is empty, so it is not written")
-                           : QStringLiteral("is no text, so the field has no value");
-}
-
-void compare(const QJsonValue &before, const QJsonValue &after, const JsonShape &shape, const QString &place,
-             Faults &faults);
-
-void compareObjects(const QJsonObject &before, const QJsonObject &after, const JsonShape &shape, const QString &place,
-                    Faults &faults)
-{
-    for (auto value = before.begin(); value != before.end(); ++value) {
-        const JsonShape::Member *member = shape.member(value.key());
-        if (member && after.contains(value.key()))
-            compare(*value, after.value(value.key()), *member->shape, inside(place, value.key()), faults);
-        else
-            faults.push_back({inside(place, value.key()), whyLost(*value, member)});
+    const JsonShape *shape = &kDocument;
+    for (const QString &key : keys) {
+        const JsonShape::Member *member = entryOf(*shape).member(key);
+        if (!member)
+            return false;
+        shape = member->shape;
     }
-    for (const QString &key : after.keys())
-        if (!before.contains(key))
-            faults.push_back({inside(place, key), QStringLiteral("is written and was not there")});
+    return true;
 }
 
-void compareLists(const QJsonArray &before, const QJsonArray &after, const JsonShape &shape, const QString &place,
-                  Faults &faults)
+QString whyLost(const JsonDifference &lost)
 {
-    if (before.size() != after.size())
-        faults.push_back(
-            {place, QStringLiteral("has %1 entries, and %2 are written").arg(before.size()).arg(after.size())});
-    for (int i = 0; i < std::min(before.size(), after.size()); ++i)
-        compare(before.at(i), after.at(i), *shape.element, QStringLiteral("%1[%2]").arg(place).arg(i), faults);
+    if (!isKnown(lost.keys))
+        return QStringLiteral("is no key of this format");
+    return lost.keys.last() == key::concreteAnchorJoint ? QStringLiteral("is empty, so it is not written")
+                                                        : QStringLiteral("is no text, so the field has no value");
 }
 
-void compare(const QJsonValue &before, const QJsonValue &after, const JsonShape &shape, const QString &place,
-             Faults &faults)
+QString reasonOf(const JsonDifference &difference)
 {
-    if (shape.kind == Kind::Object)
-        compareObjects(before.toObject(), after.toObject(), shape, place, faults);
-    else if (shape.kind == Kind::List)
-        compareLists(before.toArray(), after.toArray(), shape, place, faults);
-    else if (before != after)
-        faults.push_back({place, QStringLiteral("is written as another value")});
+    if (difference.after.isUndefined())
+        return whyLost(difference);
+    if (difference.before.isUndefined())
+        return QStringLiteral("is written and was not there");
+    return QStringLiteral("is written as another value");
 }
 
 Faults differences(const QJsonObject &before, const QJsonObject &after)
 {
     Faults faults;
-    compare(before, after, kDocument, QString(), faults);
+    for (const JsonDifference &difference : differencesBetween(before, after))
+        faults.push_back({difference.place, reasonOf(difference)});
     return faults;
 }
 

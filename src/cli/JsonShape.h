@@ -1,5 +1,7 @@
 #pragma once
 
+#include "cli/JsonFault.h"
+
 #include <QJsonValue>
 #include <QLatin1String>
 #include <QString>
@@ -8,13 +10,6 @@
 #include <optional>
 
 namespace orvcad {
-
-/** What is wrong in a document, and where. */
-struct JsonFault
-{
-    QString place; ///< key path, such as FloorSDCData[2].Region.ID; empty for the document itself
-    QString reason;
-};
 
 /** What a value of a document has to be: constants that form a tree, which is gone through in the order of its members. */
 struct JsonShape

@@ -1,5 +1,6 @@
 #include "cli/MemberKinds.h"
 
+#include "cli/ExpectedValue.h"
 #include "encoding/GeometryTextReader.h"
 #include "platform/geometry/KernelTolerance.h"
 
@@ -7,24 +8,21 @@ namespace orvcad {
 
 namespace {
 
-QString wordFor(QJsonValue::Type kind)
+Expected kindOf(const QJsonValue &pattern)
 {
-    if (kind == QJsonValue::Double)
-        return QStringLiteral("a number");
-    return kind == QJsonValue::Bool ? QStringLiteral("true or false") : QStringLiteral("text");
+    if (pattern.isDouble())
+        return Expected::Number;
+    return pattern.isBool() ? Expected::Truth : Expected::Text;
 }
 
 } // namespace
 
-bool isWhole(const QJsonValue &value)
-{
-    // Two defaults that differ: only a number that fits gives the same for both.
-    return value.isDouble() && value.toInt(0) == value.toInt(1);
-}
-
 QString wrongKey(const QJsonObject &member, const QJsonObject &pattern, const QStringList &whole,
                  const QStringList &required)
 {
+    const auto wrong = [](const QString &key, Expected kind) {
+        return QStringLiteral("%1 is not %2").arg(key, wordFor(kind));
+    };
     for (const QString &key : required)
         if (!member.contains(key))
             return QStringLiteral("%1 is missing").arg(key);
@@ -33,9 +31,9 @@ QString wrongKey(const QJsonObject &member, const QJsonObject &pattern, const QS
         if (value == member.end())
             continue;
         if (value->type() != known->type())
-            return QStringLiteral("%1 is not %2").arg(known.key(), wordFor(known->type()));
-        if (whole.contains(known.key()) && !isWhole(*value))
-            return QStringLiteral("%1 is not a whole number of 32 bits").arg(known.key());
+            return wrong(known.key(), kindOf(*known));
+        if (whole.contains(known.key()) && !fits(*value, Expected::Integer))
+            return wrong(known.key(), Expected::Integer);
     }
     return {};
 }

@@ -13,8 +13,6 @@ namespace orvcad {
 QString wrongKey(const QJsonObject &member, const QJsonObject &pattern, const QStringList &whole,
                  const QStringList &required);
 
-bool isWhole(const QJsonValue &value);
-
 /** Why the text of an axis cannot be taken; empty when it can. An empty text is an object without an axis, which a building
  *  may have. */
 QString whyNotAxis(QLatin1String key, const QString &text);

@@ -1,6 +1,6 @@
 #include "cli/OpeningReplyCheck.h"
 
-#include "cli/MemberKinds.h"
+#include "cli/ExpectedValue.h"
 #include "doorwindow/DoorWindowKeys.h"
 #include "platform/host/IHBXElement.h"
 #include "platform/host/IHBXElements.h"
@@ -22,8 +22,6 @@ namespace orvcad {
 
 namespace {
 
-enum class Expected { Text, Integer, Number };
-
 struct KeyKind
 {
     QLatin1String key;
@@ -43,25 +41,6 @@ constexpr qint64 kOpeningTypes[] = {type::door, type::window, type::combined, ty
 bool isOpening(qint64 elementType)
 {
     return std::find(std::begin(kOpeningTypes), std::end(kOpeningTypes), elementType) != std::end(kOpeningTypes);
-}
-
-bool fits(const QJsonValue &value, Expected kind)
-{
-    switch (kind) {
-    case Expected::Text:
-        return value.isString();
-    case Expected::Integer:
-        return isWhole(value);
-    case Expected::Number:
-        return value.isDouble();
-    }
-    return false;
-}
-
-QString wordFor(Expected kind)
-{
-    constexpr const char *words[] = {"text", "a whole number of 32 bits", "a number"};
-    return QString::fromLatin1(words[static_cast<int>(kind)]);
 }
 
 template <std::size_t Count> QString mistypedKey(const QJsonObject &member, const KeyKind (&keys)[Count])

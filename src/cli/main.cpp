@@ -60,6 +60,7 @@ void describe(CLI::App &app, Flags &flags, orvcad::Command &command)
     orvcad::addOpeningCommands(app, command);
     orvcad::addBeamCommands(app, command);
     orvcad::addWallCommands(app, command);
+    orvcad::addColumnCommands(app, command);
     orvcad::addDrawingCommands(app, command);
     orvcad::addDrawingsCommands(app, command);
     orvcad::addDrawCommand(app, command);

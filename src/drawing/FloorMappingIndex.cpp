@@ -25,7 +25,9 @@ template <typename List> bool hasNumber(List &entries, qint64 number)
 /** Each record once. */
 void insertEntry(Entries &entries, const Entry &entry)
 {
-    if (!hasNumber(entries, entry.number))
+    if (entries.isEmpty() || entries.last().number < entry.number)
+        entries.append(entry); // unlike inserting, this leaves room for the next
+    else if (!hasNumber(entries, entry.number))
         entries.insert(placeOf(entries, entry.number), entry);
 }
 

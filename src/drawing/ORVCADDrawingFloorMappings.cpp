@@ -83,9 +83,9 @@ ORVCADDrawingFloorMappings::Index::Entry ORVCADDrawingFloorMappings::addMapping(
 
 void ORVCADDrawingFloorMappings::addMapping(qint64 region, const QString &floor, const QString &drawing)
 {
-    const Index::Entries found = index().ofFloor(region, floor);
-    const bool makesRecord = found.isEmpty() || floor.isEmpty(); // an empty name finds none
-    const Index::Entry entry = makesRecord ? addMapping(region, floor) : found.first();
+    const Index &current = index();
+    const Index::Entries found = floor.isEmpty() ? Index::Entries() : current.ofFloor(region, floor);
+    const Index::Entry entry = found.isEmpty() ? addMapping(region, floor) : found.first();
     if (m_index.holds(entry.number, drawing))
         return;
     entry.record->drawingNames.append(drawing);

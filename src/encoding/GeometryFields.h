@@ -26,6 +26,19 @@ template <> struct ValueKind<vks::CRefPtr<vks::CPolygon>>
     }
 };
 
+/** A bad or missing text reads as the origin. */
+template <> struct ValueKind<vks::CVec2<double>>
+{
+    static QJsonValue toValue(const vks::CVec2<double> &point)
+    {
+        return ORVCADJsonCGeometryObjOper().getVector2dInfo(point);
+    }
+    static vks::CVec2<double> fromValue(const QJsonValue &json, const vks::CVec2<double> & /*none*/)
+    {
+        return ORVCADJsonCGeometryObjOper().getVector2dInfo(json.toString());
+    }
+};
+
 /** The kernel's own text, exact, null as the empty text. A bad or missing text, and a text of other geometry, reads as
  *  null. */
 struct KernelText

@@ -157,6 +157,7 @@ template <typename T, typename Given> T fallbackOf(const Given &given, const T &
 template <typename Kind, typename Record, typename T, typename Fallback> struct FieldRow
 {
     using Value = T;
+    using KindOfValue = Kind;
 
     QLatin1String key;
     T Record::*member;

@@ -118,17 +118,51 @@ struct DoubleReadAsInt
     }
 };
 
+/** A plain record as an object of its own, by the table of another struct. Reading goes on from the record at hand; what
+ *  is no object reads as one without keys. */
+template <typename Fields> struct Nested
+{
+    template <typename T> static QJsonValue toValue(const T &record)
+    {
+        QJsonObject json;
+        writeFields(record, Fields::table, json);
+        return json;
+    }
+    template <typename T> static T fromValue(const QJsonValue &json, T record)
+    {
+        readFields(json.toObject(), Fields::table, record);
+        return record;
+    }
+};
+
+/** The same for a shared record, which is read into a new one. Null is not written. */
+template <typename Fields> struct SharedNested
+{
+    template <typename T> static QJsonValue toValue(const std::shared_ptr<T> &record)
+    {
+        return record ? Nested<Fields>::toValue(*record) : QJsonValue(QJsonValue::Undefined);
+    }
+    template <typename T>
+    static std::shared_ptr<T> fromValue(const QJsonValue &json, const std::shared_ptr<T> & /*fallback*/)
+    {
+        auto record = std::make_shared<T>();
+        readFields(json.toObject(), Fields::table, *record);
+        return record;
+    }
+};
+
 /** A list of any kind of entries, written as an array of them. Reading adds to what the list holds, whatever the entries
  *  are, and adds nothing for a missing key or another value than an array. */
-template <typename List> struct Appended
+template <typename List, typename EntryKind = ValueKind<typename List::value_type>> struct Appended
 {
     using Entry = typename List::value_type;
+    using KindOfEntry = EntryKind;
 
     static QJsonValue toValue(const List &entries)
     {
         QJsonArray array;
         for (const auto &entry : entries) {
-            const QJsonValue value = ValueKind<Entry>::toValue(entry);
+            const QJsonValue value = EntryKind::toValue(entry);
             if (!value.isUndefined())
                 array.append(value);
         }
@@ -139,7 +173,7 @@ template <typename List> struct Appended
         List entries = present;
         const QJsonArray array = json.toArray();
         for (const QJsonValue value : array)
-            entries.push_back(ValueKind<Entry>::fromValue(value, Entry()));
+            entries.push_back(EntryKind::fromValue(value, Entry()));
         return entries;
     }
 };
@@ -148,6 +182,13 @@ template <typename List> struct Appended
 template <typename Record, typename List> constexpr auto fieldAppended(QLatin1String key, List Record::*member)
 {
     return fieldAs<Appended<List>>(key, member);
+}
+
+/** The same, its entries by a kind other than the one that their type has by itself. */
+template <typename EntryKind, typename Record, typename List>
+constexpr auto fieldAppendedAs(QLatin1String key, List Record::*member)
+{
+    return fieldAs<Appended<List, EntryKind>>(key, member);
 }
 
 } // namespace encoding

@@ -74,6 +74,15 @@ TEST_F(ORVCADDrawingFloorMappingsTest, emptyFloorNameMakesARecordEachTime)
     EXPECT_TRUE(mappings.getMappingDrawingNames(1, QString()).isEmpty());
 }
 
+TEST_F(ORVCADDrawingFloorMappingsTest, manyRecordsWithoutAFloorNameAreAddedInTheTimeThatTheirNumberTakes)
+{
+    constexpr int count = 100000;
+    for (int i = 0; i < count; ++i)
+        mappings.addMapping(1, QString(), QStringLiteral("S-%1").arg(i));
+    EXPECT_EQ(recordCount(), count);
+    EXPECT_EQ(mappings.getMappingFloorNames(qint64(1)).size(), count);
+}
+
 TEST_F(ORVCADDrawingFloorMappingsTest, regionMinusOneIsKeptAndNotAnswered)
 {
     add(-1, "F1", "a");

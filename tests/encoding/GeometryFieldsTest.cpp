@@ -81,4 +81,28 @@ TEST(GeometryFieldsTest, kernelTextOfOtherGeometryReadsAsNull)
     EXPECT_FALSE(shape.exactOutline);
 }
 
+struct Place
+{
+    vks::CVec2<double> point{1, 2};
+    static constexpr auto table() // NOLINT(readability-identifier-naming)
+    {
+        return std::make_tuple(fieldOr("point"_key, &Place::point));
+    }
+};
+
+TEST(GeometryFieldsTest, pointIsItsTextAndABadOneIsTheOrigin)
+{
+    Place place;
+    QJsonObject json;
+    writeFields(place, Place::table(), json);
+    EXPECT_EQ(json["point"], "1,2");
+    readFields({{"point", "3.5,-4"}}, Place::table(), place);
+    EXPECT_EQ(place.point, vks::CVec2<double>(3.5, -4));
+    for (const QJsonValue &bad : {QJsonValue("3.5"), QJsonValue("1,2,3"), QJsonValue(7), QJsonValue()}) {
+        place.point = {1, 2};
+        readFields({{"point", bad}}, Place::table(), place);
+        EXPECT_EQ(place.point, vks::CVec2<double>());
+    }
+}
+
 } // namespace

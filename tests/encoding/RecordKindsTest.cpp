@@ -169,4 +169,74 @@ TEST_F(RecordKindsTest, nullRecordsAreNotWritten)
     EXPECT_EQ(written()["words"].toArray(), (QJsonArray{QJsonArray{"a"}, QJsonArray{}}));
 }
 
+struct Seat
+{
+    QString name;
+    int width = 5;
+
+    struct Fields
+    {
+        static constexpr auto table =
+            std::make_tuple(fieldOr("name"_key, &Seat::name), field("width"_key, &Seat::width));
+    };
+};
+
+/** Records by the table of another struct: one, a list, a list of shared ones, and ids that are read loosely. */
+struct Beam
+{
+    Seat seat{"own", 7};
+    QList<Seat> seats;
+    std::vector<std::shared_ptr<Seat>> shared;
+    std::vector<qint64> ids;
+
+    static constexpr auto table() // NOLINT(readability-identifier-naming)
+    {
+        return std::make_tuple(fieldAs<Nested<Seat::Fields>>("seat"_key, &Beam::seat),
+                               fieldAppendedAs<Nested<Seat::Fields>>("seats"_key, &Beam::seats),
+                               fieldAppendedAs<SharedNested<Seat::Fields>>("shared"_key, &Beam::shared),
+                               fieldAppendedAs<LooseInt64>("ids"_key, &Beam::ids));
+    }
+};
+
+TEST(NestedRecordKindsTest, recordsAreWrittenAsObjectsOfTheirOwn)
+{
+    Beam beam;
+    beam.seats = {{"a", 1}};
+    beam.shared = {nullptr, std::make_shared<Seat>(Seat{"b", 2})};
+    beam.ids = {3};
+    QJsonObject json;
+    writeFields(beam, Beam::table(), json);
+    EXPECT_EQ(json,
+              QJsonDocument::fromJson(R"({"seat": {"name": "own", "width": 7}, "seats": [{"name": "a", "width": 1}],
+        "shared": [{"name": "b", "width": 2}], "ids": [3]})")
+                  .object());
+}
+
+TEST(NestedRecordKindsTest, recordIsReadByTheRowsOfItsTable)
+{
+    Beam beam;
+    readFields({{"seat", QJsonObject{{"width", 9}}}}, Beam::table(), beam);
+    EXPECT_EQ(beam.seat.name, ""); // an "or" row
+    EXPECT_EQ(beam.seat.width, 9);
+    readFields({{"seat", "no object"}}, Beam::table(), beam);
+    EXPECT_EQ(beam.seat.width, 9); // a row that keeps what is there
+}
+
+TEST(NestedRecordKindsTest, entriesAreReadIntoNewRecordsBehindThoseThatAreThere)
+{
+    const QJsonObject json = QJsonDocument::fromJson(R"({"seats": [{"name": "a"}, 7], "shared": [{"width": 2}, null],
+        "ids": ["12", 5]})")
+                                 .object();
+    Beam beam;
+    readFields(json, Beam::table(), beam);
+    readFields(json, Beam::table(), beam);
+    ASSERT_EQ(beam.seats.size(), 4);
+    EXPECT_EQ(beam.seats[2].name, "a");
+    EXPECT_EQ(beam.seats[3].width, 5);
+    ASSERT_EQ(beam.shared.size(), 4U);
+    EXPECT_EQ(beam.shared[2]->width, 2);
+    EXPECT_EQ(beam.shared[3]->width, 5);
+    EXPECT_EQ(beam.ids, (std::vector<qint64>{12, 5, 12, 5}));
+}
+
 } // namespace

@@ -50,6 +50,19 @@ TEST(DwgxCommonUtilTest, everyTypeOfTheTableIsFoundBothWays)
     }
 }
 
+TEST(DwgxCommonUtilTest, everyTypeThatTheSystemKnowsHasTwoNamesAndALayer)
+{
+    const int types[] = {0,  1,  4,  5,  6,  7,  15, 17, 18, 19, 22, 23,  24,   25,   26,
+                         47, 48, 49, 50, 52, 53, 54, 74, 75, 82, 83, 202, 1001, 1002, 1003};
+    for (const int type : types) {
+        const auto names = dwgxCommonUtil::getElementTypeName(type);
+        EXPECT_FALSE(names.first.isEmpty()) << type;
+        EXPECT_EQ(dwgxCommonUtil::getElementTypeByName(names.second), type);
+        EXPECT_EQ(getCADLayerInfo(type, names.second).first, names.second) << type;
+        EXPECT_NE(getCADLayerInfo(type, names.second).second, 0) << type;
+    }
+}
+
 TEST(DwgxCommonUtilTest, layerWithAWordOfTheTypeIsOfTheType)
 {
     EXPECT_EQ(layerInfo(15, "梁集中标注"), qMakePair(QStringLiteral("梁集中标注"), 0x3366CC));

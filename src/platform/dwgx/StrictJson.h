@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ORVCADPlatformExport.h"
 #include "platform/dwgx/KeyLiteral.h"
 
 #include <QJsonArray>
@@ -21,7 +22,7 @@ struct JsonRefusal
 };
 
 /** Where in a document a value stands. The text is only made when somebody asks; the parent must live as long. */
-class JsonPlace
+class ORVCADPLATFORM_EXPORT JsonPlace
 {
 public:
     JsonPlace() = default;

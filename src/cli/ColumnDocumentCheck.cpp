@@ -1,0 +1,249 @@
+#include "cli/ColumnDocumentCheck.h"
+
+#include "cli/JsonDifference.h"
+
+#include <QHash>
+#include <QMap>
+
+#include <algorithm>
+#include <iterator>
+
+using namespace column;
+using dwgx::JsonPlace;
+
+namespace orvcad {
+
+namespace {
+
+template <typename Fields> int knownKeys(const QJsonObject &document)
+{
+    int count = 0;
+    encoding::forEachField(Fields::table, [&](const auto &row) { count += document.contains(row.key) ? 1 : 0; });
+    return count;
+}
+
+template <typename Record> Record filled(const QJsonObject &document)
+{
+    Record record;
+    record.fromJson(&record, document);
+    return record;
+}
+
+int lengthOf(const QJsonValue &array) { return array.toArray().size(); }
+
+template <typename List> int sizeOf(const List &list) { return static_cast<int>(list.size()); }
+
+template <typename Fields> QJsonObject contentOf(const QJsonObject &document);
+
+template <> QJsonObject contentOf<ResultModelFields>(const QJsonObject &document)
+{
+    const auto model = filled<ORVCADAIIdentifyColumnResultModel>(document);
+    int toCreate = 0;
+    int lines = 0;
+    int texts = 0;
+    for (const auto &record : model.resultData) {
+        toCreate += record->bCreateElement ? 1 : 0;
+        lines += sizeOf(record->cadLineIDs);
+        texts += sizeOf(record->cadTextIDs);
+    }
+    return {{"kind", "results"},
+            {"drawing", model.drawing},
+            {"floorCode", model.floorCode},
+            {"columns", sizeOf(model.resultData)},
+            {"toCreate", toCreate},
+            {"cadLines", lines},
+            {"cadTexts", texts}};
+}
+
+template <> QJsonObject contentOf<CheckInputFields>(const QJsonObject &document)
+{
+    const auto model = filled<ORVCADColumnCloudCheckInputModel>(document);
+    return {{"kind", "check-input"}, {"floorCode", model.strCurFloorCode}, {"axisLines", sizeOf(model.axisLineList)}};
+}
+
+template <> QJsonObject contentOf<SemanticFields>(const QJsonObject &document)
+{
+    const auto par = filled<ORVCADAIColumnSemnticParsingPar>(document);
+    return {{"kind", "semantic-parameters"}, {"floorWords", sizeOf(par.floorWordSetPar)}};
+}
+
+template <> QJsonObject contentOf<HoopBarFields>(const QJsonObject &document)
+{
+    return {{"kind", "hoop-bar-settings"},
+            {"hoopPictures", lengthOf(document[key::hoopBarPicInfos])},
+            {"hoopSettings", lengthOf(document[key::hoopBarSettings])}};
+}
+
+template <> QJsonObject contentOf<IdentifyInputFields>(const QJsonObject &document)
+{
+    const auto model = filled<ORVCADColumnCloudIdentifyInputModel>(document);
+    const QJsonObject hoops = document[key::hoopBarSettingPar].toObject();
+    return {{"kind", "identify-input"},
+            {"type", model.eType},
+            {"columnCodes", sizeOf(model.columnCodes)},
+            {"borderLayers", sizeOf(model.borderLayerNames)},
+            {"labelLayers", sizeOf(model.labelLayerNames)},
+            {"axisLines", sizeOf(model.axisLineList)},
+            {"elements", sizeOf(model.elements)},
+            {"floorWords", sizeOf(model.oSemnTicParsePar.floorWordSetPar)},
+            {"hoopPictures", lengthOf(hoops[key::hoopBarPicInfos])},
+            {"hoopSettings", lengthOf(hoops[key::hoopBarSettings])}};
+}
+
+template <typename Fields> QJsonObject writtenAgain(const QJsonObject &document)
+{
+    return filled<typename Fields::Record>(document).toJson();
+}
+
+template <> QJsonObject writtenAgain<HoopBarFields>(const QJsonObject &document)
+{
+    ORVCADColumnHoopBarSettingPar par;
+    par.fromJson(document);
+    return par.toJson();
+}
+
+// Comparison of a document with what is written from it.
+
+/** The pictures of a written par in the order of the document, since they are written in the order of their ids; null for
+ *  one that was left out. */
+QJsonObject inOrderOf(const QJsonObject &document, QJsonObject par)
+{
+    QMap<int, QJsonValue> pictures;
+    for (const QJsonValue picture : par[key::hoopBarPicInfos].toArray())
+        pictures.insert(picture.toObject()[key::id].toInt(), picture);
+    QJsonArray ordered;
+    for (const QJsonValue picture : document[key::hoopBarPicInfos].toArray()) {
+        const QJsonValue written = pictures.take(picture.toObject()[key::id].toInt());
+        ordered.append(written.isObject() ? written : QJsonValue(QJsonValue::Null));
+    }
+    par[key::hoopBarPicInfos] = ordered;
+    return par;
+}
+
+/** A written document with the pictures of hoops in the order of the one that it was made from. */
+QJsonObject withPicturesInOrderOf(const QJsonObject &document, QJsonObject written)
+{
+    if (written.contains(key::hoopBarPicInfos))
+        return inOrderOf(document, written);
+    if (written.contains(key::hoopBarSettingPar))
+        written[key::hoopBarSettingPar] =
+            inOrderOf(document[key::hoopBarSettingPar].toObject(), written[key::hoopBarSettingPar].toObject());
+    return written;
+}
+
+/** What holds a place, from the place itself up to the document. */
+QStringList holdersOf(QString place)
+{
+    QStringList holders{place};
+    while (!place.isEmpty()) {
+        place.truncate(std::max(0, std::max(place.lastIndexOf(u'.'), place.lastIndexOf(u'['))));
+        holders.append(place);
+    }
+    return holders;
+}
+
+/** For a value that is sound, and has another form when it is written. */
+QString howWritten(const JsonDifference &difference)
+{
+    const QString written = difference.after.toVariant().toString();
+    if (difference.after.isString())
+        return QStringLiteral("is written as \"%1\": geometry has one form and six digits").arg(written);
+    if (difference.before.isString())
+        return QStringLiteral("is written as the number %1").arg(written);
+    return QStringLiteral("is written as %1: a number has 53 bits")
+        .arg(QString::number(difference.after.toDouble(), 'f', 0));
+}
+
+} // namespace
+
+template <typename Fields> void ColumnDocumentCheck::check(const QJsonObject &document)
+{
+    m_content = contentOf<Fields>(document);
+    m_written = writtenAgain<Fields>(document);
+    m_look.lookAtObject(document, Fields::table, JsonPlace());
+}
+
+ColumnDocumentCheck::ColumnDocumentCheck(const QJsonObject &document)
+{
+    struct Kind
+    {
+        const char *title;
+        int known;
+        void (ColumnDocumentCheck::*check)(const QJsonObject &);
+    };
+    using Self = ColumnDocumentCheck;
+    const Kind kinds[] = {
+        {"results of identification", knownKeys<ResultModelFields>(document), &Self::check<ResultModelFields>},
+        // Before the order to identify, which has all of its keys but one.
+        {"order to check", knownKeys<CheckInputFields>(document), &Self::check<CheckInputFields>},
+        {"order to identify", knownKeys<IdentifyInputFields>(document), &Self::check<IdentifyInputFields>},
+        {"hoop bar settings", knownKeys<HoopBarFields>(document), &Self::check<HoopBarFields>},
+        {"words of elevations", knownKeys<SemanticFields>(document), &Self::check<SemanticFields>},
+    };
+    const Kind &best = *std::max_element(std::begin(kinds), std::end(kinds),
+                                         [](const Kind &a, const Kind &b) { return a.known < b.known; });
+    if (best.known == 0)
+        return;
+    m_title = QString::fromLatin1(best.title);
+    (this->*best.check)(document);
+    const JsonPlace top;
+    checkHoopBars(document, top);
+    checkHoopBars(document[key::hoopBarSettingPar].toObject(), JsonPlace(top, key::hoopBarSettingPar));
+    if (document.contains(key::hoopBarSettingPar))
+        checkLimbs(document, top);
+    compareWithWritten(document);
+}
+
+void ColumnDocumentCheck::compareWithWritten(const QJsonObject &document)
+{
+    QHash<QString, QString> reasons;
+    for (const JsonFault &finding : findings())
+        reasons.insert(finding.place, finding.reason);
+    for (const JsonDifference &difference : differencesBetween(document, withPicturesInOrderOf(document, m_written))) {
+        if (difference.before.isUndefined())
+            continue;
+        const QStringList holders = holdersOf(difference.place);
+        const auto found = std::find_if(holders.begin(), holders.end(),
+                                        [&](const QString &holder) { return reasons.contains(holder); });
+        const bool isTold = found != holders.end();
+        m_notKept.push_back({difference.place, isTold ? reasons[*found] : howWritten(difference)});
+        if (!isTold)
+            m_writtenOtherwise.push_back(m_notKept.back());
+    }
+}
+
+void ColumnDocumentCheck::checkHoopBars(const QJsonObject &par, const JsonPlace &place)
+{
+    HoopBarLists lists;
+    encoding::readFields(par, HoopBarFields::table, lists);
+    const JsonPlace list(place, key::hoopBarPicInfos);
+    QMap<qint64, int> first;
+    for (int i = 0; i < sizeOf(lists.pictures); ++i) {
+        const qint64 id = lists.pictures[static_cast<std::size_t>(i)].id;
+        if (first.contains(id))
+            m_look.note(JsonPlace(list, i),
+                        QStringLiteral("has the id %1 of picture %2, and is left out").arg(id).arg(first[id]));
+        else
+            first.insert(id, i);
+    }
+}
+
+void ColumnDocumentCheck::checkLimbs(const QJsonObject &document, const JsonPlace &place)
+{
+    const auto model = filled<ORVCADColumnCloudIdentifyInputModel>(document);
+    const JsonPlace list(place, key::elements);
+    for (int i = 0; i < sizeOf(model.elements); ++i) {
+        const QString limbs = model.elements[static_cast<std::size_t>(i)]->bar.strLimb;
+        qint64 bPicture = 0;
+        qint64 hPicture = 0;
+        if (limbs.isEmpty() ||
+            model.oHoopBarSettingPar.parseColumnCombLimbInfo(limbs.toStdWString(), bPicture, hPicture))
+            continue;
+        const JsonPlace element(list, i);
+        const JsonPlace bar(element, key::bar);
+        m_look.note(JsonPlace(bar, key::limb),
+                    QStringLiteral("\"%1\" has no picture in the hoop bar settings").arg(limbs));
+    }
+}
+
+} // namespace orvcad

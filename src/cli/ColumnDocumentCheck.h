@@ -1,0 +1,48 @@
+#pragma once
+
+#include "cli/ColumnRecordLook.h"
+
+#include <QJsonObject>
+#include <QString>
+
+namespace orvcad {
+
+/** Which column record a JSON object is, what it holds, and what in it the reader does not take as it stands.
+ *
+ *  The kind is told from the keys: the record that knows most of them. */
+class ColumnDocumentCheck
+{
+public:
+    explicit ColumnDocumentCheck(const QJsonObject &document);
+
+    /** False when no column record has any of the object's keys; nothing else is told then. */
+    bool isColumnRecord() const { return !m_title.isEmpty(); }
+    /** For people, such as "results of identification". */
+    const QString &title() const { return m_title; }
+    /** "kind" and what the record holds, keys as in docs/cli.md. */
+    const QJsonObject &content() const { return m_content; }
+    /** Values that the reader does not take as they stand, in the order of the reader. */
+    const std::vector<JsonFault> &findings() const { return m_look.findings(); }
+    /** What the document has and what is written from the record lacks or has otherwise, each with the finding that tells
+     *  why or with the value that is written; in the order of the keys. A key that is missing is no loss, though the
+     *  record writes it. */
+    const std::vector<JsonFault> &notKept() const { return m_notKept; }
+    /** Those of them that no finding tells of: values that are sound and have another form when they are written. */
+    const std::vector<JsonFault> &writtenOtherwise() const { return m_writtenOtherwise; }
+    int missingKeys() const { return m_look.missingKeys(); }
+
+private:
+    template <typename Fields> void check(const QJsonObject &document);
+    void compareWithWritten(const QJsonObject &document);
+    void checkHoopBars(const QJsonObject &par, const dwgx::JsonPlace &place);
+    void checkLimbs(const QJsonObject &document, const dwgx::JsonPlace &place);
+
+    QString m_title;
+    QJsonObject m_content;
+    QJsonObject m_written;
+    ColumnRecordLook m_look;
+    std::vector<JsonFault> m_notKept;
+    std::vector<JsonFault> m_writtenOtherwise;
+};
+
+} // namespace orvcad

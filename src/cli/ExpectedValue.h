@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QJsonValue>
+#include <QString>
+
+namespace orvcad {
+
+/** What the reader of a record takes under a key; everything else reads as 0, false or empty. */
+enum class Expected { Text, Integer, Number, Truth, Id };
+
+bool fits(const QJsonValue &value, Expected kind);
+/** The kind in words, to stand behind "is not". */
+QString wordFor(Expected kind);
+
+} // namespace orvcad

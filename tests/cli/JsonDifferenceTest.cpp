@@ -1,0 +1,70 @@
+#include "cli/JsonDifference.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <gtest/gtest.h>
+
+using namespace orvcad;
+
+namespace {
+
+QJsonValue value(const QByteArray &text) { return QJsonDocument::fromJson('[' + text + ']').array()[0]; }
+
+/** The places, with commas between them. */
+std::string places(const QByteArray &before, const QByteArray &after)
+{
+    QStringList found;
+    for (const JsonDifference &difference : differencesBetween(value(before), value(after)))
+        found.append(difference.place);
+    return found.join(',').toStdString();
+}
+
+TEST(JsonDifferenceTest, sameDocumentsHaveNone)
+{
+    EXPECT_EQ(places(R"({"a": [1, {"b": null}], "c": "x"})", R"({"c": "x", "a": [1.0, {"b": null}]})"), "");
+}
+
+TEST(JsonDifferenceTest, placeIsThePathOfKeysAndIndexes)
+{
+    EXPECT_EQ(places(R"({"a": [1, {"b": [[7]]}], "c": 1})", R"({"a": [2, {"b": [[8]]}], "c": "1"})"),
+              "a[0],a[1].b[0][0],c");
+    ASSERT_EQ(differencesBetween(1, 2).size(), 1U);
+    EXPECT_EQ(differencesBetween(1, 2)[0].place, "");
+}
+
+TEST(JsonDifferenceTest, keysOfTheWayAreToldWithoutIndexes)
+{
+    const auto found = differencesBetween(value(R"({"a": [{"b.c": 1}]})"), value(R"({"a": [{"b.c": 2}]})"));
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_EQ(found[0].keys, (QStringList{"a", "b.c"}));
+    EXPECT_EQ(found[0].before, 1);
+    EXPECT_EQ(found[0].after, 2);
+}
+
+TEST(JsonDifferenceTest, keyOfOneSideAloneIsUndefinedOnTheOther)
+{
+    const auto found = differencesBetween(value(R"({"a": null})"), value(R"({"b": {"c": 1}})"));
+    ASSERT_EQ(found.size(), 2U);
+    EXPECT_EQ(found[0].place, "a");
+    EXPECT_TRUE(found[0].before.isNull());
+    EXPECT_TRUE(found[0].after.isUndefined());
+    EXPECT_EQ(found[1].place, "b");
+    EXPECT_TRUE(found[1].before.isUndefined());
+}
+
+TEST(JsonDifferenceTest, arraysOfDifferentLengthsAreADifferenceWithTheirCommonEntries)
+{
+    EXPECT_EQ(places(R"({"a": [1, 2, 3]})", R"({"a": [1, 7]})"), "a,a[1]");
+    EXPECT_EQ(places(R"({"a": []})", R"({"a": {}})"), "a");
+}
+
+TEST(JsonDifferenceTest, wholeNumbersAreComparedWith64Bits)
+{
+    EXPECT_EQ(places(R"({"id": 9007199254740993})", R"({"id": 9007199254740992})"), "id");
+    EXPECT_EQ(places(R"({"id": 9007199254740993})", R"({"id": 9007199254740993})"), "");
+    EXPECT_EQ(places(R"({"id": 1e300})", R"({"id": 1e300})"), "");
+}
+
+} // namespace

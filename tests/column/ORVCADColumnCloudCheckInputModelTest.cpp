@@ -1,0 +1,79 @@
+#include "column/ORVCADColumnCloudCheckInputModel.h"
+
+#include "ColumnDocuments.h"
+#include "platform/geometry/CArc2d.h"
+#include "platform/geometry/CLine2d.h"
+
+namespace {
+
+using Model = ORVCADColumnCloudCheckInputModel;
+
+Model sample()
+{
+    Model model;
+    model.columnOptions.KJZMark = "KJZ";
+    model.columnOptions.AZMark = "AZ";
+    model.columnOptions.DZMark = "D";
+    model.columnOptions.KZZMark = "KZ";
+    model.columnOptions.ZHZMark = "ZHZ1";
+    model.columnOptions.GZZMark = "GZZ";
+    model.columnOptions.bSideBarAverageDistribution = true;
+    model.columnOptions.MaxSearchExtent = 3000;
+    model.strCurFloorCode = "-1";
+    for (vks::CCurve2d *curve : {static_cast<vks::CCurve2d *>(new vks::CLine2d({0, 0}, {10000, 0})),
+                                 static_cast<vks::CCurve2d *>(new vks::CArc2d({0, 0}, {6000, 0}, 0.5))})
+        model.axisLineList.push_back(std::make_shared<ORVCADAxisLine>(ORVCADAxisLine{curve}));
+    return model;
+}
+
+TEST(ORVCADColumnCloudCheckInputModelTest, everyFieldIsWrittenUnderItsKey)
+{
+    EXPECT_EQ(textOf(sample().toJson()), columnDocument("check-input").toStdString());
+}
+
+TEST(ORVCADColumnCloudCheckInputModelTest, everyKeyIsReadIntoItsField)
+{
+    const Model model = filled<Model>(jsonOf(columnDocument("check-input")));
+    EXPECT_EQ(textOf(model.toJson()), columnDocument("check-input").toStdString());
+    EXPECT_EQ(model.strCurFloorCode, "-1");
+    EXPECT_EQ(model.columnOptions.MaxSearchExtent, 3000);
+    EXPECT_TRUE(model.columnOptions.bSideBarAverageDistribution);
+    EXPECT_EQ(model.axisLineList.size(), 2U);
+}
+
+TEST(ORVCADColumnCloudCheckInputModelTest, hasNoType)
+{
+    EXPECT_EQ(Model().toJson().keys(), (QStringList{"axisLineList", "columnOptions", "strCurFloorCode"}));
+}
+
+TEST(ORVCADColumnCloudCheckInputModelTest, missingAndMistypedValuesReadEmptyAndAxisLinesAreAddedTo)
+{
+    Model model = sample();
+    model.fromJson(&model, mistypedThroughout(jsonOf(columnDocument("check-input"))));
+    EXPECT_EQ(model.axisLineList.size(), 2U);
+    model.axisLineList.clear();
+    expectSameJson(model.toJson(), Model().toJson());
+    model.fromJson(&model, jsonOf(columnDocument("check-input")));
+    model.fromJson(&model, jsonOf(columnDocument("check-input")));
+    EXPECT_EQ(model.axisLineList.size(), 4U);
+}
+
+TEST(ORVCADColumnCloudCheckInputModelTest, copySharesItsAxisLines)
+{
+    const Model source = sample();
+    const Model copy = source; // NOLINT(performance-unnecessary-copy-initialization): what is tested
+    EXPECT_EQ(copy.axisLineList, source.axisLineList);
+}
+
+TEST(ORVCADColumnCloudCheckInputModelTest, nullTargetDoesNothingAndTheReceiverPlaysNoPart)
+{
+    const Model receiver = sample();
+    receiver.fromJson(nullptr, {{"strCurFloorCode", "9"}});
+    Model target;
+    receiver.fromJson(&target, {{"strCurFloorCode", "9"}});
+    EXPECT_EQ(target.strCurFloorCode, "9");
+    EXPECT_TRUE(target.axisLineList.empty());
+    EXPECT_EQ(receiver.strCurFloorCode, "-1");
+}
+
+} // namespace
