@@ -17,7 +17,11 @@ struct Arguments
     std::string floor;
     std::string input;
     std::string output;
+    std::string drawing;
+    std::string ids;
+    int parts = 0;
     bool strict = false;
+    bool asNew = false;
 
     static QString text(const std::string &value) { return QString::fromStdString(value); }
 };
