@@ -16,8 +16,6 @@ namespace orvcad {
 
 namespace {
 
-constexpr int kEverything = 126;
-
 IHBXFloor &floorOf(const hbx::embedded::HBXProject &project, const Arguments &arguments)
 {
     IHBXRegion &region = requireRegion(project, Arguments::text(arguments.region));
@@ -97,7 +95,7 @@ void addSlabCommands(CLI::App &app, Command &command)
     group->require_subcommand(1);
 
     auto arguments = newArguments();
-    arguments->parts = kEverything;
+    arguments->parts = SlabParts::kEverything;
     CLI::App *verb =
         addVerb(*group, command, "export", "Write what recognition gets of a floor's slabs", arguments, exportSlabs);
     CLI::Option *parts =
@@ -111,7 +109,8 @@ void addSlabCommands(CLI::App &app, Command &command)
     arguments = newArguments();
     verb = addVerb(*group, command, "apply", "Write a reply into a floor and save the project", arguments, applyReply);
     verb->add_option("REPLY", arguments->input, "Reply document")->required();
-    verb->add_flag("--as-new", arguments->asNew, "Take everything in the document as new, so that an export is a reply");
+    verb->add_flag("--as-new", arguments->asNew,
+                   "Take everything in the document as new, so that an export is a reply");
     verb->add_option("--ids", arguments->ids, "File to write the ids of what was made to, with the reply's identities");
     verb->add_flag("--strict", arguments->strict, "Save nothing when a member of the reply is left out");
 }

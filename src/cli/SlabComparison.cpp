@@ -26,8 +26,8 @@ constexpr double kSameElevation = 1e-5; // m: an elevation travels as a text of 
 /** What is compared of an element. */
 struct Piece
 {
-    QString title;      ///< "slab B-h120"
-    QStringList values; ///< have to be the same
+    QString title;                       ///< "slab B-h120"
+    QStringList values;                  ///< have to be the same
     std::vector<double> elevations = {}; ///< m
     vks::CRefPtr<vks::CPolygon> outline = nullptr;
     vks::CRefPtr<vks::CCurve2d> line = nullptr;
@@ -72,11 +72,8 @@ Piece pieceOf(const Local::RaftMainForcedBar &bar) { return mainPiece(bar, "raft
 
 template <typename Bar> QStringList labelsOf(const Bar &bar)
 {
-    return {bar.barInfo,
-            QString::number(bar.labelPosition),
-            numberText(bar.leftStretchLength),
-            numberText(bar.rightStretchLength),
-            QString::number(bar.leftHookLength)};
+    return {bar.barInfo, QString::number(bar.labelPosition), numberText(bar.leftStretchLength),
+            numberText(bar.rightStretchLength), QString::number(bar.leftHookLength)};
 }
 
 template <typename Bar> Piece straddlePiece(const Bar &bar, const char *title)

@@ -46,8 +46,9 @@ SlabParts::SlabParts(int number) : m_number(number)
     if (number > kGreatest || number < 0 || !has(kAllElements | Parts::AxisNets))
         throw CommandFailure(
             kWrongUsage,
-            QStringLiteral("--parts %1 names no part; parts: 2 supports, 4 slabs and holes, 8 bars of slabs, 32 rafts, 64 "
-                           "bars of rafts, 128 axis grids, or a sum of them")
+            QStringLiteral(
+                "--parts %1 names no part; parts: 2 supports, 4 slabs and holes, 8 bars of slabs, 32 rafts, 64 "
+                "bars of rafts, 128 axis grids, or a sum of them")
                 .arg(number));
 }
 

@@ -14,8 +14,10 @@ namespace orvcad {
 class SlabParts
 {
 public:
-    /** Throws CommandFailure (wrong usage) for a number that names no part. */
-    explicit SlabParts(int number);
+    /** Everything, or by number. Throws CommandFailure (wrong usage) for a number that names no part. */
+    explicit SlabParts(int number = kEverything);
+
+    static constexpr int kEverything = 126;
 
     /** True for all parts but axis grids, told or not: 126 and 127. Only then the elements carry the ids of the host. */
     bool isEverything() const;

@@ -27,8 +27,8 @@ public:
         const SlabArray *array = nullptr;
         QString place; ///< boards[3]
         QString name;
-        QUuid identity;  ///< as the reply tells it; null where it tells none
-        QUuid written;   ///< one of its own, under which it is written: those of a reply may repeat
+        QUuid identity;   ///< as the reply tells it; null where it tells none
+        QUuid written;    ///< one of its own, under which it is written: those of a reply may repeat
         QJsonObject json; ///< with that identity
     };
     struct Count
