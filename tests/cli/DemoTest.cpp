@@ -6,12 +6,12 @@ namespace {
 
 using DemoTest = CliFixture;
 
-TEST_F(DemoTest, tourBringsOpeningsAndBeamsBackWithoutDeviations)
+TEST_F(DemoTest, tourBringsOpeningsBeamsAndSlabsBackWithoutDeviations)
 {
     const Result result = run({"demo", "tour", "--json"});
     EXPECT_EQ(result.exitCode, 0) << result.err.toStdString();
     const QJsonObject summary = result.json();
-    EXPECT_EQ(keys(summary), "apply,applyBeams,beamComparison,comparison,directory");
+    EXPECT_EQ(keys(summary), "apply,applyBeams,applySlabs,beamComparison,comparison,directory,slabComparison");
     EXPECT_EQ(summary["directory"], "tour");
     // 21 doors and 17 windows, of which 64 and 23 are placed; the file puts each of them into a wall.
     EXPECT_EQ(summary["apply"], QJsonValue(QJsonObject{{"members", 125},
@@ -29,26 +29,33 @@ TEST_F(DemoTest, tourBringsOpeningsAndBeamsBackWithoutDeviations)
     EXPECT_EQ(summary["applyBeams"]["made"]["segments"], 129);
     EXPECT_EQ(summary["applyBeams"]["leftOut"], QJsonArray());
     EXPECT_EQ(summary["beamComparison"], QJsonValue(QJsonObject{{"compared", 129}, {"deviations", QJsonArray()}}));
+    // Its 21 slabs have neither holes nor bars; 148 supports stand in the payload with them.
+    EXPECT_EQ(summary["applySlabs"]["members"], 21);
+    EXPECT_EQ(summary["applySlabs"]["made"], 21);
+    EXPECT_EQ(summary["applySlabs"]["passedOver"], 148);
+    EXPECT_EQ(summary["applySlabs"]["leftOut"], QJsonArray());
+    EXPECT_EQ(summary["slabComparison"], QJsonValue(QJsonObject{{"compared", 21}, {"deviations", QJsonArray()}}));
 }
 
 TEST_F(DemoTest, tourLeavesItsFiles)
 {
     ASSERT_EQ(run({"demo", "tour"}).exitCode, 0);
     EXPECT_EQ(QDir(path("tour")).entryList(QDir::Files, QDir::Name).join(' ').toStdString(),
-              "after.svg beams.json before.svg building.hbxdb building.json floors.json openings.json restored.hbxdb");
+              "after.svg beams.json before.svg building.hbxdb building.json floors.json openings.json restored.hbxdb "
+              "slab-ids.json slabs.json");
     QFile original(sample("masonry-block"));
     ASSERT_TRUE(original.open(QIODevice::ReadOnly));
     EXPECT_EQ(read("tour/building.json"), original.readAll());
 }
 
-TEST_F(DemoTest, picturesDifferByTheOpeningsAndBeamsOfTheDrawnFloor)
+TEST_F(DemoTest, picturesDifferByTheOpeningsBeamsAndSlabsOfTheDrawnFloor)
 {
     ASSERT_EQ(run({"demo", "tour"}).exitCode, 0);
     QDomDocument before;
     QDomDocument after;
     ASSERT_TRUE(before.setContent(read("tour/before.svg")));
     ASSERT_TRUE(after.setContent(read("tour/after.svg")));
-    for (const char *group : {"class=\"type-4\"", "class=\"type-5\"", "class=\"type-15\""}) {
+    for (const char *group : {"class=\"type-4\"", "class=\"type-5\"", "class=\"type-15\"", "class=\"type-19\""}) {
         EXPECT_FALSE(read("tour/before.svg").contains(group)) << group;
         EXPECT_TRUE(read("tour/after.svg").contains(group)) << group;
     }
@@ -67,16 +74,19 @@ TEST_F(DemoTest, tourTellsItsStepsAsOneWouldTypeThem)
           "$ orvcad opening export building.hbxdb -o openings.json\n  38 elements and 87 placed openings, 87 of them",
           "$ orvcad beam export building.hbxdb --floor \"Level 1\" -o beams.json\n  2 elements, 129 chains of 129 "
           "segments, ",
-          "A copy, restored.hbxdb, loses all doors and windows (38 elements) and the beams of Level 1 (2 elements), "
-          "with ",
-          "$ orvcad draw restored.hbxdb --floor \"Level 1\" -o before.svg\n  97 placed objects at 1:",
+          "$ orvcad slab export building.hbxdb --floor \"Level 1\" -o slabs.json\n  21 slabs, 19 columns, 129 beams",
+          "A copy, restored.hbxdb, loses all doors and windows (38 elements) and the beams (2 elements) and slabs (",
+          "$ orvcad draw restored.hbxdb --floor \"Level 1\" -o before.svg\n  76 placed objects at 1:",
           "$ orvcad opening apply restored.hbxdb openings.json\n"
           "  125 members read: 38 elements made, 87 openings placed (87 in a wall, 0 in none), 0 left out",
           "$ orvcad beam apply restored.hbxdb beams.json\n  2 beams read: 2 elements, 129 chains of 129 segments, ",
+          "$ orvcad slab apply restored.hbxdb --floor \"Level 1\" slabs.json --as-new --ids slab-ids.json\n"
+          "  21 members read: 21 made in ",
           "$ orvcad draw restored.hbxdb --floor \"Level 1\" -o after.svg\n  266 placed objects at 1:",
           "Compared with the original: 87 openings, the payload written again is the same but for ids; each in the "
           "wall",
           "Compared with the original: 129 segments of beams, the payload written again is the same",
+          "Compared with the original: 21 members of slabs, nothing lost, added or moved",
           "Everything stands in tour; before.svg and after.svg are the pictures."}) {
         const int found = result.out.indexOf(step, place);
         EXPECT_GE(found, place) << step << "\nis missing in\n" << result.out.toStdString();
