@@ -254,7 +254,7 @@ void PlanPainter::paintObject(const PlanObject &placed)
     if (placed.curve)
         m_page.addCurve(*placed.curve, strokeOf(type));
     if (placed.bar)
-        m_page.addCurve(*placed.bar, QStringLiteral("class=\"bar\" fill=\"none\" stroke=\"%1\" stroke-width=\"%2\"")
+        m_page.addCurve(*placed.bar, QStringLiteral("class=\"bar\" stroke=\"%1\" stroke-width=\"%2\"")
                                          .arg(strokeColourOf(type))
                                          .arg(kBarStroke));
     for (const PlanObject::Axis &axis : placed.axes)
