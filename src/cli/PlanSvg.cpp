@@ -102,7 +102,7 @@ private:
     void paintObject(const PlanObject &placed);
     void paintPane(const vks::CPolygon &outline);
     void paintVoid(const vks::CPolygon &outline);
-    QString fillOf(const PlanObject &placed) const;
+    QString areaFillOf(const PlanObject &placed) const;
     void paintAxis(const PlanObject::Axis &axis, const QString &stroke);
     void paintNames();
     void paintName(PlanLabels &labels, const PlanObject &placed);
@@ -167,6 +167,9 @@ bool isDark(qint64 type)
     const int brightness = (299 * (rgb >> 16 & 0xFF) + 587 * (rgb >> 8 & 0xFF) + 114 * (rgb & 0xFF)) / 1000;
     return styleOf(type).fillOpacity == kSolid && !isOpening(type) && brightness < kDarkestOfLight;
 }
+
+/** True for what no name of something else may lie on. */
+bool keepsFree(qint64 type) { return styleOf(type).fillOpacity == kSolid || type == kHole; }
 
 /** SVG attributes of what a type's outlines are filled with. */
 QString fillOf(qint64 type)
@@ -246,7 +249,7 @@ void PlanPainter::paintObject(const PlanObject &placed)
 {
     const qint64 type = placed.object->type();
     if (placed.outline)
-        m_page.addPolygon(*placed.outline, fillOf(placed) + ' ' + strokeOf(type));
+        m_page.addPolygon(*placed.outline, areaFillOf(placed) + ' ' + strokeOf(type));
     if (placed.outline && type == kWindow)
         paintPane(*placed.outline);
     if (placed.outline && type == kHole)
@@ -285,10 +288,10 @@ void PlanPainter::paintVoid(const vks::CPolygon &outline)
                         QStringLiteral("class=\"void\" ") + strokeOf(kHole));
 }
 
-QString PlanPainter::fillOf(const PlanObject &placed) const
+QString PlanPainter::areaFillOf(const PlanObject &placed) const
 {
     const qint64 type = placed.object->type();
-    return placed.topElev ? shadeOf(type, m_shades[type].opacity(*placed.topElev)) : orvcad::fillOf(type);
+    return placed.topElev ? shadeOf(type, m_shades[type].opacity(*placed.topElev)) : fillOf(type);
 }
 
 void PlanPainter::paintAxis(const PlanObject::Axis &axis, const QString &stroke)
@@ -312,7 +315,7 @@ void PlanPainter::paintNames()
     PlanLabels labels(kNameHeight * m_scale);
     m_page.beginGroup(QStringLiteral("names"));
     for (const PlanObject &placed : m_objects)
-        if (placed.outline && styleOf(placed.object->type()).fillOpacity == kSolid)
+        if (placed.outline && keepsFree(placed.object->type()))
             labels.keepFree(*placed.outline);
     // From the top down: what lies on top keeps its name where there is room for one only.
     for (auto placed = m_objects.crbegin(); placed != m_objects.crend(); ++placed)

@@ -6,6 +6,7 @@
 #include "cli/SlabReplyCheck.h"
 #include "cli/SlabWriter.h"
 #include "platform/host/HBXBatch.h"
+#include "platform/host/IHBXDrawObjs.h"
 #include "platform/host/IHBXElement.h"
 #include "platform/host/IHBXElements.h"
 #include "platform/host/IHBXFloor.h"
@@ -115,12 +116,12 @@ QString SlabOutcome::text() const
         if (array.members > 0)
             lines.append(array.text());
     if (passedOver > 0)
-        lines.append(QStringLiteral("passed over: %1, which no reply makes")
-                         .arg(counted(passedOver, QStringLiteral("support or axis grid"))));
+        lines.append(QStringLiteral("passed over: %1 of supports and axis grids, which no reply makes")
+                         .arg(counted(passedOver, QStringLiteral("member"))));
     if (repeated > 0)
         lines.append(QStringLiteral("%1 with the identity of one before: the id map names both alike")
                          .arg(counted(repeated, QStringLiteral("member"))));
-    return headline() + cutLines(lines) + leftOutLines(leftOut);
+    return headline() + cutLines(lines) + leftOutLines(leftOut) + doubledLine(doubled);
 }
 
 QJsonObject SlabOutcome::toJson() const
@@ -135,6 +136,7 @@ QJsonObject SlabOutcome::toJson() const
             {"arrays", list},
             {"passedOver", passedOver},
             {"repeatedIdentities", repeated},
+            {"doubled", doubled},
             {"leftOut", orvcad::toJson(leftOut)}};
 }
 
@@ -153,12 +155,14 @@ SlabOutcome applySlabs(HBXProject &project, IHBXFloor &floor, const QJsonObject 
     project.setCurrent(floor.region()->name(), floor.name());
     const SlabReplyCheck check(slabModelOf(reply, file));
     const int elementsBefore = model.elements()->count();
+    const int drawObjsBefore = model.drawObjects()->count();
     const HBXBatch batch(model, "orvcad slab apply");
     SlabWriter writer(project, floor);
     for (const Stage &stage : stages())
         writer.write(membersOf(check, stage.parts), stage.under);
     SlabOutcome outcome = outcomeOf(check, writer);
     outcome.elementsMade = model.elements()->count() - elementsBefore;
+    outcome.doubled = doubledSince(model, drawObjsBefore); // negative bars, which are checked for less
     return outcome;
 }
 

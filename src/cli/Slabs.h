@@ -34,6 +34,7 @@ struct SlabOutcome
     int elementsMade = 0;
     int passedOver = 0; ///< supports and axes in the reply
     int repeated = 0;   ///< members whose identity another one has before them
+    int doubled = 0;    ///< objects made that are the same as another one
     std::vector<Array> arrays;
     std::vector<LeftOut> leftOut;
     std::map<qint64, QUuid> ids; ///< draw object that was made, and the identity that the reply gave it

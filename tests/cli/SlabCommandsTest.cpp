@@ -92,7 +92,7 @@ TEST_F(SlabCommandsTest, applyMakesSlabsRaftsHolesAndBarsAndSaves)
     EXPECT_EQ(result.exitCode, 0) << result.err.toStdString() << result.out.toStdString();
     const QJsonObject json = result.json();
     EXPECT_EQ(keys(json),
-              "arrays,elementsMade,ids,known,leftOut,made,members,passedOver,project,repeatedIdentities,saved");
+              "arrays,doubled,elementsMade,ids,known,leftOut,made,members,passedOver,project,repeatedIdentities,saved");
     EXPECT_EQ(json["members"], 6);
     EXPECT_EQ(json["made"], 6);
     EXPECT_EQ(json["elementsMade"], 5); // the two slabs share one
@@ -193,7 +193,7 @@ TEST_F(SlabCommandsTest, summaryForPeopleTellsArrayByArray)
     const Result result = run({"slab", "apply", "house.hbxdb", "--floor", "F", "reply.json"});
     EXPECT_EQ(result.out.toStdString(), "2 members read: 1 made in 1 new element, 0 in the host already, 1 left out\n"
                                         "  2 slabs: 1 made, 0 in the host already, 1 left out\n"
-                                        "  passed over: 1 support or axis grid, which no reply makes\n"
+                                        "  passed over: 1 member of supports and axis grids, which no reply makes\n"
                                         "  left out: boards[1] (no name): is no object\n");
 }
 
