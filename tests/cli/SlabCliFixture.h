@@ -11,7 +11,7 @@ protected:
     {
         write("house.json", QByteArray(R"~({"format": "hbx-project", "version": 1, "name": "Small house",
             "regions": [{"name": "House", "floors": [{"name": "F", "code": "1", "bottomElev": 0, "height": 3,
-            "elements": [{"name": "B-h120", "type": 19, "properties": {"Thickness": 120}, "drawObjects": [
+            "elements": [{"name": "B-h120", "type": 19, "properties": {"Thickness": 120, "TopElev": "层顶标高"}, "drawObjects": [
             {"shape": {"kind": "face", "outline": "POLYGON((0 0, 9000 0, 9000 9000, 0 9000, 0 0))"}}]}]}]}]})~"));
         ASSERT_EQ(run({"project", "import", "house.json", "-o", "house.hbxdb"}).exitCode, 0);
     }
@@ -82,14 +82,14 @@ protected:
         write("reply.json", reply);
         return run(QStringList{"slab", "apply", "house.hbxdb", "--floor", "F", "reply.json", "--json"} + flags);
     }
-    QJsonObject exported(const QStringList &flags = {}) const
+    QJsonValue exported(const QStringList &flags = {}) const
     {
         const Result result =
             run(QStringList{"slab", "export", "house.hbxdb", "--floor", "F", "-o", "payload.json"} + flags);
         EXPECT_EQ(result.exitCode, 0) << result.err.toStdString();
         return readJson("payload.json").object();
     }
-    static QJsonValue arrayOf(const QJsonObject &summary, const QString &key)
+    static QJsonValue arrayOf(const QJsonValue &summary, const QString &key)
     {
         for (const QJsonValue array : summary["arrays"].toArray())
             if (array["array"] == key)

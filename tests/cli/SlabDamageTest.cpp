@@ -65,7 +65,7 @@ TEST_F(SlabDamageTest, membersThatCannotBeReadAreLeftOutWithPlaceAndReason)
 TEST_F(SlabDamageTest, outlinesThatAreNoneAreRefusedByTheHost)
 {
     const QPair<const char *, std::string> cases[] = {
-        {"POLYGON EMPTY", "The draw object has no geometry."},
+        {"POLYGON EMPTY", "The outline of the draw object has no edges."},
         {"POLYGON((0 0, 0 0, 0 0, 0 0))", "The outline of the draw object has an edge of no length."},
         {"POLYGON((20000 0, 21000 0, 22000 0, 20000 0))", "The outline of the draw object has no area."},
     };

@@ -4,9 +4,11 @@
 #include "cli/SlabNewIdentities.h"
 #include "cli/Slabs.h"
 #include "embedded/ExchangeDocuments.h"
+#include "encoding/GeometryFields.h"
 #include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXRegion.h"
 #include "platform/host/IHBXService.h"
+#include "platform/services/HbxRelation.h"
 
 #include <QJsonArray>
 
@@ -58,6 +60,34 @@ struct Journey
     SlabComparison comparison;
 };
 
+/** What a floor of a sample building does not get back as it was, and why. All others get back everything. */
+struct Exception
+{
+    const char *floor;
+    std::string leftOut;
+    std::string deviations;
+};
+const Exception kExceptions[] = {
+    // Its slab never got an outline, and the host takes none without.
+    {"第2层", "\n  left out: boards[0] (B-no-outline): surface is no outline",
+     "lost: slab B-no-outline (100, 0 m, nowhere)"},
+    // A turned rectangle is no rectangle but an odd hole, for which the name of the straight one is taken. And the top bar over
+    // the arc is drawn at right angles to the arc's end, on the other side of it, so that the arc is read the other way round.
+    {"第1层", "",
+     "lost: hole BD-800*1200 (around 3000, 4000)\n"
+     "lost: slab negative bar FJ-C8-150 (C8@150, 1, 800, 0, 90, , , around 12000, 4000)\n"
+     "added: hole BD-800*1200-1 (around 3000, 4000)\n"
+     "added: slab negative bar FJ-C8-150 (C8@150, 1, 800, 0, 90, , , around 12000, 4000)"},
+};
+
+Exception exceptionOf(const QString &floor)
+{
+    for (const Exception &exception : kExceptions)
+        if (floor == QString::fromUtf8(exception.floor))
+            return exception;
+    return {nullptr, "", ""};
+}
+
 class SlabJourneyTest : public ::testing::TestWithParam<const char *>
 {};
 
@@ -68,14 +98,30 @@ TEST_P(SlabJourneyTest, everyFloorComesBackWithNothingLostAddedOrMoved)
     int members = 0;
     for (const IHBXFloor *floor : pickFloors(*original, QString(), QString())) {
         const Journey journey(building, floor->region()->name(), floor->name());
-        const bool isBare = floor->name() == QStringLiteral("第2层"); // its one slab has no outline
-        EXPECT_EQ(journey.leftOut(), isBare ? "\n  left out: boards[0] (B-no-outline): surface is no outline" : "");
-        EXPECT_EQ(journey.deviations(), isBare ? "lost: slab B-no-outline (120, 7.2 m, nowhere)" : "")
-            << floor->name().toStdString();
-        EXPECT_EQ(journey.outcome.sum(&SlabOutcome::Array::made), journey.comparison.compared - (isBare ? 1 : 0));
+        const Exception exception = exceptionOf(floor->name());
+        EXPECT_EQ(journey.leftOut(), exception.leftOut) << floor->name().toStdString();
+        EXPECT_EQ(journey.deviations(), exception.deviations) << floor->name().toStdString();
+        EXPECT_EQ(journey.outcome.sum(&SlabOutcome::Array::made) + static_cast<int>(journey.outcome.leftOut.size()),
+                  journey.comparison.compared);
         members += journey.comparison.compared;
     }
     EXPECT_GE(members, 16);
+}
+
+TEST(SlabJourneyOfTurnedHolesTest, outlineComesBackUnderTheOtherName)
+{
+    const Journey journey(exchangetest::building("made-building"), QStringLiteral("主楼"), QStringLiteral("第1层"));
+    const QJsonArray before = slabDocument(*journey.original, journey.from, SlabParts())["board_holes"].toArray();
+    const QJsonArray after = slabDocument(*journey.copy, journey.to, SlabParts())["board_holes"].toArray();
+    ASSERT_EQ(before.size(), after.size());
+    const auto outlineOf = [](const QJsonArray &holes, const char *name, int place) {
+        for (const QJsonValue hole : holes)
+            if (hole["name"] == name && place-- == 0)
+                return encoding::KernelText::polygon(hole["surface"].toString());
+        return vks::CRefPtr<vks::CPolygon>();
+    };
+    EXPECT_EQ(hbx::polyPolyPosition(outlineOf(before, "BD-800*1200", 1), outlineOf(after, "BD-800*1200-1", 0), 1e-6),
+              vks::kPolygonsSame);
 }
 
 TEST_P(SlabJourneyTest, floorThatHasTheSlabsTakesNothingTwice)
