@@ -198,6 +198,25 @@ TEST_F(SlabCommandsTest, summaryForPeopleTellsArrayByArray)
                                         "  left out: boards[1] (no name): is no object\n");
 }
 
+TEST_F(SlabCommandsTest, negativeBarsThatStandThereAlreadyAreTold)
+{
+    // Outside of the slab the level of a bar is 0, which the bars that are there have, too: they are compared.
+    const QJsonObject outside = with(negativeBar(), "line", "LINESTRING(-9000 0, -9000 9000)");
+    ASSERT_EQ(apply({{"negative_forced_bars", QJsonArray{outside}}}).exitCode, 0);
+    const Result again = apply({{"negative_forced_bars", QJsonArray{outside}}});
+    EXPECT_EQ(again.exitCode, 3);
+    EXPECT_EQ(leftOut(again), "negative_forced_bars[0]: it lies over another negative bar at the level of its slab");
+    // Bars of rafts are compared with those of slabs alone, so they come in twice.
+    ASSERT_EQ(
+        apply({{"raft_negative_forced_bars", QJsonArray{with(outside, "line", "LINESTRING(-7000 0, -7000 900)")}}})
+            .exitCode,
+        0);
+    const Result twice =
+        apply({{"raft_negative_forced_bars", QJsonArray{with(outside, "line", "LINESTRING(-7000 0, -7000 900)")}}});
+    EXPECT_EQ(twice.exitCode, 0);
+    EXPECT_EQ(twice.json()["doubled"], 1);
+}
+
 // ---- what the host refuses
 
 TEST_F(SlabCommandsTest, refusalsOfTheHostAreToldWithTheirReasons)
