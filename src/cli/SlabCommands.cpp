@@ -74,17 +74,10 @@ Summary applyReply(const Arguments &arguments)
     return saveWithIds(*project, outcome, arguments);
 }
 
-using Verb = Summary (*)(const Arguments &);
-
-/** A verb of the group, on one floor of a project. */
-CLI::App *addVerb(CLI::App &group, Command &command, const std::string &name, const std::string &description,
-                  const std::shared_ptr<Arguments> &arguments, Verb run)
+void addFloor(CLI::App *verb, const std::shared_ptr<Arguments> &arguments)
 {
-    CLI::App *verb = group.add_subcommand(name, description);
     addProject(verb, arguments);
     addPlace(verb, arguments, true);
-    verb->callback([&command, arguments, run] { command = [arguments, run] { return run(*arguments); }; });
-    return verb;
 }
 
 } // namespace
@@ -98,6 +91,7 @@ void addSlabCommands(CLI::App &app, Command &command)
     arguments->parts = SlabParts::kEverything;
     CLI::App *verb =
         addVerb(*group, command, "export", "Write what recognition gets of a floor's slabs", arguments, exportSlabs);
+    addFloor(verb, arguments);
     CLI::Option *parts =
         verb->add_option("--parts", arguments->parts,
                          "Sum of what is written: 2 supports, 4 slabs and holes, 8 bars of slabs, 32 rafts, 64 bars of "
@@ -108,6 +102,7 @@ void addSlabCommands(CLI::App &app, Command &command)
 
     arguments = newArguments();
     verb = addVerb(*group, command, "apply", "Write a reply into a floor and save the project", arguments, applyReply);
+    addFloor(verb, arguments);
     verb->add_option("REPLY", arguments->input, "Reply document")->required();
     verb->add_flag("--as-new", arguments->asNew,
                    "Take everything in the document as new, so that an export is a reply");
