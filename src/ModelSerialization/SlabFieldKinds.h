@@ -1,19 +1,16 @@
 #pragma once
 
+#include "encoding/GeometryFields.h"
 #include "encoding/RecordFields.h"
-#include "platform/geometry/CCurve2d.h"
-#include "platform/geometry/CPolygon.h"
 #include "slab/AxisGrid_Sample.h"
 #include "slab/TruncatedNumber.h"
 
-#include <QByteArray>
 #include <QJsonValue>
 #include <QString>
 #include <QStringList>
 #include <QUuid>
 
 #include <cmath>
-#include <string>
 #include <utility>
 #include <vector>
 
@@ -21,25 +18,9 @@
  *  missing or mistyped value reads as 0, false, empty or null. */
 namespace slab {
 
+using encoding::KernelText;
 using PolygonPtr = vks::CRefPtr<vks::CPolygon>;
 using CurvePtr = vks::CRefPtr<vks::CCurve2d>;
-
-/** The kernel's own text; empty for null. */
-inline QString textOf(const vks::CGeometry *geometry)
-{
-    if (!geometry)
-        return {};
-    const std::string text = geometry->ToText();
-    return QString::fromLatin1(text.data(), static_cast<int>(text.size()));
-}
-/** Null for a text that is none of a polygon. */
-inline PolygonPtr polygonOf(const QString &text) { return vks::CPolygon::LoadFromString(text.toLatin1().constData()); }
-/** Null for a text that is none of a curve, the empty one and that of a polygon among them. */
-inline CurvePtr curveOf(const QString &text)
-{
-    const vks::CRefPtr<vks::CGeometry> geometry = vks::CGeometry::LoadFromStr(text.toLatin1().constData());
-    return dynamic_cast<vks::CCurve2d *>(geometry.get());
-}
 
 /** Cut to 32 bits on the way in. */
 struct NarrowId
@@ -98,18 +79,6 @@ struct EnumNumber
     }
 };
 
-struct PolygonText
-{
-    static QJsonValue toValue(const PolygonPtr &value) { return textOf(value); }
-    static PolygonPtr fromValue(const QJsonValue &json, const PolygonPtr &) { return polygonOf(json.toString()); }
-};
-
-struct CurveText
-{
-    static QJsonValue toValue(const CurvePtr &value) { return textOf(value); }
-    static CurvePtr fromValue(const QJsonValue &json, const CurvePtr &) { return curveOf(json.toString()); }
-};
-
 /** Polygon texts, each with ";" behind it. What follows the last ";" is not read. */
 struct PolygonListText
 {
@@ -119,7 +88,7 @@ struct PolygonListText
     {
         QString text;
         for (const PolygonPtr &polygon : polygons)
-            text += textOf(polygon) + kEnd;
+            text += KernelText::text(polygon) + kEnd;
         return text;
     }
     /** As many polygons as there are ";", null for each text that is none. */
@@ -130,7 +99,7 @@ struct PolygonListText
         std::vector<PolygonPtr> polygons;
         polygons.reserve(static_cast<std::size_t>(texts.size()));
         for (const QString &text : texts)
-            polygons.push_back(polygonOf(text));
+            polygons.push_back(KernelText::polygon(text));
         return polygons;
     }
 };
@@ -146,7 +115,7 @@ struct AxisListText
     {
         QString text;
         for (const auto &[label, curve] : axes)
-            text += label + kSeparator + textOf(curve) + kEnd;
+            text += label + kSeparator + KernelText::text(curve) + kEnd;
         return text;
     }
     static Axes fromValue(const QJsonValue &json, const Axes &)
@@ -155,7 +124,7 @@ struct AxisListText
         for (const QString &item : json.toString().split(kEnd)) {
             const QStringList parts = item.split(kSeparator);
             if (parts.size() == 2)
-                axes.emplace_back(parts[0], curveOf(parts[1]));
+                axes.emplace_back(parts[0], KernelText::curve(parts[1]));
         }
         return axes;
     }

@@ -16,6 +16,7 @@ namespace slab {
 using encoding::fieldAs;
 using encoding::fieldOr;
 using encoding::Flow;
+using encoding::KernelText;
 
 using Model = ORVCADBoardLocalModel_Sample;
 using Object = Model::Object;
@@ -41,190 +42,126 @@ using Point = vks::CVec2<double>;
 // clang-format off
 // One row, one line.
 
+/** What all elements but axis nets begin with. */
+template <typename Id> inline constexpr auto elementRows = std::make_tuple(
+    fieldAs<Id>(key::id, &Object::elementId),
+    fieldAs<UuidText>(key::recongnizedID, &Object::recongnizedID, Flow::WriteOnly));
+
+inline constexpr auto outlineRows = std::tuple_cat(elementRows<NarrowId>, std::make_tuple(
+    fieldOr(key::name, &Object::name),
+    fieldAs<KernelText>(key::surface, &SectionObject::surface)));
+
 // ---- Slabs, holes and rafts
 
-inline constexpr auto raftRows = std::make_tuple(
-    fieldAs<NarrowId>(key::id, &Object::elementId),
-    fieldAs<UuidText>(key::recongnizedID, &Object::recongnizedID, Flow::WriteOnly),
-    fieldOr(key::name, &Object::name),
-    fieldAs<PolygonText>(key::surface, &SectionObject::surface),
+inline constexpr auto raftRows = std::tuple_cat(outlineRows, std::make_tuple(
     fieldAs<Magnitude>(key::thickness, &Raft::thickness), // meant: no sign
     fieldOr(key::topElev, &Raft::topElev),
     fieldOr(key::bottomElev, &Raft::bottomElev),
-    fieldOr(key::stateDescript, &Object::stateDescript));
+    fieldOr(key::stateDescript, &Object::stateDescript)));
 
-inline constexpr auto boardRows = std::make_tuple(
-    fieldAs<NarrowId>(key::id, &Object::elementId),
-    fieldAs<UuidText>(key::recongnizedID, &Object::recongnizedID, Flow::WriteOnly),
-    fieldOr(key::name, &Object::name),
-    fieldAs<PolygonText>(key::surface, &SectionObject::surface),
+inline constexpr auto boardRows = std::tuple_cat(outlineRows, std::make_tuple(
     fieldOr(key::thickness, &Board::thickness), // meant: with its sign, unlike a raft's
     fieldOr(key::elev, &Board::elev),
     fieldAs<EnumNumber>(key::type, &Board::boardType, Flow::WriteOnly), // meant: never read
-    fieldOr(key::stateDescript, &Object::stateDescript));
+    fieldOr(key::stateDescript, &Object::stateDescript)));
 
-inline constexpr auto boardHoleRows = std::make_tuple(
-    fieldAs<NarrowId>(key::id, &Object::elementId),
-    fieldAs<UuidText>(key::recongnizedID, &Object::recongnizedID, Flow::WriteOnly),
-    fieldOr(key::name, &Object::name),
-    fieldAs<PolygonText>(key::surface, &SectionObject::surface),
+inline constexpr auto boardHoleRows = std::tuple_cat(outlineRows, std::make_tuple(
     fieldOr(key::barInfo, &BoardHole::barInfo),
     fieldOr(key::stateDescript, &Object::stateDescript),
     fieldOr(key::longSpanReinforceBar, &BoardHole::longSpanReinforceBar),
     fieldOr(key::shortSpanReinforceBar, &BoardHole::shortSpanReinforceBar),
-    fieldOr(key::obliqueReinforceBar, &BoardHole::obliqueReinforceBar));
+    fieldOr(key::obliqueReinforceBar, &BoardHole::obliqueReinforceBar)));
+
+// ---- Bars: what those of slabs and of rafts have in common
+
+/** Top bars. */
+template <typename Bar> inline constexpr auto negativeRows = std::tuple_cat(elementRows<NarrowId>, std::make_tuple(
+    fieldOr(key::name, &Object::name),
+    fieldAs<KernelText>(key::line, &LineObject::line),
+    fieldOr(key::labelPosition, &Bar::labelPosition),
+    fieldOr(key::leftStretchLength, &Bar::leftStretchLength),
+    fieldOr(key::rightStretchLength, &Bar::rightStretchLength),
+    fieldAs<CutLength>(key::leftHookLength, &Bar::leftHookLength),
+    fieldAs<CutLength>(key::rightHookLength, &Bar::leftHookLength, Flow::WriteOnly), // meant: the left
+    fieldAs<CutLength>(key::rightHookLength, &Bar::rightHookLength, Flow::ReadOnly),
+    fieldOr(key::barInfo, &Bar::barInfo),
+    part(key::refPointX, &Bar::refPoint, &Point::x),
+    part(key::refPointY, &Bar::refPoint, &Point::y),
+    fieldOr(key::refPointValid, &Bar::refPointValid),
+    fieldAs<TextReadFromCode>(key::stateDescript, &Object::stateDescript),
+    fieldOr(key::rowNumber, &Bar::rowNumber)));
+
+/** Bars of an area. */
+inline constexpr auto areaBarRows = std::tuple_cat(outlineRows, std::make_tuple(
+    part(key::directionX, &AreaBar::direction, &Point::x),
+    part(key::directionY, &AreaBar::direction, &Point::y),
+    fieldOr(key::barInfo, &AreaBar::barInfo),
+    part(key::refPointX, &AreaBar::refPoint, &Point::x),
+    part(key::refPointY, &AreaBar::refPoint, &Point::y),
+    fieldOr(key::refPointValid, &AreaBar::refPointValid),
+    fieldOr(key::rowNumber, &AreaBar::rowNumber)));
+
+template <typename Bar> inline constexpr auto mainRows = std::tuple_cat(areaBarRows, std::make_tuple(
+    fieldOr(key::stateDescript, &Object::stateDescript),
+    fieldOr(key::forcedType, &Bar::forcedType),
+    fieldAs<CutLength>(key::leftHookLength, &AreaBar::leftHookLength),
+    fieldAs<CutLength>(key::rightHookLength, &AreaBar::rightHookLength)));
+
+template <typename Bar> inline constexpr auto straddleRows = std::tuple_cat(areaBarRows, std::make_tuple(
+    fieldOr(key::labelPosition, &Bar::labelPosition),
+    fieldOr(key::leftStretchLength, &Bar::leftStretchLength),
+    fieldOr(key::rightStretchLength, &Bar::rightStretchLength),
+    fieldOr(key::leftHookLength, &AreaBar::leftHookLength),
+    fieldOr(key::rightHookLength, &AreaBar::rightHookLength),
+    fieldAs<TextReadFromCode>(key::stateDescript, &Object::stateDescript)));
 
 // ---- Bars of slabs
 
-inline constexpr auto negativeForcedBarRows = std::make_tuple(
-    fieldAs<NarrowId>(key::id, &Object::elementId),
-    fieldAs<UuidText>(key::recongnizedID, &Object::recongnizedID, Flow::WriteOnly),
-    fieldOr(key::name, &Object::name),
-    fieldAs<CurveText>(key::line, &LineObject::line),
-    fieldOr(key::labelPosition, &NegativeBar::labelPosition),
-    fieldOr(key::leftStretchLength, &NegativeBar::leftStretchLength),
-    fieldOr(key::rightStretchLength, &NegativeBar::rightStretchLength),
-    fieldAs<CutLength>(key::leftHookLength, &NegativeBar::leftHookLength),
-    fieldAs<CutLength>(key::rightHookLength, &NegativeBar::leftHookLength, Flow::WriteOnly), // meant: the left
-    fieldAs<CutLength>(key::rightHookLength, &NegativeBar::rightHookLength, Flow::ReadOnly),
-    fieldOr(key::barInfo, &NegativeBar::barInfo),
-    part(key::refPointX, &NegativeBar::refPoint, &Point::x),
-    part(key::refPointY, &NegativeBar::refPoint, &Point::y),
-    fieldOr(key::refPointValid, &NegativeBar::refPointValid),
+inline constexpr auto negativeForcedBarRows = std::tuple_cat(negativeRows<NegativeBar>, std::make_tuple(
     fieldOr(key::distributeBarInfo, &NegativeBar::distributeBarInfo),
-    fieldOr(key::saddleBarlineCount, &NegativeBar::saddleBarlineCount),
-    fieldAs<TextReadFromCode>(key::stateDescript, &Object::stateDescript),
-    fieldOr(key::rowNumber, &NegativeBar::rowNumber));
+    fieldOr(key::saddleBarlineCount, &NegativeBar::saddleBarlineCount)));
 
-inline constexpr auto forcedBarRows = std::make_tuple(
-    fieldAs<NarrowId>(key::id, &Object::elementId),
-    fieldAs<UuidText>(key::recongnizedID, &Object::recongnizedID, Flow::WriteOnly),
-    fieldOr(key::name, &Object::name),
-    fieldAs<PolygonText>(key::surface, &SectionObject::surface),
-    part(key::directionX, &AreaBar::direction, &Point::x),
-    part(key::directionY, &AreaBar::direction, &Point::y),
-    fieldOr(key::barInfo, &AreaBar::barInfo),
-    part(key::refPointX, &AreaBar::refPoint, &Point::x),
-    part(key::refPointY, &AreaBar::refPoint, &Point::y),
-    fieldOr(key::refPointValid, &AreaBar::refPointValid),
-    fieldOr(key::stateDescript, &Object::stateDescript),
-    fieldOr(key::forcedType, &ForcedBar::forcedType),
-    fieldOr(key::rowNumber, &AreaBar::rowNumber),
-    fieldAs<CutLength>(key::leftHookLength, &AreaBar::leftHookLength),
-    fieldAs<CutLength>(key::rightHookLength, &AreaBar::rightHookLength),
-    fieldAs<PolygonText>(key::supportPoly, &ForcedBar::supportPoly));
+inline constexpr auto forcedBarRows = std::tuple_cat(mainRows<ForcedBar>, std::make_tuple(
+    fieldAs<KernelText>(key::supportPoly, &ForcedBar::supportPoly)));
 
-inline constexpr auto straddleForcedBarRows = std::make_tuple(
-    fieldAs<NarrowId>(key::id, &Object::elementId),
-    fieldAs<UuidText>(key::recongnizedID, &Object::recongnizedID, Flow::WriteOnly),
-    fieldOr(key::name, &Object::name),
-    fieldAs<PolygonText>(key::surface, &SectionObject::surface),
-    part(key::directionX, &AreaBar::direction, &Point::x),
-    part(key::directionY, &AreaBar::direction, &Point::y),
-    fieldOr(key::barInfo, &AreaBar::barInfo),
-    part(key::refPointX, &AreaBar::refPoint, &Point::x),
-    part(key::refPointY, &AreaBar::refPoint, &Point::y),
-    fieldOr(key::refPointValid, &AreaBar::refPointValid),
-    fieldOr(key::labelPosition, &StraddleBar::labelPosition),
-    fieldOr(key::leftStretchLength, &StraddleBar::leftStretchLength),
-    fieldOr(key::rightStretchLength, &StraddleBar::rightStretchLength),
-    fieldOr(key::leftHookLength, &AreaBar::leftHookLength),
-    fieldOr(key::rightHookLength, &AreaBar::rightHookLength),
-    fieldAs<TextReadFromCode>(key::stateDescript, &Object::stateDescript),
+inline constexpr auto straddleForcedBarRows = std::tuple_cat(straddleRows<StraddleBar>, std::make_tuple(
     fieldOr(key::distributeBarInfo, &StraddleBar::distributeBarInfo),
     fieldOr(key::saddleBarlineCount, &StraddleBar::saddleBarlineCount),
-    fieldOr(key::rowNumber, &AreaBar::rowNumber),
     fieldAs<PolygonListText>(key::supportPolys, &StraddleBar::supportPolys, Flow::WriteOnly), // meant: never read, but
-    fieldAs<PolygonListText>(key::surface, &StraddleBar::supportPolys, Flow::ReadOnly)); // meant: from the outline
+    fieldAs<PolygonListText>(key::surface, &StraddleBar::supportPolys, Flow::ReadOnly))); // meant: from the outline
 
 // ---- Bars of rafts
 
-inline constexpr auto raftNegativeForcedBarRows = std::make_tuple(
-    fieldAs<NarrowId>(key::id, &Object::elementId),
-    fieldAs<UuidText>(key::recongnizedID, &Object::recongnizedID, Flow::WriteOnly),
-    fieldOr(key::name, &Object::name),
-    fieldAs<CurveText>(key::line, &LineObject::line),
-    fieldOr(key::labelPosition, &RaftNegativeBar::labelPosition),
-    fieldOr(key::leftStretchLength, &RaftNegativeBar::leftStretchLength),
-    fieldOr(key::rightStretchLength, &RaftNegativeBar::rightStretchLength),
-    fieldAs<CutLength>(key::leftHookLength, &RaftNegativeBar::leftHookLength),
-    fieldAs<CutLength>(key::rightHookLength, &RaftNegativeBar::leftHookLength, Flow::WriteOnly), // meant: the left
-    fieldAs<CutLength>(key::rightHookLength, &RaftNegativeBar::rightHookLength, Flow::ReadOnly),
-    fieldOr(key::barInfo, &RaftNegativeBar::barInfo),
-    part(key::refPointX, &RaftNegativeBar::refPoint, &Point::x),
-    part(key::refPointY, &RaftNegativeBar::refPoint, &Point::y),
-    fieldOr(key::refPointValid, &RaftNegativeBar::refPointValid),
-    fieldAs<TextReadFromCode>(key::stateDescript, &Object::stateDescript),
-    fieldOr(key::rowNumber, &RaftNegativeBar::rowNumber));
-
-inline constexpr auto raftMainForcedBarRows = std::make_tuple(
-    fieldAs<NarrowId>(key::id, &Object::elementId),
-    fieldAs<UuidText>(key::recongnizedID, &Object::recongnizedID, Flow::WriteOnly),
-    fieldOr(key::name, &Object::name),
-    fieldAs<PolygonText>(key::surface, &SectionObject::surface),
-    part(key::directionX, &AreaBar::direction, &Point::x),
-    part(key::directionY, &AreaBar::direction, &Point::y),
-    fieldOr(key::barInfo, &AreaBar::barInfo),
-    part(key::refPointX, &AreaBar::refPoint, &Point::x),
-    part(key::refPointY, &AreaBar::refPoint, &Point::y),
-    fieldOr(key::refPointValid, &AreaBar::refPointValid),
-    fieldOr(key::stateDescript, &Object::stateDescript),
-    fieldOr(key::forcedType, &RaftBar::forcedType),
-    fieldOr(key::rowNumber, &AreaBar::rowNumber),
-    fieldAs<CutLength>(key::leftHookLength, &AreaBar::leftHookLength),
-    fieldAs<CutLength>(key::rightHookLength, &AreaBar::rightHookLength));
-
-inline constexpr auto raftStraddleMainForcedBarRows = std::make_tuple(
-    fieldAs<NarrowId>(key::id, &Object::elementId),
-    fieldAs<UuidText>(key::recongnizedID, &Object::recongnizedID, Flow::WriteOnly),
-    fieldOr(key::name, &Object::name),
-    fieldAs<PolygonText>(key::surface, &SectionObject::surface),
-    part(key::directionX, &AreaBar::direction, &Point::x),
-    part(key::directionY, &AreaBar::direction, &Point::y),
-    fieldOr(key::barInfo, &AreaBar::barInfo),
-    part(key::refPointX, &AreaBar::refPoint, &Point::x),
-    part(key::refPointY, &AreaBar::refPoint, &Point::y),
-    fieldOr(key::refPointValid, &AreaBar::refPointValid),
-    fieldOr(key::labelPosition, &RaftStraddleBar::labelPosition),
-    fieldOr(key::leftStretchLength, &RaftStraddleBar::leftStretchLength),
-    fieldOr(key::rightStretchLength, &RaftStraddleBar::rightStretchLength),
-    fieldOr(key::leftHookLength, &AreaBar::leftHookLength),
-    fieldOr(key::rightHookLength, &AreaBar::rightHookLength),
-    fieldAs<TextReadFromCode>(key::stateDescript, &Object::stateDescript),
-    fieldOr(key::rowNumber, &AreaBar::rowNumber));
+inline constexpr auto raftNegativeForcedBarRows = negativeRows<RaftNegativeBar>;
+inline constexpr auto raftMainForcedBarRows = mainRows<RaftBar>;
+inline constexpr auto raftStraddleMainForcedBarRows = straddleRows<RaftStraddleBar>;
 
 // ---- Supports
 
-inline constexpr auto beamRows = std::make_tuple(
-    fieldAs<IdReadFromText>(key::id, &Object::elementId),
-    fieldAs<UuidText>(key::recongnizedID, &Object::recongnizedID, Flow::WriteOnly),
+inline constexpr auto beamRows = std::tuple_cat(elementRows<IdReadFromText>, std::make_tuple(
     fieldAs<TextReadFromCode>(key::name, &Object::name),
-    fieldAs<CurveText>(key::line, &LineObject::line),
+    fieldAs<KernelText>(key::line, &LineObject::line),
     fieldOr(key::width, &Support::width),
     fieldOr(key::distanceToLeft, &Support::distanceToLeft),
     fieldOr(key::type, &Support::supportType),
     fieldOr(key::startPointTopElev, &LineObject::startTopElev),
-    fieldOr(key::endPointTopElev, &LineObject::endTopElev));
+    fieldOr(key::endPointTopElev, &LineObject::endTopElev)));
 
-inline constexpr auto wallRows = std::make_tuple(
-    fieldAs<IdReadFromText>(key::id, &Object::elementId),
-    fieldAs<UuidText>(key::recongnizedID, &Object::recongnizedID, Flow::WriteOnly),
+inline constexpr auto wallRows = std::tuple_cat(elementRows<IdReadFromText>, std::make_tuple(
     fieldOr(key::name, &Object::name),
-    fieldAs<CurveText>(key::line, &LineObject::line),
+    fieldAs<KernelText>(key::line, &LineObject::line),
     fieldOr(key::distanceToLeft, &Support::distanceToLeft),
     fieldOr(key::width, &Support::width),
-    fieldOr(key::type, &Support::supportType)); // meant: the elevations of walls are not written
+    fieldOr(key::type, &Support::supportType))); // meant: the elevations of walls are not written
 
 /** @param kind  the field that type() gives, which the services alone may name */
 constexpr auto columnRows(Object::Types Object::*kind)
 {
-    return std::make_tuple(
-        fieldAs<IdReadFromText>(key::id, &Object::elementId),
-        fieldAs<UuidText>(key::recongnizedID, &Object::recongnizedID, Flow::WriteOnly),
+    return std::tuple_cat(elementRows<IdReadFromText>, std::make_tuple(
         fieldOr(key::name, &Object::name),
-        fieldAs<PolygonText>(key::surface, &SectionObject::surface),
+        fieldAs<KernelText>(key::surface, &SectionObject::surface),
         fieldAs<EnumNumber>(key::type, kind), // meant: the document's kind counts
-        fieldOr(key::columnTopElev, &Column::topElev));
+        fieldOr(key::columnTopElev, &Column::topElev)));
 }
 
 // ---- Axes
@@ -232,7 +169,7 @@ constexpr auto columnRows(Object::Types Object::*kind)
 inline constexpr auto axisGridRows = std::make_tuple(
     fieldAs<NarrowId>(key::id, &Object::elementId),
     fieldOr(key::name, &Object::name),
-    fieldAs<PolygonText>(key::surface, &AxisNet::surface),
+    fieldAs<KernelText>(key::surface, &AxisNet::surface),
     ofGrid(part(key::uStart, &Grid::gridU, &GridHalf::start)),
     ofGrid(part(key::uEnd, &Grid::gridU, &GridHalf::end)),
     ofGrid(part(key::vStart, &Grid::gridV, &GridHalf::start)),

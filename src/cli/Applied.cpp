@@ -16,11 +16,13 @@ namespace orvcad {
 
 namespace {
 constexpr int kMostLines = 20;
-}
+constexpr int kMostLetters = 60;
+} // namespace
 
 QString LeftOut::text() const
 {
-    return QStringLiteral("%1 (%2): %3").arg(place, name.isEmpty() ? QStringLiteral("no name") : name, reason);
+    return QStringLiteral("%1 (%2): %3")
+        .arg(place, name.isEmpty() ? QStringLiteral("no name") : shortened(name), reason);
 }
 
 QJsonObject LeftOut::toJson() const { return {{"place", place}, {"name", name}, {"reason", reason}}; }
@@ -31,6 +33,11 @@ QJsonArray toJson(const std::vector<LeftOut> &leftOut)
     for (const LeftOut &member : leftOut)
         json.append(member.toJson());
     return json;
+}
+
+QString shortened(const QString &text)
+{
+    return text.size() > kMostLetters ? text.left(kMostLetters) + QChar(0x2026) : text;
 }
 
 QString cutLines(const QStringList &lines)

@@ -25,6 +25,9 @@ struct LeftOut
 
 QJsonArray toJson(const std::vector<LeftOut> &leftOut);
 
+/** A text of a document for a line of a summary: the first sixty characters, and "…" behind them where there are more. */
+QString shortened(const QString &text);
+
 /** Lines of a summary, each on a line of its own behind a line break: the first twenty, and how many more there are. */
 QString cutLines(const QStringList &lines);
 /** The same for members that were left out. */

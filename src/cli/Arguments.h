@@ -1,5 +1,7 @@
 #pragma once
 
+#include "cli/Command.h"
+
 #include <CLI/CLI.hpp>
 
 #include <QString>
@@ -18,13 +20,29 @@ struct Arguments
     std::string input;
     std::string output;
     std::string kind;
+    std::string drawing;
+    std::string ids;
+    int parts = 0;
     bool strict = false;
+    bool asNew = false;
 
     static QString text(const std::string &value) { return QString::fromStdString(value); }
 };
 
 /** A verb with arguments of its own. */
 inline std::shared_ptr<Arguments> newArguments() { return std::make_shared<Arguments>(); }
+
+/** What a verb does with its arguments. */
+using Verb = Summary (*)(const Arguments &);
+
+/** A verb of a group, which stores itself in command when it is chosen. */
+inline CLI::App *addVerb(CLI::App &group, Command &command, const std::string &name, const std::string &description,
+                         const std::shared_ptr<Arguments> &arguments, Verb run)
+{
+    CLI::App *verb = group.add_subcommand(name, description);
+    verb->callback([&command, arguments, run] { command = [arguments, run] { return run(*arguments); }; });
+    return verb;
+}
 
 inline void addProject(CLI::App *verb, const std::shared_ptr<Arguments> &arguments)
 {

@@ -90,17 +90,6 @@ Summary applySeatDocument(const Arguments &arguments)
     return saveApplied(*project, outcome.leftOut.empty(), arguments.strict, outcome.text(), outcome.toJson());
 }
 
-using Verb = Summary (*)(const Arguments &);
-
-/** A verb of the group, with arguments of its own. */
-CLI::App *addVerb(CLI::App &group, Command &command, const std::string &name, const std::string &description,
-                  const std::shared_ptr<Arguments> &arguments, Verb run)
-{
-    CLI::App *verb = group.add_subcommand(name, description);
-    verb->callback([&command, arguments, run] { command = [arguments, run] { return run(*arguments); }; });
-    return verb;
-}
-
 void addExport(CLI::App &group, Command &command, const std::string &description, Verb run)
 {
     const auto arguments = newArguments();

@@ -50,6 +50,7 @@ using Command = std::function<Summary()>;
 void addProjectCommands(CLI::App &app, Command &command);
 void addFloorsCommands(CLI::App &app, Command &command);
 void addOpeningCommands(CLI::App &app, Command &command);
+void addSlabCommands(CLI::App &app, Command &command);
 void addBeamCommands(CLI::App &app, Command &command);
 void addWallCommands(CLI::App &app, Command &command);
 void addColumnCommands(CLI::App &app, Command &command);

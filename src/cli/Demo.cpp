@@ -8,6 +8,11 @@
 #include "cli/Openings.h"
 #include "cli/PlanSvg.h"
 #include "cli/ProjectInfo.h"
+#include "cli/SlabArrays.h"
+#include "cli/SlabComparison.h"
+#include "cli/SlabExport.h"
+#include "cli/SlabNewIdentities.h"
+#include "cli/Slabs.h"
 #include "cli/WallTour.h"
 #include "drawing/ORVCADFloor.h"
 #include "drawing/ORVCADFloors.h"
@@ -117,27 +122,41 @@ void writeBeams(Tour &tour, HBXProject &project)
               counts.text());
 }
 
+IHBXFloor &drawnFloor(const HBXProject &project)
+{
+    return requireFloor(project, requireRegion(project, QString()), kDrawnFloor);
+}
+
+void writeSlabs(Tour &tour, const HBXProject &project)
+{
+    const QJsonObject document = slabDocument(project, drawnFloor(project), SlabParts());
+    writeResult(tour.path(QStringLiteral("slabs.json")), QJsonDocument(document).toJson());
+    tour.step(QStringLiteral("slab export building.hbxdb --floor \"%1\" -o slabs.json").arg(kDrawnFloor),
+              slabCountsText(document));
+}
+
 void drawFloor(Tour &tour, const HBXProject &project, const QString &projectFile, const QString &picture,
                const QString &floorName = kDrawnFloor)
 {
-    IHBXRegion &region = requireRegion(project, QString());
-    IHBXFloor &floor = requireFloor(project, region, floorName);
+    IHBXFloor &floor = requireFloor(project, requireRegion(project, QString()), floorName);
     const PlanSvg plan = drawPlan(*project.service()->model(), floor, project.name());
     writeResult(tour.path(picture), plan.document);
     tour.step(QStringLiteral("draw %1 --floor \"%2\" -o %3").arg(projectFile, floorName, picture),
               QStringLiteral("%1 at 1:%2").arg(counted(plan.drawn, QStringLiteral("placed object"))).arg(plan.scale));
 }
 
-/** The copy that has lost its doors and windows and the beams of a floor, saved and opened again. */
+/** The copy that has lost its doors and windows and the beams and slabs of a floor, saved and opened again. */
 std::unique_ptr<HBXProject> stripCopy(Tour &tour, HBXProject &project, const QString &path)
 {
     const int openings = removeOpenings(project);
-    const int beams = removeBeams(project, *pickFloors(project, QString(), kDrawnFloor).front());
+    const int beams = removeBeams(project, drawnFloor(project));
+    const int slabs = removeSlabs(project, drawnFloor(project));
     saveProjectAs(project, path);
     tour.say(
-        QStringLiteral("A copy, restored.hbxdb, loses all doors and windows (%1) and the beams of %2 (%3), with all "
-                       "that is placed.")
-            .arg(counted(openings, QStringLiteral("element")), kDrawnFloor, counted(beams, QStringLiteral("element"))));
+        QStringLiteral("A copy, restored.hbxdb, loses all doors and windows (%1) and the beams (%2) and slabs (%3) of "
+                       "%4, with all that is placed.")
+            .arg(counted(openings, QStringLiteral("element")), counted(beams, QStringLiteral("element")),
+                 counted(slabs, QStringLiteral("element")), kDrawnFloor));
     return openProject(path);
 }
 
@@ -160,6 +179,29 @@ BeamOutcome applyBeamPayload(Tour &tour, HBXProject &project)
     return outcome;
 }
 
+SlabOutcome applySlabPayload(Tour &tour, HBXProject &project)
+{
+    const QString path = tour.path(QStringLiteral("slabs.json"));
+    SlabOutcome outcome =
+        applySlabs(project, drawnFloor(project), withNewIdentities(readJsonFile(path).object()), path);
+    writeResult(tour.path(QStringLiteral("slab-ids.json")), QJsonDocument(outcome.idMap()).toJson());
+    saveProject(project);
+    tour.step(QStringLiteral("slab apply restored.hbxdb --floor \"%1\" slabs.json --as-new --ids slab-ids.json")
+                  .arg(kDrawnFloor),
+              outcome.text());
+    return outcome;
+}
+
+/** What the replies did. */
+struct Outcomes
+{
+    OpeningOutcome openings;
+    BeamOutcome beams;
+    SlabOutcome slabs;
+
+    bool isComplete() const { return openings.leftOut.empty() && beams.leftOut.empty() && slabs.leftOut.empty(); }
+};
+
 /** The walls of another building, from one copy to the other, with pictures. */
 WallTour visitHall(Tour &tour, const QString &directory)
 {
@@ -178,30 +220,35 @@ WallTour visitHall(Tour &tour, const QString &directory)
 }
 
 /** Compares the saved projects, says what came of it and gives the summary of the tour. */
-Summary conclude(Tour &tour, const QString &directory, const OpeningOutcome &openings, const BeamOutcome &beams,
-                 WallTour &brickWalls)
+Summary conclude(Tour &tour, const QString &directory, const Outcomes &outcomes, WallTour &brickWalls)
 {
     const auto original = openProject(tour.path(kOriginal));
     const auto restored = openProject(tour.path(kRestored));
     const OpeningComparison comparison = compareOpenings(*original, *restored);
     const BeamComparison beamComparison = compareBeams(*original, *restored, kDrawnFloor);
+    const SlabComparison slabComparison = compareSlabs(*original->service()->model(), drawnFloor(*original),
+                                                       *restored->service()->model(), drawnFloor(*restored));
     tour.say(comparison.text());
     tour.say(beamComparison.text());
+    tour.say(slabComparison.text());
     tour.say(brickWalls.compare());
     const WallTour forceWalls = visitHall(tour, directory);
     tour.say(QStringLiteral("Everything stands in %1; before.svg and after.svg, hall-before.svg and "
                             "hall-after.svg are the pictures.")
                  .arg(directory));
-    const bool isSame = comparison.isSame() && beamComparison.isSame() && brickWalls.isSame() && forceWalls.isSame();
+    const bool isSame = comparison.isSame() && beamComparison.isSame() && slabComparison.isSame() &&
+                        brickWalls.isSame() && forceWalls.isSame();
     return {tour.text(),
             {{"directory", directory},
-             {"apply", openings.toJson()},
+             {"apply", outcomes.openings.toJson()},
              {"comparison", comparison.toJson()},
-             {"applyBeams", beams.toJson()},
+             {"applyBeams", outcomes.beams.toJson()},
              {"beamComparison", beamComparison.toJson()},
+             {"applySlabs", outcomes.slabs.toJson()},
+             {"slabComparison", slabComparison.toJson()},
              {"brickWalls", brickWalls.toJson()},
              {"forceWalls", forceWalls.toJson()}},
-            isSame && openings.leftOut.empty() && beams.leftOut.empty() ? kDone : kLeftOut};
+            isSame && outcomes.isComplete() ? kDone : kLeftOut};
 }
 
 } // namespace
@@ -214,17 +261,20 @@ Summary runDemo(const QString &directory)
     writeAndReadFloors(tour, *project);
     writePayload(tour, *project);
     writeBeams(tour, *project);
+    writeSlabs(tour, *project);
     tour.step(walls.write(*project));
     const QString lostWalls = walls.strip(*project);
     project = stripCopy(tour, *project, tour.path(kRestored));
     tour.say(lostWalls);
     drawFloor(tour, *project, kRestored, QStringLiteral("before.svg"));
+    Outcomes outcomes;
     tour.step(walls.apply(*project)); // ahead of the openings, which stand in them
-    const OpeningOutcome openings = applyPayload(tour, *project);
-    const BeamOutcome beams = applyBeamPayload(tour, *project);
+    outcomes.openings = applyPayload(tour, *project);
+    outcomes.beams = applyBeamPayload(tour, *project);
+    outcomes.slabs = applySlabPayload(tour, *project);
     drawFloor(tour, *project, kRestored, QStringLiteral("after.svg"));
     project.reset();
-    return conclude(tour, directory, openings, beams, walls);
+    return conclude(tour, directory, outcomes, walls);
 }
 
 } // namespace orvcad

@@ -105,10 +105,10 @@ PlanLabels::Frame PlanLabels::frameOfText(const Frame &place, const Point &middl
     return {middle, place.along, width / 2, m_textHeight / 2};
 }
 
-bool PlanLabels::isFree(const Frame &text, const vks::CPolygon &owner) const
+bool PlanLabels::isFree(const Frame &text, const vks::CPolygon *owner) const
 {
     const auto covered = [&text](const Frame &other) { return other.overlaps(text); };
-    const auto kept = [&](const Kept &other) { return other.owner != &owner && other.frame.overlaps(text); };
+    const auto kept = [&](const Kept &other) { return other.owner != owner && other.frame.overlaps(text); };
     return std::none_of(m_taken.begin(), m_taken.end(), covered) && std::none_of(m_kept.begin(), m_kept.end(), kept);
 }
 
@@ -139,7 +139,7 @@ std::optional<PlanLabels::Label> PlanLabels::placeInside(const vks::CPolygon &ou
             for (const double along : kPlaces) {
                 const Point move = frame.along * (along * room) + frame.along.Left() * (across * roomAcross);
                 const Frame text = frameOfText(frame, middle + move, width);
-                if (isFree(text, outline) && isWithin(text, outline))
+                if (isFree(text, &outline) && isWithin(text, outline))
                     return take(text);
             }
     return std::nullopt;
@@ -148,7 +148,23 @@ std::optional<PlanLabels::Label> PlanLabels::placeInside(const vks::CPolygon &ou
 std::optional<PlanLabels::Label> PlanLabels::placeBeside(const vks::CPolygon &outline, const QString &name,
                                                          double overhang)
 {
-    const Frame frame = frameOf(outline);
+    return placeAt(frameOf(outline), &outline, name, overhang);
+}
+
+std::optional<PlanLabels::Label> PlanLabels::placeAlong(const vks::CCurve2d &line, const QString &text, double overhang)
+{
+    const Point chord = line.EndPoint() - line.StartPoint();
+    Frame frame;
+    frame.centre = line.StartPoint() + chord * 0.5;
+    frame.along = chord == Point() ? Point(1, 0) : readable(chord.Normalized());
+    frame.halfLength = chord.Length() / 2;
+    return placeAt(frame, nullptr, text, overhang);
+}
+
+/** Along one of the longer sides of a frame. */
+std::optional<PlanLabels::Label> PlanLabels::placeAt(const Frame &frame, const vks::CPolygon *owner,
+                                                     const QString &name, double overhang)
+{
     const double width = widthOf(name, m_textHeight);
     if (name.isEmpty() || 2 * frame.halfLength * overhang < width)
         return std::nullopt;
@@ -158,7 +174,7 @@ std::optional<PlanLabels::Label> PlanLabels::placeBeside(const vks::CPolygon &ou
         for (const double side : {1.0, -1.0}) {
             const Point move = frame.along * (along * room) + frame.along.Left() * (side * distance);
             const Frame text = frameOfText(frame, frame.centre + move, width);
-            if (isFree(text, outline))
+            if (isFree(text, owner))
                 return take(text);
         }
     return std::nullopt;

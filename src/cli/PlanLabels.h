@@ -41,6 +41,8 @@ public:
     /** A place for a name along one of the longer sides of an outline, outside it.
      *  @param overhang  how much longer than the outline the name may be, as a factor */
     std::optional<Label> placeBeside(const vks::CPolygon &outline, const QString &name, double overhang = 1.0);
+    /** The same along the chord of a line. */
+    std::optional<Label> placeAlong(const vks::CCurve2d &line, const QString &text, double overhang = 1.0);
 
     /** The smallest rectangle in the direction of the longest edge. */
     static Frame frameOf(const vks::CPolygon &outline);
@@ -55,7 +57,8 @@ private:
     };
 
     Frame frameOfText(const Frame &place, const vks::CVec2<double> &middle, double width) const;
-    bool isFree(const Frame &text, const vks::CPolygon &owner) const;
+    bool isFree(const Frame &text, const vks::CPolygon *owner) const;
+    std::optional<Label> placeAt(const Frame &frame, const vks::CPolygon *owner, const QString &name, double overhang);
     Label take(const Frame &text);
 
     double m_textHeight;

@@ -1,24 +1,22 @@
 #include "cli/PlanSvg.h"
 
 #include "cli/PlanLabels.h"
+#include "cli/PlanObjects.h"
+#include "cli/PlanShades.h"
 #include "cli/PlanStyle.h"
 #include "cli/ProjectInfo.h"
 #include "cli/SvgPage.h"
 #include "platform/geometry/CLine2d.h"
-#include "platform/geometry/OrientProjectCurve2d.h"
-#include "platform/host/IHBXAxisGrid.h"
 #include "platform/host/IHBXDrawObjs.h"
 #include "platform/host/IHBXElement.h"
 #include "platform/host/IHBXElementDrawObj.h"
 #include "platform/host/IHBXFloor.h"
-#include "platform/host/IHBXLineShape2D.h"
 #include "platform/host/IHBXModel.h"
 #include "platform/host/IHBXRegion.h"
 #include "platform/services/HBXElementTypeTable.h"
 
 #include <QMap>
 
-#include <memory>
 #include <vector>
 
 namespace orvcad {
@@ -36,12 +34,16 @@ constexpr double kLegendX = kPageWidth - kMargin - kLegendWidth + 6.0;
 constexpr double kTitleWidth = 52.0;
 constexpr double kSwatch = 8.0; // of the legend
 constexpr double kLineStep = 6.0;
-constexpr double kFrame = 7.0;           // from the edge of the page
-constexpr double kLegendText = 2.2;      // capital letter
-constexpr double kNameHeight = 1.5;      // capital letter of a name
-constexpr double kOpeningOverhang = 2.0; // the name of an opening may be that much longer than the opening
-constexpr double kNamedBeside = 0.3;     // what is filled at least so strongly may have its name beside it
-constexpr int kDarkestOfLight = 0x80;    // strokes are no lighter, so that they print
+constexpr double kFrame = 7.0;            // from the edge of the page
+constexpr double kLegendText = 2.2;       // capital letter
+constexpr double kNameHeight = 1.5;       // capital letter of a name
+constexpr double kOpeningOverhang = 2.0;  // the name of an opening may be that much longer than the opening
+constexpr double kNamedBeside = 0.3;      // what is filled at least so strongly may have its name beside it
+constexpr int kDarkestOfLight = 0x80;     // strokes are no lighter, so that they print
+constexpr double kBarOverhang = 1.5;      // the text of a bar may be that much longer than the bar
+constexpr double kBarStroke = 0.35;       // the bar itself; thinner lines show where its like lie
+constexpr double kFilledRectangle = 0.99; // a hole that fills less of its rectangle is none
+constexpr double kFilledRound = 0.75;     // one that fills less may be hollow at its middle
 constexpr double kBubbleRadius = 3.2;
 constexpr double kBarLength = 50.0; // most of the scale bar
 
@@ -49,28 +51,13 @@ constexpr double kScales[] = {10, 20, 25, 50, 75, 100, 125, 150, 200, 250, 300, 
 constexpr double kBarSteps[] = {50, 20, 10, 5, 2, 1, 0.5, 0.2, 0.1}; // m
 
 constexpr qint64 kWindow = 5;
+constexpr qint64 kHole = 24;
 constexpr qint64 kAxisGrid = 74;
 
 constexpr char kPageStyle[] = "text{font-family:'DejaVu Sans','Noto Sans CJK SC','Noto Sans',sans-serif;fill:#222}"
                               ".names text{paint-order:stroke;stroke:#fff;stroke-width:.5;stroke-linejoin:round}"
                               ".names .on-dark{fill:#fff;stroke:none}"
                               "path{stroke-linejoin:round}";
-
-struct Axis
-{
-    QString label;
-    vks::CRefPtr<vks::CCurve2d> line;
-};
-
-struct Placed
-{
-    IHBXElementDrawObj *object = nullptr;
-    vks::CRefPtr<vks::CPolygon> outline; ///< world; null for a curve
-    vks::CRefPtr<vks::CCurve2d> curve;   ///< world; of plan lines
-    std::vector<Axis> axes;              ///< world; of grids
-
-    bool hasGeometry() const { return outline || curve || !axes.empty(); }
-};
 
 /** What the legend tells of a type. */
 struct TypeCount
@@ -79,48 +66,6 @@ struct TypeCount
     int number = 0;
     bool hasArea = false; ///< some object of it is an area, not a line alone
 };
-
-vks::CRefPtr<vks::CCurve2d> toPlan(IHBXShape &shape, const vks::CCurve2d *curve)
-{
-    vks::CCoord3<double> frame;
-    shape.coordinates(frame, IHBXModel::g_bDefaultAutoCalc);
-    return vks::OrientProjectCurve2d(frame, curve, vks::CCoord3<double>(), {0, 0, 1}, true);
-}
-
-std::vector<Axis> axesOf(IHBXElementDrawObj &object)
-{
-    std::vector<Axis> lines;
-    const std::unique_ptr<IHBXAxisGrid> grid(IHBXAxisGrid::createFromObj(&object));
-    if (!grid)
-        return lines;
-    grid->prepare();
-    for (int group = 0; group < IHBXAxisGrid::kGroupCount; ++group) {
-        std::vector<HBXAxis> axes;
-        grid->axes(axes, group);
-        for (const HBXAxis &axis : axes)
-            for (const auto &curve : axis.curves)
-                if (auto line = toPlan(*object.shape(), curve))
-                    lines.push_back({axis.label, line});
-    }
-    return lines;
-}
-
-Placed placedOf(IHBXElementDrawObj &object)
-{
-    Placed placed;
-    placed.object = &object;
-    IHBXShape *shape = object.shape();
-    if (!shape)
-        return placed;
-    placed.axes = axesOf(object);
-    if (auto *planLine = dynamic_cast<IHBXLineShape2D *>(shape)) {
-        vks::CRefPtr<vks::CCurve2d> curve;
-        placed.curve = toPlan(*shape, planLine->curve(curve));
-    } else if (placed.axes.empty()) {
-        shape->worldPoly(placed.outline, IHBXModel::g_bDefaultAutoCalc);
-    }
-    return placed;
-}
 
 /** Draws one floor onto one page. */
 class PlanPainter
@@ -140,7 +85,7 @@ public:
         paintObjects();
         paintNames();
         paintTitle();
-        paintLegend();
+        paintElevations(paintLegend());
         paintScaleBar();
         PlanSvg plan;
         plan.document = m_page.document(title(), kPageStyle);
@@ -154,24 +99,29 @@ private:
     void collect(IHBXModel &model);
     void layOut();
     void paintObjects();
-    void paintObject(const Placed &placed);
+    void paintObject(const PlanObject &placed);
     void paintPane(const vks::CPolygon &outline);
-    void paintAxis(const Axis &axis, const QString &stroke);
+    void paintVoid(const vks::CPolygon &outline);
+    QString areaFillOf(const PlanObject &placed) const;
+    void paintAxis(const PlanObject::Axis &axis, const QString &stroke);
     void paintNames();
-    void paintName(PlanLabels &labels, const Placed &placed);
+    void paintName(PlanLabels &labels, const PlanObject &placed);
+    void paintBarText(PlanLabels &labels, const PlanObject &placed);
     void paintFrame();
     void paintTitleLine(double y, double size, const QString &line, const QString &attributes = QString());
     void paintTitle();
-    void paintLegend();
+    double paintLegend();
+    void paintElevations(double y);
     void paintScaleBar();
-    void add(const Placed &placed);
+    void add(const PlanObject &placed);
     QString title() const;
 
     IHBXFloor &m_floor;
     QString m_building;
     SvgPage m_page;
-    std::vector<Placed> m_objects; // from the bottom to the top
-    QMap<int, TypeCount> m_counts; // by place from the bottom
+    std::vector<PlanObject> m_objects; // from the bottom to the top
+    QMap<int, TypeCount> m_counts;     // by place from the bottom
+    QMap<qint64, PlanShades> m_shades; // by type, of slabs and rafts
     vks::CBox2<double> m_box;
     double m_scale = 100.0;
     int m_left = 0;
@@ -218,12 +168,21 @@ bool isDark(qint64 type)
     return styleOf(type).fillOpacity == kSolid && !isOpening(type) && brightness < kDarkestOfLight;
 }
 
+/** True for what no name of something else may lie on. */
+bool keepsFree(qint64 type) { return styleOf(type).fillOpacity == kSolid || type == kHole; }
+
 /** SVG attributes of what a type's outlines are filled with. */
 QString fillOf(qint64 type)
 {
     return QStringLiteral("fill=\"%1\" fill-opacity=\"%2\"")
-        .arg(isOpening(type) ? QStringLiteral("#fff") : colourOf(type))
-        .arg(styleOf(type).fillOpacity);
+        .arg(isOpening(type) || type == kHole ? QStringLiteral("#fff") : colourOf(type))
+        .arg(type == kHole ? kSolid : styleOf(type).fillOpacity);
+}
+
+/** SVG attributes of an area in one of the shades of its type. */
+QString shadeOf(qint64 type, double opacity)
+{
+    return QStringLiteral("fill=\"%1\" fill-opacity=\"%2\"").arg(strokeColourOf(type)).arg(opacity);
 }
 
 /** SVG attributes of a type's lines. */
@@ -236,16 +195,13 @@ QString strokeOf(qint64 type)
     return dashes.isEmpty() ? stroke : stroke + QStringLiteral(" stroke-dasharray=\"%1\"").arg(dashes);
 }
 
-void PlanPainter::add(const Placed &placed)
+void PlanPainter::add(const PlanObject &placed)
 {
-    if (placed.outline)
-        m_box.Add(placed.outline->Box());
-    if (placed.curve)
-        m_box.Add(placed.curve->Box());
-    for (const Axis &axis : placed.axes)
-        m_box.Add(axis.line->Box());
+    m_box.Add(placed.box());
     m_objects.push_back(placed);
     const qint64 type = placed.object->type();
+    if (placed.topElev)
+        m_shades[type].add(*placed.topElev);
     TypeCount &count = m_counts[planOrder(type)];
     count = {type, count.number + 1, count.hasArea || placed.outline};
 }
@@ -257,7 +213,7 @@ void PlanPainter::collect(IHBXModel &model)
     std::stable_sort(objects.begin(), objects.end(),
                      [](const auto *a, const auto *b) { return planOrder(a->type()) < planOrder(b->type()); });
     for (IHBXElementDrawObj *object : qAsConst(objects)) {
-        const Placed placed = placedOf(*object);
+        const PlanObject placed = planObjectOf(*object);
         if (placed.hasGeometry())
             add(placed);
         else
@@ -289,16 +245,22 @@ void PlanPainter::paintObjects()
     }
 }
 
-void PlanPainter::paintObject(const Placed &placed)
+void PlanPainter::paintObject(const PlanObject &placed)
 {
     const qint64 type = placed.object->type();
     if (placed.outline)
-        m_page.addPolygon(*placed.outline, fillOf(type) + ' ' + strokeOf(type));
+        m_page.addPolygon(*placed.outline, areaFillOf(placed) + ' ' + strokeOf(type));
     if (placed.outline && type == kWindow)
         paintPane(*placed.outline);
+    if (placed.outline && type == kHole)
+        paintVoid(*placed.outline);
     if (placed.curve)
         m_page.addCurve(*placed.curve, strokeOf(type));
-    for (const Axis &axis : placed.axes)
+    if (placed.bar)
+        m_page.addCurve(*placed.bar, QStringLiteral("class=\"bar\" stroke=\"%1\" stroke-width=\"%2\"")
+                                         .arg(strokeColourOf(type))
+                                         .arg(kBarStroke));
+    for (const PlanObject::Axis &axis : placed.axes)
         paintAxis(axis, strokeOf(type));
 }
 
@@ -311,7 +273,28 @@ void PlanPainter::paintPane(const vks::CPolygon &outline)
                     QStringLiteral("class=\"pane\" ") + strokeOf(kWindow));
 }
 
-void PlanPainter::paintAxis(const Axis &axis, const QString &stroke)
+/** Two lines that cross, as holes have them on plans. */
+void PlanPainter::paintVoid(const vks::CPolygon &outline)
+{
+    const PlanLabels::Frame frame = PlanLabels::frameOf(outline);
+    const vks::CVec2<double> along = frame.along * frame.halfLength;
+    const vks::CVec2<double> across = frame.along.Left() * frame.halfWidth;
+    const double filled = outline.Area() / (4 * frame.halfLength * frame.halfWidth);
+    if (!(filled > kFilledRound)) // NaN, too
+        return;
+    const bool isRectangle = filled > kFilledRectangle;
+    for (const vks::CVec2<double> &half : {isRectangle ? along + across : along, isRectangle ? along - across : across})
+        m_page.addCurve(vks::CLine2d(frame.centre - half, frame.centre + half),
+                        QStringLiteral("class=\"void\" ") + strokeOf(kHole));
+}
+
+QString PlanPainter::areaFillOf(const PlanObject &placed) const
+{
+    const qint64 type = placed.object->type();
+    return placed.topElev ? shadeOf(type, m_shades[type].opacity(*placed.topElev)) : fillOf(type);
+}
+
+void PlanPainter::paintAxis(const PlanObject::Axis &axis, const QString &stroke)
 {
     m_page.addCurve(*axis.line, stroke);
     if (axis.label.isEmpty())
@@ -331,17 +314,19 @@ void PlanPainter::paintNames()
 {
     PlanLabels labels(kNameHeight * m_scale);
     m_page.beginGroup(QStringLiteral("names"));
-    for (const Placed &placed : m_objects)
-        if (placed.outline && styleOf(placed.object->type()).fillOpacity == kSolid)
+    for (const PlanObject &placed : m_objects)
+        if (placed.outline && keepsFree(placed.object->type()))
             labels.keepFree(*placed.outline);
     // From the top down: what lies on top keeps its name where there is room for one only.
     for (auto placed = m_objects.crbegin(); placed != m_objects.crend(); ++placed)
-        if (placed->outline)
+        if (placed->bar)
+            paintBarText(labels, *placed);
+        else if (placed->outline)
             paintName(labels, *placed);
     m_page.endGroup();
 }
 
-void PlanPainter::paintName(PlanLabels &labels, const Placed &placed)
+void PlanPainter::paintName(PlanLabels &labels, const PlanObject &placed)
 {
     QString name;
     placed.object->element()->name(name);
@@ -354,6 +339,13 @@ void PlanPainter::paintName(PlanLabels &labels, const Placed &placed)
         label = labels.placeBeside(*placed.outline, name, isOpening(type) ? kOpeningOverhang : 1.0);
     if (label)
         m_page.addText(m_page.toPaper(label->middle), kNameHeight, name, attributes, label->angle);
+}
+
+void PlanPainter::paintBarText(PlanLabels &labels, const PlanObject &placed)
+{
+    if (const auto label = labels.placeAlong(*placed.bar, placed.barText, kBarOverhang))
+        m_page.addText(m_page.toPaper(label->middle), kNameHeight, placed.barText,
+                       QStringLiteral("text-anchor=\"middle\" class=\"bar-text\""), label->angle);
 }
 
 QString PlanPainter::title() const
@@ -390,7 +382,8 @@ void PlanPainter::paintTitle()
         paintTitleLine(y += kLineStep, kLegendText, line);
 }
 
-void PlanPainter::paintLegend()
+/** @return where its next line would stand */
+double PlanPainter::paintLegend()
 {
     double y = kMargin + 50.0;
     m_page.beginGroup(QStringLiteral("legend"));
@@ -404,6 +397,27 @@ void PlanPainter::paintLegend()
             m_page.addLine({kLegendX, middle}, {kLegendX + kSwatch, middle}, strokeOf(count.type));
         m_page.addText({kLegendX + kSwatch + 3.0, y}, kLegendText,
                        QStringLiteral("%1 × %2").arg(count.number).arg(typeTitle(count.type)));
+        y += kLineStep;
+    }
+    m_page.endGroup();
+    return y;
+}
+
+/** The shades of slabs and rafts, type by type. */
+void PlanPainter::paintElevations(double y)
+{
+    m_page.beginGroup(QStringLiteral("elevations"));
+    for (auto shades = m_shades.cbegin(); shades != m_shades.cend(); ++shades) {
+        m_page.addText({kLegendX, y += kLineStep / 2}, kLegendText,
+                       QStringLiteral("Top of %1s").arg(typeTitle(shades.key())),
+                       QStringLiteral("font-weight=\"bold\""));
+        for (const PlanShades::Band &band : shades->bands()) {
+            y += kLineStep;
+            m_page.addRectangle(kLegendX, y - kLegendText / 2 - 2.0, kSwatch, 4.0,
+                                shadeOf(shades.key(), band.opacity) + ' ' + strokeOf(shades.key()));
+            m_page.addText({kLegendX + kSwatch + 3.0, y}, kLegendText,
+                           QStringLiteral("%1 at %2").arg(band.number).arg(band.text()));
+        }
         y += kLineStep;
     }
     m_page.endGroup();

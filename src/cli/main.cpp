@@ -58,6 +58,7 @@ void describe(CLI::App &app, Flags &flags, orvcad::Command &command)
     orvcad::addProjectCommands(app, command);
     orvcad::addFloorsCommands(app, command);
     orvcad::addOpeningCommands(app, command);
+    orvcad::addSlabCommands(app, command);
     orvcad::addBeamCommands(app, command);
     orvcad::addWallCommands(app, command);
     orvcad::addColumnCommands(app, command);

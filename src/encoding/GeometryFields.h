@@ -43,18 +43,28 @@ template <> struct ValueKind<vks::CVec2<double>>
  *  null. */
 struct KernelText
 {
-    static QJsonValue toValue(const vks::CGeometry *geometry)
+    static QString text(const vks::CGeometry *geometry)
     {
         return geometry ? QString::fromStdString(geometry->ToText()) : QStringLiteral("");
     }
+    static vks::CRefPtr<vks::CPolygon> polygon(const QString &text)
+    {
+        return vks::CPolygon::LoadFromString(text.toUtf8().constData());
+    }
+    static vks::CRefPtr<vks::CCurve2d> curve(const QString &text)
+    {
+        const vks::CRefPtr<vks::CGeometry> geometry = vks::CGeometry::LoadFromStr(text.toUtf8().constData());
+        return dynamic_cast<vks::CCurve2d *>(geometry.get());
+    }
+
+    static QJsonValue toValue(const vks::CGeometry *geometry) { return text(geometry); }
     static vks::CRefPtr<vks::CPolygon> fromValue(const QJsonValue &json, const vks::CRefPtr<vks::CPolygon> & /*none*/)
     {
-        return vks::CPolygon::LoadFromString(json.toString().toUtf8().constData());
+        return polygon(json.toString());
     }
     static vks::CRefPtr<vks::CCurve2d> fromValue(const QJsonValue &json, const vks::CRefPtr<vks::CCurve2d> & /*none*/)
     {
-        const vks::CRefPtr<vks::CGeometry> geometry = vks::CGeometry::LoadFromStr(json.toString().toUtf8().constData());
-        return dynamic_cast<vks::CCurve2d *>(geometry.get());
+        return curve(json.toString());
     }
 };
 

@@ -6,12 +6,13 @@ namespace {
 
 using DemoTest = CliFixture;
 
-TEST_F(DemoTest, tourBringsOpeningsAndBeamsBackWithoutDeviations)
+TEST_F(DemoTest, tourBringsOpeningsBeamsAndSlabsBackWithoutDeviations)
 {
     const Result result = run({"demo", "tour", "--json"});
     EXPECT_EQ(result.exitCode, 0) << result.err.toStdString();
     const QJsonObject summary = result.json();
-    EXPECT_EQ(keys(summary), "apply,applyBeams,beamComparison,brickWalls,comparison,directory,forceWalls");
+    EXPECT_EQ(keys(summary),
+              "apply,applyBeams,applySlabs,beamComparison,brickWalls,comparison,directory,forceWalls,slabComparison");
     EXPECT_EQ(summary["directory"], "tour");
     // 21 doors and 17 windows, of which 64 and 23 are placed; the file puts each of them into a wall.
     EXPECT_EQ(summary["apply"], QJsonValue(QJsonObject{{"members", 125},
@@ -29,6 +30,12 @@ TEST_F(DemoTest, tourBringsOpeningsAndBeamsBackWithoutDeviations)
     EXPECT_EQ(summary["applyBeams"]["made"]["segments"], 129);
     EXPECT_EQ(summary["applyBeams"]["leftOut"], QJsonArray());
     EXPECT_EQ(summary["beamComparison"], QJsonValue(QJsonObject{{"compared", 129}, {"deviations", QJsonArray()}}));
+    // Its 21 slabs have neither holes nor bars; 148 supports stand in the payload with them.
+    EXPECT_EQ(summary["applySlabs"]["members"], 21);
+    EXPECT_EQ(summary["applySlabs"]["made"], 21);
+    EXPECT_EQ(summary["applySlabs"]["passedOver"], 148);
+    EXPECT_EQ(summary["applySlabs"]["leftOut"], QJsonArray());
+    EXPECT_EQ(summary["slabComparison"], QJsonValue(QJsonObject{{"compared", 21}, {"deviations", QJsonArray()}}));
 }
 
 TEST_F(DemoTest, tourBringsBrickAndForceWallsBackWithoutDeviations)
@@ -58,20 +65,22 @@ TEST_F(DemoTest, tourLeavesItsFiles)
     ASSERT_EQ(run({"demo", "tour"}).exitCode, 0);
     EXPECT_EQ(QDir(path("tour")).entryList(QDir::Files, QDir::Name).join(' ').toStdString(),
               "after.svg beams.json before.svg building.hbxdb building.json floors.json hall-after.svg hall-before.svg "
-              "hall-restored.hbxdb hall-walls.json hall.hbxdb hall.json openings.json restored.hbxdb walls.json");
+              "hall-restored.hbxdb hall-walls.json hall.hbxdb hall.json openings.json restored.hbxdb slab-ids.json "
+              "slabs.json walls.json");
     QFile original(sample("masonry-block"));
     ASSERT_TRUE(original.open(QIODevice::ReadOnly));
     EXPECT_EQ(read("tour/building.json"), original.readAll());
 }
 
-TEST_F(DemoTest, picturesDifferByTheOpeningsBeamsAndWallsOfTheDrawnFloor)
+TEST_F(DemoTest, picturesDifferByTheOpeningsBeamsSlabsAndWallsOfTheDrawnFloor)
 {
     ASSERT_EQ(run({"demo", "tour"}).exitCode, 0);
     QDomDocument before;
     QDomDocument after;
     ASSERT_TRUE(before.setContent(read("tour/before.svg")));
     ASSERT_TRUE(after.setContent(read("tour/after.svg")));
-    for (const char *group : {"class=\"type-4\"", "class=\"type-5\"", "class=\"type-15\"", "class=\"type-1003\""}) {
+    for (const char *group :
+         {"class=\"type-4\"", "class=\"type-5\"", "class=\"type-15\"", "class=\"type-19\"", "class=\"type-1003\""}) {
         EXPECT_FALSE(read("tour/before.svg").contains(group)) << group;
         EXPECT_TRUE(read("tour/after.svg").contains(group)) << group;
     }
@@ -90,21 +99,24 @@ TEST_F(DemoTest, tourTellsItsStepsAsOneWouldTypeThem)
           "$ orvcad opening export building.hbxdb -o openings.json\n  38 elements and 87 placed openings, 87 of them",
           "$ orvcad beam export building.hbxdb --floor \"Level 1\" -o beams.json\n  2 elements, 129 chains of 129 "
           "segments, ",
+          "$ orvcad slab export building.hbxdb --floor \"Level 1\" -o slabs.json\n  21 slabs, 19 columns, 129 beams",
           "$ orvcad wall reply building.hbxdb --kind brick --floor \"Level 1\" -o walls.json\n"
           "  5 brick walls in 57 pieces of 1 floor",
-          "A copy, restored.hbxdb, loses all doors and windows (38 elements) and the beams of Level 1 (2 elements), "
-          "with ",
+          "A copy, restored.hbxdb, loses all doors and windows (38 elements) and the beams (2 elements) and slabs (",
           "restored.hbxdb loses the brick walls of Level 1 (5 elements), with all that is placed.",
-          "$ orvcad draw restored.hbxdb --floor \"Level 1\" -o before.svg\n  40 placed objects at 1:",
+          "$ orvcad draw restored.hbxdb --floor \"Level 1\" -o before.svg\n  19 placed objects at 1:",
           "$ orvcad wall apply restored.hbxdb --kind brick walls.json\n"
           "  5 brick walls read: 5 elements made (0 under another name), 57 pieces placed, 0 left out",
           "$ orvcad opening apply restored.hbxdb openings.json\n"
           "  125 members read: 38 elements made, 87 openings placed (87 in a wall, 0 in none), 0 left out",
           "$ orvcad beam apply restored.hbxdb beams.json\n  2 beams read: 2 elements, 129 chains of 129 segments, ",
+          "$ orvcad slab apply restored.hbxdb --floor \"Level 1\" slabs.json --as-new --ids slab-ids.json\n"
+          "  21 members read: 21 made in ",
           "$ orvcad draw restored.hbxdb --floor \"Level 1\" -o after.svg\n  266 placed objects at 1:",
           "Compared with the original: 87 openings, the payload written again is the same but for ids; each in the "
           "wall",
           "Compared with the original: 129 segments of beams, the payload written again is the same",
+          "Compared with the original: 21 members of slabs, nothing lost, added or moved",
           "Compared with the original: 57 pieces of brick walls, the reply written again is the same but for ids",
           "Building: Precast hall on piles (",
           "$ orvcad project import hall.json -o hall.hbxdb\n",

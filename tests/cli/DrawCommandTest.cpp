@@ -201,7 +201,7 @@ TEST_F(DrawCommandTest, openingsLieOverTheirWallsAndColumnsOverBoth)
     QStringList order;
     for (QDomElement each = picture.firstChildElement("g"); !each.isNull(); each = each.nextSiblingElement("g"))
         order.append(each.attribute("class"));
-    EXPECT_EQ(order.join(' ').toStdString(), "type-19 type-15 type-1003 type-25 type-5 type-4 names legend scale-bar");
+    EXPECT_EQ(order.join(' ').toStdString(), "type-19 type-15 type-1003 type-25 type-5 type-4 names legend elevations scale-bar");
 }
 
 TEST_F(DrawCommandTest, foundationHasItsFootingsPilesAndBeams)
@@ -228,6 +228,43 @@ TEST_F(DrawCommandTest, axesCarryTheirLabels)
     const QStringList labels = texts(group(draw("第1层", "主楼"), "type-74"));
     for (const char *label : {"1", "2", "3", "A", "B"})
         EXPECT_TRUE(labels.contains(QLatin1String(label))) << label;
+}
+
+TEST_F(DrawCommandTest, slabsAreShadedByElevationTheLowerTheDarker)
+{
+    const char *slab = R"~({"name": "B%1", "type": 19, "properties": {"Thickness": 100}, "drawObjects": [
+        {"properties": {"TopElev": "%2"}, "shape": {"kind": "face",
+         "outline": "POLYGON((%1 0, %3 0, %3 900, %1 900, %1 0))"}}]})~";
+    const auto at = [slab](int x, const char *elevation) {
+        return QString(slab).arg(x).arg(elevation).arg(x + 900).toUtf8();
+    };
+    importHouse(at(0, "3") + ',' + at(1000, "2.95") + ',' + at(2000, "3"));
+    const QDomElement picture = draw("F");
+    EXPECT_EQ(texts(group(picture, "elevations")), (QStringList{"Top of slabs", "2 at +3.000 m", "1 at +2.950 m"}));
+    const QDomNodeList paths = group(picture, "type-19").elementsByTagName("path");
+    ASSERT_EQ(paths.size(), 3);
+    const auto opacity = [&paths](int i) { return paths.at(i).toElement().attribute("fill-opacity").toDouble(); };
+    EXPECT_DOUBLE_EQ(opacity(0), 0.15);
+    EXPECT_DOUBLE_EQ(opacity(1), 0.35);
+    EXPECT_DOUBLE_EQ(opacity(2), 0.15);
+}
+
+TEST_F(DrawCommandTest, holesHaveACrossAndBarsTheirTexts)
+{
+    importSample("made-building");
+    const QDomElement picture = draw(QStringLiteral("第1层"), QStringLiteral("主楼"));
+    const auto pathsOfClass = [&picture](const char *type, const char *cssClass) {
+        const QDomNodeList paths = group(picture, type).elementsByTagName("path");
+        int count = 0;
+        for (int i = 0; i < paths.size(); ++i)
+            count += paths.at(i).toElement().attribute("class") == QLatin1String(cssClass) ? 1 : 0;
+        return count;
+    };
+    EXPECT_EQ(pathCount(group(picture, "type-24")), 5);
+    EXPECT_GE(pathsOfClass("type-24", "void"), 6);
+    EXPECT_EQ(pathsOfClass("type-22", "bar"), 2);
+    EXPECT_EQ(pathsOfClass("type-23", "bar"), 2);
+    EXPECT_TRUE(texts(group(picture, "names")).contains("C10@200"));
 }
 
 TEST_F(DrawCommandTest, scaleBarHasARoundLengthToScale)

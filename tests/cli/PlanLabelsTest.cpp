@@ -1,4 +1,5 @@
 #include "cli/PlanLabels.h"
+#include "platform/geometry/CLine2d.h"
 
 #include <gtest/gtest.h>
 
@@ -192,6 +193,27 @@ TEST_F(PlanLabelsTest, fullCircleHasRoomInItsMiddle)
     const auto label = labels.placeInside(*polygon("CURVEPOLYGON(CIRCULARSTRING(500 0, -500 0, 500 0))"), "KZ");
     ASSERT_TRUE(label);
     EXPECT_NEAR(label->middle.y, -50, kClose);
+}
+
+TEST_F(PlanLabelsTest, textAlongALineStandsAtItsSideAndReadsFromBelow)
+{
+    const vks::CLine2d bar({3000, 500}, {0, 500}); // runs to the left
+    const auto text = labels.placeAlong(bar, "C8@200");
+    ASSERT_TRUE(text);
+    EXPECT_DOUBLE_EQ(text->middle.x, 1500);
+    EXPECT_GT(text->middle.y, 500);
+    EXPECT_DOUBLE_EQ(text->angle, 0.0);
+    const auto next = labels.placeAlong(bar, "C8@200"); // the place is taken
+    ASSERT_TRUE(next);
+    EXPECT_LT(next->middle.y, 500);
+}
+
+TEST_F(PlanLabelsTest, lineThatIsTooShortOrHasNoLengthGetsNoText)
+{
+    EXPECT_FALSE(labels.placeAlong(vks::CLine2d({0, 0}, {300, 0}), "C8@200")); // six letters: 510 mm
+    EXPECT_TRUE(labels.placeAlong(vks::CLine2d({0, 0}, {400, 0}), "C8@200", 1.5));
+    EXPECT_FALSE(labels.placeAlong(vks::CLine2d({0, 0}, {0, 0}), "C8@200", 1.5));
+    EXPECT_FALSE(labels.placeAlong(vks::CLine2d({0, 0}, {900, 0}), ""));
 }
 
 } // namespace

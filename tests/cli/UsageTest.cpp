@@ -21,7 +21,7 @@ TEST_F(UsageTest, unknownGroupIsNamedAndTheGroupsAreListed)
 {
     const QByteArray message = wrongUsage({"castle"});
     EXPECT_TRUE(message.startsWith("orvcad: \"castle\" is not understood here\n")) << message.toStdString();
-    for (const char *group : {"demo", "project", "floors", "opening", "beam", "drawing", "drawings", "draw"})
+    for (const char *group : {"demo", "project", "floors", "opening", "slab", "beam", "drawing", "drawings", "draw"})
         EXPECT_TRUE(message.contains(QByteArray("  ") + group + ' ')) << group;
 }
 
@@ -36,7 +36,7 @@ TEST_F(UsageTest, unknownVerbIsNamedAndTheVerbsOfItsGroupAreListed)
 
 TEST_F(UsageTest, groupWithoutAVerbIsWrongUsage)
 {
-    for (const char *group : {"project", "floors", "opening", "beam", "drawing", "drawings"})
+    for (const char *group : {"project", "floors", "opening", "slab", "beam", "drawing", "drawings"})
         EXPECT_TRUE(wrongUsage({group}).contains(QByteArray("Usage: orvcad ") + group)) << group;
 }
 
@@ -58,6 +58,9 @@ TEST_F(UsageTest, missingArgumentIsNamedWithTheUsageOfTheVerb)
         {{"opening", "export"}, "PROJECT", "orvcad opening export"},
         {{"opening", "apply", "house.hbxdb"}, "REPLY", "orvcad opening apply"},
         {{"opening", "options"}, "PROJECT", "orvcad opening options"},
+        {{"slab", "export", "house.hbxdb"}, "--floor", "orvcad slab export"},
+        {{"slab", "apply", "house.hbxdb", "reply.json"}, "--floor", "orvcad slab apply"},
+        {{"slab", "apply", "house.hbxdb", "--floor", "1"}, "REPLY", "orvcad slab apply"},
         {{"drawing", "make", "house.hbxdb", "--floor", "1"}, "--output", "orvcad drawing make"},
         {{"drawing", "make", "house.hbxdb", "-o", "a.cadi2"}, "--floor", "orvcad drawing make"},
         {{"drawing", "show"}, "DRAWING", "orvcad drawing show"},

@@ -1,0 +1,120 @@
+#include "cli/SlabArrays.h"
+
+#include "ModelSerialization/ORVCADBoardLocalModelPersistenceService_Sample.h"
+#include "ModelSerialization/SlabHostKeys.h"
+#include "cli/ProjectInfo.h"
+#include "slab/ORVCADBoardLocalModel_Sample.h"
+#include "slab/SlabKeys.h"
+
+#include <QJsonArray>
+
+using namespace slab;
+
+namespace orvcad {
+
+namespace {
+
+using Persistence = ORVCADBoardLocalModelPersistenceService_Sample;
+
+/** Keys that may hold anything: nothing that is written into a host is read from them. */
+const QStringList kPassedOver{key::stateDescript, key::supportPoly, key::supportPolys};
+
+SlabArray areaBars(QLatin1String array, int part, const char *title, qint64 type, QLatin1String number)
+{
+    return {array,
+            part,
+            title,
+            type,
+            SlabArray::Geometry::Outline,
+            {key::surface, key::directionX, key::directionY, key::barInfo},
+            {key::id, key::rowNumber, number}};
+}
+
+SlabArray lineBars(QLatin1String array, int part, const char *title, qint64 type)
+{
+    return {array,
+            part,
+            title,
+            type,
+            SlabArray::Geometry::Line,
+            {key::line, key::barInfo},
+            {key::id, key::rowNumber, key::labelPosition}};
+}
+
+/** The member that the service writes for an object without keys. */
+QJsonObject emptyMember(const SlabArray &array)
+{
+    ORVCADBoardLocalModel_Sample model;
+    Persistence::json2model({{array.key, QJsonArray{QJsonObject()}}}, &model, array.part);
+    const QJsonObject document = Persistence::model2json(&model, static_cast<Persistence::Parts>(array.part));
+    return document.value(array.key).toArray().at(0).toObject();
+}
+
+} // namespace
+
+QLatin1String SlabArray::geometryKey() const { return geometry == Geometry::Line ? key::line : key::surface; }
+
+QJsonObject SlabArray::pattern() const
+{
+    QJsonObject member = emptyMember(*this);
+    for (const QString &passedOver : kPassedOver)
+        member.remove(passedOver);
+    if (part == Persistence::Boards)
+        member.remove(key::type); // never read
+    return member;
+}
+
+const std::vector<SlabArray> &slabArrays()
+{
+    namespace type = slabhost::type;
+    constexpr auto outline = SlabArray::Geometry::Outline;
+    static const std::vector<SlabArray> arrays{
+        {key::boards,
+         Persistence::Boards,
+         "slab",
+         type::slab,
+         outline,
+         {key::surface, key::thickness, key::elev},
+         {key::id}},
+        {key::rafts,
+         Persistence::Rafts,
+         "raft",
+         type::raft,
+         outline,
+         {key::surface, key::thickness, key::topElev, key::bottomElev},
+         {key::id}},
+        {key::boardHoles, Persistence::Boards, "slab opening", type::hole, outline, {key::surface}, {key::id}},
+        areaBars(key::forcedBars, Persistence::BoardBars, "slab bar", type::bar, key::forcedType),
+        lineBars(key::negativeForcedBars, Persistence::BoardBars, "slab negative bar", type::negativeBar),
+        areaBars(key::straddleForcedBars, Persistence::BoardBars, "straddling slab bar", type::bar, key::labelPosition),
+        areaBars(key::raftMainForcedBars, Persistence::RaftBars, "raft bar", type::raftBar, key::forcedType),
+        areaBars(key::raftStraddleMainForcedBars, Persistence::RaftBars, "straddling raft bar", type::raftBar,
+                 key::labelPosition),
+        lineBars(key::raftNegativeForcedBars, Persistence::RaftBars, "raft negative bar", type::raftNegativeBar),
+        {key::columns, Persistence::Supports, "column"},
+        {key::beams, Persistence::Supports, "beam"},
+        {key::walls, Persistence::Supports, "wall"},
+        {key::axisGrids, Persistence::AxisNets, "axis grid"},
+    };
+    return arrays;
+}
+
+QString slabCountsText(const QJsonObject &model)
+{
+    QStringList parts;
+    for (const SlabArray &array : slabArrays())
+        if (const int count = model.value(array.key).toArray().size())
+            parts.append(counted(count, QString::fromLatin1(array.title)));
+    return parts.isEmpty() ? QStringLiteral("nothing") : parts.join(QStringLiteral(", "));
+}
+
+QJsonObject slabCounts(const QJsonObject &model)
+{
+    QJsonObject counts;
+    for (const SlabArray &array : slabArrays())
+        if (model.contains(array.key))
+            counts.insert(array.key, model.value(array.key).toArray().size());
+    return counts;
+}
+
+} // namespace orvcad

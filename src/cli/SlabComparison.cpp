@@ -1,0 +1,207 @@
+#include "cli/SlabComparison.h"
+
+#include "ModelSerialization/ORVCADBoardLocalModelTransformHBXService_Sample.h"
+#include "cli/ProjectInfo.h"
+#include "platform/host/IHBXFloor.h"
+#include "platform/host/IHBXRegion.h"
+#include "platform/services/HbxRelation.h"
+#include "slab/ORVCADBoardLocalModel_Sample.h"
+#include "slab/TruncatedNumber.h"
+
+#include <QJsonArray>
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace orvcad {
+
+namespace {
+
+using Local = ORVCADBoardLocalModel_Sample;
+
+constexpr double kSamePlace = 1e-6;     // mm
+constexpr double kSameElevation = 1e-5; // m: an elevation travels as a text of six digits
+
+/** What is compared of an element. */
+struct Piece
+{
+    QString title;                       ///< "slab B-h120"
+    QStringList values;                  ///< have to be the same
+    std::vector<double> elevations = {}; ///< m
+    vks::CRefPtr<vks::CPolygon> outline = nullptr;
+    vks::CRefPtr<vks::CCurve2d> line = nullptr;
+};
+
+QString numberText(double number) { return QString::number(slab::truncated(number)); }
+
+Piece pieceOf(const Local::Board &slab)
+{
+    return {QStringLiteral("slab ") + slab.name, {numberText(slab.thickness)}, {slab.elev}, slab.surface};
+}
+
+Piece pieceOf(const Local::Raft &raft)
+{
+    return {QStringLiteral("raft ") + raft.name,
+            {numberText(raft.thickness)},
+            {raft.topElev, raft.bottomElev},
+            raft.surface};
+}
+
+Piece pieceOf(const Local::BoardHole &hole) { return {QStringLiteral("hole ") + hole.name, {}, {}, hole.surface}; }
+
+/** The two ways in which bars of an area run are one. */
+QString directionText(const vks::CVec2<double> &direction)
+{
+    constexpr double step = 1e-6;
+    const bool isTurned = direction.x < -step || (direction.x < step && direction.y < 0);
+    const vks::CVec2<double> upright = isTurned ? -direction : direction;
+    return QStringLiteral("%1 %2").arg(qRound64(upright.x / step)).arg(qRound64(upright.y / step));
+}
+
+template <typename Bar> Piece mainPiece(const Bar &bar, const char *title)
+{
+    return {QLatin1String(title) + bar.name,
+            {bar.barInfo, directionText(bar.direction), QString::number(bar.forcedType),
+             QString::number(bar.leftHookLength)},
+            {},
+            bar.surface};
+}
+Piece pieceOf(const Local::ForcedBar &bar) { return mainPiece(bar, "slab bar "); }
+Piece pieceOf(const Local::RaftMainForcedBar &bar) { return mainPiece(bar, "raft bar "); }
+
+template <typename Bar> QStringList labelsOf(const Bar &bar)
+{
+    return {bar.barInfo, QString::number(bar.labelPosition), numberText(bar.leftStretchLength),
+            numberText(bar.rightStretchLength), QString::number(bar.leftHookLength)};
+}
+
+template <typename Bar> Piece straddlePiece(const Bar &bar, const char *title)
+{
+    const QStringList own{directionText(bar.direction), QString::number(bar.rightHookLength)};
+    return {QLatin1String(title) + bar.name, labelsOf(bar) + own, {}, bar.surface};
+}
+Piece pieceOf(const Local::StraddleForcedBar &bar)
+{
+    Piece piece = straddlePiece(bar, "straddling slab bar ");
+    piece.values += {bar.distributeBarInfo, bar.saddleBarlineCount};
+    return piece;
+}
+Piece pieceOf(const Local::RaftMainStraddleForcedBar &bar) { return straddlePiece(bar, "straddling raft bar "); }
+
+Piece pieceOf(const Local::NegativeForcedBar &bar)
+{
+    return {QStringLiteral("slab negative bar ") + bar.name,
+            labelsOf(bar) + QStringList{bar.distributeBarInfo, bar.saddleBarlineCount},
+            {},
+            nullptr,
+            bar.line};
+}
+Piece pieceOf(const Local::RaftNegativeForcedBar &bar)
+{
+    return {QStringLiteral("raft negative bar ") + bar.name, labelsOf(bar), {}, nullptr, bar.line};
+}
+
+template <typename Element> void append(const std::vector<const Element *> &elements, std::vector<Piece> &pieces)
+{
+    for (const Element *element : elements)
+        pieces.push_back(pieceOf(*element));
+}
+
+std::vector<Piece> piecesOf(IHBXModel &model, const IHBXFloor &floor)
+{
+    using Transform = ORVCADBoardLocalModelTransformHBXService_Sample;
+    Local local;
+    double topElev = 0.0;
+    double btmElev = 0.0;
+    Transform::hbx2local(&model, floor.region()->name(), floor.name(), topElev, btmElev, &local, Transform::Everything);
+    std::vector<Piece> pieces;
+    append(local.boards(), pieces);
+    append(local.rafts(), pieces);
+    append(local.boardHoles(), pieces);
+    append(local.forcedBars(), pieces);
+    append(local.straddleForcedBars(), pieces);
+    append(local.negativeForcedBars(), pieces);
+    append(local.raftMainForcedBars(), pieces);
+    append(local.raftMainStraddleForcedBars(), pieces);
+    append(local.raftNegativeForcedBars(), pieces);
+    return pieces;
+}
+
+bool sameLine(const vks::CCurve2d *a, const vks::CCurve2d *b)
+{
+    if (!a || !b)
+        return a == b;
+    return a->StartPoint().DistanceTo(b->StartPoint()) <= kSamePlace &&
+           a->EndPoint().DistanceTo(b->EndPoint()) <= kSamePlace && std::fabs(a->Length() - b->Length()) <= kSamePlace;
+}
+
+bool sameOutline(const vks::CPolygon *a, const vks::CPolygon *b)
+{
+    if (!a || !b)
+        return a == b;
+    return a->Box().Grown(1.0).Intersects(b->Box()) && hbx::polyPolyPosition(a, b, kSamePlace) == vks::kPolygonsSame;
+}
+
+bool sameElevations(const std::vector<double> &a, const std::vector<double> &b)
+{
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](double x, double y) { return std::fabs(x - y) <= kSameElevation; });
+}
+
+bool isSame(const Piece &a, const Piece &b)
+{
+    return a.title == b.title && a.values == b.values && sameElevations(a.elevations, b.elevations) &&
+           sameLine(a.line, b.line) && sameOutline(a.outline, b.outline);
+}
+
+QString describe(const Piece &piece)
+{
+    QStringList values = piece.values;
+    for (const double elevation : piece.elevations)
+        values.append(QStringLiteral("%1 m").arg(elevation));
+    const vks::CBox2<double> box = piece.outline ? piece.outline->Box()
+                                   : piece.line  ? piece.line->Box()
+                                                 : vks::CBox2<double>();
+    values.append(box.IsValid() ? QStringLiteral("around %1, %2").arg(box.Center().x).arg(box.Center().y)
+                                : QStringLiteral("nowhere"));
+    return QStringLiteral("%1 (%2)").arg(piece.title, values.join(QStringLiteral(", ")));
+}
+
+} // namespace
+
+QString SlabComparison::text() const
+{
+    const QStringList lines{QStringLiteral("Compared with the original: %1 of slabs, %2")
+                                .arg(counted(compared, QStringLiteral("member")),
+                                     isSame() ? QStringLiteral("nothing lost, added or moved")
+                                              : counted(deviations.size(), QStringLiteral("deviation")))};
+    return (lines + deviations).join(QStringLiteral("\n  "));
+}
+
+QJsonObject SlabComparison::toJson() const
+{
+    return {{"compared", compared}, {"deviations", QJsonArray::fromStringList(deviations)}};
+}
+
+SlabComparison compareSlabs(IHBXModel &expectedModel, const IHBXFloor &expected, IHBXModel &foundModel,
+                            const IHBXFloor &found)
+{
+    const std::vector<Piece> before = piecesOf(expectedModel, expected);
+    std::vector<Piece> after = piecesOf(foundModel, found);
+    SlabComparison comparison;
+    comparison.compared = static_cast<int>(before.size());
+    for (const Piece &piece : before) {
+        const auto same =
+            std::find_if(after.begin(), after.end(), [&piece](const Piece &other) { return isSame(piece, other); });
+        if (same == after.end())
+            comparison.deviations.append(QStringLiteral("lost: ") + describe(piece));
+        else
+            after.erase(same);
+    }
+    for (const Piece &piece : after)
+        comparison.deviations.append(QStringLiteral("added: ") + describe(piece));
+    return comparison;
+}
+
+} // namespace orvcad

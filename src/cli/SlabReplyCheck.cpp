@@ -1,0 +1,117 @@
+#include "cli/SlabReplyCheck.h"
+
+#include "cli/MemberKinds.h"
+#include "encoding/GeometryFields.h"
+#include "slab/SlabKeys.h"
+
+#include <QJsonArray>
+
+#include <algorithm>
+
+using namespace slab;
+
+namespace orvcad {
+
+namespace {
+
+QString whyNotGeometry(const SlabArray &array, const QString &text)
+{
+    if (array.geometry == SlabArray::Geometry::Line)
+        return encoding::KernelText::curve(text) ? QString() : QStringLiteral("line is no curve");
+    return encoding::KernelText::polygon(text) ? QString() : QStringLiteral("surface is no outline");
+}
+
+QString whyNot(const SlabArray &array, const QJsonValue &value, const QJsonObject &pattern)
+{
+    const QJsonObject member = value.toObject();
+    if (!value.isObject())
+        return QStringLiteral("is no object");
+    QString wrong = wrongKey(member, pattern, array.whole, array.required);
+    return wrong.isEmpty() ? whyNotGeometry(array, member.value(array.geometryKey()).toString()) : wrong;
+}
+
+bool hasAnyArray(const QJsonObject &model)
+{
+    return std::any_of(slabArrays().begin(), slabArrays().end(),
+                       [&model](const SlabArray &array) { return model.contains(array.key); });
+}
+
+} // namespace
+
+QJsonObject slabModelOf(const QJsonObject &document, const QString &file)
+{
+    if (!document.contains(key::model)) {
+        if (!hasAnyArray(document))
+            throw CommandFailure(kBadInput, file, {},
+                                 QStringLiteral("has neither \"model\" nor an array of slabs, rafts, holes or bars: no "
+                                                "reply of slabs"));
+        return document;
+    }
+    if (!document.value(key::model).isObject())
+        throw CommandFailure(kBadInput, file, key::model, QStringLiteral("is no object"));
+    return document.value(key::model).toObject();
+}
+
+SlabReplyCheck::SlabReplyCheck(const QJsonObject &model)
+{
+    for (const SlabArray &array : slabArrays())
+        if (model.contains(array.key))
+            look(array, model.value(array.key));
+}
+
+int SlabReplyCheck::memberCount() const
+{
+    int members = 0;
+    for (const Count &count : m_counts)
+        members += count.members;
+    return members;
+}
+
+void SlabReplyCheck::look(const SlabArray &array, const QJsonValue &value)
+{
+    const QJsonArray members = value.toArray();
+    if (!value.isArray())
+        m_leftOut.push_back({array.key, {}, QStringLiteral("is no array")});
+    if (!array.isMade()) {
+        m_passedOver += members.size();
+        return;
+    }
+    const QJsonObject pattern = array.pattern();
+    Count count{&array, members.size()};
+    int index = 0;
+    for (const QJsonValue member : members)
+        look(array, index++, member, pattern, count);
+    m_counts.push_back(count);
+}
+
+void SlabReplyCheck::look(const SlabArray &array, int index, const QJsonValue &value, const QJsonObject &pattern,
+                          Count &count)
+{
+    const QJsonObject member = value.toObject();
+    const QString place = QStringLiteral("%1[%2]").arg(array.key).arg(index);
+    const QJsonValue id = member.value(key::id);
+    if (isWhole(id) && id.toInt() > 0) { // in the host already, however it looks here
+        ++count.known;
+        return;
+    }
+    const QString reason = whyNot(array, value, pattern);
+    if (reason.isEmpty()) {
+        take(array, place, member);
+        return;
+    }
+    ++count.leftOut;
+    m_leftOut.push_back({place, member.value(key::name).toString(), reason});
+}
+
+void SlabReplyCheck::take(const SlabArray &array, const QString &place, QJsonObject json)
+{
+    const QUuid identity(json.value(key::recongnizedID).toString());
+    const QUuid written = QUuid::createUuid();
+    json.insert(key::recongnizedID, written.toString());
+    if (!identity.isNull() && m_identities.contains(identity))
+        ++m_repeated;
+    m_identities.insert(identity);
+    m_sound.push_back({&array, place, json.value(key::name).toString(), identity, written, json});
+}
+
+} // namespace orvcad
