@@ -262,7 +262,7 @@ TEST_F(SlabBarWritingTest, hostIsCalledInTheStatedOrderForANegativeBar)
                                "setLine(LINESTRING(0 0, 0 4000))",
                                QStringLiteral(R"(setInt("DependSlabID", %1, true))").arg(slab->id()),
                                R"(addDrawObj(object of FJ-C8-200))",
-                               "queryDrawObjsOfFloor(2, 23, -1, true)"});
+                               "queryDrawObjsInBox(2, 23, (0, 0), (0, 4000), 1.000001)"});
     ASSERT_EQ(ids.size(), 1U);
     EXPECT_EQ(ids.at(only(23)->id()), bar->recongnizedID);
 }
@@ -281,7 +281,7 @@ TEST_F(SlabBarWritingTest, negativeBarOfARaftHasItsHooksBehindItsLabels)
                  R"(setInt("IncludeSupport", 1, true))", R"(setString("LeftHook", "0", true))",
                  R"(setString("RightHook", "0", true))", "setLine(LINESTRING(0 0, 0 4000))",
                  R"(setInt("DependSlabID", -1, true))", R"(addDrawObj(object of FBFJ-C8-200))",
-                 "queryDrawObjsOfFloor(2, 23, -1, true)"});
+                 "queryDrawObjsInBox(2, 23, (0, 0), (0, 4000), 1.000001)"});
 }
 
 TEST_F(SlabBarWritingTest, negativeBarWithoutASlabIsMadeAllTheSame)
