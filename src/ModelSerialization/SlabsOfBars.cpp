@@ -22,7 +22,7 @@ using Polygon = vks::CRefPtr<vks::CPolygon>;
 using Curve = vks::CRefPtr<vks::CCurve2d>;
 
 constexpr double kSupportAllowance = 150.0; // mm: either end of a bar lies over a support
-constexpr double kBoxMargin = 1.0;           // mm beyond the tolerance: boxes only narrow the search
+constexpr double kBoxMargin = 1.0;          // mm beyond the tolerance: boxes only narrow the search
 constexpr int kLinkKind = 1;
 constexpr vks::EnCurvePolygonPosition kUnderCurve[] = {vks::kCurveInAndOut, vks::kCurveIn, vks::kCurveInTouching,
                                                        vks::kCurveOnBoundary};

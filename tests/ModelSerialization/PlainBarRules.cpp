@@ -9,10 +9,10 @@
 namespace plainbars {
 namespace {
 
-constexpr double kNear = 1e-5;             // mm
-constexpr double kProbeLength = 100.0;     // mm
+constexpr double kNear = 1e-5;              // mm
+constexpr double kProbeLength = 100.0;      // mm
 constexpr double kSupportAllowance = 150.0; // mm
-constexpr double kThickness = 0.01;        // mm: a common part that is thinner is none
+constexpr double kThickness = 0.01;         // mm: a common part that is thinner is none
 
 /** Where the line through a point meets the boundary, along it. Straight edges alone. */
 std::vector<double> meetings(const vks::CPolygon &area, const Point &point, const Point &direction)

@@ -35,7 +35,10 @@ struct FloorCase
     std::size_t rafts;
 };
 
-std::ostream &operator<<(std::ostream &out, const FloorCase &floor) { return out << floor.building << ' ' << floor.floor; }
+std::ostream &operator<<(std::ostream &out, const FloorCase &floor)
+{
+    return out << floor.building << ' ' << floor.floor;
+}
 
 void expectNear(const Point &actual, const Point &expected, const QString &what)
 {
@@ -144,7 +147,8 @@ protected:
 
     /** The trips of all bars of a kind that the host took, in the order of ids. Each came back once. */
     template <typename Bar>
-    std::vector<Trip<Bar>> trips(const std::vector<const Bar *> &out, const std::vector<const Bar *> &in, const Ids &ids)
+    std::vector<Trip<Bar>> trips(const std::vector<const Bar *> &out, const std::vector<const Bar *> &in,
+                                 const Ids &ids)
     {
         std::map<QUuid, const Bar *> byUuid;
         for (const Bar *bar : out)
@@ -405,8 +409,7 @@ TEST_P(SlabBarJourneyTest, barsOfRaftsComeBack)
 
 TEST_P(SlabBarJourneyTest, barsAcrossRaftsComeBack)
 {
-    const auto all =
-        trips(givenRaftBars().raftMainStraddleForcedBars(), back.raftMainStraddleForcedBars(), raftBars);
+    const auto all = trips(givenRaftBars().raftMainStraddleForcedBars(), back.raftMainStraddleForcedBars(), raftBars);
     EXPECT_EQ(all.size(), givenRaftBars().raftMainStraddleForcedBars().size());
     for (const auto &trip : all) {
         expectStraddle(trip, "KFBZJ-", 0);
