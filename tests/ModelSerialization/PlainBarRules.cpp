@@ -12,7 +12,7 @@ namespace {
 constexpr double kNear = 1e-5;              // mm
 constexpr double kProbeLength = 100.0;      // mm
 constexpr double kSupportAllowance = 150.0; // mm
-constexpr double kThickness = 0.01;         // mm: a common part that is thinner is none
+constexpr double kThickness = 0.005;        // mm on the mean: a wedge that is 0.01 thick at its end counts
 
 /** Where the line through a point meets the boundary, along it. Straight edges alone. */
 std::vector<double> meetings(const vks::CPolygon &area, const Point &point, const Point &direction)
@@ -99,6 +99,8 @@ bool overlap(const vks::CPolygon &area, const vks::CPolygon &outline)
 bool runsOver(const Segment &bar, const vks::CPolygon &outline)
 {
     const double length = bar.start.DistanceTo(bar.end);
+    if (length - 2 * kSupportAllowance < kNear)
+        return false; // nothing is left of it
     for (double at = kSupportAllowance; at <= length - kSupportAllowance; at += 1.0)
         if (outline.Locate(bar.start + bar.along() * at, 0.5) > 0)
             return true;

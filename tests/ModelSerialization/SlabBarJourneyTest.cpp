@@ -2,7 +2,7 @@
 #include "ModelSerialization/ORVCADBoardLocalModelTransformHBXService_Sample.h"
 #include "ModelSerialization/PlainBarRules.h"
 #include "platform/dwgx/DWGXBaseBoxTree.h"
-#include "platform/host/IHBXFaceShape2D.h"
+#include "platform/host/IHBXCurState.h"
 #include "platform/host/IHBXProperties.h"
 #include "support/BuildingHost.h"
 #include "tools/SlabBarGenerator.h"

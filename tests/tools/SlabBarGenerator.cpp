@@ -22,6 +22,7 @@ constexpr double kLeastCut = 0.5;        // of a plate's width, by a support tha
 constexpr double kStraight = 5.0;        // mm: a support that is off by less runs along or across
 constexpr double kBehindSupport = 400.0; // mm: what lies that far from a side is on the other side of its support
 constexpr double kLengthStep = 50.0;     // mm
+constexpr double kLeastReach = 350.0;    // mm: more than the supports at the ends take
 constexpr double kNoise = 1e-9;          // of a direction
 constexpr unsigned kRowsEvery = 5;
 constexpr unsigned kStraddleEvery = 3;
@@ -41,7 +42,7 @@ Polygon rectangle(const Box &box)
     return polygon;
 }
 
-double quarter(double span) { return std::max(1.0, std::floor(span / 4 / kLengthStep)) * kLengthStep; }
+double quarter(double span) { return std::max(kLeastReach, std::floor(span / 4 / kLengthStep) * kLengthStep); }
 
 /** Angle of the longest straight edge to the nearest axis; 0 where the two agree. */
 double angleOf(const vks::CPolygon &outline)
@@ -345,6 +346,8 @@ private:
         bar.direction = plate.back(direction);
         bar.forcedType = place;
         bar.rowNumber = row;
+        if (row > 0)
+            bar.barInfo = QStringLiteral("C14@200"); // none of those in the first row
         refer(bar, bar.surface->Barycentre());
     }
     void addStraddle(const Plate &plate, const Side &side, double left, double right)

@@ -25,7 +25,7 @@
  *    length stands on the right of their line, or on the left and the line runs the other way.
  *  - A raft that nothing cuts has top bars along its middle and, every fourth, straddling bars over its middle third.
  *
- *  Lengths come in steps of 50 mm. Some bars tell where they refer to, most leave that to the writer; bar texts are in
+ *  Lengths come in steps of 50 mm, and a quarter is at least 350 mm. Some bars tell where they refer to, most leave that to the writer; bar texts are in
  *  either case, hooks differ from end to end. */
 class SlabBarGenerator
 {

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QStringList>
+
 #include <algorithm>
 
 namespace {
@@ -110,7 +112,7 @@ TEST(SlabBarGeneratorTest, raftWithoutCutsHasTopBarsAlongItsMiddle)
     EXPECT_EQ(reply.raftMainForcedBars().size(), 2U);
     ASSERT_EQ(reply.raftNegativeForcedBars().size(), 1U);
     EXPECT_EQ(reply.raftNegativeForcedBars()[0]->line->StartPoint(), Point(0, 500));
-    EXPECT_EQ(reply.raftNegativeForcedBars()[0]->leftStretchLength, 250.0);
+    EXPECT_EQ(reply.raftNegativeForcedBars()[0]->leftStretchLength, 350.0);
 }
 
 TEST(SlabBarGeneratorTest, seedTellsTheBars)
