@@ -12,7 +12,8 @@ namespace {
 constexpr double kNear = 1e-5;              // mm
 constexpr double kProbeLength = 100.0;      // mm
 constexpr double kSupportAllowance = 150.0; // mm
-constexpr double kThickness = 0.005;        // mm on the mean: a wedge that is 0.01 thick at its end counts
+constexpr double kNoThickness = 0.001;      // mm on the mean
+constexpr double kClearThickness = 0.05;
 
 /** Where the line through a point meets the boundary, along it. Straight edges alone. */
 std::vector<double> meetings(const vks::CPolygon &area, const Point &point, const Point &direction)
@@ -88,12 +89,15 @@ double rowOffset(int row)
     return offsets[row];
 }
 
-bool overlap(const vks::CPolygon &area, const vks::CPolygon &outline)
+Overlap overlap(const vks::CPolygon &area, const vks::CPolygon &outline)
 {
     if (!area.Box().Intersects(outline.Box()))
-        return false;
+        return Overlap::None;
     const auto common = vks::CBooleanOperate2D::Intersect(&area, &outline);
-    return common && common->Area() > kThickness * common->Perimeter() / 2;
+    const double thickness = common ? common->Area() / (common->Perimeter() / 2) : 0.0;
+    if (thickness < kNoThickness)
+        return Overlap::None;
+    return thickness < kClearThickness ? Overlap::Thin : Overlap::Clear;
 }
 
 bool runsOver(const Segment &bar, const vks::CPolygon &outline)

@@ -34,8 +34,10 @@ Segment through(const vks::CPolygon &area, const Point &point, const Point &dire
 /** How far from the middle of its span a bar of a row lies, of rows up to 2. */
 double rowOffset(int row);
 
-/** Whether an area and an outline have more than their boundaries in common. */
-bool overlap(const vks::CPolygon &area, const vks::CPolygon &outline);
+/** Whether an area and an outline have more than their boundaries in common: a part thicker than 0.01 mm. Of one that is
+ *  about as thin as that, such as the wedge between edges of rounded corners, this cannot tell. */
+enum class Overlap { None, Thin, Clear };
+Overlap overlap(const vks::CPolygon &area, const vks::CPolygon &outline);
 
 /** Whether a segment, less 150 mm at either end, runs through an outline somewhere. Looks at points 1 mm apart. */
 bool runsOver(const Segment &bar, const vks::CPolygon &outline);

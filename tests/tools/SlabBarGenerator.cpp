@@ -18,6 +18,7 @@ using Curve = vks::CRefPtr<vks::CCurve2d>;
 
 constexpr double kLeastBay = 600.0;      // mm
 constexpr double kLeastCover = 0.25;     // of a bay, by its plate
+constexpr double kCover = 25.0;          // mm of concrete beside the bars of a bay
 constexpr double kLeastCut = 0.5;        // of a plate's width, by a support that cuts it
 constexpr double kStraight = 5.0;        // mm: a support that is off by less runs along or across
 constexpr double kBehindSupport = 400.0; // mm: what lies that far from a side is on the other side of its support
@@ -274,7 +275,7 @@ private:
     /** What a plate covers of a box, null for too little of it. */
     static Polygon covered(const Plate &plate, const Box &box)
     {
-        const Polygon part = vks::CBooleanOperate2D::Intersect(plate.turned, rectangle(box));
+        const Polygon part = vks::CBooleanOperate2D::Intersect(plate.turned, rectangle(box.Grown(-kCover)));
         const bool isEnough = part && box.Width() >= kLeastBay && box.Height() >= kLeastBay &&
                               part->Area() >= kLeastCover * box.Width() * box.Height();
         return isEnough && part->IsValid(vks::CPolygon::kAllChecks, nullptr, nullptr) ? part : nullptr;

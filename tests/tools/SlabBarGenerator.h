@@ -16,7 +16,7 @@
  *  - A plate (slab or raft) lies along its longest straight edge. Beams and walls that run along or across it, through at
  *    least half of it, cut it into bays. Bays of less than 600 mm are none, nor are those of which the plate covers less
  *    than a quarter.
- *  - A bay has working bars in two layers: along its short side ("Position" 0) and along its long side (1). Every fifth
+ *  - A bay has working bars 25 mm inside it, in two layers: along its short side ("Position" 0) and along its long side (1). Every fifth
  *    bay has a second row of other bars in its first layer.
  *  - Over a cut lie top bars, a quarter of the spans to either side, or, over one cut in three, straddling bars over that
  *    area.

@@ -45,7 +45,7 @@ TEST(SlabBarGeneratorTest, bayHasAWorkingBarEachWay)
     EXPECT_EQ(bars[0]->forcedType, 0);
     EXPECT_EQ(bars[1]->direction, Point(1, 0));
     EXPECT_EQ(bars[1]->forcedType, 1);
-    EXPECT_DOUBLE_EQ(bars[0]->surface->Area(), 24e6);
+    EXPECT_DOUBLE_EQ(bars[0]->surface->Area(), 5950.0 * 3950.0);
     EXPECT_TRUE(reply.negativeForcedBars().empty()) << "nothing carries it";
 }
 
@@ -58,8 +58,8 @@ TEST(SlabBarGeneratorTest, beamCutsASlabIntoBaysWithABarAcrossIt)
     SlabBarGenerator(1).layOverSlabs(floor, reply);
     const auto bars = reply.forcedBars();
     ASSERT_EQ(bars.size(), 4U);
-    EXPECT_DOUBLE_EQ(bars[0]->surface->Area(), 12e6);
-    EXPECT_DOUBLE_EQ(bars[2]->surface->Area(), 20e6);
+    EXPECT_DOUBLE_EQ(bars[0]->surface->Area(), 2950.0 * 3950.0);
+    EXPECT_DOUBLE_EQ(bars[2]->surface->Area(), 4950.0 * 3950.0);
     EXPECT_EQ(reply.negativeForcedBars().size() + reply.straddleForcedBars().size(), 1U);
 }
 
@@ -100,7 +100,7 @@ TEST(SlabBarGeneratorTest, turnedSlabHasTurnedBars)
     const Point direction = reply.forcedBars()[1]->direction;
     EXPECT_NEAR(std::fabs(direction.x), std::cos(0.5), 1e-9);
     EXPECT_NEAR(std::fabs(direction.y), std::sin(0.5), 1e-9);
-    EXPECT_NEAR(reply.forcedBars()[1]->surface->Area(), 24e6, 10.0);
+    EXPECT_NEAR(reply.forcedBars()[1]->surface->Area(), 5950.0 * 3950.0, 10.0);
 }
 
 TEST(SlabBarGeneratorTest, raftWithoutCutsHasTopBarsAlongItsMiddle)
