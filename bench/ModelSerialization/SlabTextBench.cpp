@@ -21,9 +21,7 @@ constexpr int kSizes[] = {200, 2000, 20000}; // slabs, each with some five bars 
 // Ceilings of the ratios.
 constexpr double kWritten = 1.25;
 constexpr double kRead = 1.25;
-// What plain records read within 1.25 costs more here: each element stands in a tree and carries registered properties.
-// That is some 2 kB of memory of its own, which is touched for the first time while the text is read.
-constexpr double kReadWithoutElements = 1.7;
+constexpr double kReadWithoutElements = 1.25;
 constexpr double kGrowth = 1.3;
 
 /** A floor with bars and ids, as it goes out. */
