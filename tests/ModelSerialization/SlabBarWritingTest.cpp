@@ -196,25 +196,17 @@ TEST_F(SlabBarWritingTest, hostIsCalledInTheStatedOrderForAWorkingBarOfARaft)
     Service::localRaftMainForceBar2HBX(&local, host.service(), nullptr, "House", "F1", ids);
     // Three quarters of the way from the upper edge down, as the span runs to the right of the bar.
     const char *drawn = "LINESTRING(0 750, 4000 750)";
-    expectEqual(host.calls(), {R"(findRegion("House"))",
-                               R"(findFloor("F1"))",
-                               R"(findElement("FBZJ-C12-150", 2, 49, true, 0))",
-                               R"(findElement("FBZJ-C12-150", 2, 49, true, 0))",
-                               R"(createElement(49, 190, floor 1, ""))",
-                               R"(setName("FBZJ-C12-150"))",
-                               R"(setString("BarInfo", "C12@150", true))",
-                               R"(createDrawObj(floor 1, element FBZJ-C12-150, true))",
-                               QStringLiteral(R"(setCurve("CurveData", %1, true))").arg(drawn),
-                               R"(setString("BarInfo", "C12@150", true))",
-                               R"(setInt("IsRadiate", 0, true))",
-                               QStringLiteral(R"(setCurve("ReferenceCurve", %1, true))").arg(drawn),
-                               R"(setInt("Position", 1, true))",
-                               R"(setInt("Type", 0, true))",
-                               R"(setString("LeftHook", "180", true))",
-                               R"(setString("RightHook", "180", true))",
-                               "setPolygon(" + QString::fromStdString(area()->ToText()) + ")",
-                               R"(addDrawObj(object of FBZJ-C12-150))",
-                               R"(checkDrawObj(object of FBZJ-C12-150))"});
+    expectEqual(
+        host.calls(),
+        {R"(findRegion("House"))", R"(findFloor("F1"))", R"(findElement("FBZJ-C12-150", 2, 49, true, 0))",
+         R"(findElement("FBZJ-C12-150", 2, 49, true, 0))", R"(createElement(49, 190, floor 1, ""))",
+         R"(setName("FBZJ-C12-150"))", R"(setString("BarInfo", "C12@150", true))",
+         R"(createDrawObj(floor 1, element FBZJ-C12-150, true))",
+         QStringLiteral(R"(setCurve("CurveData", %1, true))").arg(drawn), R"(setString("BarInfo", "C12@150", true))",
+         R"(setInt("IsRadiate", 0, true))", QStringLiteral(R"(setCurve("ReferenceCurve", %1, true))").arg(drawn),
+         R"(setInt("Position", 1, true))", R"(setInt("Type", 0, true))", R"(setString("LeftHook", "180", true))",
+         R"(setString("RightHook", "180", true))", "setPolygon(" + QString::fromStdString(area()->ToText()) + ")",
+         R"(addDrawObj(object of FBZJ-C12-150))", R"(checkDrawObj(object of FBZJ-C12-150))"});
 }
 
 TEST_F(SlabBarWritingTest, refusedBarOfAnyKindLeavesNoObjectNoElementAndNoId)
