@@ -29,6 +29,15 @@ template <typename Element> void takeBar(SlabRecords::Bar &bar, const Element &e
     bar.stateDescript = element.stateDescript;
 }
 
+template <typename Bar, typename Element> void takeStretches(Bar &bar, const Element &element)
+{
+    bar.labelPosition = element.labelPosition;
+    bar.leftStretchLength = element.leftStretchLength;
+    bar.rightStretchLength = element.rightStretchLength;
+    bar.distributeBarInfo = element.distributeBarInfo;
+    bar.saddleBarlineCount = element.saddleBarlineCount;
+}
+
 vks::CRefPtr<vks::CPolygon> polygonOf(const QString &text)
 {
     return vks::CPolygon::LoadFromString(text.toLatin1().constData());
@@ -80,15 +89,30 @@ void put(const SlabRecords::ForcedBar &bar, QJsonObject &json)
     json.insert(key::supportPoly, bar.supportPoly);
 }
 
-void put(const SlabRecords::NegativeBar &bar, QJsonObject &json)
+template <typename Bar> void putStretches(const Bar &bar, QJsonObject &json)
 {
-    put(bar, key::line, json);
-    putBar(bar, json);
     json.insert(key::labelPosition, bar.labelPosition);
     json.insert(key::leftStretchLength, bar.leftStretchLength);
     json.insert(key::rightStretchLength, bar.rightStretchLength);
     json.insert(key::distributeBarInfo, bar.distributeBarInfo);
     json.insert(key::saddleBarlineCount, bar.saddleBarlineCount);
+}
+
+void put(const SlabRecords::StraddleBar &bar, QJsonObject &json)
+{
+    put(bar, key::surface, json);
+    putBar(bar, json);
+    json.insert(key::directionX, bar.directionX);
+    json.insert(key::directionY, bar.directionY);
+    putStretches(bar, json);
+    json.insert(key::supportPolys, bar.supportPolys);
+}
+
+void put(const SlabRecords::NegativeBar &bar, QJsonObject &json)
+{
+    put(bar, key::line, json);
+    putBar(bar, json);
+    putStretches(bar, json);
 }
 
 void put(const SlabRecords::Beam &beam, QJsonObject &json)
@@ -153,15 +177,29 @@ void get(const QJsonObject &json, SlabRecords::ForcedBar &bar)
     bar.supportPoly = json.value(key::supportPoly).toString();
 }
 
-void get(const QJsonObject &json, SlabRecords::NegativeBar &bar)
+template <typename Bar> void getStretches(const QJsonObject &json, Bar &bar)
 {
-    get(json, key::line, bar);
-    getBar(json, bar);
     bar.labelPosition = json.value(key::labelPosition).toInt();
     bar.leftStretchLength = json.value(key::leftStretchLength).toDouble();
     bar.rightStretchLength = json.value(key::rightStretchLength).toDouble();
     bar.distributeBarInfo = json.value(key::distributeBarInfo).toString();
     bar.saddleBarlineCount = json.value(key::saddleBarlineCount).toString();
+}
+
+void get(const QJsonObject &json, SlabRecords::StraddleBar &bar)
+{
+    get(json, key::surface, bar);
+    getBar(json, bar);
+    bar.directionX = json.value(key::directionX).toDouble();
+    bar.directionY = json.value(key::directionY).toDouble();
+    getStretches(json, bar);
+}
+
+void get(const QJsonObject &json, SlabRecords::NegativeBar &bar)
+{
+    get(json, key::line, bar);
+    getBar(json, bar);
+    getStretches(json, bar);
 }
 
 void get(const QJsonObject &json, SlabRecords::Beam &beam)
@@ -202,14 +240,18 @@ SlabRecords::SlabRecords(const Model &model)
         forcedBars.back().forcedType = bar->forcedType;
         forcedBars.back().supportPoly = textOf(bar->supportPoly);
     }
+    for (const Model::StraddleForcedBar *bar : model.straddleForcedBars()) {
+        take(straddleBars.emplace_back(), *bar, bar->surface);
+        takeBar(straddleBars.back(), *bar);
+        straddleBars.back().directionX = bar->direction.x;
+        straddleBars.back().directionY = bar->direction.y;
+        takeStretches(straddleBars.back(), *bar);
+    }
     for (const Model::NegativeForcedBar *bar : model.negativeForcedBars()) {
         take(negativeBars.emplace_back(), *bar, bar->line);
         takeBar(negativeBars.back(), *bar);
-        negativeBars.back().labelPosition = bar->labelPosition;
-        negativeBars.back().leftStretchLength = bar->leftStretchLength;
-        negativeBars.back().rightStretchLength = bar->rightStretchLength;
-        negativeBars.back().distributeBarInfo = bar->distributeBarInfo;
-        negativeBars.back().saddleBarlineCount = bar->saddleBarlineCount;
+        negativeBars.back().rightHookLength = bar->leftHookLength; // as the document has it
+        takeStretches(negativeBars.back(), *bar);
     }
     for (const Model::Beam *beam : model.beams()) {
         take(beams.emplace_back(), *beam, beam->line);
@@ -225,6 +267,7 @@ QJsonObject SlabRecords::toJson() const
 {
     return {{key::boards, arrayOf(boards)},
             {key::forcedBars, arrayOf(forcedBars)},
+            {key::straddleForcedBars, arrayOf(straddleBars)},
             {key::negativeForcedBars, arrayOf(negativeBars)},
             {key::beams, arrayOf(beams)}};
 }
@@ -233,6 +276,7 @@ void SlabRecords::fromJson(const QJsonObject &json)
 {
     readArray(json.value(key::boards).toArray(), boards);
     readArray(json.value(key::forcedBars).toArray(), forcedBars);
+    readArray(json.value(key::straddleForcedBars).toArray(), straddleBars);
     readArray(json.value(key::negativeForcedBars).toArray(), negativeBars);
     readArray(json.value(key::beams).toArray(), beams);
 }
@@ -246,6 +290,8 @@ void SlabRecords::addTo(Model &model) const
         element->surface = polygonOf(bar.geometry);
         element->supportPoly = polygonOf(bar.supportPoly);
     }
+    for (const StraddleBar &bar : straddleBars)
+        (new Model::StraddleForcedBar(&model))->surface = polygonOf(bar.geometry);
     for (const NegativeBar &bar : negativeBars)
         (new Model::NegativeForcedBar(&model))->line = curveOf(bar.geometry);
     for (const Beam &beam : beams)

@@ -11,7 +11,7 @@
 /** The slab document by hand: plain records with all texts ready, put into JSON objects and taken out of them. This is the
  *  floor under the slab service, which has geometry, a tree and properties to care for besides.
  *
- *  Four kinds stand for all: slabs, bars of an area, top bars and beams. */
+ *  Five kinds stand for all: slabs, the three kinds of their bars, and beams. */
 class SlabRecords
 {
 public:
@@ -49,6 +49,17 @@ public:
         int forcedType = 0;
         QString supportPoly;
     };
+    struct StraddleBar : Bar
+    {
+        double directionX = 0.0;
+        double directionY = 0.0;
+        int labelPosition = 0;
+        double leftStretchLength = 0.0;
+        double rightStretchLength = 0.0;
+        QString distributeBarInfo;
+        QString saddleBarlineCount;
+        QString supportPolys;
+    };
     struct NegativeBar : Bar
     {
         int labelPosition = 0;
@@ -67,7 +78,7 @@ public:
     };
 
     SlabRecords() = default;
-    /** What a model of the four kinds holds. */
+    /** What a model of these kinds holds. */
     explicit SlabRecords(const Model &model);
 
     QJsonObject toJson() const;
@@ -77,6 +88,7 @@ public:
 
     std::vector<Board> boards;
     std::vector<ForcedBar> forcedBars;
+    std::vector<StraddleBar> straddleBars;
     std::vector<NegativeBar> negativeBars;
     std::vector<Beam> beams;
 };

@@ -6,6 +6,7 @@
 #include <chrono>
 #include <cstddef>
 #include <cstdio>
+#include <ctime>
 #include <functional>
 #include <string>
 #include <type_traits>
@@ -31,6 +32,10 @@ struct Work
 /** Keeps a result from being optimised away. */
 template <typename T> void keep(T &&value) { benchmark::DoNotOptimize(value); }
 
+/** What is measured: Cpu is the processor's time of this process, which the machine's other work does not add to, Wall the
+ *  time that passes, for works that wait for a disk. */
+enum class Time { Wall, Cpu };
+
 /** Ratios of medians, each of two works that take turns in this process, against their ceilings.
  *
  *      bench::RatioTable table("Geometry text");
@@ -39,7 +44,7 @@ template <typename T> void keep(T &&value) { benchmark::DoNotOptimize(value); }
 class RatioTable
 {
 public:
-    explicit RatioTable(std::string title) : m_title(std::move(title)) {}
+    explicit RatioTable(std::string title, Time time = Time::Wall) : m_title(std::move(title)), m_time(time) {}
 
     /** @param size     how many items one run of either work handles; times are printed per item
      *  @param ceiling  largest ratio of ours to floor that is good; 0 only tells the ratio */
@@ -84,15 +89,22 @@ private:
     static constexpr double kFewestSamples = 5;
     static constexpr double kMostSamples = 41;
 
+    /** Nanoseconds since some moment. */
+    double now() const
+    {
+        if (m_time == Time::Cpu)
+            return static_cast<double>(std::clock()) * (1e9 / CLOCKS_PER_SEC);
+        return std::chrono::duration<double, std::nano>(Clock::now().time_since_epoch()).count();
+    }
     /** Nanoseconds of one run, over so many in a row. */
-    static double timed(const Work &work, std::size_t runs)
+    double timed(const Work &work, std::size_t runs) const
     {
         if (work.prepare)
             work.prepare();
-        const auto start = Clock::now();
+        const double start = now();
         for (std::size_t i = 0; i < runs; ++i)
             work.run();
-        return std::chrono::duration<double, std::nano>(Clock::now() - start).count() / static_cast<double>(runs);
+        return (now() - start) / static_cast<double>(runs);
     }
     static std::size_t runsPerSample(const Work &work, double oneRun)
     {
@@ -147,6 +159,7 @@ private:
     }
 
     std::string m_title;
+    Time m_time;
     std::vector<Row> m_rows;
 };
 

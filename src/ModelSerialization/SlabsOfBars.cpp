@@ -22,6 +22,7 @@ using Polygon = vks::CRefPtr<vks::CPolygon>;
 using Curve = vks::CRefPtr<vks::CCurve2d>;
 
 constexpr double kSupportAllowance = 150.0; // mm: either end of a bar lies over a support
+constexpr double kBoxMargin = 1.0;          // mm beyond the tolerance: boxes only narrow the search
 constexpr int kLinkKind = 1;
 constexpr vks::EnCurvePolygonPosition kUnderCurve[] = {vks::kCurveInAndOut, vks::kCurveIn, vks::kCurveInTouching,
                                                        vks::kCurveOnBoundary};
@@ -81,27 +82,24 @@ bool shareStretch(const vks::CCurve2d *a, const vks::CCurve2d *b)
 struct BarInQuestion
 {
     const vks::CCurve2d &line;
-    vks::CBox2<double> box; ///< of the line, grown by the tolerance
     Curve drawn;
     double level; ///< mm
 
     bool isCoveredBy(IHBXElementDrawObj &other) const
     {
-        vks::CBox2<double> otherBox;
-        const IHBXShape *shape = other.shape();
-        if (!shape || !shape->box(otherBox, IHBXModel::g_bDefaultAutoCalc).Intersects(box))
-            return false; // nothing to share: the boxes lie apart
         return shareStretch(&line, planCurve(other)) &&
                hbx::isEqual(level, getNegReinfElev(&other), lengthTolerance(level)) &&
                shareStretch(drawn, drawnCurve(&other));
     }
 };
 
-QList<IHBXElementDrawObj *> barsOnCurrentFloor(IHBXService &service, int elementType)
+/** The bars of a type on the current floor that may lie along a line. */
+QList<IHBXElementDrawObj *> barsAt(IHBXService &service, const vks::CCurve2d &line, int elementType)
 {
     QList<IHBXElementDrawObj *> bars;
-    if (const IHBXFloor *floor = service.curState()->floor())
-        service.model()->drawObjects()->queryDrawObjsOfFloor(bars, floor->id(), elementType, -1, true);
+    const double reach = vks::g_DistEpsilon + kBoxMargin;
+    if (const IHBXFloor *floor = service.curState()->floor()) // bars whose boxes lie apart share nothing
+        service.model()->drawObjects()->queryDrawObjsInBox(bars, floor->id(), elementType, line.Box(), reach);
     return bars;
 }
 
@@ -150,9 +148,8 @@ bool checkBFJOverlap(IHBXService *service, int slabId, const vks::CCurve2d *curv
         return false;
     IHBXDrawObjs &drawObjs = *service->model()->drawObjects();
     const double level = getSlabElev(drawObjs.drawObjById(slabId), QStringLiteral("TopElev"));
-    const double reach = std::max(vks::g_DistEpsilon, vks::g_DefaultDistEpsilon);
-    const BarInQuestion bar{*curve, curve->Box().Grown(reach), drawnCurve(drawObjs.drawObjById(selfId)), level};
-    const auto bars = barsOnCurrentFloor(*service, elementType);
+    const BarInQuestion bar{*curve, drawnCurve(drawObjs.drawObjById(selfId)), level};
+    const auto bars = barsAt(*service, *curve, elementType);
     return std::none_of(bars.begin(), bars.end(),
                         [&](IHBXElementDrawObj *other) { return other->id() != selfId && bar.isCoveredBy(*other); });
 }

@@ -97,8 +97,8 @@ public:
     Value property(const Name &name, const Value &defaultValue = Value()) const;
     /** The same from this object or the nearest one above it that has the property. */
     Value inherited_property(const Name &name, const Value &defaultValue = Value()) const;
-    bool hasProperty(const Name &name) const { return m_properties.count(name) != 0; }
-    void deleteProperty(const Name &name) { m_properties.erase(name); }
+    bool hasProperty(const Name &name) const { return boundProperties().count(name) != 0; }
+    void deleteProperty(const Name &name) { boundProperties().erase(name); }
     /** In the order of names, as properties() is. */
     std::vector<Name> propertyNames() const;
     std::vector<property_t> properties() const;
@@ -120,7 +120,11 @@ public:
                        const Value &a9 = Value()) const;
 
     /** Called first of all when the object dies; it may not throw then. What derives from this class is gone by then. */
-    void setCallbackBeforeDestroyed(const std::function<void()> &callback) { m_beforeDestroyed = callback; }
+    void setCallbackBeforeDestroyed(const std::function<void()> &callback)
+    {
+        bindNow(); // the callback may ask what properties there are
+        m_beforeDestroyed = callback;
+    }
 
     // ---- Searches, in the order of the tree's; each gives the data of what it finds, null or nothing otherwise.
 
@@ -132,6 +136,13 @@ public:
     /** The child of that name, or a new one. Null only for an object without data. */
     Data createIfNotExists(const Name &name, FindChildOption option = FindDirectChildren);
 
+protected:
+    using Binder = void (*)(Object_AI &);
+
+    /** Leaves the binding of properties to a function that is called at the first question for any of them, so that an
+     *  object whose properties nobody asks for pays nothing. A second one takes the place of the first. */
+    void bindLater(Binder binder) { m_binder = binder; }
+
 private:
     struct Entry
     {
@@ -142,11 +153,25 @@ private:
         Value read() const { return getter ? getter() : value; }
     };
 
+    using Entries = std::map<Name, Entry>;
+
+    void bindNow() const
+    {
+        if (m_binder)
+            std::exchange(m_binder, nullptr)(const_cast<Object_AI &>(*this)); // what it changes is mutable
+    }
+    /** The properties, bound: nothing else looks at m_properties. */
+    Entries &boundProperties() const
+    {
+        bindNow();
+        return m_properties;
+    }
     static typename Tree::Predicate onNodes(const Predicate &predicate);
     static Predicate isNamed(const Name &name);
 
     Name m_name;
-    std::map<Name, Entry> m_properties;
+    mutable Entries m_properties;
+    mutable Binder m_binder = nullptr;
     std::map<Name, Method> m_methods;
     std::function<void()> m_beforeDestroyed;
 };

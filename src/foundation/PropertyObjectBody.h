@@ -14,12 +14,12 @@ Object_AI<Data, Name, Value>::Object_AI(const Name &name, const Data &data, Obje
 
 template <typename Data, typename Name, typename Value>
 Object_AI<Data, Name, Value>::Object_AI(const Object_AI &other, const Data &data, int)
-    : Tree(data), m_name(other.m_name), m_properties(other.m_properties)
+    : Tree(data), m_name(other.m_name), m_properties(other.boundProperties())
 {}
 
 template <typename Data, typename Name, typename Value>
 Object_AI<Data, Name, Value>::Object_AI(Object_AI &&other, const Data &data, int)
-    : Tree(data), m_name(std::move(other.m_name)), m_properties(std::move(other.m_properties))
+    : Tree(data), m_name(std::move(other.m_name)), m_properties(std::move(other.boundProperties()))
 {
     other.m_properties.clear();
     Tree::move_ralations(&other, this);
@@ -27,6 +27,7 @@ Object_AI<Data, Name, Value>::Object_AI(Object_AI &&other, const Data &data, int
 
 template <typename Data, typename Name, typename Value> Object_AI<Data, Name, Value>::~Object_AI()
 {
+    m_binder = nullptr; // what it would bind is gone
     if (m_beforeDestroyed)
         m_beforeDestroyed();
 }
@@ -36,7 +37,7 @@ auto Object_AI<Data, Name, Value>::operator=(const Object_AI &other) -> Object_A
 {
     if (this != &other) {
         m_name = other.m_name;
-        m_properties = other.m_properties;
+        boundProperties() = other.boundProperties();
     }
     return *this;
 }
@@ -51,7 +52,7 @@ auto Object_AI<Data, Name, Value>::operator=(Object_AI &&other) -> Object_AI &
     this->clearChildNodes();
     Tree::move_ralations(&other, this);
     m_name = std::move(other.m_name);
-    m_properties.swap(other.m_properties);
+    boundProperties().swap(other.boundProperties());
     return *this;
 }
 
@@ -60,9 +61,10 @@ auto Object_AI<Data, Name, Value>::operator=(Object_AI &&other) -> Object_AI &
 template <typename Data, typename Name, typename Value>
 void Object_AI<Data, Name, Value>::setProperty(const Name &name, const Value &value)
 {
-    const auto found = m_properties.find(name);
-    if (found == m_properties.end()) {
-        m_properties.emplace(name, Entry{{}, {}, value});
+    Entries &entries = boundProperties();
+    const auto found = entries.find(name);
+    if (found == entries.end()) {
+        entries.emplace(name, Entry{{}, {}, value});
         return;
     }
     Entry &entry = found->second;
@@ -75,7 +77,7 @@ void Object_AI<Data, Name, Value>::setProperty(const Name &name, const Value &va
 template <typename Data, typename Name, typename Value>
 void Object_AI<Data, Name, Value>::setProperty(const Name &name, const Getter &getter, const Setter &setter)
 {
-    Entry &entry = m_properties[name];
+    Entry &entry = boundProperties()[name];
     entry.getter = getter;
     entry.setter = setter;
 }
@@ -83,8 +85,9 @@ void Object_AI<Data, Name, Value>::setProperty(const Name &name, const Getter &g
 template <typename Data, typename Name, typename Value>
 Value Object_AI<Data, Name, Value>::property(const Name &name, const Value &defaultValue) const
 {
-    const auto found = m_properties.find(name);
-    return found == m_properties.end() ? defaultValue : found->second.read();
+    const Entries &entries = boundProperties();
+    const auto found = entries.find(name);
+    return found == entries.end() ? defaultValue : found->second.read();
 }
 
 template <typename Data, typename Name, typename Value>
@@ -92,8 +95,9 @@ Value Object_AI<Data, Name, Value>::inherited_property(const Name &name, const V
 {
     const Object_AI *object = this;
     while (true) {
-        const auto found = object->m_properties.find(name);
-        if (found != object->m_properties.end())
+        const Entries &entries = object->boundProperties();
+        const auto found = entries.find(name);
+        if (found != entries.end())
             return found->second.read();
         if (!object->parent())
             return defaultValue;
@@ -105,8 +109,9 @@ template <typename Data, typename Name, typename Value>
 std::vector<Name> Object_AI<Data, Name, Value>::propertyNames() const
 {
     std::vector<Name> names;
-    names.reserve(m_properties.size());
-    for (const auto &[name, entry] : m_properties)
+    const Entries &entries = boundProperties();
+    names.reserve(entries.size());
+    for (const auto &[name, entry] : entries)
         names.push_back(name);
     return names;
 }
@@ -115,8 +120,9 @@ template <typename Data, typename Name, typename Value>
 auto Object_AI<Data, Name, Value>::properties() const -> std::vector<property_t>
 {
     std::vector<property_t> list;
-    list.reserve(m_properties.size());
-    for (const auto &[name, entry] : m_properties)
+    const Entries &entries = boundProperties();
+    list.reserve(entries.size());
+    for (const auto &[name, entry] : entries)
         list.push_back({name, entry.read()});
     return list;
 }

@@ -2,8 +2,6 @@
 
 #include "slab/BoardLocalModelProperties.h"
 
-#include <utility>
-
 namespace {
 
 using Model = ORVCADBoardLocalModel_Sample;
@@ -12,23 +10,15 @@ using Model = ORVCADBoardLocalModel_Sample;
 
 // NOLINTBEGIN(performance-noexcept-move-constructor): handlers of events may throw
 
-Model::AbstractForcedBar::AbstractForcedBar(Types kind, cv::Object_AI *parent) : SectionObject(kind, parent)
-{
-    bindProperties();
-}
-Model::AbstractForcedBar::AbstractForcedBar(AbstractForcedBar &&other)
-    : SectionObject(std::move(other)), direction(other.direction), barInfo(std::move(other.barInfo)),
-      rowNumber(other.rowNumber), leftHookLength(other.leftHookLength), rightHookLength(other.rightHookLength),
-      refPointValid(other.refPointValid), refPoint(other.refPoint)
-{
-    bindProperties();
-}
+Model::AbstractForcedBar::AbstractForcedBar(Types kind, cv::Object_AI *parent) : SectionObject(kind, parent) {}
+Model::AbstractForcedBar::AbstractForcedBar(AbstractForcedBar &&other) = default;
 Model::AbstractForcedBar::~AbstractForcedBar() = default;
 
 Model::Object::Shape Model::AbstractForcedBar::shape() const { return SectionObject::shape(); }
 
 void Model::AbstractForcedBar::bindProperties()
 {
+    SectionObject::bindProperties();
     slab::bindProperty(*this, slab::property::direction(), direction);
     slab::bindProperty(*this, slab::property::barInfo(), barInfo);
     slab::bindProperty(*this, slab::property::rowNumber(), rowNumber);
@@ -44,25 +34,17 @@ Model::StraddleForcedBar::StraddleForcedBar(cv::Object_AI *parent) : AbstractFor
 Model::StraddleForcedBar::StraddleForcedBar(StraddleForcedBar &&other) = default;
 Model::StraddleForcedBar::~StraddleForcedBar() = default;
 
-Model::NegativeForcedBar::NegativeForcedBar(cv::Object_AI *parent) : LineObject(NegativeForcedBarKind, parent)
-{
-    bindProperties();
-}
-Model::NegativeForcedBar::NegativeForcedBar(NegativeForcedBar &&other)
-    : LineObject(std::move(other)), barInfo(std::move(other.barInfo)),
-      distributeBarInfo(std::move(other.distributeBarInfo)), saddleBarlineCount(std::move(other.saddleBarlineCount)),
-      labelPosition(other.labelPosition), leftStretchLength(other.leftStretchLength),
-      rightStretchLength(other.rightStretchLength), leftHookLength(other.leftHookLength),
-      rightHookLength(other.rightHookLength), rowNumber(other.rowNumber), refPointValid(other.refPointValid),
-      refPoint(other.refPoint)
-{
-    bindProperties();
-}
+Model::NegativeForcedBar::NegativeForcedBar(cv::Object_AI *parent) : LineObject(NegativeForcedBarKind, parent) {}
+Model::NegativeForcedBar::NegativeForcedBar(NegativeForcedBar &&other) = default;
 Model::NegativeForcedBar::~NegativeForcedBar() = default;
 
 Model::Object::Shape Model::NegativeForcedBar::shape() const { return LineObject::shape(); }
 
-void Model::NegativeForcedBar::bindProperties() { slab::bindProperty(*this, slab::property::barInfo(), barInfo); }
+void Model::NegativeForcedBar::bindProperties()
+{
+    LineObject::bindProperties();
+    slab::bindProperty(*this, slab::property::barInfo(), barInfo);
+}
 
 Model::RaftMainForcedBar::RaftMainForcedBar(cv::Object_AI *parent) : AbstractForcedBar(RaftMainForcedBarKind, parent) {}
 Model::RaftMainForcedBar::RaftMainForcedBar(RaftMainForcedBar &&other) = default;
@@ -78,21 +60,16 @@ Model::RaftMainStraddleForcedBar::~RaftMainStraddleForcedBar() = default;
 
 Model::RaftNegativeForcedBar::RaftNegativeForcedBar(cv::Object_AI *parent)
     : LineObject(RaftNegativeForcedBarKind, parent)
-{
-    bindProperties();
-}
-Model::RaftNegativeForcedBar::RaftNegativeForcedBar(RaftNegativeForcedBar &&other)
-    : LineObject(std::move(other)), barInfo(std::move(other.barInfo)), labelPosition(other.labelPosition),
-      leftStretchLength(other.leftStretchLength), rightStretchLength(other.rightStretchLength),
-      leftHookLength(other.leftHookLength), rightHookLength(other.rightHookLength), rowNumber(other.rowNumber),
-      refPointValid(other.refPointValid), refPoint(other.refPoint)
-{
-    bindProperties();
-}
+{}
+Model::RaftNegativeForcedBar::RaftNegativeForcedBar(RaftNegativeForcedBar &&other) = default;
 Model::RaftNegativeForcedBar::~RaftNegativeForcedBar() = default;
 
 Model::Object::Shape Model::RaftNegativeForcedBar::shape() const { return LineObject::shape(); }
 
-void Model::RaftNegativeForcedBar::bindProperties() { slab::bindProperty(*this, slab::property::barInfo(), barInfo); }
+void Model::RaftNegativeForcedBar::bindProperties()
+{
+    LineObject::bindProperties();
+    slab::bindProperty(*this, slab::property::barInfo(), barInfo);
+}
 
 // NOLINTEND(performance-noexcept-move-constructor)

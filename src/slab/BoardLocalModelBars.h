@@ -31,7 +31,7 @@ protected:
     AbstractForcedBar(Types kind, cv::Object_AI *parent);
 
 private:
-    void bindProperties();
+    void bindProperties() override;
 };
 
 /** Working bars of one slab. Meant: their shape is the box of the outline, and the slab does not widen it. */
@@ -88,7 +88,7 @@ public:
     vks::CVec2<double> refPoint; ///< where the label refers to; counts only if refPointValid
 
 private:
-    void bindProperties();
+    void bindProperties() override;
 };
 
 /** Working bars of one raft. Meant: their shape is the box of the outline, and the raft does not widen it. */
@@ -140,7 +140,7 @@ public:
     vks::CVec2<double> refPoint; ///< where the label refers to; counts only if refPointValid
 
 private:
-    void bindProperties();
+    void bindProperties() override;
 };
 
 // NOLINTEND(performance-noexcept-move-constructor)

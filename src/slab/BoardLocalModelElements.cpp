@@ -18,14 +18,22 @@ template <typename Geometry> Model::Object::Shape::BoxFunction boxOf(const vks::
 
 // NOLINTBEGIN(performance-noexcept-move-constructor): handlers of events may throw
 
-Model::Object::Object(Types kind, cv::Object_AI *parent) : cv::Object_AI(parent), m_type(kind) { bindProperties(); }
+Model::Object::Object(Types kind, cv::Object_AI *parent) : cv::Object_AI(parent), m_type(kind)
+{
+    bindPropertiesLater();
+}
 Model::Object::Object(Object &&other)
     : cv::Object_AI(std::move(other)), elementId(other.elementId), name(std::move(other.name)),
       stateDescript(std::move(other.stateDescript)), recongnizedID(other.recongnizedID), m_type(other.m_type)
 {
-    bindProperties();
+    bindPropertiesLater();
 }
 Model::Object::~Object() = default;
+
+void Model::Object::bindPropertiesLater()
+{
+    bindLater([](PropertyObject &object) { static_cast<Object &>(object).bindProperties(); });
+}
 
 void Model::Object::bindProperties() { slab::bindProperty(*this, slab::property::name(), name); }
 
@@ -33,19 +41,15 @@ Model::Object::Shape::Shape(const Object *owner, BoxFunction boxFunction)
     : m_owner(owner), m_box(std::move(boxFunction))
 {}
 
-Model::LineObject::LineObject(Types kind, cv::Object_AI *parent) : Object(kind, parent) { bindProperties(); }
-Model::LineObject::LineObject(LineObject &&other)
-    : Object(std::move(other)), line(std::move(other.line)), startTopElev(other.startTopElev),
-      endTopElev(other.endTopElev)
-{
-    bindProperties();
-}
+Model::LineObject::LineObject(Types kind, cv::Object_AI *parent) : Object(kind, parent) {}
+Model::LineObject::LineObject(LineObject &&other) = default;
 Model::LineObject::~LineObject() = default;
 
 Model::Object::Shape Model::LineObject::shape() const { return {this, boxOf(line)}; }
 
 void Model::LineObject::bindProperties()
 {
+    Object::bindProperties();
     slab::bindProperty(*this, slab::property::startTopElev(), startTopElev);
     slab::bindProperty(*this, slab::property::endTopElev(), endTopElev);
 }
@@ -58,17 +62,13 @@ Model::Object::Shape Model::SectionObject::shape() const { return {this, boxOf(s
 
 // ---- Supports
 
-Model::Support::Support(Types kind, cv::Object_AI *parent) : LineObject(kind, parent) { bindProperties(); }
-Model::Support::Support(Support &&other)
-    : LineObject(std::move(other)), width(other.width), distanceToLeft(other.distanceToLeft),
-      supportType(other.supportType)
-{
-    bindProperties();
-}
+Model::Support::Support(Types kind, cv::Object_AI *parent) : LineObject(kind, parent) {}
+Model::Support::Support(Support &&other) = default;
 Model::Support::~Support() = default;
 
 void Model::Support::bindProperties()
 {
+    LineObject::bindProperties();
     slab::bindProperty(*this, slab::property::supportWidth(), width);
     // Meant: the second takes the place of the first, so that width has no property.
     slab::bindProperty(*this, slab::property::supportWidth(), distanceToLeft);
@@ -88,44 +88,35 @@ Model::Column::~Column() = default;
 
 // ---- Slabs, holes and rafts
 
-Model::Board::Board(cv::Object_AI *parent) : SectionObject(BoardKind, parent) { bindProperties(); }
-Model::Board::Board(Board &&other)
-    : SectionObject(std::move(other)), thickness(other.thickness), elev(other.elev), boardType(other.boardType)
-{
-    bindProperties();
-}
+Model::Board::Board(cv::Object_AI *parent) : SectionObject(BoardKind, parent) {}
+Model::Board::Board(Board &&other) = default;
 Model::Board::~Board() = default;
 
 void Model::Board::bindProperties()
 {
+    SectionObject::bindProperties();
     slab::bindProperty(*this, slab::property::thickness(), thickness);
     slab::bindProperty(*this, slab::property::topElev(), elev);
     slab::bindProperty(*this, slab::property::boardType(), boardType);
 }
 
-Model::BoardHole::BoardHole(cv::Object_AI *parent) : SectionObject(BoardHoleKind, parent) { bindProperties(); }
-Model::BoardHole::BoardHole(BoardHole &&other)
-    : SectionObject(std::move(other)), barInfo(std::move(other.barInfo)),
-      shortSpanReinforceBar(std::move(other.shortSpanReinforceBar)),
-      longSpanReinforceBar(std::move(other.longSpanReinforceBar)),
-      obliqueReinforceBar(std::move(other.obliqueReinforceBar))
-{
-    bindProperties();
-}
+Model::BoardHole::BoardHole(cv::Object_AI *parent) : SectionObject(BoardHoleKind, parent) {}
+Model::BoardHole::BoardHole(BoardHole &&other) = default;
 Model::BoardHole::~BoardHole() = default;
 
-void Model::BoardHole::bindProperties() { slab::bindProperty(*this, slab::property::edgeBars(), barInfo); }
-
-Model::Raft::Raft(cv::Object_AI *parent) : SectionObject(RaftKind, parent) { bindProperties(); }
-Model::Raft::Raft(Raft &&other)
-    : SectionObject(std::move(other)), thickness(other.thickness), topElev(other.topElev), bottomElev(other.bottomElev)
+void Model::BoardHole::bindProperties()
 {
-    bindProperties();
+    SectionObject::bindProperties();
+    slab::bindProperty(*this, slab::property::edgeBars(), barInfo);
 }
+
+Model::Raft::Raft(cv::Object_AI *parent) : SectionObject(RaftKind, parent) {}
+Model::Raft::Raft(Raft &&other) = default;
 Model::Raft::~Raft() = default;
 
 void Model::Raft::bindProperties()
 {
+    SectionObject::bindProperties();
     slab::bindProperty(*this, slab::property::thickness(), thickness);
     slab::bindProperty(*this, slab::property::topElev(), topElev);
 }

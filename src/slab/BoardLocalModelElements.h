@@ -68,11 +68,16 @@ public:
 protected:
     Object(Types kind, cv::Object_AI *parent);
 
+    /** Binds all properties of the element, those of its bases first; called when one is asked for. */
+    virtual void bindProperties();
+
 private:
     friend ORVCADBoardLocalModelPersistenceService_Sample; // overwrites the kind of columns
     friend ORVCADBoardLocalModelTestAccess;
 
-    void bindProperties();
+    using PropertyObject = gp::Object_AI<cv::Object_AI *, QString, Any>;
+
+    void bindPropertiesLater();
 
     Types m_type;
 };
@@ -112,8 +117,7 @@ public:
 protected:
     LineObject(Types kind, cv::Object_AI *parent);
 
-private:
-    void bindProperties();
+    void bindProperties() override;
 };
 
 /** An element with an outline. Its shape is the box of the outline, which is empty without one. */
@@ -149,7 +153,7 @@ protected:
     Support(Types kind, cv::Object_AI *parent);
 
 private:
-    void bindProperties();
+    void bindProperties() override;
 };
 
 /** Its elevations are startTopElev and endTopElev. */
@@ -201,7 +205,7 @@ public:
     Types boardType = Types();
 
 private:
-    void bindProperties();
+    void bindProperties() override;
 };
 
 /** A hole in a slab, with the bars at its edge.
@@ -219,7 +223,7 @@ public:
     QString obliqueReinforceBar;
 
 private:
-    void bindProperties();
+    void bindProperties() override;
 };
 
 /** A raft foundation.
@@ -236,7 +240,7 @@ public:
     double bottomElev = 0.0; ///< m
 
 private:
-    void bindProperties();
+    void bindProperties() override;
 };
 
 // ---- Axes

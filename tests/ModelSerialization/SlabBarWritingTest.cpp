@@ -186,6 +186,49 @@ TEST_F(SlabBarWritingTest, hostIsCalledInTheStatedOrderForBarsOfRafts)
          R"(checkDrawObj(object of KFBZJ-C12-150))"});
 }
 
+TEST_F(SlabBarWritingTest, hostIsCalledInTheStatedOrderForAWorkingBarOfARaft)
+{
+    auto *bar = addBar<Model::RaftMainForcedBar>(area());
+    bar->forcedType = 1;
+    bar->leftHookLength = 180;
+    bar->rightHookLength = 90;
+    RecordingHost host(*store.service());
+    Service::localRaftMainForceBar2HBX(&local, host.service(), nullptr, "House", "F1", ids);
+    // Three quarters of the way from the upper edge down, as the span runs to the right of the bar.
+    const char *drawn = "LINESTRING(0 750, 4000 750)";
+    expectEqual(
+        host.calls(),
+        {R"(findRegion("House"))", R"(findFloor("F1"))", R"(findElement("FBZJ-C12-150", 2, 49, true, 0))",
+         R"(findElement("FBZJ-C12-150", 2, 49, true, 0))", R"(createElement(49, 190, floor 1, ""))",
+         R"(setName("FBZJ-C12-150"))", R"(setString("BarInfo", "C12@150", true))",
+         R"(createDrawObj(floor 1, element FBZJ-C12-150, true))",
+         QStringLiteral(R"(setCurve("CurveData", %1, true))").arg(drawn), R"(setString("BarInfo", "C12@150", true))",
+         R"(setInt("IsRadiate", 0, true))", QStringLiteral(R"(setCurve("ReferenceCurve", %1, true))").arg(drawn),
+         R"(setInt("Position", 1, true))", R"(setInt("Type", 0, true))", R"(setString("LeftHook", "180", true))",
+         R"(setString("RightHook", "180", true))", "setPolygon(" + QString::fromStdString(area()->ToText()) + ")",
+         R"(addDrawObj(object of FBZJ-C12-150))", R"(checkDrawObj(object of FBZJ-C12-150))"});
+}
+
+TEST_F(SlabBarWritingTest, refusedBarOfAnyKindLeavesNoObjectNoElementAndNoId)
+{
+    addBar<Model::ForcedBar>(nullptr);
+    addBar<Model::StraddleForcedBar>(nullptr);
+    addBar<Model::RaftMainForcedBar>(nullptr);
+    addBar<Model::RaftMainStraddleForcedBar>(nullptr);
+    add<Model::NegativeForcedBar>()->barInfo = "C8@200";
+    add<Model::RaftNegativeForcedBar>()->barInfo = "C8@200";
+    const int objects = model().drawObjects()->count();
+    RecordingHost host(*store.service());
+    ids = Service::local2hbx(&local, host.service(), slabs.get(), "House", "F1");
+    EXPECT_EQ(host.calls().filter("createDrawObj").size(), 6);
+    EXPECT_EQ(host.calls().filter("removeDrawObj").size(), 6);
+    EXPECT_EQ(host.calls().filter("removeElement").size(), 6);
+    EXPECT_TRUE(ids.empty());
+    EXPECT_EQ(model().drawObjects()->count(), objects);
+    for (const qint64 type : {22, 23, 49, 50})
+        EXPECT_EQ(elementCount(type), 0) << type;
+}
+
 TEST_F(SlabBarWritingTest, refusedBarLeavesNoObjectNoElementNoIdAndNoLink)
 {
     IHBXElementDrawObj *slab = hostSlab(0, 0, 4000, 3000, "B1");
@@ -262,7 +305,7 @@ TEST_F(SlabBarWritingTest, hostIsCalledInTheStatedOrderForANegativeBar)
                                "setLine(LINESTRING(0 0, 0 4000))",
                                QStringLiteral(R"(setInt("DependSlabID", %1, true))").arg(slab->id()),
                                R"(addDrawObj(object of FJ-C8-200))",
-                               "queryDrawObjsOfFloor(2, 23, -1, true)"});
+                               "queryDrawObjsInBox(2, 23, (0, 0), (0, 4000), 1.000001)"});
     ASSERT_EQ(ids.size(), 1U);
     EXPECT_EQ(ids.at(only(23)->id()), bar->recongnizedID);
 }
@@ -281,7 +324,7 @@ TEST_F(SlabBarWritingTest, negativeBarOfARaftHasItsHooksBehindItsLabels)
                  R"(setInt("IncludeSupport", 1, true))", R"(setString("LeftHook", "0", true))",
                  R"(setString("RightHook", "0", true))", "setLine(LINESTRING(0 0, 0 4000))",
                  R"(setInt("DependSlabID", -1, true))", R"(addDrawObj(object of FBFJ-C8-200))",
-                 "queryDrawObjsOfFloor(2, 23, -1, true)"});
+                 "queryDrawObjsInBox(2, 23, (0, 0), (0, 4000), 1.000001)"});
 }
 
 TEST_F(SlabBarWritingTest, negativeBarWithoutASlabIsMadeAllTheSame)

@@ -1,4 +1,6 @@
 #include "HostContract.h"
+#include "HostContractGeometry.h"
+#include "platform/host/IHBXFaceSolidShape.h"
 
 using namespace host_contract;
 
@@ -82,6 +84,60 @@ TEST_P(HostDrawObjQueryContract, queryOfFloorAsksForOneTypeOfOneFloor)
     drawObjs().queryDrawObjsOfFloor(found, level1().id(), 19, -1, true);
     EXPECT_EQ(idsOf(found), QList<qint64>{slab.id()});
     drawObjs().queryDrawObjsOfFloor(found, 987654, 19, -1, true);
+    EXPECT_TRUE(found.isEmpty());
+}
+
+TEST_P(HostDrawObjQueryContract, queryInABoxAsksForObjectsOfATypeThatComeNearIt)
+{
+    const auto slabAt = [this](double x) -> IHBXElementDrawObj & {
+        IHBXElementDrawObj &slab = placed(19);
+        auto *shape = dynamic_cast<IHBXFaceSolidShape *>(slab.shape());
+        shape->setPolygon(rectangle(x, 0, x + 1000, 1000));
+        return slab;
+    };
+    IHBXElementDrawObj &first = slabAt(0);
+    IHBXElementDrawObj &second = slabAt(2000);
+    placed(19); // without geometry
+    placed(25);
+    const vks::CBox2<double> box({1500, 500}, {1800, 600});
+    Found found{nullptr};
+    drawObjs().queryDrawObjsInBox(found, level1().id(), 19, box, 0.0);
+    EXPECT_TRUE(found.isEmpty());
+    drawObjs().queryDrawObjsInBox(found, level1().id(), 19, box, 200.0);
+    EXPECT_EQ(idsOf(found), QList<qint64>{second.id()});
+    drawObjs().queryDrawObjsInBox(found, level1().id(), 19, box, 500.0);
+    EXPECT_EQ(idsOf(found), (QList<qint64>{first.id(), second.id()}));
+    drawObjs().queryDrawObjsInBox(found, floor("2").id(), 19, box, 500.0);
+    EXPECT_TRUE(found.isEmpty());
+}
+
+TEST_P(HostDrawObjQueryContract, queryInABoxKnowsWhereObjectsAreByNow)
+{
+    IHBXElementDrawObj &slab = placed(19);
+    auto *shape = dynamic_cast<IHBXFaceSolidShape *>(slab.shape());
+    const vks::CBox2<double> box({0, 0}, {100, 100});
+    const auto count = [&] {
+        Found found;
+        drawObjs().queryDrawObjsInBox(found, level1().id(), 19, box, 1.0);
+        return found.size();
+    };
+    EXPECT_EQ(count(), 0);
+    shape->setPolygon(rectangle(0, 0, 1000, 1000));
+    EXPECT_EQ(count(), 1);
+    shape->setPolygon(rectangle(5000, 0, 6000, 1000));
+    EXPECT_EQ(count(), 0);
+    shape->setPolygon(rectangle(50, 50, 1000, 1000));
+    EXPECT_EQ(count(), 1);
+    slab.remove();
+    EXPECT_EQ(count(), 0);
+}
+
+TEST_P(HostDrawObjQueryContract, emptyBoxMeetsNothing)
+{
+    IHBXElementDrawObj &slab = placed(19);
+    dynamic_cast<IHBXFaceSolidShape *>(slab.shape())->setPolygon(rectangle(0, 0, 1000, 1000));
+    Found found{&slab};
+    drawObjs().queryDrawObjsInBox(found, level1().id(), 19, vks::CBox2<double>(), 1e9);
     EXPECT_TRUE(found.isEmpty());
 }
 

@@ -136,3 +136,19 @@ TEST_P(HostFloorContract, drawObjsOfTypesThatNothingHasAreNone)
     level1().drawObjsOfTypes(found, {}, true);
     EXPECT_TRUE(found.isEmpty());
 }
+
+TEST_P(HostFloorContract, drawObjOfAnIdIsFoundAmongThoseOfTheTypes)
+{
+    IHBXElementDrawObj &slab = placed(19);
+    IHBXElementDrawObj &above = placed(makeElement(19, floor("2")));
+    IHBXElementDrawObj &waiting = makeDrawObj(*slab.element());
+    EXPECT_EQ(level1().findDrawObj(slab.id(), {48, 19}), &slab);
+    EXPECT_EQ(level1().findDrawObj(slab.id(), {48}), nullptr);
+    EXPECT_EQ(level1().findDrawObj(slab.id(), {}), nullptr);
+    EXPECT_EQ(level1().findDrawObj(above.id(), {19}), nullptr);
+    EXPECT_EQ(level1().findDrawObj(waiting.id(), {19}), nullptr);
+    EXPECT_EQ(level1().findDrawObj(987654, {19}), nullptr);
+    const qint64 gone = slab.id();
+    slab.remove();
+    EXPECT_EQ(level1().findDrawObj(gone, {19}), nullptr);
+}

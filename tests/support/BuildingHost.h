@@ -36,6 +36,10 @@ public:
     IHBXService *service() const { return m_project->service(); }
     IHBXModel &model() const { return *service()->model(); }
     void makeCurrent() const { m_project->makeCurrent(); }
+    void setCurrent(const QString &region, const QString &floor) const
+    {
+        EXPECT_TRUE(m_project->setCurrent(region, floor));
+    }
 
     template <typename Visit> void forEachFloor(Visit visit) const
     {

@@ -185,6 +185,10 @@ public:
     }
     IHBXRegion *region() const override { return wrap(m_state, m_real.region()); }
     QString remark() const override { return m_real.remark(); }
+    IHBXElementDrawObj *findDrawObj(qint64 id, const QSet<qint64> &types) override
+    {
+        return wrap(m_state, m_real.findDrawObj(id, types));
+    }
 };
 
 class RecordingFloors : public Recording<IHBXFloors>
@@ -391,6 +395,13 @@ public:
     {
         called("queryDrawObjsOfFloor", floorId, elementType, subType, on);
         m_real.queryDrawObjsOfFloor(out, floorId, elementType, subType, on);
+        wrapAll(m_state, out);
+    }
+    void queryDrawObjsInBox(QList<IHBXElementDrawObj *> &out, int floorId, int elementType,
+                            const vks::CBox2<double> &box, double tolerance) override
+    {
+        called("queryDrawObjsInBox", floorId, elementType, textOf(&box.minPt), textOf(&box.maxPt), tolerance);
+        m_real.queryDrawObjsInBox(out, floorId, elementType, box, tolerance);
         wrapAll(m_state, out);
     }
     int count() const override { return m_real.count(); }

@@ -93,6 +93,14 @@ void HBXDrawObjs::queryDrawObjsOfFloor(QList<IHBXElementDrawObj *> &out, int flo
     out.erase(std::remove_if(out.begin(), out.end(), isOther), out.end());
 }
 
+void HBXDrawObjs::queryDrawObjsInBox(QList<IHBXElementDrawObj *> &out, int floorId, int elementType,
+                                     const vks::CBox2<double> &box, double tolerance)
+{
+    out.clear();
+    if (HBXFloor *floor = m_model.regions()->floorById(floorId))
+        out = floor->drawObjsMeeting(box, tolerance, {elementType});
+}
+
 HBXElementDrawObj *HBXDrawObjs::cloneOf(HBXElementDrawObj &original)
 {
     DrawObjRecord record = original.record();

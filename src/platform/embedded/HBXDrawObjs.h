@@ -25,6 +25,8 @@ public:
                               bool on) override;
     int count() const override { return m_inOrder.count(); }
     IHBXElementDrawObj *at(int position) override { return m_inOrder.at(position); }
+    void queryDrawObjsInBox(QList<IHBXElementDrawObj *> &out, int floorId, int elementType,
+                            const vks::CBox2<double> &box, double tolerance) override;
 
     // For the objects of this folder.
     /** The object itself when it is one of this building, null for any other and for null. */

@@ -16,6 +16,16 @@ void HBXFloor::drawObjsOfTypes(QList<IHBXElementDrawObj *> &out, const QSet<qint
     sortById(out);
 }
 
+IHBXElementDrawObj *HBXFloor::findDrawObj(qint64 id, const QSet<qint64> &types)
+{
+    HBXElementDrawObj *found = nullptr;
+    m_contents.forTypes(types, [&](const HBXTypeContents &type) {
+        if (!found)
+            found = type.drawObjs.find(id);
+    });
+    return found;
+}
+
 QList<IHBXElementDrawObj *> HBXFloor::drawObjsMeeting(const vks::CBox2<double> &box, double tolerance,
                                                       const QSet<qint64> &types)
 {

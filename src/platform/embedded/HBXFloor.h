@@ -25,6 +25,7 @@ public:
     void drawObjsOfTypes(QList<IHBXElementDrawObj *> &out, const QSet<qint64> &types, bool on) override;
     IHBXRegion *region() const override;
     QString remark() const override { return m_record.remark; }
+    IHBXElementDrawObj *findDrawObj(qint64 id, const QSet<qint64> &types) override;
 
     const FloorRecord &record() const { return m_record; }
     HBXFloorContents &contents() { return m_contents; }

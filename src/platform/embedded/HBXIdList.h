@@ -36,6 +36,13 @@ public:
             closeGaps();
     }
 
+    /** Null for an id that the list does not have. */
+    T *find(qint64 id) const
+    {
+        const auto place = placeIn(m_entries, id);
+        return place == m_entries.end() || place->first != id ? nullptr : place->second;
+    }
+
     int count() const { return static_cast<int>(m_entries.size() - m_gaps); }
     bool isEmpty() const { return m_entries.size() == m_gaps; }
     /** Null for a position out of range. */
@@ -65,11 +72,12 @@ public:
 private:
     using Entry = std::pair<qint64, T *>;
 
-    auto placeOf(qint64 id)
+    template <typename Entries> static auto placeIn(Entries &entries, qint64 id)
     {
-        return std::lower_bound(m_entries.begin(), m_entries.end(), id,
+        return std::lower_bound(entries.begin(), entries.end(), id,
                                 [](const Entry &entry, qint64 wanted) { return entry.first < wanted; });
     }
+    auto placeOf(qint64 id) { return placeIn(m_entries, id); }
     void closeGaps()
     {
         if (m_gaps == 0)

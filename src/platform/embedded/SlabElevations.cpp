@@ -4,24 +4,12 @@
 #include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXProperties.h"
 
-#include <QList>
 #include <QSet>
-
-#include <algorithm>
 
 namespace {
 
 constexpr qint64 kSlabType = 19;
 constexpr qint64 kRaftType = 48;
-
-IHBXElementDrawObj *slabById(IHBXFloor &floor, qint64 id)
-{
-    QList<IHBXElementDrawObj *> slabs;
-    floor.drawObjsOfTypes(slabs, {kSlabType, kRaftType}, true);
-    const auto found =
-        std::find_if(slabs.begin(), slabs.end(), [id](const IHBXElementDrawObj *slab) { return slab->id() == id; });
-    return found == slabs.end() ? nullptr : *found;
-}
 
 } // namespace
 
@@ -37,6 +25,7 @@ double getNegReinfElev(IHBXElementDrawObj *bar)
     IHBXFloor *floor = properties ? bar->floor() : nullptr;
     if (!floor)
         return 0.0;
-    IHBXElementDrawObj *slab = slabById(*floor, properties->asInt(QStringLiteral("DependSlabID")));
+    IHBXElementDrawObj *slab =
+        floor->findDrawObj(properties->asInt(QStringLiteral("DependSlabID")), {kSlabType, kRaftType});
     return getSlabElev(slab, QStringLiteral("TopElev"));
 }

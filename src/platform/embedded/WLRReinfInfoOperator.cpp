@@ -4,21 +4,18 @@
 #include "platform/host/IHBXProperties.h"
 
 #include <QString>
-#include <QVector>
 
-#include <algorithm>
 #include <string>
 
 namespace {
 
 const std::wstring kReinforcementInfo = L"ReinforcementInfo";
 
+/** Whether an item begins with an id. The text is searched as it stands: that of a large slab has thousands of items. */
 bool names(const QString &links, const QString &id)
 {
-    const auto items = links.splitRef(QLatin1Char(';'));
-    return std::any_of(items.begin(), items.end(), [&id](const QStringRef &item) {
-        return item.left(std::max(0, item.indexOf(QLatin1Char(',')))) == id;
-    });
+    const QString start = id + QLatin1Char(',');
+    return links.startsWith(start) || links.contains(QLatin1Char(';') + start);
 }
 
 void addLink(IHBXElementDrawObj *from, const IHBXElementDrawObj *to, int kind)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ORVCADPlatformExport.h"
+#include "platform/geometry/CBox2.h"
 
 #include <QList>
 #include <QSet>
@@ -31,4 +32,10 @@ public:
     virtual int count() const = 0;
     /** Null for a position out of range. */
     virtual IHBXElementDrawObj *at(int position) = 0;
+
+    /** Of what queryDrawObjsOfFloor gives for all sub-types, the objects whose world boxes come within a tolerance (mm) of a
+     *  box; none for an empty box. This looks at each object of the type: a host that knows where its objects lie answers
+     *  from that instead. */
+    virtual void queryDrawObjsInBox(QList<IHBXElementDrawObj *> &out, int floorId, int elementType,
+                                    const vks::CBox2<double> &box, double tolerance);
 };

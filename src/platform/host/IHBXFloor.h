@@ -32,4 +32,8 @@ public:
 
     virtual IHBXRegion *region() const = 0;
     virtual QString remark() const = 0;
+
+    /** The object of an id among those that drawObjsOfTypes gives, null when it is none of them. This looks at each of them: a
+     *  host that finds objects by id does so instead. */
+    virtual IHBXElementDrawObj *findDrawObj(qint64 id, const QSet<qint64> &types);
 };
