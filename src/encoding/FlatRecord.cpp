@@ -1,6 +1,19 @@
 #include "encoding/FlatRecord.h"
 
+#include <algorithm>
+
 namespace encoding {
+
+namespace {
+
+/** As ==, which is a call for each pair of texts of one length. */
+bool isSame(QStringView text, QLatin1String key)
+{
+    const auto isSameCharacter = [](QChar a, char b) { return a == QLatin1Char(b); };
+    return text.size() == key.size() && std::equal(text.begin(), text.end(), key.begin(), isSameCharacter);
+}
+
+} // namespace
 
 void cutLastSeparator(QString &record)
 {
@@ -32,7 +45,7 @@ FlatItems::FlatItems(QStringView record)
 QStringView FlatItems::value(QLatin1String key) const
 {
     for (int i = m_items.size() - 1; i >= 0; --i)
-        if (m_items[i].key == key)
+        if (isSame(m_items[i].key, key))
             return m_items[i].value;
     return {};
 }
