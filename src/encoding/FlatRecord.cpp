@@ -23,18 +23,19 @@ void cutLastSeparator(QString &record)
 
 void FlatRecordText::add(QStringView key, QStringView value)
 {
-    m_text.append(key.data(), static_cast<int>(key.size()));
+    static_assert(!QTypeInfo<char16_t>::isComplex);
+    m_text.append(key.utf16(), static_cast<int>(key.size()));
     if (!value.isEmpty()) {
-        m_text.append(QChar(kValueStart));
-        m_text.append(value.data(), static_cast<int>(value.size()));
+        m_text.append(kValueStart);
+        m_text.append(value.utf16(), static_cast<int>(value.size()));
     }
-    m_text.append(QChar(kItemEnd));
+    m_text.append(kItemEnd);
 }
 
 QString FlatRecordText::text() const
 {
-    const bool hasEnd = !m_text.isEmpty() && m_text.last() == QChar(kItemEnd);
-    return QString(m_text.constData(), m_text.size() - (hasEnd ? 1 : 0));
+    const bool hasEnd = !m_text.isEmpty() && m_text.last() == kItemEnd;
+    return QStringView(m_text.constData(), m_text.size() - (hasEnd ? 1 : 0)).toString();
 }
 
 FlatItems::FlatItems(QStringView record)

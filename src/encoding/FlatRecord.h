@@ -48,8 +48,8 @@ public:
     QString text() const;
 
 private:
-    static constexpr int kUsualSize = 256; // characters
-    QVarLengthArray<QChar, kUsualSize> m_text;
+    static constexpr int kUsualSize = 256;        // characters
+    QVarLengthArray<char16_t, kUsualSize> m_text; // of plain numbers: characters would be copied one by one
 };
 
 /** Calls visit(key, value) for each item in order. The empty record has one item: empty key, empty value. */
