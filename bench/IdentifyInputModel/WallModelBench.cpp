@@ -9,7 +9,10 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <malloc.h>
+
 #include <cmath>
+#include <functional>
 #include <random>
 
 // Whole input models of walls, from records to the wide text of a document and back, against what one writes by hand with
@@ -190,18 +193,22 @@ struct Form
 const Form kForms[] = {{"JSON", &Model::saveToJson, &Model::loadFromJson, jsonByHand, jsonReadByHand},
                        {"XML", &Model::saveToXml, &Model::loadFromXml, xmlByHand, xmlReadByHand}};
 
+/** A work that begins with an orderly heap: what the other one freed would be cleared up in its time. */
+bench::Work tidy(std::function<void()> run)
+{
+    return {[] { malloc_trim(0); }, std::move(run)};
+}
+
 void compare(bench::RatioTable &table, const Form &form, std::size_t size)
 {
     const Layers layers = linesOf(size);
     const Model model = modelOf(layers);
     const std::wstring text = saved(model, form.save);
     const std::string name = form.name;
-    table.row(
-        name + " saved / by hand", size, [&] { bench::keep(saved(model, form.save)); },
-        [&] { bench::keep(form.write(layers)); }, kByHand);
-    table.row(
-        name + " loaded / by hand", size, [&] { bench::keep(loaded(text, form.load)); },
-        [&] { bench::keep(form.read(text)); }, kByHand);
+    table.row(name + " saved / by hand", size, tidy([&] { bench::keep(saved(model, form.save)); }),
+              tidy([&] { bench::keep(form.write(layers)); }), kByHand);
+    table.row(name + " loaded / by hand", size, tidy([&] { bench::keep(loaded(text, form.load)); }),
+              tidy([&] { bench::keep(form.read(text)); }), kByHand);
 }
 
 /** As many small works as make a large one: a single one would mostly clear up the heap behind the large one. */
@@ -220,12 +227,10 @@ void compareGrowth(bench::RatioTable &table, const Form &form)
     const std::wstring smallText = saved(small, form.save);
     const std::wstring largeText = saved(large, form.save);
     const std::string name = form.name;
-    table.growth(
-        name + " saved, 100,000 / 1,000", kLargest, [&] { bench::keep(saved(large, form.save)); }, kLargest,
-        manyTimes([&] { bench::keep(saved(small, form.save)); }), kGrowth);
-    table.growth(
-        name + " loaded, 100,000 / 1,000", kLargest, [&] { bench::keep(loaded(largeText, form.load)); }, kLargest,
-        manyTimes([&] { bench::keep(loaded(smallText, form.load)); }), kGrowth);
+    table.growth(name + " saved, 100,000 / 1,000", kLargest, tidy([&] { bench::keep(saved(large, form.save)); }),
+                 kLargest, tidy(manyTimes([&] { bench::keep(saved(small, form.save)); })), kGrowth);
+    table.growth(name + " loaded, 100,000 / 1,000", kLargest, tidy([&] { bench::keep(loaded(largeText, form.load)); }),
+                 kLargest, tidy(manyTimes([&] { bench::keep(loaded(smallText, form.load)); })), kGrowth);
 }
 
 } // namespace

@@ -28,7 +28,7 @@ constexpr std::size_t kLayers = 20;
 constexpr double kXmlWritten = 1.35;
 constexpr double kXmlRead = 1.35;
 constexpr double kPayloadWritten = 1.25;
-constexpr double kPayloadRead = 2.0; // each record is a text between JSON and its fields, and the document is UTF-16
+constexpr double kPayloadRead = 1.5; // each record is a text between JSON and its fields, and the document is UTF-16
 constexpr double kGrowth = 1.8;
 
 const char *const kNames[] = {"edoId", "color", "blockID", "line"};
@@ -115,7 +115,8 @@ QByteArray jsonByHand(const Drawing &drawing)
 
 Lines readByArchive(const QByteArray &json)
 {
-    ORVCADJsonFileSerialization archive(QString::fromUtf8(json));
+    // By length: a QByteArray's own conversion looks for a zero first, byte by byte.
+    ORVCADJsonFileSerialization archive(QString::fromUtf8(json.constData(), json.size()));
     Lines lines;
     if (archive.parse())
         ORVCADInputModelSerialization(&archive).loadCadLineEdoDataInfo(lines);

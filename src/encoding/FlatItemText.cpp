@@ -2,6 +2,7 @@
 
 #include "encoding/FlatRecord.h"
 #include "encoding/GeometryInfo.h"
+#include "encoding/GeometryTextReader.h"
 #include "encoding/NumberText.h"
 #include "encoding/ORVCADJsonCGeometryObjOper.h"
 
@@ -76,7 +77,9 @@ void ItemText<vks::CRefPtr<vks::CCurve2d>>::append(QString &record, const vks::C
 }
 vks::CRefPtr<vks::CCurve2d> ItemText<vks::CRefPtr<vks::CCurve2d>>::read(QStringView value)
 {
-    return geometry().getCurveInfo(value.toString());
+    vks::CRefPtr<vks::CCurve2d> curve;
+    GeometryTextReader::reconstructCurve(value, curve);
+    return curve;
 }
 
 void ItemText<vks::CRefPtr<vks::CPolygon>>::append(QString &record, const vks::CRefPtr<vks::CPolygon> &value)

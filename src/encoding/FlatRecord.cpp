@@ -1,29 +1,19 @@
 #include "encoding/FlatRecord.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace encoding {
 
-FlatItem splitItem(QStringView item)
+namespace {
+
+/** As ==, which is a call for each pair of texts of one length. */
+bool isSame(QStringView text, QLatin1String key)
 {
-    const auto colon = item.indexOf(kValueStart);
-    if (colon < 0)
-        return {item, {}};
-    const QStringView rest = item.mid(colon + 1);
-    const auto second = rest.indexOf(kValueStart);
-    return {item.left(colon), second < 0 ? rest : rest.left(second)}; // meant: a third piece is lost
+    const auto isSameCharacter = [](QChar a, char b) { return a == QLatin1Char(b); };
+    return text.size() == key.size() && std::equal(text.begin(), text.end(), key.begin(), isSameCharacter);
 }
 
-void appendItem(QString &record, QStringView key, QStringView value)
-{
-    record.append(key.data(), static_cast<int>(key.size()));
-    if (!value.isEmpty()) {
-        record.append(kValueStart);
-        record.append(value.data(), static_cast<int>(value.size()));
-    }
-    record.append(kItemEnd);
-}
+} // namespace
 
 void cutLastSeparator(QString &record)
 {
@@ -31,29 +21,34 @@ void cutLastSeparator(QString &record)
         record.chop(1);
 }
 
-FlatRecordText::FlatRecordText(int items) : m_text(QLatin1String(""))
+void FlatRecordText::add(QStringView key, QStringView value)
 {
-    constexpr int usualItem = 24; // characters
-    m_text.reserve(items * usualItem);
+    static_assert(!QTypeInfo<char16_t>::isComplex);
+    m_text.append(key.utf16(), static_cast<int>(key.size()));
+    if (!value.isEmpty()) {
+        m_text.append(kValueStart);
+        m_text.append(value.utf16(), static_cast<int>(value.size()));
+    }
+    m_text.append(kItemEnd);
 }
 
-QString FlatRecordText::take()
+QString FlatRecordText::text() const
 {
-    cutLastSeparator(m_text);
-    return std::move(m_text);
+    const bool hasEnd = !m_text.isEmpty() && m_text.last() == kItemEnd;
+    return QStringView(m_text.constData(), m_text.size() - (hasEnd ? 1 : 0)).toString();
 }
 
 FlatItems::FlatItems(QStringView record)
 {
-    m_items.reserve(static_cast<std::size_t>(std::count(record.begin(), record.end(), kItemEnd)) + 1);
-    forEachItem(record, [this](QStringView key, QStringView value) { m_items.push_back({key, value}); });
+    forEachItem(record, [this](QStringView key, QStringView value) { m_items.append({key, value}); });
 }
 
 QStringView FlatItems::value(QLatin1String key) const
 {
-    const auto item =
-        std::find_if(m_items.rbegin(), m_items.rend(), [key](const FlatItem &one) { return one.key == key; });
-    return item == m_items.rend() ? QStringView() : item->value;
+    for (int i = m_items.size() - 1; i >= 0; --i)
+        if (isSame(m_items[i].key, key))
+            return m_items[i].value;
+    return {};
 }
 
 } // namespace encoding

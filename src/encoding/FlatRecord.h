@@ -5,8 +5,9 @@
 #include <QLatin1String>
 #include <QString>
 #include <QStringView>
+#include <QVarLengthArray>
 
-#include <vector>
+#include <algorithm>
 
 /** Flat records: one text of items, "key:value/key/key:value". docs/formats/wall-documents.md tells the form in full.
  *
@@ -25,10 +26,15 @@ struct FlatItem
 };
 
 /** Key and value of one item. What follows a second colon is dropped; a missing value is empty. */
-ORVCADMODELDATA_EXPORT FlatItem splitItem(QStringView item);
-
-/** Appends an item and the "/" behind it. */
-ORVCADMODELDATA_EXPORT void appendItem(QString &record, QStringView key, QStringView value);
+inline FlatItem splitItem(QStringView item)
+{
+    const QChar *const colon = std::find(item.begin(), item.end(), QChar(kValueStart));
+    if (colon == item.end())
+        return {item, {}};
+    const QChar *const value = colon + 1;
+    return {QStringView(item.begin(), colon), // meant: a third piece is lost
+            QStringView(value, std::find(value, item.end(), QChar(kValueStart)))};
+}
 
 /** Takes away the record's last character if it is "/". */
 ORVCADMODELDATA_EXPORT void cutLastSeparator(QString &record);
@@ -37,26 +43,25 @@ ORVCADMODELDATA_EXPORT void cutLastSeparator(QString &record);
 class ORVCADMODELDATA_EXPORT FlatRecordText
 {
 public:
-    /** @param items  how many are to come; only for speed */
-    explicit FlatRecordText(int items);
-    void add(QStringView key, QStringView value) { appendItem(m_text, key, value); }
-    /** The record without a "/" at its end; empty without items, and never null. Nothing can be added behind it. */
-    QString take();
+    void add(QStringView key, QStringView value);
+    /** The record without a "/" at its end; empty without items, and never null. */
+    QString text() const;
 
 private:
-    QString m_text;
+    static constexpr int kUsualSize = 256;        // characters
+    QVarLengthArray<char16_t, kUsualSize> m_text; // of plain numbers: characters would be copied one by one
 };
 
 /** Calls visit(key, value) for each item in order. The empty record has one item: empty key, empty value. */
 template <typename Visit> void forEachItem(QStringView record, Visit &&visit)
 {
-    for (;;) {
-        const auto end = record.indexOf(kItemEnd);
-        const FlatItem item = splitItem(end < 0 ? record : record.left(end));
+    for (const QChar *start = record.begin();;) {
+        const QChar *const end = std::find(start, record.end(), QChar(kItemEnd));
+        const FlatItem item = splitItem(QStringView(start, end));
         visit(item.key, item.value);
-        if (end < 0)
+        if (end == record.end())
             return;
-        record = record.mid(end + 1);
+        start = end + 1;
     }
 }
 
@@ -69,7 +74,8 @@ public:
     QStringView value(QLatin1String key) const;
 
 private:
-    std::vector<FlatItem> m_items;
+    static constexpr int kUsualCount = 16;
+    QVarLengthArray<FlatItem, kUsualCount> m_items;
 };
 
 } // namespace encoding

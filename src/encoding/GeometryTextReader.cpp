@@ -5,7 +5,6 @@
 #include "platform/geometry/CArc2d.h"
 #include "platform/geometry/CLine2d.h"
 
-#include <QStringView>
 #include <QVarLengthArray>
 
 #include <array>
@@ -121,7 +120,7 @@ bool finishPolygon(const vks::CRefPtr<vks::CLoop> &loop, Polygon &polygon)
 
 } // namespace
 
-bool GeometryTextReader::reconstructCurve(const QString &text, Curve &curve)
+bool GeometryTextReader::reconstructCurve(QStringView text, Curve &curve)
 {
     curve = nullptr;
     if (!encoding::isCurveText(text))

@@ -6,6 +6,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <QStringView>
 
 #include <vector>
 
@@ -31,7 +32,11 @@ public:
     };
 
     /** Line, Circle or Arc text; the number of parts between commas (4, 3, 5) tells which. */
-    static bool reconstructCurve(const QString &text, Curve &curve);
+    static bool reconstructCurve(QStringView text, Curve &curve);
+    static bool reconstructCurve(const QString &text, Curve &curve)
+    {
+        return reconstructCurve(QStringView(text), curve);
+    }
     /** The five parts of an arc: start, bulge, end. Another number of parts fails, here and below. */
     static bool reconstructCurve_Arc(const QStringList &parts, Curve &curve);
     /** The three parts of a circle: centre, radius. */

@@ -58,10 +58,10 @@ QJsonArray recordArray(const QStringList &records)
 
 QString recordOf(const QJsonObject &object)
 {
-    encoding::FlatRecordText record(object.size());
+    encoding::FlatRecordText record;
     for (auto member = object.constBegin(); member != object.constEnd(); ++member)
         record.add(member.key(), member.value().toString());
-    return record.take();
+    return record.text();
 }
 
 void appendRecords(const QJsonArray &array, QStringList &records)

@@ -50,23 +50,23 @@ void writeMapEntry(encoding::XmlTextWriter &writer, int number, const QString &k
 QString recordOf(const QDomElement &element)
 {
     const std::vector<XmlAttribute> attributes = encoding::attributesOf(element);
-    encoding::FlatRecordText record(static_cast<int>(attributes.size()));
+    encoding::FlatRecordText record;
     for (const XmlAttribute &one : attributes)
         record.add(one.name, one.value);
-    return record.take();
+    return record.text();
 }
 
 QString mapKeyOf(const QDomElement &element)
 {
     const std::vector<XmlAttribute> attributes = encoding::attributesOf(element);
-    encoding::FlatRecordText record(static_cast<int>(attributes.size()));
+    encoding::FlatRecordText record;
     for (const XmlAttribute &one : attributes) {
         if (one.name.contains(QLatin1String(kLayerName)))
             record.add(one.value, {});
         else
             record.add(one.name, one.value);
     }
-    return record.take();
+    return record.text();
 }
 
 /** One record per child; a child that is no element gives an empty one. */

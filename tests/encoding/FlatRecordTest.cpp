@@ -19,14 +19,14 @@ QStringList pairsOf(const QString &record)
 
 QString item(const QString &key, const QString &value)
 {
-    QString record;
-    appendItem(record, key, value);
-    return record;
+    FlatRecordText record;
+    record.add(key, value);
+    return record.text();
 }
 
-TEST(FlatRecordTest, itemIsKeyColonValueAndSlash) { EXPECT_EQ(item("width", "200"), "width:200/"); }
+TEST(FlatRecordTest, itemIsKeyColonValue) { EXPECT_EQ(item("width", "200"), "width:200"); }
 
-TEST(FlatRecordTest, itemWithoutValueIsTheKeyAlone) { EXPECT_EQ(item("width", ""), "width/"); }
+TEST(FlatRecordTest, itemWithoutValueIsTheKeyAlone) { EXPECT_EQ(item("width", ""), "width"); }
 
 TEST(FlatRecordTest, onlyTheVeryLastSlashIsCut)
 {
@@ -91,15 +91,15 @@ TEST(FlatRecordTest, hugeRecordIsSplitInOneWalk)
 
 TEST(FlatRecordTest, recordIsPutTogetherWithoutASlashAtItsEnd)
 {
-    encoding::FlatRecordText record(2);
+    FlatRecordText record;
     record.add(u"a", u"1");
     record.add(u"b", {});
-    EXPECT_EQ(record.take(), "a:1/b");
+    EXPECT_EQ(record.text(), "a:1/b");
 }
 
 TEST(FlatRecordTest, recordPutTogetherOfNoItemsIsEmptyAndNotNull)
 {
-    const QString record = encoding::FlatRecordText(0).take();
+    const QString record = FlatRecordText().text();
     EXPECT_TRUE(record.isEmpty());
     EXPECT_FALSE(record.isNull());
 }

@@ -96,14 +96,13 @@ void ORVCADInputModelSerialization::loadCadFilterTextEdoDataInfo(std::list<ORVCA
 
 void ORVCADInputModelSerialization::saveCadLayerInfo(const std::map<int, std::wstring> &layers)
 {
-    QString record;
+    encoding::FlatRecordText record;
     for (const auto &[kind, name] : layers) {
         QString itemKey = key::layerPrefix;
         encoding::ItemText<int>::append(itemKey, kind);
-        encoding::appendItem(record, itemKey, QString::fromStdWString(name));
+        record.add(itemKey, QString::fromStdWString(name));
     }
-    encoding::cutLastSeparator(record);
-    m_archive->writeRecord(document::layers, record);
+    m_archive->writeRecord(document::layers, record.text());
 }
 void ORVCADInputModelSerialization::loadCadLayerInfo(std::map<int, std::wstring> &layers)
 {
