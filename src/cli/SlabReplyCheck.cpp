@@ -1,5 +1,6 @@
 #include "cli/SlabReplyCheck.h"
 
+#include "cli/ExpectedValue.h"
 #include "cli/MemberKinds.h"
 #include "encoding/GeometryFields.h"
 #include "slab/SlabKeys.h"
@@ -90,7 +91,7 @@ void SlabReplyCheck::look(const SlabArray &array, int index, const QJsonValue &v
     const QJsonObject member = value.toObject();
     const QString place = QStringLiteral("%1[%2]").arg(array.key).arg(index);
     const QJsonValue id = member.value(key::id);
-    if (isWhole(id) && id.toInt() > 0) { // in the host already, however it looks here
+    if (fits(id, Expected::Integer) && id.toInt() > 0) { // in the host already, however it looks here
         ++count.known;
         return;
     }
