@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QDomDocument>
+#include <QStringList>
 
 namespace {
 
