@@ -19,6 +19,8 @@ function(orvcad_add_tests name)
     set(program ${name}Tests)
     add_executable(${program} ${sources})
     orvcad_configure_target(${program})
+    # The bodies of tests run once and take a compiler longest, the more so with sanitizers: half the time without -O.
+    target_compile_options(${program} PRIVATE -O0)
     target_link_libraries(${program} PRIVATE ORVCADTestSupport ${arg_LIBRARIES})
 
     set(work ${PROJECT_BINARY_DIR}/tests/work/${name})

@@ -79,7 +79,7 @@ TEST(DWGXFloorWordFunsTest, everyNumberFromMinus1000To1000HasTheNineFormsOrNone)
     for (int number = -1000; number <= 1000; ++number) {
         QStringList expected;
         if (number != 0 && std::abs(number) < 1000) {
-            const QString numeral = numerals.at(std::abs(number) - 1);
+            const QString &numeral = numerals.at(std::abs(number) - 1);
             const char *patterns = number > 0 ? "# #层 第# 地上# 第#层 地上#层 %F %层 第%层"
                                               : "第负# 负# 地下# 第负#层 负#层 地下#层 %F %层 第%层";
             expected = utf8(patterns).replace('#', numeral).replace('%', QString::number(number)).split(' ');

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace hbx::embedded {
 namespace {
@@ -65,7 +66,8 @@ void HBXPlaceIndex::unfile(HBXElementDrawObj *object)
 
 void HBXPlaceIndex::fileAll()
 {
-    for (HBXElementDrawObj *object : m_unfiled) {
+    // Not cleared: a set that once held a whole floor would wipe that many buckets at each question.
+    for (HBXElementDrawObj *object : std::exchange(m_unfiled, {})) {
         unfile(object);
         const Box &box = boxOf(object);
         if (!isPlace(box))
@@ -75,7 +77,6 @@ void HBXPlaceIndex::fileAll()
         m_filed.emplace(object, cell);
         ++m_counts[static_cast<std::size_t>(cell.level)];
     }
-    m_unfiled.clear();
 }
 
 HBXPlaceIndex::Objects HBXPlaceIndex::meeting(const Box &box, double tolerance)
