@@ -56,19 +56,52 @@ QJsonArray recordArray(const QStringList &records)
     return array;
 }
 
-QString recordOf(const QJsonObject &object)
+/** Makes records of objects. The objects of a list mostly have the same keys, so those of the last one are tried first:
+ *  asking an object for the text of its keys costs more than looking for values. */
+class RecordReader
 {
-    encoding::FlatRecordText record;
-    for (auto member = object.constBegin(); member != object.constEnd(); ++member)
-        record.add(member.key(), member.value().toString());
-    return record.text();
-}
+public:
+    QString recordOf(const QJsonObject &object)
+    {
+        if (object.size() != m_keys.size() || !takeValues(object))
+            takeMembers(object);
+        encoding::FlatRecordText record;
+        for (std::size_t i = 0; i < m_values.size(); ++i)
+            record.add(m_keys[static_cast<int>(i)], m_values[i]);
+        return record.text();
+    }
+
+private:
+    /** @return whether the object has all the keys */
+    bool takeValues(const QJsonObject &object)
+    {
+        m_values.clear();
+        for (const QString &key : qAsConst(m_keys)) {
+            const QJsonValue value = object.value(QStringView(key));
+            if (value.isUndefined())
+                return false;
+            m_values.push_back(value.toString());
+        }
+        return true;
+    }
+    void takeMembers(const QJsonObject &object)
+    {
+        m_keys = object.keys();
+        takeValues(object);
+    }
+
+    QStringList m_keys; // sorted, each once
+    std::vector<QString> m_values;
+};
+
+QString recordOf(const QJsonObject &object) { return RecordReader().recordOf(object); }
 
 void appendRecords(const QJsonArray &array, QStringList &records)
 {
+    RecordReader reader;
     records.reserve(records.size() + array.size());
     for (const QJsonValue element : array)
-        records.append(recordOf(element.toObject()));
+        records.append(reader.recordOf(element.toObject()));
 }
 
 } // namespace
