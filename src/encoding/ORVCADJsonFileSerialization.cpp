@@ -76,13 +76,11 @@ private:
     bool takeValues(const QJsonObject &object)
     {
         m_values.clear();
-        for (const QString &key : qAsConst(m_keys)) {
+        return std::all_of(m_keys.cbegin(), m_keys.cend(), [&](const QString &key) {
             const QJsonValue value = object.value(QStringView(key));
-            if (value.isUndefined())
-                return false;
             m_values.push_back(value.toString());
-        }
-        return true;
+            return !value.isUndefined();
+        });
     }
     void takeMembers(const QJsonObject &object)
     {
