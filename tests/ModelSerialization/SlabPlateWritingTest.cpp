@@ -187,7 +187,7 @@ TEST_F(SlabPlateWritingTest, everyGroupHasItsElementBeforeAnythingIsDrawn)
     addBoard(4000, 150);
     RecordingHost host(*store.service());
     writeBoards(host.service());
-    const QStringList calls = host.calls();
+    const QStringList &calls = host.calls();
     EXPECT_LT(calls.indexOf(R"(setName("B-h150"))"), calls.indexOf(R"(createDrawObj(floor 1, element B-h120, true))"));
 }
 
