@@ -201,7 +201,8 @@ TEST_F(DrawCommandTest, openingsLieOverTheirWallsAndColumnsOverBoth)
     QStringList order;
     for (QDomElement each = picture.firstChildElement("g"); !each.isNull(); each = each.nextSiblingElement("g"))
         order.append(each.attribute("class"));
-    EXPECT_EQ(order.join(' ').toStdString(), "type-19 type-15 type-1003 type-25 type-5 type-4 names legend elevations scale-bar");
+    EXPECT_EQ(order.join(' ').toStdString(),
+              "type-19 type-15 type-1003 type-25 type-5 type-4 names legend elevations scale-bar");
 }
 
 TEST_F(DrawCommandTest, foundationHasItsFootingsPilesAndBeams)
