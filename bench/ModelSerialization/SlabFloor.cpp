@@ -47,7 +47,8 @@ void addSlabFloor(Model &model, int slabs)
 {
     const int inARow = std::max(1, static_cast<int>(std::sqrt(slabs)));
     for (int i = 0; i < slabs; ++i) {
-        const Point low(i % inARow * kLong, i / inARow * kShort);
+        const int row = i / inARow;
+        const Point low(i % inARow * kLong, row * kShort);
         const Point high = low + Point(kLong, kShort);
         addSlab(model, {low, Point(high.x, low.y), high, Point(low.x, high.y)});
         addBeam(model, low, {high.x, low.y});

@@ -166,7 +166,8 @@ public:
     {
         for (int i = 0; i < count; ++i) {
             auto *bar = new Model::NegativeForcedBar(&m_bars);
-            const vks::CVec2<double> start(i % 100 * 3000.0, i / 100 * 2000.0);
+            const int row = i / 100;
+            const vks::CVec2<double> start(i % 100 * 3000.0, row * 2000.0);
             bar->line = vks::CRefPtr<vks::CCurve2d>(new vks::CLine2d(start, start + vks::CVec2<double>(3000, 0)));
             bar->barInfo = QStringLiteral("C8@200");
             bar->leftStretchLength = bar->rightStretchLength = 800;

@@ -8,20 +8,12 @@
 
 #include <memory>
 
+using exchangetest::projectOf;
 using hbx::embedded::HBXProject;
 using hbx::embedded::JournalEntry;
-using hbx::embedded::ProjectError;
 using namespace orvcad;
 
 namespace {
-
-std::unique_ptr<HBXProject> projectOf(const QByteArray &json)
-{
-    ProjectError error;
-    auto project = HBXProject::fromJson(json, QStringLiteral("house.json"), error);
-    EXPECT_TRUE(project) << error.text().toStdString();
-    return project;
-}
 
 /** A sample building without its beams. */
 std::unique_ptr<HBXProject> stripped(const char *building)

@@ -34,16 +34,6 @@ protected:
     {
         return {{"ElementInfo", elementInfo}, {"EDOInfo", chains}};
     }
-    static QJsonObject with(QJsonObject object, const QString &key, const QJsonValue &value)
-    {
-        object[key] = value;
-        return object;
-    }
-    static QJsonObject without(QJsonObject object, const QString &key)
-    {
-        object.remove(key);
-        return object;
-    }
     Result apply(const QJsonArray &beams, const QString &key = "Beam", const QStringList &flags = {"--json"})
     {
         importSmallHouse();

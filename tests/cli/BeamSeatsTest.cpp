@@ -22,11 +22,6 @@ protected:
                 {"SectinoHeight", 500},  {"TopElev", "-1"},
                 {"BtmElev", "-1"},       {"CenterLine", "LINESTRING(0 0, 4000 0)"}};
     }
-    static QJsonObject with(QJsonObject object, const QString &key, const QJsonValue &value)
-    {
-        object[key] = value;
-        return object;
-    }
     Result apply(const QString &key, const QJsonArray &seats)
     {
         importSmallHouse();

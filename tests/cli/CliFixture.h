@@ -72,6 +72,17 @@ protected:
         EXPECT_TRUE(result.error()["message"].toString().startsWith(file)) << result.err.toStdString();
         return result.error();
     }
+    /** An object with a member set, or without it. */
+    static QJsonObject with(QJsonObject object, const QString &key, const QJsonValue &value)
+    {
+        object[key] = value;
+        return object;
+    }
+    static QJsonObject without(QJsonObject object, const QString &key)
+    {
+        object.remove(key);
+        return object;
+    }
     /** The members of an object, sorted and with commas between them. */
     static std::string keys(const QJsonValue &object) { return object.toObject().keys().join(',').toStdString(); }
 

@@ -1,4 +1,5 @@
 #include "CliFixture.h"
+#include "embedded/ExchangeDocuments.h"
 
 namespace {
 
@@ -17,12 +18,6 @@ protected:
         return {};
     }
     QString reasonFor(const QJsonObject &member) { return reasonFor(0, {member}); }
-
-    static QJsonObject with(QJsonObject member, const QString &key, const QJsonValue &value)
-    {
-        member[key] = value;
-        return member;
-    }
 };
 
 TEST_F(OpeningCommandsTest, applyMakesPlacesAndAttachesAndSaves)
@@ -233,31 +228,7 @@ protected:
     /** The building without its doors and windows. */
     static QByteArray stripped(const QString &building)
     {
-        QFile file(sample(building));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        QJsonObject project = QJsonDocument::fromJson(file.readAll()).object();
-        QJsonArray regions = project["regions"].toArray();
-        for (QJsonValueRef region : regions) {
-            QJsonObject regionObject = region.toObject();
-            QJsonArray floors = regionObject["floors"].toArray();
-            for (QJsonValueRef floor : floors)
-                floor = withoutOpenings(floor.toObject());
-            regionObject["floors"] = floors;
-            region = regionObject;
-        }
-        project["regions"] = regions;
-        return QJsonDocument(project).toJson();
-    }
-    static QJsonObject withoutOpenings(QJsonObject floor)
-    {
-        QJsonArray kept;
-        for (const QJsonValue element : floor["elements"].toArray()) {
-            const int type = element.toObject()["type"].toInt();
-            if (type < 4 || type > 7)
-                kept.append(element);
-        }
-        floor["elements"] = kept;
-        return floor;
+        return exchangetest::withoutElements(exchangetest::building(building.toStdString()), {4, 5, 6, 7});
     }
     /** "floor: element name -> [type, wall, piece]" of each placed opening in the order of a building file. */
     static std::string attachments(const QJsonDocument &building)

@@ -35,9 +35,9 @@ TEST(PlanShadesTest, elevationsWithinAMillimetreShareAShade)
 
 TEST(PlanShadesTest, manyElevationsShareEightShadesAndLoseNone)
 {
-    std::vector<double> elevations;
+    std::vector<double> elevations(100);
     for (int i = 0; i < 100; ++i)
-        elevations.push_back(i * 10.0);
+        elevations[static_cast<std::size_t>(i)] = i * 10.0;
     const PlanShades shades = shadesOf(elevations);
     const auto bands = shades.bands();
     ASSERT_EQ(bands.size(), 8U);

@@ -67,16 +67,6 @@ protected:
                 {"left_strech_length", 900},
                 {"right_strech_length", 900}};
     }
-    static QJsonObject with(QJsonObject object, const QString &key, const QJsonValue &value)
-    {
-        object[key] = value;
-        return object;
-    }
-    static QJsonObject without(QJsonObject object, const QString &key)
-    {
-        object.remove(key);
-        return object;
-    }
     Result apply(const QJsonObject &reply, const QStringList &flags = {}) const
     {
         write("reply.json", reply);
@@ -91,7 +81,7 @@ protected:
     }
     static QJsonValue arrayOf(const QJsonValue &summary, const QString &key)
     {
-        for (const QJsonValue array : summary["arrays"].toArray())
+        for (QJsonValue array : summary["arrays"].toArray())
             if (array["array"] == key)
                 return array;
         return {};

@@ -16,25 +16,17 @@
 
 #include <memory>
 
+using exchangetest::projectOf;
 using hbx::embedded::HBXProject;
-using hbx::embedded::ProjectError;
 using namespace orvcad;
 
 // A floor is written out as a payload, the payload becomes a reply with new identities, and that is applied to a copy of the
 // building that has lost the slabs, rafts, holes and bars of the floor. The copy, read again, is held to the building.
 //
-// Slabs that never got an outline stay behind. What the road never carries, and what the comparison leaves out: the remarks of slabs, rafts, holes and bars, and the bar
-// texts of holes.
+// Slabs that never got an outline stay behind. What the road never carries, and what the comparison leaves out: the remarks
+// of slabs, rafts, holes and bars, and the bar texts of holes.
 
 namespace {
-
-std::unique_ptr<HBXProject> projectOf(const QByteArray &json)
-{
-    ProjectError error;
-    auto project = HBXProject::fromJson(json, QStringLiteral("house.json"), error);
-    EXPECT_TRUE(project) << error.text().toStdString();
-    return project;
-}
 
 struct Journey
 {

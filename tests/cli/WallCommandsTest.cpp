@@ -1,4 +1,6 @@
 #include "CliFixture.h"
+#include "IdentifyInputModel/Wall/WallReplyText.h"
+#include "embedded/ExchangeDocuments.h"
 
 #include <algorithm>
 
@@ -8,11 +10,7 @@ namespace {
 class WallCommandsTest : public CliFixture
 {
 protected:
-    struct Wall
-    {
-        QJsonValue element;
-        QJsonValue pieces;
-    };
+    using Wall = walltest::WallText;
     static QJsonObject element(const QString &name, const QString &type = "1003")
     {
         return {{"edoId", "7"},   {"entName", name}, {"elementType", type}, {"elementSubType", "316"},
@@ -21,25 +19,6 @@ protected:
     static QJsonObject piece(const QString &axis = "0,3000,5000,3000")
     {
         return {{"sWorldLine", axis}, {"sPfnStartPtTopElev", "2.8"}, {"sPfnEndPtTopElev", "2.8"}};
-    }
-    static QJsonObject with(QJsonObject object, const QString &key, const QJsonValue &value)
-    {
-        object[key] = value;
-        return object;
-    }
-    static QJsonObject without(QJsonObject object, const QString &key)
-    {
-        object.remove(key);
-        return object;
-    }
-    static QJsonObject mapOf(const std::vector<Wall> &walls)
-    {
-        QJsonObject map;
-        for (std::size_t i = 0; i < walls.size(); ++i) {
-            map[QStringLiteral("key_%1").arg(i)] = walls[i].element;
-            map[QStringLiteral("value_%1").arg(i)] = walls[i].pieces;
-        }
-        return map;
     }
     void writeReply(const QJsonObject &map) const
     {
@@ -53,7 +32,7 @@ protected:
     Result apply(const std::vector<Wall> &walls)
     {
         importSmallHouse();
-        writeReply(mapOf(walls));
+        writeReply(walltest::mapOf(walls));
         return applyFile();
     }
     /** "place: reason" of all that was left out. */
@@ -104,7 +83,7 @@ TEST_F(WallCommandsTest, applyMakesPlacesAndSaves)
 TEST_F(WallCommandsTest, applySaysWhatWasMadeAndLeftOut)
 {
     importSmallHouse();
-    writeReply(mapOf({{element("Q1"), QJsonArray{piece(), 17}}}));
+    writeReply(walltest::mapOf({{element("Q1"), QJsonArray{piece(), 17}}}));
     const Result result = applyFile(QStringList());
     EXPECT_EQ(result.exitCode, 3);
     EXPECT_EQ(result.out.toStdString(),
@@ -133,7 +112,7 @@ TEST_F(WallCommandsTest, wallWhereTheSameOneStandsIsToldAsDoubled)
 TEST_F(WallCommandsTest, forceWallsComeByTheirOwnKey)
 {
     importSmallHouse();
-    const QJsonObject document{{"ForceWallIdentifyData", mapOf({{element("W1", "0"), QJsonArray{piece()}}})}};
+    const QJsonObject document{{"ForceWallIdentifyData", walltest::mapOf({{element("W1", "0"), QJsonArray{piece()}}})}};
     write("walls.json", QJsonObject{{"eWall", QJsonObject{{"ElementsAndEdos", document}}}});
     const Result result = run({"wall", "apply", "house.hbxdb", "--kind", "force", "walls.json", "--json"});
     EXPECT_EQ(result.exitCode, 0) << result.err.toStdString();
@@ -188,7 +167,7 @@ TEST_F(WallCommandsTest, secondOfTwoEqualElementsIsLeftOut)
 TEST_F(WallCommandsTest, keysThatAreNoEntriesAreTold)
 {
     importSmallHouse();
-    QJsonObject map = mapOf({{element("Q2"), QJsonArray{piece()}}});
+    QJsonObject map = walltest::mapOf({{element("Q2"), QJsonArray{piece()}}});
     map["key_7"] = element("Q3");
     writeReply(map);
     const Result result = applyFile();
@@ -202,7 +181,7 @@ TEST_F(WallCommandsTest, strictSavesNothingWhenSomethingIsLeftOut)
 {
     importSmallHouse();
     const QByteArray before = read("house.hbxdb");
-    writeReply(mapOf({{element("Q2"), QJsonArray{piece(), 17}}}));
+    writeReply(walltest::mapOf({{element("Q2"), QJsonArray{piece(), 17}}}));
     const Result result = applyFile({"--strict", "--json"});
     EXPECT_EQ(result.exitCode, 3);
     EXPECT_EQ(result.json()["saved"], false);
@@ -287,7 +266,7 @@ TEST_P(DamagedWallTest, isLeftOutWithItsPlaceAndTheOtherWallIsPlaced)
 {
     const Damage damage = damages()[static_cast<std::size_t>(GetParam())];
     importSmallHouse();
-    QJsonObject map = mapOf({{damage.element, damage.pieces}, {element("Q5"), QJsonArray{piece()}}});
+    QJsonObject map = walltest::mapOf({{damage.element, damage.pieces}, {element("Q5"), QJsonArray{piece()}}});
     if (damage.element.isUndefined())
         map["other"] = 1; // keeps the number of entries
     writeReply(map);
@@ -387,7 +366,7 @@ TEST_F(WallCommandsTest, tenThousandPiecesWithBrokenOnesPlaceEverySoundOne)
     QJsonArray pieces;
     for (int i = 0; i < 10000; ++i)
         pieces.append(i % 10 == 3 ? QJsonValue("broken") : QJsonValue(piece(QString("0,%1,500,%1").arg(i * 5))));
-    writeReply(mapOf({{element("Q2"), pieces}}));
+    writeReply(walltest::mapOf({{element("Q2"), pieces}}));
     const Result result = applyFile();
     EXPECT_EQ(result.exitCode, 3);
     EXPECT_EQ(result.json()["placed"], 9000);
@@ -404,35 +383,10 @@ struct Building
 class WallCopyTest : public CliFixture, public ::testing::WithParamInterface<Building>
 {
 protected:
-    /** The building without its walls. */
+    /** Doors and windows go, too: they name the walls that they stand in. */
     static QByteArray stripped(const QString &building)
     {
-        QFile file(sample(building));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        QJsonObject project = QJsonDocument::fromJson(file.readAll()).object();
-        QJsonArray regions = project["regions"].toArray();
-        for (QJsonValueRef region : regions) {
-            QJsonObject regionObject = region.toObject();
-            QJsonArray floors = regionObject["floors"].toArray();
-            for (QJsonValueRef floor : floors)
-                floor = withoutWalls(floor.toObject());
-            regionObject["floors"] = floors;
-            region = regionObject;
-        }
-        project["regions"] = regions;
-        return QJsonDocument(project).toJson();
-    }
-    /** Doors and windows go, too: they name the walls that they stand in. */
-    static QJsonObject withoutWalls(QJsonObject floor)
-    {
-        QJsonArray kept;
-        for (const QJsonValue element : floor["elements"].toArray()) {
-            const int type = element.toObject()["type"].toInt();
-            if (type != 0 && type != 1003 && (type < 4 || type > 7))
-                kept.append(element);
-        }
-        floor["elements"] = kept;
-        return floor;
+        return exchangetest::withoutElements(exchangetest::building(building.toStdString()), {0, 1003, 4, 5, 6, 7});
     }
     static QJsonObject mapIn(const QJsonDocument &reply)
     {

@@ -38,7 +38,7 @@ TEST(ORVCADAIColumnSemnticParsingParTest, everyWordStandsUnderItsKey)
 
 TEST(ORVCADAIColumnSemnticParsingParTest, everyKeyIsReadIntoItsField)
 {
-    const Par par = filled<Par>(sampleJson());
+    const auto par = filled<Par>(sampleJson());
     EXPECT_EQ(par.floorWordSetPar.size(), 2);
     EXPECT_EQ(par.floorWordSetPar[1].strFloorName, "F2");
     EXPECT_EQ(par.floorWordSetPar[1].sUpElev, "7.2");
@@ -75,7 +75,7 @@ TEST(ORVCADAIColumnSemnticParsingParTest, readingTwiceDoublesTheFloorList)
 
 TEST(ORVCADAIColumnSemnticParsingParTest, floorEntryThatIsNoObjectReadsAsEmptyWords)
 {
-    const Par par = filled<Par>({{"floorWordSetPar", QJsonArray{7, "F1", QJsonValue()}}});
+    const auto par = filled<Par>({{"floorWordSetPar", QJsonArray{7, "F1", QJsonValue()}}});
     ASSERT_EQ(par.floorWordSetPar.size(), 3);
     EXPECT_EQ(par.floorWordSetPar[1].strFloorName, "");
 }

@@ -8,7 +8,7 @@ using Model = ORVCADAIIdentifyColumnResultModel;
 
 TEST(ORVCADAIIdentifyColumnResultModelTest, readsAndWritesAReplyByteForByte)
 {
-    const Model model = filled<Model>(jsonOf(columnDocument("results")));
+    const auto model = filled<Model>(jsonOf(columnDocument("results")));
     EXPECT_EQ(model.drawing, QStringLiteral("柱平法图-01"));
     EXPECT_EQ(model.floorCode, "2");
     ASSERT_EQ(model.resultData.size(), 1U);
@@ -18,7 +18,7 @@ TEST(ORVCADAIIdentifyColumnResultModelTest, readsAndWritesAReplyByteForByte)
 
 TEST(ORVCADAIIdentifyColumnResultModelTest, replyWithoutResultsGivesAnEmptyList)
 {
-    const Model model = filled<Model>({{"drawing", "D"}, {"floorCode", "1"}});
+    const auto model = filled<Model>({{"drawing", "D"}, {"floorCode", "1"}});
     EXPECT_EQ(model.drawing, "D");
     EXPECT_TRUE(model.resultData.empty());
 }
@@ -43,7 +43,7 @@ TEST(ORVCADAIIdentifyColumnResultModelTest, recordsAreAddedBehindThoseThatAreThe
 
 TEST(ORVCADAIIdentifyColumnResultModelTest, entryThatIsNoObjectBecomesAnEmptyRecord)
 {
-    const Model model = filled<Model>(jsonOf(R"({"resultData": [7, null, "x", []]})"));
+    const auto model = filled<Model>(jsonOf(R"({"resultData": [7, null, "x", []]})"));
     ASSERT_EQ(model.resultData.size(), 4U);
     for (const auto &record : model.resultData) {
         EXPECT_EQ(record->columnName, "");
@@ -74,14 +74,14 @@ TEST(ORVCADAIIdentifyColumnResultModelTest, nullRecordAndOneWithoutAColumnInfoAr
 
 TEST(ORVCADAIIdentifyColumnResultModelTest, copySharesItsRecords)
 {
-    const Model model = filled<Model>(jsonOf(columnDocument("results")));
+    const auto model = filled<Model>(jsonOf(columnDocument("results")));
     const Model copy = model; // NOLINT(performance-unnecessary-copy-initialization): what is tested
     EXPECT_EQ(copy.resultData, model.resultData);
 }
 
 TEST(ORVCADAIIdentifyColumnResultModelTest, nullTargetDoesNothingAndTheReceiverPlaysNoPart)
 {
-    const Model receiver = filled<Model>(jsonOf(columnDocument("results")));
+    const auto receiver = filled<Model>(jsonOf(columnDocument("results")));
     receiver.fromJson(nullptr, {{"drawing", "other"}});
     Model target;
     receiver.fromJson(&target, {{"drawing", "other"}});

@@ -33,7 +33,7 @@ TEST(ORVCADColumnCloudCheckInputModelTest, everyFieldIsWrittenUnderItsKey)
 
 TEST(ORVCADColumnCloudCheckInputModelTest, everyKeyIsReadIntoItsField)
 {
-    const Model model = filled<Model>(jsonOf(columnDocument("check-input")));
+    const auto model = filled<Model>(jsonOf(columnDocument("check-input")));
     EXPECT_EQ(textOf(model.toJson()), columnDocument("check-input").toStdString());
     EXPECT_EQ(model.strCurFloorCode, "-1");
     EXPECT_EQ(model.columnOptions.MaxSearchExtent, 3000);

@@ -70,7 +70,7 @@ TEST(ORVCADColumnCloudIdentifyInputModelTest, everyFieldIsWrittenUnderItsKey)
 
 TEST(ORVCADColumnCloudIdentifyInputModelTest, everyKeyIsReadIntoItsField)
 {
-    const Model model = filled<Model>(jsonOf(columnDocument("identify-input")));
+    const auto model = filled<Model>(jsonOf(columnDocument("identify-input")));
     EXPECT_EQ(textOf(model.toJson()), columnDocument("identify-input").toStdString());
     EXPECT_EQ(model.eType, 7);
     EXPECT_EQ(model.columnOptions.ZHZMark, "ZHZ1");
@@ -195,7 +195,7 @@ TEST(ORVCADColumnCloudIdentifyInputModelTest, mistypedDocumentReadsAsANewModel)
 
 TEST(ORVCADColumnCloudIdentifyInputModelTest, numbersThatAreNoWhole32BitsReadAsZero)
 {
-    const Model model = filled<Model>(jsonOf(
+    const auto model = filled<Model>(jsonOf(
         R"({"eType": 2147483648, "columnOptions": {"MaxSearchExtent": 0.5}, "elements": [{"sectionWidth": 1e300}]})"));
     EXPECT_EQ(model.eType, 0);
     EXPECT_EQ(model.columnOptions.MaxSearchExtent, 0);
@@ -204,7 +204,7 @@ TEST(ORVCADColumnCloudIdentifyInputModelTest, numbersThatAreNoWhole32BitsReadAsZ
 
 TEST(ORVCADColumnCloudIdentifyInputModelTest, badGeometryIsNullOrTheOriginAndKeepsItsPlace)
 {
-    const Model model = filled<Model>(jsonOf(R"({"axisLineList": ["0,0", 7, "0,0,1,0"],
+    const auto model = filled<Model>(jsonOf(R"({"axisLineList": ["0,0", 7, "0,0,1,0"],
         "elements": [{"poly": "0,0;", "insertPt": "1;2"}]})"));
     ASSERT_EQ(model.axisLineList.size(), 3U);
     EXPECT_FALSE(model.axisLineList[0]->curve);
@@ -219,11 +219,11 @@ TEST(ORVCADColumnCloudIdentifyInputModelTest, badGeometryIsNullOrTheOriginAndKee
 TEST(ORVCADColumnCloudIdentifyInputModelTest, outlineWithAHoleIsTheKernelsText)
 {
     const QString text = "POLYGON((0 0, 500 0, 500 500, 0 500, 0 0),(100 100, 100 200, 200 200, 200 100, 100 100))";
-    const Model model = filled<Model>({{"elements", QJsonArray{QJsonObject{{"poly", text}}}}});
+    const auto model = filled<Model>({{"elements", QJsonArray{QJsonObject{{"poly", text}}}}});
     ASSERT_TRUE(model.elements[0]->poly);
     EXPECT_EQ(model.elements[0]->poly->LoopCount(), 2);
     const QString written = model.toJson()["elements"].toArray()[0].toObject()["poly"].toString();
-    const Model again = filled<Model>({{"elements", QJsonArray{QJsonObject{{"poly", written}}}}});
+    const auto again = filled<Model>({{"elements", QJsonArray{QJsonObject{{"poly", written}}}}});
     EXPECT_EQ(again.elements[0]->poly->Area(), 240000);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/embedded/HBXExchangeReader.h"
+#include "platform/embedded/HBXProject.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +11,10 @@
 #include <QJsonObject>
 #include <QRegularExpression>
 
+#include <algorithm>
+#include <memory>
 #include <string>
+#include <vector>
 
 /** Documents of the exchange form for tests, and changes to them by place. */
 namespace exchangetest {
@@ -35,6 +39,39 @@ inline hbx::embedded::ProjectRecord recordOf(const QByteArray &json)
     auto project = hbx::embedded::HBXExchangeReader::read(json, "house.json", error);
     EXPECT_TRUE(project) << error.text().toStdString();
     return project ? *project : hbx::embedded::ProjectRecord();
+}
+
+/** A project of a building file, which must be sound. */
+inline std::unique_ptr<hbx::embedded::HBXProject> projectOf(const QByteArray &json)
+{
+    hbx::embedded::ProjectError error;
+    auto project = hbx::embedded::HBXProject::fromJson(json, QStringLiteral("house.json"), error);
+    EXPECT_TRUE(project) << error.text().toStdString();
+    return project;
+}
+
+/** A building file without its elements of some types. */
+inline QByteArray withoutElements(const QByteArray &json, const std::vector<int> &types)
+{
+    QJsonObject building = parsed(json);
+    QJsonArray regions = building["regions"].toArray();
+    for (QJsonValueRef region : regions) {
+        QJsonObject regionObject = region.toObject();
+        QJsonArray floors = regionObject["floors"].toArray();
+        for (QJsonValueRef floor : floors) {
+            QJsonObject floorObject = floor.toObject();
+            QJsonArray kept;
+            for (const QJsonValue element : floorObject["elements"].toArray())
+                if (std::find(types.begin(), types.end(), element.toObject()["type"].toInt()) == types.end())
+                    kept.append(element);
+            floorObject["elements"] = kept;
+            floor = floorObject;
+        }
+        regionObject["floors"] = floors;
+        region = regionObject;
+    }
+    building["regions"] = regions;
+    return QJsonDocument(building).toJson();
 }
 
 /** A document whose geometry texts have nothing but a comma between the rings of a polygon, as the kernel writes them;

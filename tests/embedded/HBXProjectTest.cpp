@@ -29,10 +29,7 @@ class HBXProjectTest : public ProjectFileTest
 protected:
     std::unique_ptr<HBXProject> imported(const QByteArray &json = exchangetest::kSmallBuilding)
     {
-        ProjectError error;
-        auto project = HBXProject::fromJson(json, "house.json", error);
-        EXPECT_TRUE(project) << error.text().toStdString();
-        return project;
+        return exchangetest::projectOf(json);
     }
     /** Imported, saved and opened again. */
     std::unique_ptr<HBXProject> opened(const QByteArray &json = exchangetest::kSmallBuilding)

@@ -28,6 +28,7 @@ void writeWalls(ORVCADFileSerialization &archive, QLatin1String documentKey, con
 template <typename Element> std::vector<std::unique_ptr<Element>> newElements(int count)
 {
     std::vector<std::unique_ptr<Element>> elements;
+    elements.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i)
         elements.push_back(std::make_unique<Element>());
     std::sort(elements.begin(), elements.end());
@@ -46,7 +47,7 @@ void readWalls(ORVCADFileSerialization &archive, QLatin1String documentKey, Wall
         std::list<IdentifyResultData> pieces;
         appendRecords(entry.value(), record::piece, pieces);
         walls.emplace(element->get(), std::move(pieces));
-        element->release(); // now the map's
+        static_cast<void>(element->release()); // now the map's
     }
 }
 

@@ -1,9 +1,11 @@
 #include "platform/services/ParamPoly.h"
 
+#include <QStringList>
+
 void stringToParamPoly(const QString &text, QString &xGrid, int & /*kind*/, QString &yGrid, QString &insertPoint)
 {
-    const QString parts = text; // an output may be the text itself
-    xGrid = parts.section(u';', 0, 0);
-    yGrid = parts.section(u';', 1, 1);
-    insertPoint = parts.section(u';', 2, 2);
+    const QStringList parts = text.split(u';'); // ahead of the outputs, one of which may be the text itself
+    xGrid = parts.value(0);
+    yGrid = parts.value(1);
+    insertPoint = parts.value(2);
 }

@@ -25,8 +25,9 @@ TEST_F(JsonWall2HBXTest, replyWithoutItsKeyCreatesNothingAndGivesFalse)
 TEST_F(JsonWall2HBXTest, fullSuccessGivesFalseToo)
 {
     load();
-    EXPECT_FALSE(jsonBrickWall2HBX(service(), brickReply({{elementText("Q1"), {pieceText(), pieceText("0,9,7,9")}}})));
-    EXPECT_FALSE(jsonForceWall2HBX(service(), forceReply({{elementText("W1", "0"), {pieceText()}}})));
+    EXPECT_FALSE(
+        jsonBrickWall2HBX(service(), brickReply({{elementText("Q1"), QJsonArray{pieceText(), pieceText("0,9,7,9")}}})));
+    EXPECT_FALSE(jsonForceWall2HBX(service(), forceReply({{elementText("W1", "0"), QJsonArray{pieceText()}}})));
     EXPECT_EQ(placedNames(1003), (QStringList{"Q1", "Q1"}));
     EXPECT_EQ(placedNames(0), (QStringList{"W1"}));
 }
@@ -34,21 +35,21 @@ TEST_F(JsonWall2HBXTest, fullSuccessGivesFalseToo)
 TEST_F(JsonWall2HBXTest, eachEntryReadsItsOwnKeyAlone)
 {
     load();
-    jsonForceWall2HBX(service(), brickReply({{elementText("Q1"), {pieceText()}}}));
-    jsonBrickWall2HBX(service(), forceReply({{elementText("W1", "0"), {pieceText()}}}));
+    jsonForceWall2HBX(service(), brickReply({{elementText("Q1"), QJsonArray{pieceText()}}}));
+    jsonBrickWall2HBX(service(), forceReply({{elementText("W1", "0"), QJsonArray{pieceText()}}}));
     EXPECT_EQ(elementCount(), 0);
 }
 
 TEST_F(JsonWall2HBXTest, nullServiceGivesFalse)
 {
-    EXPECT_FALSE(jsonBrickWall2HBX(nullptr, brickReply({{elementText("Q1"), {pieceText()}}})));
+    EXPECT_FALSE(jsonBrickWall2HBX(nullptr, brickReply({{elementText("Q1"), QJsonArray{pieceText()}}})));
     EXPECT_FALSE(jsonForceWall2HBX(nullptr, {}));
 }
 
 TEST_F(JsonWall2HBXTest, nameThatIsTakenBecomesAUniqueOne)
 {
     load(wall("Q1", 1003, "0 0, 5000 0"));
-    jsonBrickWall2HBX(service(), brickReply({{elementText("Q1"), {pieceText()}}}));
+    jsonBrickWall2HBX(service(), brickReply({{elementText("Q1"), QJsonArray{pieceText()}}}));
     EXPECT_EQ(placedNames(1003), (QStringList{"Q1", "Q1-1"}));
 }
 
@@ -67,7 +68,7 @@ TEST_F(JsonWall2HBXTest, segmentsOfAPieceAreNotUsed)
     load();
     QJsonObject odd = pieceText();
     odd["sSegmentEntityDataList"] = "1,2,/3,";
-    jsonBrickWall2HBX(service(), brickReply({{elementText("Q1"), {odd}}}));
+    jsonBrickWall2HBX(service(), brickReply({{elementText("Q1"), QJsonArray{odd}}}));
     ASSERT_EQ(placed(1003).size(), 1);
     EXPECT_EQ(axisOf(placed(1003)[0])->Length(), 5000);
 }
@@ -89,7 +90,7 @@ protected:
             const bool isOdd = i == GetParam().position;
             walls.push_back({elementText(QStringLiteral("N%1").arg(i), type, isOdd ? GetParam().floor : "1",
                                          isOdd ? GetParam().region : "House"),
-                             {pieceText()}});
+                             QJsonArray{pieceText()}});
         }
         return walls;
     }

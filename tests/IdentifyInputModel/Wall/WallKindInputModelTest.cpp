@@ -43,7 +43,7 @@ TYPED_TEST_SUITE(WallKindInputModelTest, Kinds, KindNames);
 
 TYPED_TEST(WallKindInputModelTest, listIsReplacedAndGivenAsACopy)
 {
-    TypeParam model = filled<TypeParam>();
+    auto model = filled<TypeParam>();
     wallsOf(model).clear();
     EXPECT_EQ(wallsOf(model).size(), 1U);
     setWalls(model, {});
@@ -199,7 +199,7 @@ TYPED_TEST(WallKindInputModelTest, loadFromXmlReadsFloorAndDrawingUnlikeTheBase)
 
 TYPED_TEST(WallKindInputModelTest, badTextLeavesTheModelAsItIs)
 {
-    TypeParam model = filled<TypeParam>();
+    auto model = filled<TypeParam>();
     for (const wchar_t *text : {L"", L"{", L"nonsense", L"<XmlRoot>", L"<!DOCTYPE a><a/>"}) {
         model.loadFromJson(text);
         model.loadFromXml(text);

@@ -4,6 +4,7 @@
 #include "IdentifyInputModel/Wall/ORVCADWallEdoGenerator.h"
 #include "IdentifyInputModel/Wall/ORVCADWallForceDataOutputModel.h"
 #include "IdentifyInputModel/Wall/WallFixture.h"
+#include "IdentifyInputModel/Wall/WallReplyText.h"
 #include "doorwindow/OpeningFixture.h"
 #include "platform/host/IHBXCustomLineSolidShape.h"
 #include "support/RecordingHost.h"
@@ -56,29 +57,15 @@ protected:
         return data;
     }
 
-    /** A reply as it comes as text. The records are one object each, of texts. */
-    struct WallText
-    {
-        QJsonObject element;
-        QJsonArray pieces;
-    };
-    static QJsonObject mapOf(const std::vector<WallText> &walls)
-    {
-        QJsonObject map;
-        for (std::size_t i = 0; i < walls.size(); ++i) {
-            map[QStringLiteral("key_%1").arg(i)] = walls[i].element;
-            map[QStringLiteral("value_%1").arg(i)] = walls[i].pieces;
-        }
-        return map;
-    }
+    using WallText = walltest::WallText;
     static QJsonObject brickReply(const std::vector<WallText> &walls)
     {
-        const QJsonObject document{{"BrickWallIdentifyData", mapOf(walls)}};
+        const QJsonObject document{{"BrickWallIdentifyData", walltest::mapOf(walls)}};
         return {{"eBrickWall", QJsonObject{{"ElementsAndEdos", document}}}};
     }
     static QJsonObject forceReply(const std::vector<WallText> &walls)
     {
-        const QJsonObject document{{"ForceWallIdentifyData", mapOf(walls)}};
+        const QJsonObject document{{"ForceWallIdentifyData", walltest::mapOf(walls)}};
         return {{"eWall", QJsonObject{{"ElementsAndEdos", document}}}};
     }
     static QJsonObject elementText(const QString &name, const QString &type = "1003", const QString &floor = "1",
