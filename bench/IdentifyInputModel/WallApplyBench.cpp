@@ -144,7 +144,7 @@ int main()
 {
     constexpr int kSmall = 1000;
     constexpr int kLarge = 10000;
-    constexpr double kLinear = 1.8; // cost per piece at the large size to that at the small one
+    constexpr double kLinear = 1.3; // cost per piece at the large size to that at the small one
 
     bench::RatioTable table("Walls");
     const struct

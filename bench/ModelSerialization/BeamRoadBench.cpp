@@ -157,7 +157,8 @@ int main()
     for (BeamRoads *roads : {&small, &middle, &large})
         roads->check();
 
-    bench::RatioTable table("10,000 beams of four pieces in larger buildings, against 100 in each of 100 buildings");
+    bench::RatioTable table("10,000 beams of four pieces in larger buildings, against 100 in each of 100 buildings",
+                            bench::Time::Cpu);
     compare(table, "out of the host, 1,000 a building", &BeamRoads::convert, middle, small);
     compare(table, "out of the host, 10,000 a building", &BeamRoads::convert, large, small);
     compare(table, "records to text, 1,000 a building", &BeamRoads::write, middle, small);

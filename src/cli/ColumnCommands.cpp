@@ -2,7 +2,6 @@
 #include "cli/ColumnDocumentCheck.h"
 #include "cli/Command.h"
 #include "cli/Files.h"
-#include "cli/ProjectInfo.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -12,37 +11,19 @@ namespace orvcad {
 
 namespace {
 
-/** "key value" of everything that a record holds, in the order of the keys. */
-QString heldText(const QJsonObject &content)
-{
-    QStringList parts;
-    for (auto member = content.begin(); member != content.end(); ++member)
-        if (member.key() != QLatin1String("kind"))
-            parts.append(QStringLiteral("%1 %2").arg(
-                member.key(), member->isString() ? '"' + member->toString() + '"' : member->toVariant().toString()));
-    return parts.join(QStringLiteral(", "));
-}
-
-QString verdict(const ColumnDocumentCheck &check)
-{
-    const int count = static_cast<int>(check.notKept().size());
-    return count == 0 ? QStringLiteral("written again, it is the same document")
-                      : QStringLiteral("written again, it differs at %1").arg(counted(count, QStringLiteral("place")));
-}
-
 QStringList linesOf(const QString &file, const ColumnDocumentCheck &check)
 {
     const auto line = [&](const QString &place, const QString &reason) {
         return QStringLiteral("%1: %2: %3").arg(file, place, reason);
     };
-    QStringList lines{line(check.title(), heldText(check.content()))};
+    QStringList lines{line(check.title(), check.contentText())};
     for (const JsonFault &finding : check.findings())
         lines.append(line(finding.place, finding.reason));
     for (const JsonFault &fault : check.writtenOtherwise())
         lines.append(line(fault.place, fault.reason));
     if (check.missingKeys() > 0)
         lines.append(QStringLiteral("missing keys, read as 0, false or empty: %1").arg(check.missingKeys()));
-    return lines << verdict(check);
+    return lines << check.verdict();
 }
 
 Summary summaryOf(const QString &file, const ColumnDocumentCheck &check)

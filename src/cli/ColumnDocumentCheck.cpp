@@ -1,9 +1,11 @@
 #include "cli/ColumnDocumentCheck.h"
 
 #include "cli/JsonDifference.h"
+#include "cli/ProjectInfo.h"
 
 #include <QHash>
 #include <QMap>
+#include <QStringList>
 
 #include <algorithm>
 #include <iterator>
@@ -210,6 +212,23 @@ void ColumnDocumentCheck::compareWithWritten(const QJsonObject &document)
         if (!isTold)
             m_writtenOtherwise.push_back(m_notKept.back());
     }
+}
+
+QString ColumnDocumentCheck::contentText() const
+{
+    QStringList parts;
+    for (auto member = m_content.begin(); member != m_content.end(); ++member)
+        if (member.key() != QLatin1String("kind"))
+            parts.append(QStringLiteral("%1 %2").arg(
+                member.key(), member->isString() ? '"' + member->toString() + '"' : member->toVariant().toString()));
+    return parts.join(QStringLiteral(", "));
+}
+
+QString ColumnDocumentCheck::verdict() const
+{
+    const int count = sizeOf(m_notKept);
+    return count == 0 ? QStringLiteral("written again, it is the same document")
+                      : QStringLiteral("written again, it differs at %1").arg(counted(count, QStringLiteral("place")));
 }
 
 void ColumnDocumentCheck::checkHoopBars(const QJsonObject &par, const JsonPlace &place)

@@ -21,6 +21,8 @@ public:
     const QString &title() const { return m_title; }
     /** "kind" and what the record holds, keys as in docs/cli.md. */
     const QJsonObject &content() const { return m_content; }
+    /** "key value" of everything that the record holds, in the order of the keys. */
+    QString contentText() const;
     /** Values that the reader does not take as they stand, in the order of the reader. */
     const std::vector<JsonFault> &findings() const { return m_look.findings(); }
     /** What the document has and what is written from the record lacks or has otherwise, each with the finding that tells
@@ -30,6 +32,8 @@ public:
     /** Those of them that no finding tells of: values that are sound and have another form when they are written. */
     const std::vector<JsonFault> &writtenOtherwise() const { return m_writtenOtherwise; }
     int missingKeys() const { return m_look.missingKeys(); }
+    /** Whether the document survives being written again, in words. */
+    QString verdict() const;
 
 private:
     template <typename Fields> void check(const QJsonObject &document);

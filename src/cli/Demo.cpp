@@ -8,6 +8,7 @@
 #include "cli/Openings.h"
 #include "cli/PlanSvg.h"
 #include "cli/ProjectInfo.h"
+#include "cli/RecordTour.h"
 #include "cli/SlabArrays.h"
 #include "cli/SlabComparison.h"
 #include "cli/SlabExport.h"
@@ -58,7 +59,7 @@ public:
         for (const QString &line : outcome.split('\n'))
             m_lines.append(QStringLiteral("  ") + line);
     }
-    void step(const WallTour::Step &step) { this->step(step.typed, step.outcome); }
+    void step(const TourStep &step) { this->step(step.typed, step.outcome); }
     void say(const QString &line) { m_lines.append(line); }
     QString text() const { return m_lines.join('\n'); }
 
@@ -233,11 +234,14 @@ Summary conclude(Tour &tour, const QString &directory, const Outcomes &outcomes,
     tour.say(slabComparison.text());
     tour.say(brickWalls.compare());
     const WallTour forceWalls = visitHall(tour, directory);
+    RecordTour records(directory);
+    tour.step(records.showDrawings());
+    tour.step(records.checkColumns());
     tour.say(QStringLiteral("Everything stands in %1; before.svg and after.svg, hall-before.svg and "
                             "hall-after.svg are the pictures.")
                  .arg(directory));
     const bool isSame = comparison.isSame() && beamComparison.isSame() && slabComparison.isSame() &&
-                        brickWalls.isSame() && forceWalls.isSame();
+                        brickWalls.isSame() && forceWalls.isSame() && records.isSame();
     return {tour.text(),
             {{"directory", directory},
              {"apply", outcomes.openings.toJson()},

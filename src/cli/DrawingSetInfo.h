@@ -21,6 +21,8 @@ public:
 
     /** Tables for people. */
     QString text() const;
+    /** Their first line: how many stages, drawings and floors. */
+    QString headline() const;
     QJsonObject toJson() const;
 
 private:
@@ -97,7 +99,6 @@ private:
     /** Notes that a stage has run, and how many entries it has. */
     void note(QLatin1String key, bool present, int entries);
 
-    QString headline() const;
     QStringList stageLines() const;
     QStringList floorLines() const;
     QStringList drawingLines() const;

@@ -18,7 +18,7 @@ WallTour::WallTour(QString directory, Stop stop)
 
 QString WallTour::path(const QString &name) const { return fileIn(m_directory, name); }
 
-WallTour::Step WallTour::write(HBXProject &project)
+TourStep WallTour::write(HBXProject &project)
 {
     const WallReply reply(project, m_kind, pickFloors(project, QString(), m_stop.floor));
     writeResult(path(m_stop.reply), QJsonDocument(reply.document()).toJson());
@@ -34,7 +34,7 @@ QString WallTour::strip(HBXProject &project) const
         .arg(m_stop.restored, m_stop.kind, m_stop.floor, counted(elements, QStringLiteral("element")));
 }
 
-WallTour::Step WallTour::apply(HBXProject &project)
+TourStep WallTour::apply(HBXProject &project)
 {
     const QString input = path(m_stop.reply);
     m_outcome = applyWalls(project, m_kind, readJsonFile(input).object(), input);

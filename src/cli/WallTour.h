@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/TourStep.h"
 #include "cli/WallComparison.h"
 #include "cli/Walls.h"
 #include "platform/embedded/HBXProject.h"
@@ -16,11 +17,6 @@ namespace orvcad {
 class WallTour
 {
 public:
-    struct Step
-    {
-        QString typed; ///< the command, as one would type it
-        QString outcome;
-    };
     struct Stop
     {
         const char *kind; ///< word of --kind
@@ -33,12 +29,12 @@ public:
     WallTour(QString directory, Stop stop);
 
     /** Writes the reply of the project's walls into its file. */
-    Step write(hbx::embedded::HBXProject &project);
+    TourStep write(hbx::embedded::HBXProject &project);
     /** Removes the walls.
      *  @return what to say of it */
     QString strip(hbx::embedded::HBXProject &project) const;
     /** Writes the reply into the project and saves it. */
-    Step apply(hbx::embedded::HBXProject &project);
+    TourStep apply(hbx::embedded::HBXProject &project);
     /** Compares the saved projects.
      *  @return what to say of it */
     QString compare();

@@ -65,7 +65,8 @@ TEST_F(DemoTest, tourLeavesItsFiles)
     ASSERT_EQ(run({"demo", "tour"}).exitCode, 0);
     EXPECT_EQ(QDir(path("tour")).entryList(QDir::Files, QDir::Name).join(' ').toStdString(),
               "after.svg beams.json before.svg building.hbxdb building.json floors.json hall-after.svg hall-before.svg "
-              "hall-restored.hbxdb hall-walls.json hall.hbxdb hall.json openings.json restored.hbxdb slab-ids.json "
+              "hall-columns.json hall-drawings.json hall-restored.hbxdb hall-walls.json hall.hbxdb hall.json "
+              "openings.json restored.hbxdb slab-ids.json "
               "slabs.json walls.json");
     QFile original(sample("masonry-block"));
     ASSERT_TRUE(original.open(QIODevice::ReadOnly));
@@ -127,6 +128,10 @@ TEST_F(DemoTest, tourTellsItsStepsAsOneWouldTypeThem)
           "$ orvcad wall apply hall-restored.hbxdb --kind force hall-walls.json\n  3 force walls read: 3 elements made",
           "$ orvcad draw hall-restored.hbxdb --floor \"Ground floor\" -o hall-after.svg\n",
           "Compared with the original: 50 pieces of force walls, the reply written again is the same but for ids",
+          "$ orvcad drawings show hall-drawings.json\n  Drawing set of Hall: 8 of 8 stages, 9 drawings, 3 floors",
+          "$ orvcad column check hall-columns.json\n  results of identification: cadLines 24, cadTexts 24, columns "
+          "24, ",
+          "written again, it is the same document",
           "Everything stands in tour; before.svg and after.svg, hall-before.svg and hall-after.svg are the "
           "pictures."}) {
         const int found = result.out.indexOf(step, place);
