@@ -19,7 +19,7 @@ const QString kColumns = QStringLiteral("hall-columns.json");
 /** Path of an example in the directory, which has it from then on. */
 QString RecordTour::placed(const QString &name) const
 {
-    const QString path = fileIn(m_directory, name);
+    QString path = fileIn(m_directory, name);
     writeResult(path, readFile(QStringLiteral(":/demo/") + name));
     return path;
 }
