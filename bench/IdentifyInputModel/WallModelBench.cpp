@@ -9,8 +9,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <malloc.h>
-
 #include <cmath>
 #include <functional>
 #include <random>
@@ -199,7 +197,7 @@ const Form kForms[] = {{"JSON", &Model::saveToJson, &Model::loadFromJson, jsonBy
 /** A work that begins with an orderly heap: what the other one freed would be cleared up in its time. */
 bench::Work tidy(std::function<void()> run)
 {
-    return {[] { malloc_trim(0); }, std::move(run)};
+    return {[] { bench::joinFreedMemory(); }, std::move(run)};
 }
 
 void compare(bench::RatioTable &table, const Form &form, std::size_t size)

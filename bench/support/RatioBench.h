@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/Heap.h"
+
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
@@ -39,7 +41,7 @@ template <typename T> void keep(T &&value) { benchmark::DoNotOptimize(value); }
 class RatioTable
 {
 public:
-    explicit RatioTable(std::string title) : m_title(std::move(title)) {}
+    explicit RatioTable(std::string title) : m_title(std::move(title)) { keepFreedMemory(); }
 
     /** @param size     how many items one run of either work handles; times are printed per item
      *  @param ceiling  largest ratio of ours to floor that is good; 0 only tells the ratio */
