@@ -30,7 +30,9 @@ constexpr double kPlanSize = 80'000; // mm
 // Ceilings of the ratios.
 constexpr double kByHand = 1.5;
 constexpr double kGrowth = 1.8;
-constexpr double kXmlGrowth = 2.6; // so little work that the fresh memory of a large text shows; no more at any size
+// Nodes of QDomDocument cost twice as much where they outgrow the caches, by hand, too; and saving XML is so little work
+// that the fresh memory of a large text shows.
+constexpr double kXmlGrowth = 2.6;
 
 const char *const kDocumentKey = "CadLineEdoDataInfo";
 
