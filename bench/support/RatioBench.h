@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/Heap.h"
+
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
@@ -44,7 +46,10 @@ enum class Time { Wall, Cpu };
 class RatioTable
 {
 public:
-    explicit RatioTable(std::string title, Time time = Time::Wall) : m_title(std::move(title)), m_time(time) {}
+    explicit RatioTable(std::string title, Time time = Time::Wall) : m_title(std::move(title)), m_time(time)
+    {
+        keepFreedMemory();
+    }
 
     /** @param size     how many items one run of either work handles; times are printed per item
      *  @param ceiling  largest ratio of ours to floor that is good; 0 only tells the ratio */
