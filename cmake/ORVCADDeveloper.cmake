@@ -31,6 +31,7 @@ if(PROJECT_IS_TOP_LEVEL)
     find_program(ORVCAD_CCACHE ccache)
     mark_as_advanced(ORVCAD_CCACHE)
     if(ORVCAD_CCACHE AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
-        set(CMAKE_CXX_COMPILER_LAUNCHER ${ORVCAD_CCACHE})
+        set(CMAKE_CXX_COMPILER_LAUNCHER
+            ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${ORVCAD_CCACHE})
     endif()
 endif()

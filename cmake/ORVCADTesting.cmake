@@ -2,6 +2,23 @@
 
 include(GoogleTest)
 
+# The bodies of tests run once and take a compiler longest, the more so with sanitizers: half the time without -O.
+set(ORVCAD_TEST_OPTIONS -O0)
+
+orvcad_add_precompiled(ORVCADTestPrecompiled
+    LIBRARIES Qt5::Core GTest::gmock GTest::gtest
+    OPTIONS ${ORVCAD_TEST_OPTIONS}
+    HEADERS gmock/gmock.h gtest/gtest.h QDir QFile QHash QJsonArray QJsonDocument QJsonObject QList QMap QSet QString
+        QStringList QTemporaryDir QUuid algorithm array cmath functional limits map memory optional random string utility
+        vector)
+
+# What every target that only tests use has in common.
+function(orvcad_configure_test_target target)
+    orvcad_configure_target(${target})
+    target_compile_options(${target} PRIVATE ${ORVCAD_TEST_OPTIONS})
+    orvcad_use_precompiled(${target} ORVCADTestPrecompiled)
+endfunction()
+
 # orvcad_add_tests(<name> SOURCES <file>... [LIBRARIES <target>...] [EMBEDDED])
 # Makes the program <name>Tests; its tests carry the label <name>. EMBEDDED: the sources use the embedded host, so the
 # program is left out where a vendor's platform takes its place.
@@ -18,9 +35,7 @@ function(orvcad_add_tests name)
 
     set(program ${name}Tests)
     add_executable(${program} ${sources})
-    orvcad_configure_target(${program})
-    # The bodies of tests run once and take a compiler longest, the more so with sanitizers: half the time without -O.
-    target_compile_options(${program} PRIVATE -O0)
+    orvcad_configure_test_target(${program})
     target_link_libraries(${program} PRIVATE ORVCADTestSupport ${arg_LIBRARIES})
 
     set(work ${PROJECT_BINARY_DIR}/tests/work/${name})
