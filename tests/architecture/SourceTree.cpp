@@ -40,14 +40,13 @@ void PrintTo(const Violation &violation, std::ostream *out)
     *out << violation.path << ':' << violation.line << ": " << violation.reason;
 }
 
-std::vector<SourceFile> readTree(const std::string &directory)
+std::vector<SourceFile> readTree(const std::string &directory, const std::vector<std::string> &endings)
 {
     namespace fs = std::filesystem;
     std::vector<SourceFile> files;
     std::error_code missing;
     for (const fs::directory_entry &entry : fs::recursive_directory_iterator(directory, missing)) {
-        const std::string ending = entry.path().extension().string();
-        if (ending == ".h" || ending == ".cpp") {
+        if (std::count(endings.begin(), endings.end(), entry.path().extension().string()) != 0) {
             files.push_back({fs::relative(entry.path(), directory).generic_string(), readFile(entry.path())});
         }
     }

@@ -34,8 +34,10 @@ bool operator==(const Violation &left, const Violation &right);
 void PrintTo(const Include &include, std::ostream *out);
 void PrintTo(const Violation &violation, std::ostream *out);
 
-/** Every .h and .cpp below a directory, sorted by path; empty where there is no such directory. */
-std::vector<SourceFile> readTree(const std::string &directory);
+/** Every file below a directory with one of the endings, headers and sources if none are told, sorted by path; empty
+ *  where there is no such directory. */
+std::vector<SourceFile> readTree(const std::string &directory,
+                                 const std::vector<std::string> &endings = {".h", ".cpp"});
 
 /** The include lines of a text, in order. */
 std::vector<Include> includesOf(const std::string &text);
