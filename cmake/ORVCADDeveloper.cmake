@@ -22,6 +22,12 @@ if(ORVCAD_SANITIZE)
     target_link_options(ORVCADDeveloper INTERFACE -fsanitize=${sanitizers})
 endif()
 
+if(ORVCAD_FUZZ)
+    # Counts what an input reaches; the programs bring the fuzzer itself.
+    target_compile_options(ORVCADDeveloper INTERFACE -fsanitize=fuzzer-no-link)
+    target_link_options(ORVCADDeveloper INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
 if(PROJECT_IS_TOP_LEVEL)
     set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
     set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)

@@ -1,0 +1,16 @@
+// The hbx-project form: a building that is accepted is written, accepted again and written the same.
+
+#include "platform/embedded/HBXProject.h"
+#include "support/FuzzHost.h"
+#include "support/FuzzInput.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    hbx::embedded::ProjectError error;
+    const auto project =
+        hbx::embedded::HBXProject::fromJson(fuzz::bytesOf(data, size), QStringLiteral("b.json"), error);
+    fuzz::require((project != nullptr) == error.isEmpty(), "what is refused has a reason");
+    if (project)
+        fuzz::requireSound(*project);
+    return 0;
+}

@@ -1,0 +1,17 @@
+// Project files: opened soundly or refused with a reason.
+
+#include "platform/embedded/HBXProject.h"
+#include "support/FuzzFile.h"
+#include "support/FuzzHost.h"
+#include "support/FuzzInput.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    const fuzz::FuzzFile file(QStringLiteral("fuzzed.hbxdb"), fuzz::bytesOf(data, size));
+    hbx::embedded::ProjectError error;
+    const auto project = hbx::embedded::HBXProject::open(file.path(), error);
+    fuzz::require((project != nullptr) == error.isEmpty(), "what is refused has a reason");
+    if (project)
+        fuzz::requireSound(*project);
+    return 0;
+}
