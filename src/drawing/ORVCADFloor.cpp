@@ -2,7 +2,7 @@
 
 #include "drawing/DrawingKeys.h"
 #include "drawing/FloorElevation.h"
-#include "encoding/KeyLiteral.h"
+#include "encoding/RecordKey.h"
 #include "encoding/RecordFields.h"
 
 #include <memory>

@@ -1,6 +1,6 @@
 #include "encoding/GeometryFields.h"
 
-#include "encoding/KeyLiteral.h"
+#include "encoding/RecordKey.h"
 #include "platform/geometry/CLine2d.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "encoding/RecordKinds.h"
 
-#include "encoding/KeyLiteral.h"
+#include "encoding/RecordKey.h"
 
 #include <QJsonDocument>
 
