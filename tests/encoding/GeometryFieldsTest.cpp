@@ -37,7 +37,7 @@ Shape read(const QJsonObject &json)
     Shape shape;
     shape.axis = new vks::CLine2d({0, 0}, {1, 1});
     shape.exactAxis = shape.axis;
-    shape.outline = ORVCADJsonCGeometryObjOper().getPolyInfo(QStringLiteral("0,0;1,0;1,1;"));
+    shape.outline = GeometryTextReader::polygonOf(QStringLiteral("0,0;1,0;1,1;"));
     shape.exactOutline = shape.outline;
     readFields(json, Shape::table(), shape);
     return shape;
