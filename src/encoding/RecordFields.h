@@ -24,7 +24,7 @@
  *              field(key::id, &Hole::m_id, Flow::WriteOnly)); // meant: a hole in a reply is a new one
  *      };
  *
- *  and calls writeFields(*this, Fields::table, json) and readFields(json, Fields::table, record). */
+ *  and calls writtenFields(*this, Fields::table) and readFields(json, Fields::table, record). */
 namespace encoding {
 
 /** Which of the two directions a row takes part in. */
@@ -235,6 +235,14 @@ template <typename Record, typename Table> void writeFields(const Record &record
         if (row.flow != Flow::ReadOnly)
             row.write(record, json);
     });
+}
+
+/** A new object with those rows. */
+template <typename Record, typename Table> QJsonObject writtenFields(const Record &record, const Table &table)
+{
+    QJsonObject json;
+    writeFields(record, table, json);
+    return json;
 }
 
 /** Reads every row that is not write-only, in order.

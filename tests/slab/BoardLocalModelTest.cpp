@@ -1,4 +1,4 @@
-#include "slab/ORVCADBoardLocalModel_Sample.h"
+#include "slab/BoardLocalModel.h"
 
 #include "foundation/Log_AI.h"
 #include "slab/SlabModelFixture.h"
@@ -70,12 +70,12 @@ Objects fill(Model &model)
     return made;
 }
 
-class ORVCADBoardLocalModel_SampleTest : public SlabModelFixture
+class BoardLocalModelTest : public SlabModelFixture
 {};
 
 // ---- Creators
 
-TEST_F(ORVCADBoardLocalModel_SampleTest, newModelIsAnEmptyRoot)
+TEST_F(BoardLocalModelTest, newModelIsAnEmptyRoot)
 {
     EXPECT_EQ(model.childCount(), 0u);
     EXPECT_EQ(model.parent(), nullptr);
@@ -86,7 +86,7 @@ TEST_F(ORVCADBoardLocalModel_SampleTest, newModelIsAnEmptyRoot)
         EXPECT_THAT(one.read(model), IsEmpty()) << one.name;
 }
 
-TEST_F(ORVCADBoardLocalModel_SampleTest, creatorAppendsAnElementOfItsKind)
+TEST_F(BoardLocalModelTest, creatorAppendsAnElementOfItsKind)
 {
     quint64 count = 0;
     for (const Class &one : kClasses) {
@@ -98,7 +98,7 @@ TEST_F(ORVCADBoardLocalModel_SampleTest, creatorAppendsAnElementOfItsKind)
     }
 }
 
-TEST_F(ORVCADBoardLocalModel_SampleTest, creatorKeepsTheIdentityTold)
+TEST_F(BoardLocalModelTest, creatorKeepsTheIdentityTold)
 {
     for (const Class &one : kClasses)
         if (one.type != Object::AxisNetKind) {
@@ -106,12 +106,12 @@ TEST_F(ORVCADBoardLocalModel_SampleTest, creatorKeepsTheIdentityTold)
         }
 }
 
-TEST_F(ORVCADBoardLocalModel_SampleTest, axisNetHasNoIdentity)
+TEST_F(BoardLocalModelTest, axisNetHasNoIdentity)
 {
     EXPECT_TRUE(Access::add<Model::AxisNet>(model)->recongnizedID.isNull());
 }
 
-TEST_F(ORVCADBoardLocalModel_SampleTest, anIdentityMayStandTwice)
+TEST_F(BoardLocalModelTest, anIdentityMayStandTwice)
 {
     const auto *first = add<Model::Board>(kId);
     const auto *second = add<Model::Board>(kId);
@@ -122,7 +122,7 @@ TEST_F(ORVCADBoardLocalModel_SampleTest, anIdentityMayStandTwice)
 
 // ---- Readers
 
-TEST_F(ORVCADBoardLocalModel_SampleTest, readerGivesItsClassInChildOrder)
+TEST_F(BoardLocalModelTest, readerGivesItsClassInChildOrder)
 {
     const Objects made = fill(model);
     const std::size_t classes = std::size(kClasses);
@@ -130,13 +130,13 @@ TEST_F(ORVCADBoardLocalModel_SampleTest, readerGivesItsClassInChildOrder)
         EXPECT_THAT(kClasses[i].read(model), ElementsAre(made[i], made[i + classes])) << kClasses[i].name;
 }
 
-TEST_F(ORVCADBoardLocalModel_SampleTest, objectsGivesAllElementsInChildOrder)
+TEST_F(BoardLocalModelTest, objectsGivesAllElementsInChildOrder)
 {
     const Objects made = fill(model);
     EXPECT_EQ(model.objects(), made);
 }
 
-TEST_F(ORVCADBoardLocalModel_SampleTest, readersFollowTheOrderOfTheChildrenNow)
+TEST_F(BoardLocalModelTest, readersFollowTheOrderOfTheChildrenNow)
 {
     const auto *first = add<Model::Wall>();
     const auto *second = add<Model::Wall>();
@@ -146,7 +146,7 @@ TEST_F(ORVCADBoardLocalModel_SampleTest, readersFollowTheOrderOfTheChildrenNow)
     EXPECT_THAT(model.objects(), ElementsAre(third, second, first));
 }
 
-TEST_F(ORVCADBoardLocalModel_SampleTest, elementsDeeperInTheTreeStandBehindTheChildrenOfTheModel)
+TEST_F(BoardLocalModelTest, elementsDeeperInTheTreeStandBehindTheChildrenOfTheModel)
 {
     auto *outer = add<Model::Board>();
     auto *inOuter = new Model::Board(outer);
@@ -159,7 +159,7 @@ TEST_F(ORVCADBoardLocalModel_SampleTest, elementsDeeperInTheTreeStandBehindTheCh
     EXPECT_THAT(model.objects(), ElementsAre(outer, last, inOuter, alsoInOuter, inInner, inGroup));
 }
 
-TEST_F(ORVCADBoardLocalModel_SampleTest, readersGiveWhatTheSearchWithADynamicCastGives)
+TEST_F(BoardLocalModelTest, readersGiveWhatTheSearchWithADynamicCastGives)
 {
     Objects made = fill(model);
     for (std::size_t i = 0; i < made.size(); i += 3)
@@ -177,7 +177,7 @@ TEST_F(ORVCADBoardLocalModel_SampleTest, readersGiveWhatTheSearchWithADynamicCas
               search([](auto *node) { return dynamic_cast<Model::Beam *>(node) != nullptr; }));
 }
 
-TEST_F(ORVCADBoardLocalModel_SampleTest, logsAndOtherObjectsAreNoElements)
+TEST_F(BoardLocalModelTest, logsAndOtherObjectsAreNoElements)
 {
     new cv::Object_AI("group", &model);
     auto *board = add<Model::Board>();
@@ -196,7 +196,7 @@ struct Pile : Model::SectionObject
     explicit Pile(cv::Object_AI *parent) : SectionObject(static_cast<Types>(8192), parent) {}
 };
 
-TEST_F(ORVCADBoardLocalModel_SampleTest, elementOfAnotherClassIsAmongTheObjectsAlone)
+TEST_F(BoardLocalModelTest, elementOfAnotherClassIsAmongTheObjectsAlone)
 {
     auto *pile = new Pile(&model);
     const auto *column = add<Model::Column>();
@@ -217,7 +217,7 @@ struct AskingModel : Model
     std::vector<std::size_t> counts;
 };
 
-TEST_F(ORVCADBoardLocalModel_SampleTest, elementIsReadFromWhenItIsMadeAndNotWhileItIs)
+TEST_F(BoardLocalModelTest, elementIsReadFromWhenItIsMadeAndNotWhileItIs)
 {
     AskingModel asking;
     Access::add<Model::Board>(asking);
@@ -227,7 +227,7 @@ TEST_F(ORVCADBoardLocalModel_SampleTest, elementIsReadFromWhenItIsMadeAndNotWhil
 
 // ---- Search by kind
 
-TEST_F(ORVCADBoardLocalModel_SampleTest, findObjectsGivesTheKindsOfTheMaskInChildOrder)
+TEST_F(BoardLocalModelTest, findObjectsGivesTheKindsOfTheMaskInChildOrder)
 {
     const auto *hole = add<Model::BoardHole>();
     add<Model::Beam>();
@@ -237,14 +237,14 @@ TEST_F(ORVCADBoardLocalModel_SampleTest, findObjectsGivesTheKindsOfTheMaskInChil
     EXPECT_THAT(model.findObjects(4 | 8), ElementsAre(hole, board, second));
 }
 
-TEST_F(ORVCADBoardLocalModel_SampleTest, findObjectsByOneBitGivesOneKind)
+TEST_F(BoardLocalModelTest, findObjectsByOneBitGivesOneKind)
 {
     fill(model);
     for (const Class &one : kClasses)
         EXPECT_EQ(model.findObjects(one.type), one.read(model)) << one.name;
 }
 
-TEST_F(ORVCADBoardLocalModel_SampleTest, maskOfAllKindsGivesAllObjects)
+TEST_F(BoardLocalModelTest, maskOfAllKindsGivesAllObjects)
 {
     fill(model);
     EXPECT_EQ(model.findObjects(8191), model.objects());
@@ -252,14 +252,14 @@ TEST_F(ORVCADBoardLocalModel_SampleTest, maskOfAllKindsGivesAllObjects)
     EXPECT_EQ(Object::AllKinds, 8191);
 }
 
-TEST_F(ORVCADBoardLocalModel_SampleTest, maskWithoutKindsGivesNothing)
+TEST_F(BoardLocalModelTest, maskWithoutKindsGivesNothing)
 {
     fill(model);
     EXPECT_THAT(model.findObjects(0), IsEmpty());
     EXPECT_THAT(model.findObjects(8192), IsEmpty());
 }
 
-TEST_F(ORVCADBoardLocalModel_SampleTest, readersGoByClassAndFindObjectsByTheKindThatTextOverwrote)
+TEST_F(BoardLocalModelTest, readersGoByClassAndFindObjectsByTheKindThatTextOverwrote)
 {
     auto *column = add<Model::Column>();
     Access::setType(*column, 4 | 1);
@@ -279,7 +279,7 @@ TEST_F(ORVCADBoardLocalModel_SampleTest, readersGoByClassAndFindObjectsByTheKind
 static_assert(!std::is_copy_constructible_v<Model> && !std::is_copy_assignable_v<Model>);
 static_assert(std::is_base_of_v<cv::Object_AI, Model> && std::is_default_constructible_v<Model>);
 
-TEST_F(ORVCADBoardLocalModel_SampleTest, movedModelHasTheElementsAndTheOtherNone)
+TEST_F(BoardLocalModelTest, movedModelHasTheElementsAndTheOtherNone)
 {
     const Objects made = fill(model);
     model.setObjectName("F2");
@@ -294,7 +294,7 @@ TEST_F(ORVCADBoardLocalModel_SampleTest, movedModelHasTheElementsAndTheOtherNone
     EXPECT_EQ(model.childCount(), 0u);
 }
 
-TEST_F(ORVCADBoardLocalModel_SampleTest, modelThatWasMovedFromCanBeFilledAgain)
+TEST_F(BoardLocalModelTest, modelThatWasMovedFromCanBeFilledAgain)
 {
     fill(model);
     const Model moved(std::move(model));
@@ -303,7 +303,7 @@ TEST_F(ORVCADBoardLocalModel_SampleTest, modelThatWasMovedFromCanBeFilledAgain)
     EXPECT_EQ(moved.objects().size(), 2 * std::size(kClasses));
 }
 
-TEST_F(ORVCADBoardLocalModel_SampleTest, elementsDieWithTheModel)
+TEST_F(BoardLocalModelTest, elementsDieWithTheModel)
 {
     int dead = 0;
     {
@@ -314,7 +314,7 @@ TEST_F(ORVCADBoardLocalModel_SampleTest, elementsDieWithTheModel)
     EXPECT_EQ(dead, 26);
 }
 
-TEST_F(ORVCADBoardLocalModel_SampleTest, elementThatIsDeletedLeavesTheModel)
+TEST_F(BoardLocalModelTest, elementThatIsDeletedLeavesTheModel)
 {
     const auto *first = add<Model::Board>();
     const auto *second = add<Model::Board>();
@@ -322,7 +322,7 @@ TEST_F(ORVCADBoardLocalModel_SampleTest, elementThatIsDeletedLeavesTheModel)
     EXPECT_THAT(model.boards(), ElementsAre(second));
 }
 
-TEST_F(ORVCADBoardLocalModel_SampleTest, geometryIsSharedAndOutlivesTheModelWhereItIsHeld)
+TEST_F(BoardLocalModelTest, geometryIsSharedAndOutlivesTheModelWhereItIsHeld)
 {
     const PolygonPtr surface = rectangle(0, 0, 10, 20);
     {
@@ -334,9 +334,9 @@ TEST_F(ORVCADBoardLocalModel_SampleTest, geometryIsSharedAndOutlivesTheModelWher
     EXPECT_EQ(surface->HolderCount(), 1);
 }
 
-using ORVCADBoardLocalModel_SampleDeathTest = ORVCADBoardLocalModel_SampleTest;
+using BoardLocalModelDeathTest = BoardLocalModelTest;
 
-TEST_F(ORVCADBoardLocalModel_SampleDeathTest, modelMayNotDieOverALogOfAnElement)
+TEST_F(BoardLocalModelDeathTest, modelMayNotDieOverALogOfAnElement)
 {
     const auto die = [] {
         Model local;

@@ -1,4 +1,7 @@
-#include "slab/ORVCADBoardLocalModel_Sample.h"
+#include "slab/BoardLocalModel.h"
+
+#include "slab/BoardLocalModelBars.h"
+#include "slab/BoardLocalModelElements.h"
 
 #include <algorithm>
 #include <cstddef>
