@@ -237,7 +237,7 @@ template <typename Record, typename Table> void writeFields(const Record &record
     });
 }
 
-/** The same rows as an object of their own. */
+/** A new object with those rows. */
 template <typename Record, typename Table> QJsonObject writtenFields(const Record &record, const Table &table)
 {
     QJsonObject json;
