@@ -13,6 +13,8 @@ namespace {
 
 using beam::WriteStep;
 using propertyrows::isKnown;
+using propertyrows::kOffsets;
+using propertyrows::kSizes;
 using propertyrows::rowsOf;
 
 constexpr WriteStep kEntSteps[] = {WriteStep::AxisOffset, WriteStep::Type,       WriteStep::SpanCount,
@@ -38,8 +40,6 @@ QStringList entRows(qint64 type)
     return rows;
 }
 
-using propertyrows::kOffsets;
-using propertyrows::kSizes;
 const QStringList kSpannedBars{"TopThroughBar 0 true", "BottomThroughBar 0 true", "SideBar 0 true"};
 const QStringList kLinkBars{"TopHoriBar 0 true", "BottomHoriBar 0 true", "SideBarAL 0 true"};
 const QStringList kCommonBars{"HoopBar 0 true", "Limb 0 true", "TieBar 0 true"};
