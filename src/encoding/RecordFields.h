@@ -253,4 +253,20 @@ template <typename Table, typename Record> bool readFields(const QJsonObject &js
     return std::apply([&](const auto &...rows) { return (readRow(rows) && ...); }, table);
 }
 
+/** The same for a record that a caller may not have: null does nothing. */
+template <typename Table, typename Record>
+void readFieldsInto(Record *target, const Table &table, const QJsonObject &json)
+{
+    if (target)
+        readFields(json, table, *target);
+}
+
+/** A fresh record, read; behind a required key that is missing it keeps its defaults. */
+template <typename Record, typename Table> Record readRecord(const QJsonObject &json, const Table &table)
+{
+    Record record;
+    readFields(json, table, record);
+    return record;
+}
+
 } // namespace encoding

@@ -27,12 +27,9 @@
 #include "platform/host/IHBXSectionHolder.h"
 #include "platform/host/IHBXSectionPointSolidShape.h"
 #include "platform/host/IHBXService.h"
+#include "support/QStringPrinter.h"
 
 #include <gtest/gtest.h>
-
-#include <ostream>
-
-inline void PrintTo(const QString &text, std::ostream *out) { *out << '"' << text.toStdString() << '"'; }
 
 namespace hbx::embedded {
 

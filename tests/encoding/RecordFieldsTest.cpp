@@ -224,6 +224,30 @@ TEST(RecordFieldsTest, keysOfOthersStayInTheObject)
     EXPECT_EQ(json, (QJsonObject{{"other", 1}, {"count", 1}}));
 }
 
+TEST(RecordFieldsTest, writtenFieldsStandInAnObjectOfTheirOwn)
+{
+    EXPECT_EQ(writtenFields(Slab(), std::make_tuple(field("count"_key, &Slab::count))), (QJsonObject{{"count", 1}}));
+}
+
+TEST(RecordFieldsTest, readingIntoNoRecordDoesNothing)
+{
+    constexpr auto table = std::make_tuple(field("count"_key, &Slab::count));
+    Slab slab;
+    readFieldsInto(&slab, table, {{"count", 7}});
+    EXPECT_EQ(slab.count, 7);
+    readFieldsInto(static_cast<Slab *>(nullptr), table, {{"count", 8}});
+    EXPECT_EQ(slab.count, 7);
+}
+
+TEST(RecordFieldsTest, freshRecordKeepsItsDefaultsBehindAMissingRequiredKey)
+{
+    const auto table = std::make_tuple(field("count"_key, &Slab::count), fieldRequired("name"_key, &Slab::name),
+                                       field("elev"_key, &Slab::elev));
+    const auto slab = readRecord<Slab>({{"count", 7}, {"elev", 1.0}}, table);
+    EXPECT_EQ(slab.count, 7);
+    EXPECT_EQ(slab.elev, 3.5);
+}
+
 TEST(RecordFieldsTest, ownedRecordsAreNewAndRefusedOnesAreLeftOut)
 {
     struct Owner

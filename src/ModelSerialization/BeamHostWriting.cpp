@@ -1,6 +1,8 @@
-#include "ModelSerialization/HostWriting.h"
+#include "ModelSerialization/BeamHostWriting.h"
 
+#include "ModelSerialization/SectionInfoText.h"
 #include "beam/BeamKeys.h"
+#include "platform/geometry/CPolygon.h"
 #include "platform/host/HBXModelException.h"
 #include "platform/host/IHBXElement.h"
 #include "platform/host/IHBXElementDrawObj.h"
@@ -85,7 +87,7 @@ QString sectionInfo(const vks::CPolygon &polygon)
     const vks::CBox2<double> box = polygon.Box();
     const int alongX = dwgx::round(std::fabs(box.minPt.x - box.maxPt.x)) / kSectionStep + 1;
     const int alongY = dwgx::round(std::fabs(box.minPt.y - box.maxPt.y)) / kSectionStep + 1;
-    return QStringLiteral("100*%1;100*%2").arg(alongX).arg(alongY);
+    return sectionInfoText(alongX, alongY);
 }
 
 } // namespace beam
