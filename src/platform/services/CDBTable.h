@@ -11,7 +11,7 @@ namespace vks {
 class ORVCADPLATFORM_EXPORT CDBTable
 {
 public:
-    virtual ~CDBTable();
+    virtual ~CDBTable() = default;
 
     /** Finds the rows that a condition selects, in table order.
      *

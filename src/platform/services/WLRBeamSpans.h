@@ -8,7 +8,7 @@ class IWLRBeamSpan;
 class ORVCADPLATFORM_EXPORT WLRBeamSpans
 {
 public:
-    virtual ~WLRBeamSpans();
+    virtual ~WLRBeamSpans() = default;
 
     virtual int count() const = 0;
     /** Belongs to the set; null for a position out of range. */

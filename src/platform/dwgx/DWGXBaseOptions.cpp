@@ -1,7 +1,0 @@
-#include "platform/dwgx/DWGXBaseOptions.h"
-
-namespace dwgx {
-
-DWGXBaseOptions::~DWGXBaseOptions() = default;
-
-} // namespace dwgx

@@ -1,7 +1,0 @@
-#include "platform/dwgx/DWGXColumnInfo.h"
-
-namespace dwgx {
-
-DWGXColumnInfo::~DWGXColumnInfo() = default;
-
-} // namespace dwgx

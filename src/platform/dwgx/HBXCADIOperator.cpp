@@ -1,3 +1,0 @@
-#include "platform/dwgx/HBXCADIOperator.h"
-
-HBXCADIOperator::~HBXCADIOperator() = default;

@@ -1,7 +1,0 @@
-#include "platform/services/CDBTable.h"
-
-namespace vks {
-
-CDBTable::~CDBTable() = default;
-
-} // namespace vks

@@ -1,7 +1,0 @@
-#include "platform/services/CDatabase.h"
-
-namespace vks {
-
-CDatabase::~CDatabase() = default;
-
-} // namespace vks

@@ -1,5 +1,0 @@
-#include "platform/services/TWLRCustomHoopBars.h"
-
-IWLRCustomHoopBars::~IWLRCustomHoopBars() = default;
-
-TWLRCustomHoopBars::~TWLRCustomHoopBars() = default;

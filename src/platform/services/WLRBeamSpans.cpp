@@ -1,3 +1,0 @@
-#include "platform/services/WLRBeamSpans.h"
-
-WLRBeamSpans::~WLRBeamSpans() = default;
