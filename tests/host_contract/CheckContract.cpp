@@ -63,6 +63,15 @@ void outline(IHBXElementDrawObj &slab, double left, double bottom, double right,
 
 } // namespace
 
+HostCheckContract::Bars HostCheckContract::barsOfOneArea() const
+{
+    IHBXElement &element = makeElement(22);
+    const Bars bars{placed(element), makeDrawObj(element)};
+    for (IHBXElementDrawObj *drawObj : {&bars.there, &bars.bar})
+        shapeOf<IHBXFaceShape2D>(*drawObj).setPolygon(rectangle(0, 0, 5000, 4000));
+    return bars;
+}
+
 TEST_P(HostCheckContract, nothingIsNotAcceptable) { EXPECT_TRUE(refusesAlone(model(), nullptr)); }
 
 TEST_P(HostCheckContract, objectWithGeometryIsAcceptableBeforeAndAfterItIsEntered)
@@ -188,11 +197,7 @@ TEST_P(HostCheckContract, lineBarsAreTheSameWhenTheyShareTheirWholeLength)
 
 TEST_P(HostCheckContract, barsOfOneAreaAreAcceptableWhenPositionOrBarsDiffer)
 {
-    IHBXElement &element = makeElement(22);
-    IHBXElementDrawObj &there = placed(element);
-    IHBXElementDrawObj &bar = makeDrawObj(element);
-    for (IHBXElementDrawObj *object : {&there, &bar})
-        shapeOf<IHBXFaceShape2D>(*object).setPolygon(rectangle(0, 0, 5000, 4000));
+    const auto &[there, bar] = barsOfOneArea();
     EXPECT_TRUE(refusesFor(model(), bar, there));
     propertiesOf(bar).setInt(L"Position", 1, true);
     EXPECT_TRUE(accepts(model(), bar));
@@ -204,11 +209,7 @@ TEST_P(HostCheckContract, barsOfOneAreaAreAcceptableWhenPositionOrBarsDiffer)
 
 TEST_P(HostCheckContract, barsOfOneAreaAreAcceptableWhenTypeOrCurveDiffer)
 {
-    IHBXElement &element = makeElement(22);
-    IHBXElementDrawObj &there = placed(element);
-    IHBXElementDrawObj &bar = makeDrawObj(element);
-    for (IHBXElementDrawObj *object : {&there, &bar})
-        shapeOf<IHBXFaceShape2D>(*object).setPolygon(rectangle(0, 0, 5000, 4000));
+    const auto &[there, bar] = barsOfOneArea();
     propertiesOf(bar).setInt(L"Type", 1, true);
     EXPECT_TRUE(accepts(model(), bar));
     propertiesOf(there).setInt(L"Type", 1, true);

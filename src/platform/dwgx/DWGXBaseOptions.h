@@ -10,7 +10,7 @@ namespace dwgx {
 class ORVCADPLATFORM_EXPORT DWGXBaseOptions
 {
 public:
-    virtual ~DWGXBaseOptions() = default;
+    virtual ~DWGXBaseOptions();
 
     /** Value of the option that the user sees under a label, in the language of the labels; the store's own default for
      *  an option that is not set, 0 for a label that it does not know. */

@@ -12,7 +12,7 @@ class ORVCADPLATFORM_EXPORT DWGXColumnInfo
 {
 public:
     DWGXColumnInfo() = default;
-    virtual ~DWGXColumnInfo() = default;
+    virtual ~DWGXColumnInfo();
     DWGXColumnInfo(const DWGXColumnInfo &) = default;
     DWGXColumnInfo &operator=(const DWGXColumnInfo &) = default;
 

@@ -12,7 +12,7 @@ class DWGXModel;
 class ORVCADPLATFORM_EXPORT HBXCADIOperator
 {
 public:
-    virtual ~HBXCADIOperator() = default;
+    virtual ~HBXCADIOperator();
 
     /** Replaces the content of the model by that of a file and sets its file path. Extension data of the file goes into
      *  the data that is attached to the model, or is attached when there is none. False, and the model as it was, for a

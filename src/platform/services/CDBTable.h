@@ -11,7 +11,7 @@ namespace vks {
 class ORVCADPLATFORM_EXPORT CDBTable
 {
 public:
-    virtual ~CDBTable() = default;
+    virtual ~CDBTable();
 
     /** Finds the rows that a condition selects, in table order.
      *

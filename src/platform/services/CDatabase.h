@@ -9,7 +9,7 @@ namespace vks {
 class ORVCADPLATFORM_EXPORT CDatabase
 {
 public:
-    virtual ~CDatabase() = default;
+    virtual ~CDatabase();
 
     /** The table of that exact name, null when there is none. It belongs to the database. */
     virtual CDBTable *GetTable(const QString &name) = 0;

@@ -8,7 +8,7 @@
 class ORVCADPLATFORM_EXPORT IWLRCustomHoopBars
 {
 public:
-    virtual ~IWLRCustomHoopBars() = default;
+    virtual ~IWLRCustomHoopBars();
 };
 
 /** Those that are kept as one text. */
@@ -16,6 +16,7 @@ class ORVCADPLATFORM_EXPORT TWLRCustomHoopBars : public IWLRCustomHoopBars
 {
 public:
     explicit TWLRCustomHoopBars(const QString &text) : m_text(text) {}
+    ~TWLRCustomHoopBars() override;
 
     QString getAsString() const { return m_text; }
 

@@ -8,7 +8,7 @@ class IWLRBeamSpan;
 class ORVCADPLATFORM_EXPORT WLRBeamSpans
 {
 public:
-    virtual ~WLRBeamSpans() = default;
+    virtual ~WLRBeamSpans();
 
     virtual int count() const = 0;
     /** Belongs to the set; null for a position out of range. */

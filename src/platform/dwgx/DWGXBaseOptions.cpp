@@ -1,0 +1,7 @@
+#include "platform/dwgx/DWGXBaseOptions.h"
+
+namespace dwgx {
+
+DWGXBaseOptions::~DWGXBaseOptions() = default;
+
+} // namespace dwgx

@@ -1,0 +1,7 @@
+#include "platform/dwgx/DWGXColumnInfo.h"
+
+namespace dwgx {
+
+DWGXColumnInfo::~DWGXColumnInfo() = default;
+
+} // namespace dwgx

@@ -1,0 +1,3 @@
+#include "platform/dwgx/HBXCADIOperator.h"
+
+HBXCADIOperator::~HBXCADIOperator() = default;

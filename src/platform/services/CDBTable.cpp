@@ -1,0 +1,7 @@
+#include "platform/services/CDBTable.h"
+
+namespace vks {
+
+CDBTable::~CDBTable() = default;
+
+} // namespace vks

@@ -1,0 +1,7 @@
+#include "platform/services/CDatabase.h"
+
+namespace vks {
+
+CDatabase::~CDatabase() = default;
+
+} // namespace vks

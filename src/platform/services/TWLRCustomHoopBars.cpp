@@ -1,0 +1,5 @@
+#include "platform/services/TWLRCustomHoopBars.h"
+
+IWLRCustomHoopBars::~IWLRCustomHoopBars() = default;
+
+TWLRCustomHoopBars::~TWLRCustomHoopBars() = default;

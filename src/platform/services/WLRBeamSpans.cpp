@@ -1,0 +1,3 @@
+#include "platform/services/WLRBeamSpans.h"
+
+WLRBeamSpans::~WLRBeamSpans() = default;
