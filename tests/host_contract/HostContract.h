@@ -179,13 +179,15 @@ class HostAxisGridContract : public HostContract
 class HostCheckContract : public HostContract
 {
 protected:
-    struct Bars
+    struct Twins
     {
         IHBXElementDrawObj &there; ///< entered
-        IHBXElementDrawObj &bar;   ///< not entered
+        IHBXElementDrawObj &again; ///< not entered
     };
-    /** Two area bars (22) of one element with the same outline. */
-    Bars barsOfOneArea() const;
+    /** Two draw objects of one element with the same outline. */
+    template <typename Shape> Twins twins(qint64 type) const;
+    Twins slabs() const;
+    Twins areaBars() const;
 };
 class HostBatchContract : public HostContract
 {};

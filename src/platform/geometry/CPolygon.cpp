@@ -22,6 +22,16 @@ std::vector<double> signedParts(const std::vector<CRefPtr<CLoop>> &loops)
     return areas;
 }
 
+constexpr CVec2<double> kXAxis(1, 0);
+constexpr CVec2<double> kYAxis(0, 1);
+
+/** Whether a side is straight and runs along an axis, either way, within an angle, rad. */
+bool runsAlong(const CCurve2d &side, const CVec2<double> &axis, double angleTolerance)
+{
+    return side.Type() == CCurve2d::kLine && side.Length() > g_DistEpsilon &&
+           std::fabs(axis.Cross(side.StartVt())) <= std::sin(angleTolerance);
+}
+
 } // namespace
 
 void CPolygon::AddLoop(CLoop *loop, bool takeOver)
@@ -113,17 +123,12 @@ bool CPolygon::IsRectangle(double angleTolerance) const
 {
     if (LoopCount() != 1 || m_loops[0]->CurveCount() != 4 || !m_loops[0]->IsClosed(g_DistEpsilon))
         return false;
-    for (int i = 0; i < 4; ++i) {
-        const CCurve2d &side = *m_loops[0]->GetCurve(i);
-        const CVec2<double> direction = side.StartVt();
-        // The first side tells which axis the odd and which the even sides follow.
-        const CVec2<double> axis = (i % 2 == 0) == (std::fabs(m_loops[0]->GetCurve(0)->StartVt().x) > 0.5)
-                                       ? CVec2<double>(1, 0)
-                                       : CVec2<double>(0, 1);
-        if (side.Type() != CCurve2d::kLine || !(side.Length() > g_DistEpsilon) ||
-            !(std::fabs(axis.Cross(direction)) <= std::sin(angleTolerance)))
+    const auto &sides = m_loops[0]->Curves();
+    // The first side tells which axis the odd and which the even sides follow.
+    const bool startsAlongX = std::fabs(sides[0]->StartVt().x) > 0.5;
+    for (std::size_t i = 0; i < sides.size(); ++i)
+        if (!runsAlong(*sides[i], (i % 2 == 0) == startsAlongX ? kXAxis : kYAxis, angleTolerance))
             return false;
-    }
     return true;
 }
 
