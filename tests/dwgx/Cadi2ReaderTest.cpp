@@ -55,15 +55,14 @@ TEST(Cadi2ReaderTest, drawingHasWhatTheDocumentTells)
 TEST(Cadi2ReaderTest, membersThatMayBeMissingLeaveTheDefaults)
 {
     dwgx::JsonRefusal refusal;
-    const auto drawing = readCadi2(withLines(R"({"id": 1, "curve": "LINESTRING(0 0, 1 0)"
-})"), refusal);
+    const auto drawing = readCadi2(withLines(R"json({"id": 1, "curve": "LINESTRING(0 0, 1 0)"})json"), refusal);
     ASSERT_TRUE(drawing);
-EXPECT_EQ(drawing->getTitle(), QString());
-EXPECT_EQ(drawing->getCADExtData(), nullptr);
-EXPECT_EQ(drawing->getViewerInfoData().zoom, 1.0F);
-EXPECT_EQ(drawing->layers().front().lines.front().color, dwgx::kColorByLayer);
-EXPECT_EQ(drawing->layers().front().lines.front().blockId, 0);
-EXPECT_EQ(drawing->textCount(), 0);
+    EXPECT_EQ(drawing->getTitle(), QString());
+    EXPECT_EQ(drawing->getCADExtData(), nullptr);
+    EXPECT_EQ(drawing->getViewerInfoData().zoom, 1.0F);
+    EXPECT_EQ(drawing->layers().front().lines.front().color, dwgx::kColorByLayer);
+    EXPECT_EQ(drawing->layers().front().lines.front().blockId, 0);
+    EXPECT_EQ(drawing->textCount(), 0);
 }
 
 TEST(Cadi2ReaderTest, newerFileIsCalledNewerWhateverElseIsInIt)
@@ -83,17 +82,15 @@ TEST(Cadi2ReaderTest, whatIsNoJsonObjectIsRefused)
 TEST(Cadi2ReaderTest, curveIsTheWholeTextOfOneLineOrArc)
 {
     const std::string refused = "layers[0].lines[0].curve: is not the text of a line or an arc";
-    EXPECT_EQ(refusalOf(withLines(R"({"id": 1, "curve": "LINESTRING(0 0, 1 0)"
-})")), "");
-    EXPECT_EQ(refusalOf(withLines(R"({"id": 1, "curve": "POLYGON((0 0, 1 0, 1 1, 0 0))"
-})")), refused);
-    EXPECT_EQ(refusalOf(withLines(R"({"id": 1, "curve": "LINESTRING(0 0, 1 0)\u0000 and more"})")), refused);
-EXPECT_EQ(refusalOf(withLines(R"({"id": 1, "curve": ""})")), refused);
+    EXPECT_EQ(refusalOf(withLines(R"json({"id": 1, "curve": "LINESTRING(0 0, 1 0)"})json")), "");
+    EXPECT_EQ(refusalOf(withLines(R"json({"id": 1, "curve": "POLYGON((0 0, 1 0, 1 1, 0 0))"})json")), refused);
+    EXPECT_EQ(refusalOf(withLines(R"json({"id": 1, "curve": "LINESTRING(0 0, 1 0)\u0000 and more"})json")), refused);
+    EXPECT_EQ(refusalOf(withLines(R"json({"id": 1, "curve": ""})json")), refused);
 }
 
 TEST(Cadi2ReaderTest, idStandsOnceInTheDrawing)
 {
-    const QByteArray line = R"({"id": 5, "curve": "LINESTRING(0 0, 1 0)"})";
+    const QByteArray line = R"json({"id": 5, "curve": "LINESTRING(0 0, 1 0)"})json";
     EXPECT_EQ(refusalOf(withLines(line + ", " + line)), "layers[0].lines[1].id: stands twice in the drawing");
 }
 
