@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ORVCADPlatformExport.h"
-#include "platform/geometry/CVec2.h"
+#include "platform/geometry/Ring.h"
 
 #include <memory>
 #include <vector>
@@ -10,9 +10,6 @@ struct GEOSGeom_t;
 struct GEOSContextHandle_HS;
 
 namespace vks {
-
-/** Corners of a closed ring; the first is not repeated at the end. */
-using Ring = std::vector<CVec2<double>>;
 
 /** What the kernel needs of GEOS: a context and owned geometry. GEOS tells of exceptions by null, never by throwing,
  *  and its messages go nowhere. */
