@@ -6,31 +6,9 @@
 
 namespace hbx::embedded {
 
-vks::CRefPtr<vks::CCurve2d> &HBXLineSolidShape::curve(vks::CRefPtr<vks::CCurve2d> &out, bool) const
-{
-    return out = m_axis;
-}
-
-void HBXLineSolidShape::setLine(const vks::CCurve2d *axis)
-{
-    m_axis = copyOf(axis);
-    changed();
-}
-
-vks::CRefPtr<vks::CCurve2d> &HBXLineSolidShape::localLine(vks::CRefPtr<vks::CCurve2d> &out, bool) const
-{
-    return out = m_axis;
-}
-
-vks::CRefPtr<vks::CCurve2d> &HBXLineSolidShape::worldLine(vks::CRefPtr<vks::CCurve2d> &out, bool) const
-{
-    return out = worldCurve();
-}
-
 ShapeRecord HBXLineSolidShape::record() const
 {
-    ShapeRecord record = HBXShapeOf::record();
-    record.curve = m_axis;
+    ShapeRecord record = HBXCurveShapeOf::record();
     record.width = m_width;
     record.distanceToLeft = m_distanceToLeft;
     return record;
@@ -38,10 +16,9 @@ ShapeRecord HBXLineSolidShape::record() const
 
 void HBXLineSolidShape::restore(const ShapeRecord &record)
 {
-    m_axis = record.curve;
     m_width = record.width;
     m_distanceToLeft = record.distanceToLeft;
-    HBXShapeOf::restore(record);
+    HBXCurveShapeOf::restore(record);
 }
 
 void HBXLineSolidShape::followProperties(const PropertyEntry *)
@@ -55,7 +32,7 @@ void HBXLineSolidShape::followProperties(const PropertyEntry *)
 
 vks::CRefPtr<vks::CPolygon> HBXLineSolidShape::ownOutline() const
 {
-    return vks::GPolygonBuilder::CreatePolygon(m_axis, distanceToLeft(), m_width - distanceToLeft());
+    return vks::GPolygonBuilder::CreatePolygon(ownCurve(), distanceToLeft(), m_width - distanceToLeft());
 }
 
 } // namespace hbx::embedded
