@@ -1,5 +1,6 @@
 #include "platform/embedded/HBXDrawingLayers.h"
 
+#include "platform/services/HBXElementTypeTable.h"
 #include "platform/services/HBXOptionNames.h"
 #include "platform/services/OptionGroupReader.h"
 

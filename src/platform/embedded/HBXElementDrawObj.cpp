@@ -1,6 +1,7 @@
 #include "platform/embedded/HBXElementDrawObj.h"
 
 #include "platform/embedded/HBXModel.h"
+#include "platform/embedded/HBXPlacedShape.h"
 
 #include <algorithm>
 #include <iterator>
@@ -39,6 +40,8 @@ HBXFloor &HBXElementDrawObj::ownFloor() const { return m_element.ownFloor(); }
 HBXModel &HBXElementDrawObj::model() const { return m_element.model(); }
 
 IHBXElement *HBXElementDrawObj::element() const { return &m_element; }
+
+IHBXShape *HBXElementDrawObj::shape() { return m_shape->asShape(); }
 
 IHBXElementDrawObj *HBXElementDrawObj::cloneDrawObj(int, int, int)
 {

@@ -1,6 +1,7 @@
 #include "platform/embedded/HBXPlaceIndex.h"
 
 #include "platform/embedded/HBXElementDrawObj.h"
+#include "platform/embedded/HBXPlacedShape.h"
 
 #include <algorithm>
 #include <cmath>

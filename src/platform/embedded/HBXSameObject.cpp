@@ -1,6 +1,7 @@
 #include "platform/embedded/HBXSameObject.h"
 
 #include "platform/embedded/HBXElementDrawObj.h"
+#include "platform/embedded/HBXPlacedShape.h"
 #include "platform/embedded/HBXPropertyValue.h"
 #include "platform/geometry/PolygonRelation.h"
 

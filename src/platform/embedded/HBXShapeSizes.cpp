@@ -1,5 +1,6 @@
 #include "platform/embedded/HBXShapeSizes.h"
 
+#include "platform/embedded/HBXProperties.h"
 #include "platform/geometry/CArc2d.h"
 #include "platform/geometry/CLine2d.h"
 
