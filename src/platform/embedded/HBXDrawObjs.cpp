@@ -1,5 +1,6 @@
 #include "platform/embedded/HBXDrawObjs.h"
 
+#include "platform/embedded/HBXElementTypes.h"
 #include "platform/embedded/HBXFloorQuery.h"
 #include "platform/embedded/HBXModel.h"
 #include "platform/embedded/HBXPlacedShape.h"
@@ -11,7 +12,7 @@ namespace hbx::embedded {
 namespace {
 
 /** Two ways of asking for any sub-type. */
-constexpr int kAnySubTypes[] = {-1, 65535};
+constexpr qint64 kAnySubTypes[] = {-1, 65535};
 
 } // namespace
 
@@ -71,7 +72,7 @@ void HBXDrawObjs::queryDrawObjsOfFloor(QList<IHBXElementDrawObj *> &out, int flo
                                        bool on)
 {
     queryDrawObjs(out, {floorId}, {elementType}, on);
-    if (std::find(std::begin(kAnySubTypes), std::end(kAnySubTypes), subType) != std::end(kAnySubTypes))
+    if (isOneOf(subType, kAnySubTypes))
         return;
     const auto isOther = [subType](const IHBXElementDrawObj *object) { return object->subType() != subType; };
     out.erase(std::remove_if(out.begin(), out.end(), isOther), out.end());

@@ -1,7 +1,9 @@
 #include "platform/embedded/HBXElements.h"
 
+#include "platform/embedded/HBXElementTypes.h"
 #include "platform/embedded/HBXFloorQuery.h"
 #include "platform/embedded/HBXModel.h"
+#include "platform/embedded/HBXPropertyNames.h"
 #include "platform/host/HBXModelException.h"
 #include "platform/services/HBXElementTypeTable.h"
 
@@ -10,8 +12,7 @@
 namespace hbx::embedded {
 namespace {
 
-constexpr qint64 kUnitTypes[] = {82, 83};
-constexpr qint64 kHoleType = 24;
+constexpr qint64 kUnitTypes[] = {type::isolatedFoundationUnit, type::pileCapUnit};
 
 /** Sub-types of holes and the "SectionTypeID" that a new one gets: rectangle, circle, any outline. */
 struct HoleSection
@@ -24,8 +25,8 @@ constexpr HoleSection kHoleSections[] = {{153, 0}, {154, 1}, {167, 2}};
 PropertyRecords firstProperties(qint64 type, qint64 subType)
 {
     for (const HoleSection &section : kHoleSections)
-        if (type == kHoleType && subType == section.subType)
-            return {{QStringLiteral("SectionTypeID"), section.sectionType}};
+        if (type == type::slabHole && subType == section.subType)
+            return {{QString::fromWCharArray(property::sectionTypeId), section.sectionType}};
     return {};
 }
 
@@ -48,10 +49,7 @@ QString typeName(qint64 type)
 
 } // namespace
 
-bool isUnitType(qint64 type)
-{
-    return std::find(std::begin(kUnitTypes), std::end(kUnitTypes), type) != std::end(kUnitTypes);
-}
+bool isUnitType(qint64 type) { return isOneOf(type, kUnitTypes); }
 
 IHBXElement *HBXElements::createElement(qint64 type, qint64 subType, IHBXElement *parent, IHBXFloor *floor, int,
                                         const QString &name, int)

@@ -1,6 +1,7 @@
 #include "platform/embedded/HBXFaceSolidShape.h"
 
 #include "platform/embedded/HBXElementDrawObj.h"
+#include "platform/embedded/HBXPropertyNames.h"
 #include "platform/embedded/HBXShapeSizes.h"
 
 namespace hbx::embedded {
@@ -20,7 +21,7 @@ void HBXFaceSolidShape::restore(const ShapeRecord &record)
 
 void HBXFaceSolidShape::followProperties(const PropertyEntry *)
 {
-    const auto thickness = sizeIn(owner().propertySet(), {L"Thickness"});
+    const auto thickness = sizeIn(owner().propertySet(), {property::thickness});
     if (!thickness)
         return;
     m_height = 0.0 - *thickness; // not -0.0

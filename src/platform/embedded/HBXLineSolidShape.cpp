@@ -1,6 +1,7 @@
 #include "platform/embedded/HBXLineSolidShape.h"
 
 #include "platform/embedded/HBXElementDrawObj.h"
+#include "platform/embedded/HBXPropertyNames.h"
 #include "platform/embedded/HBXShapeSizes.h"
 #include "platform/geometry/GPolygonBuilder.h"
 
@@ -24,8 +25,8 @@ void HBXLineSolidShape::restore(const ShapeRecord &record)
 void HBXLineSolidShape::followProperties(const PropertyEntry *)
 {
     const HBXProperties &properties = owner().propertySet();
-    const double offset = sizeIn(properties, {L"AxisOffset"}).value_or(0.0);
-    m_width = sizeIn(properties, {L"Thickness", L"SectionWidth"}).value_or(m_width);
+    const double offset = sizeIn(properties, {property::axisOffset}).value_or(0.0);
+    m_width = sizeIn(properties, {property::thickness, property::sectionWidth}).value_or(m_width);
     m_distanceToLeft = offset == 0.0 ? std::nullopt : std::optional(m_width / 2 + offset);
     changed();
 }

@@ -2,6 +2,7 @@
 
 #include "platform/embedded/HBXElementDrawObj.h"
 #include "platform/embedded/HBXOpeningSeat.h"
+#include "platform/embedded/HBXPropertyNames.h"
 #include "platform/embedded/HBXShapeSizes.h"
 
 #include <cmath>
@@ -87,7 +88,7 @@ template <typename Interface, IHBXShape::Kind kKind>
 vks::CRefPtr<vks::CPolygon> HBXPointShapeOf<Interface, kKind>::outlineOfProperties() const
 {
     const HBXProperties &properties = this->owner().propertySet();
-    const auto openingWidth = sizeIn(properties, {L"OpeningWidth"});
+    const auto openingWidth = sizeIn(properties, {property::openingWidth});
     return openingWidth ? openingOutline(*openingWidth, this->outline()) : sectionOutline(properties);
 }
 
