@@ -79,12 +79,24 @@ TEST_F(HBXPlaceIndexTest, removedObjectsAreFoundNowhereFiledOrNot)
     EXPECT_TRUE(meeting(place).isEmpty());
 }
 
-TEST_F(HBXPlaceIndexTest, boxesThatAreNoPlaceMeetNothing)
+TEST_F(HBXPlaceIndexTest, emptyBoxesAndBoxesThatAreNoNumbersMeetNothing)
 {
-    constexpr double kInf = std::numeric_limits<double>::infinity();
+    constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
     barFrom({0, 0}, {100, 0});
     EXPECT_TRUE(meeting(Box(), 1e9).isEmpty());
-    EXPECT_TRUE(meeting({{-kInf, -kInf}, {kInf, kInf}}).isEmpty());
+    EXPECT_TRUE(meeting({{kNan, 0}, {100, 0}}).isEmpty());
+    EXPECT_TRUE(meeting({{0, 0}, {100, 0}}, kNan).isEmpty());
+    EXPECT_TRUE(meeting({{0, 0}, {100, 0}}, -60.0).isEmpty()); // nothing is left of it
+}
+
+TEST_F(HBXPlaceIndexTest, aBoxWithoutBoundsMeetsAllThatStandsInIt)
+{
+    constexpr double kInf = std::numeric_limits<double>::infinity();
+    IHBXElementDrawObj *left = barFrom({-500, 0}, {-100, 0});
+    IHBXElementDrawObj *right = barFrom({100, 0}, {500, 0});
+    EXPECT_EQ(meeting({{-kInf, -kInf}, {kInf, kInf}}), (Objects{left, right}));
+    EXPECT_EQ(meeting({{0, -kInf}, {kInf, kInf}}), Objects{right});
+    EXPECT_EQ(meeting({{0, 0}, {0, 0}}, kInf), (Objects{left, right}));
 }
 
 TEST_F(HBXPlaceIndexTest, placesBeyondTheOutermostCellsAreToldApart)
