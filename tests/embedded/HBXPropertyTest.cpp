@@ -6,10 +6,9 @@ namespace {
 class HBXPropertyTest : public EmbeddedBuilding
 {
 protected:
-    IHBXElement *slabElement = element(19, "S", "F2");
-    IHBXProperties *ofElement = slabElement->properties();
-    IHBXElementDrawObj *object = placed(slabElement);
+    IHBXElementDrawObj *object = placed(element(19));
     IHBXProperties *ofObject = object->properties();
+    IHBXProperties *ofElement = object->element()->properties();
     std::shared_ptr<IHBXProperty> property;
 };
 

@@ -1,6 +1,7 @@
 #include "platform/embedded/HBXAxisGrid.h"
 
 #include "platform/embedded/HBXElementTypes.h"
+#include "platform/embedded/HBXGridShape.h"
 #include "platform/host/IHBXElementDrawObj.h"
 
 namespace hbx::embedded {

@@ -12,7 +12,7 @@ namespace hbx::embedded {
 namespace {
 
 /** Two ways of asking for any sub-type. */
-constexpr qint64 kAnySubTypes[] = {-1, 65535};
+constexpr qint64 kAnySubTypes[] = {kAnySubType, 65535};
 
 } // namespace
 

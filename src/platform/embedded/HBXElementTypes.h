@@ -44,6 +44,10 @@ inline constexpr qint64 brickWall = 1003;
 
 namespace hbx::embedded {
 
+/** In type and sub-type arguments: objects of any. */
+inline constexpr qint64 kAnyType = -1;
+inline constexpr int kAnySubType = -1;
+
 /** Whether a type or sub-type stands in a short list of them. */
 template <std::size_t N> bool isOneOf(qint64 wanted, const qint64 (&types)[N])
 {

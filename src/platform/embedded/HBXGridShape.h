@@ -11,7 +11,7 @@ class HBXGridShape final : public HBXOutlineShapeOf<IHBXGridShape, IHBXShape::kG
 public:
     using HBXOutlineShapeOf::HBXOutlineShapeOf;
 
-    using Axes = std::array<std::vector<HBXAxis>, IHBXAxisGrid::kGroupCount>;
+    using Axes = decltype(ShapeRecord::axes);
 
     const Axes &axes() const { return m_axes; }
 
