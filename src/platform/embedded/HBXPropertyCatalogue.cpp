@@ -12,8 +12,8 @@ namespace {
 PropertyEntry entryOf(const rows::PropertyRow &row)
 {
     PropertyEntry entry;
-    entry.name = QString::fromLatin1(row.name);
-    entry.alias = QString::fromLatin1(row.alias);
+    entry.name = QString::fromWCharArray(row.name);
+    entry.alias = QString::fromWCharArray(row.alias);
     entry.kind = row.kind;
     entry.owner = row.owner;
     entry.role = row.role;
