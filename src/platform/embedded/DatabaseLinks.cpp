@@ -1,6 +1,6 @@
 #include "platform/embedded/DatabaseLinks.h"
 
-#include "platform/embedded/HBXDatabaseSchema.h"
+#include "platform/embedded/DatabaseRefusal.h"
 
 #include <QHash>
 #include <QSet>

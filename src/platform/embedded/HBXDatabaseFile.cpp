@@ -1,7 +1,11 @@
 #include "platform/embedded/HBXDatabaseFile.h"
 
+#include "platform/embedded/DatabaseRefusal.h"
 #include "platform/embedded/HBXDatabaseReader.h"
+#include "platform/embedded/HBXDatabaseSchema.h"
 #include "platform/embedded/HBXDatabaseWriter.h"
+#include "platform/embedded/HBXProject.h"
+#include "platform/embedded/SqliteStatement.h"
 
 #include <QFile>
 #include <QFileInfo>

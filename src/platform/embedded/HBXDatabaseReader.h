@@ -1,10 +1,10 @@
 #pragma once
 
-#include "platform/embedded/HBXDatabaseSchema.h"
 #include "platform/embedded/HBXProjectRecords.h"
-#include "platform/embedded/SqliteStatement.h"
 
 namespace hbx::embedded {
+
+class SqliteConnection;
 
 /** Reads all tables of a project file whose schema is known to be sound. Throws DatabaseRefusal for content that no
  *  project writes, SqliteError for what SQLite itself refuses. */

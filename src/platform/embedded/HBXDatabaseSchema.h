@@ -1,17 +1,10 @@
 #pragma once
 
-#include "platform/embedded/SqliteConnection.h"
-
 #include <QByteArray>
 
 namespace hbx::embedded {
 
-/** Why a project file was refused: where in it, and the reason. Thrown by what reads and writes project files. */
-struct DatabaseRefusal
-{
-    QString place; ///< such as shape[draw_object_id=17].outline; empty for the file
-    QString reason;
-};
+class SqliteConnection;
 
 /** Tables of a project file (docs/formats/hbxdb.md). */
 namespace schema {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/embedded/HBXDatabaseFile.h"
+#include "platform/embedded/HBXProjectRecords.h"
 #include "platform/embedded/SqliteStatement.h"
 
 namespace hbx::embedded {

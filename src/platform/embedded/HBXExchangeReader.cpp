@@ -2,6 +2,7 @@
 
 #include "platform/embedded/ExchangeFloorReader.h"
 #include "platform/embedded/ExchangeFormat.h"
+#include "platform/embedded/HBXProject.h"
 
 #include <QJsonDocument>
 #include <QSet>

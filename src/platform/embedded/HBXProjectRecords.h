@@ -122,4 +122,15 @@ struct ProjectRecord
     qint64 nextId = 1; ///< first id that was never used
 };
 
+/** What a save writes: of content, the name, source, plane rule and next id, and the elements and draw objects that are
+ *  new or changed; its other members only where they are said to stand in it. */
+struct ProjectUpdate
+{
+    ProjectRecord content;
+    bool hasOptions = false;
+    bool hasMaterials = false;
+    std::vector<qint64> removedElements;
+    std::vector<qint64> removedDrawObjs;
+};
+
 } // namespace hbx::embedded
