@@ -15,7 +15,7 @@ namespace hbx::embedded {
 
 /** Reads the rows of a property table, whose columns are owner, position, name and value. Names and elevations repeat
  *  from object to object, so each is looked up and checked once. */
-class DatabasePropertyReader
+class ORVCADPLATFORM_EXPORT DatabasePropertyReader
 {
 public:
     /** @param forDrawObject  whether the table holds values of draw objects */

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ORVCADPlatformExport.h"
 #include "platform/embedded/HBXProjectRecords.h"
 
 namespace hbx::embedded {
@@ -8,7 +9,7 @@ class SqliteConnection;
 
 /** Reads all tables of a project file whose schema is known to be sound. Throws DatabaseRefusal for content that no
  *  project writes, SqliteError for what SQLite itself refuses. */
-class HBXDatabaseReader
+class ORVCADPLATFORM_EXPORT HBXDatabaseReader
 {
 public:
     explicit HBXDatabaseReader(SqliteConnection &connection) : m_connection(connection) {}

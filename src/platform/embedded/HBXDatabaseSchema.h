@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ORVCADPlatformExport.h"
+
 #include <QByteArray>
 
 namespace hbx::embedded {
@@ -16,11 +18,11 @@ constexpr quint32 kVersion = 1;
 constexpr int kHeaderSize = 100;
 
 /** Throws DatabaseRefusal when the first bytes of a file are not those of a project file of this form. */
-void checkHeader(const QByteArray &header);
+ORVCADPLATFORM_EXPORT void checkHeader(const QByteArray &header);
 /** Makes the tables of an empty database. */
-void create(SqliteConnection &connection);
+ORVCADPLATFORM_EXPORT void create(SqliteConnection &connection);
 /** Throws DatabaseRefusal when the database holds anything else than these tables, or one of them in another shape. */
-void check(SqliteConnection &connection);
+ORVCADPLATFORM_EXPORT void check(SqliteConnection &connection);
 
 } // namespace schema
 

@@ -7,7 +7,7 @@ namespace hbx::embedded {
 
 /** Writes records into the tables of a project file, each table by one kept statement. The caller holds the transaction.
  *  Throws SqliteError. */
-class HBXDatabaseWriter
+class ORVCADPLATFORM_EXPORT HBXDatabaseWriter
 {
 public:
     explicit HBXDatabaseWriter(SqliteConnection &connection);

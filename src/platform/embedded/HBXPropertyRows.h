@@ -49,6 +49,7 @@ inline constexpr PropertyOwner kDrawObj = PropertyOwner::DrawObject;
 inline constexpr PropertyRole kPlain = PropertyRole::Plain;
 inline constexpr PropertyRole kShape = PropertyRole::Shape;
 inline constexpr PropertyRole kIds = PropertyRole::DrawObjIds;
+inline constexpr PropertyRole kIdInBrackets = PropertyRole::DrawObjIdInBrackets;
 inline constexpr char kFloorTop[] = "层顶标高";
 inline constexpr char kFloorBottom[] = "层底标高";
 
@@ -185,7 +186,7 @@ inline constexpr PropertyRow kAreaBarRows[] = {
     {"IsRadiate",         kInteger, kDrawObj},
     {"ReferenceCurve",    kCurve,   kDrawObj},
     {"ReinforcementInfo", kText,    kDrawObj, kIds}, // its slabs or rafts
-    {"Catalog",           kText,    kDrawObj, kIds}, // name[id] of its first slab
+    {"Catalog",           kText,    kDrawObj, kIdInBrackets}, // name[id] of its first slab
 };
 inline constexpr PropertyRow kLineBarRows[] = {
     {"IncludeSupport", kInteger, kDrawObj},
