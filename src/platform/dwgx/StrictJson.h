@@ -39,7 +39,7 @@ private:
 };
 
 /** An object whose members are all known. Members that are asked for must be there unless has() is asked first. */
-class StrictObject
+class ORVCADPLATFORM_EXPORT StrictObject
 {
 public:
     StrictObject(const QJsonValue &value, const JsonPlace &place, std::initializer_list<QLatin1String> knownKeys);

@@ -100,6 +100,7 @@ private:
             refuse("draw_object", m_project.drawObjs[*place].id, "next_id", QLatin1String(kClosesRing));
     }
 
+    /** Place of an object that is known to be there. */
     int placeOf(qint64 drawObjId) const
     {
         return static_cast<int>(find(m_project.drawObjs, drawObjId) - m_project.drawObjs.data());
