@@ -52,6 +52,7 @@ inline constexpr PropertyOwner kDrawObj = PropertyOwner::DrawObject;
 inline constexpr PropertyRole kPlain = PropertyRole::Plain;
 inline constexpr PropertyRole kShape = PropertyRole::Shape;
 inline constexpr PropertyRole kIds = PropertyRole::DrawObjIds;
+inline constexpr PropertyRole kIdInBrackets = PropertyRole::DrawObjIdInBrackets;
 
 // clang-format off
 inline constexpr PropertyRow kWallRows[] = {
@@ -186,7 +187,7 @@ inline constexpr PropertyRow kAreaBarRows[] = {
     {property::isRadiate,         kInteger, kDrawObj},
     {property::referenceCurve,    kCurve,   kDrawObj},
     {property::reinforcementInfo, kText,    kDrawObj, kIds}, // its slabs or rafts
-    {property::catalog,           kText,    kDrawObj, kIds}, // name[id] of its first slab
+    {property::catalog,           kText,    kDrawObj, kIdInBrackets}, // name[id] of its first slab
 };
 inline constexpr PropertyRow kLineBarRows[] = {
     {property::includeSupport, kInteger, kDrawObj},

@@ -1,10 +1,8 @@
-#include "platform/embedded/DatabaseProperty.h"
+#include "platform/embedded/DatabasePropertyReader.h"
 
 #include "platform/embedded/HBXElevationText.h"
 #include "platform/embedded/HBXPropertyValue.h"
-
-#include <QByteArrayList>
-#include <QVarLengthArray>
+#include "platform/embedded/StoredGeometry.h"
 
 #include <sqlite3.h>
 
@@ -46,24 +44,15 @@ Read readText(const SqliteStatement &row)
 
 Read readPoint(const SqliteStatement &row)
 {
-    if (row.type(kValue) != SQLITE_TEXT)
-        return std::nullopt;
-    const std::string_view text = row.bytes(kValue);
-    const QByteArrayList terms = QByteArray(text.data(), static_cast<int>(text.size())).split(' ');
-    std::array<bool, 2> isNumber{};
-    if (terms.size() != 2)
-        return std::nullopt;
-    const vks::CVec2<double> point(terms[0].toDouble(&isNumber[0]), terms[1].toDouble(&isNumber[1]));
-    return isNumber[0] && isNumber[1] && point.IsFinite() ? Read(point) : std::nullopt;
+    const auto point = row.type(kValue) == SQLITE_TEXT ? storedPoint(row.bytes(kValue)) : std::nullopt;
+    return point ? Read(*point) : std::nullopt;
 }
 
 template <typename Geometry> Read readGeometry(const SqliteStatement &row)
 {
-    const std::string_view text = row.bytes(kValue);
-    const bool isText = row.type(kValue) == SQLITE_TEXT && text.find('\0') == std::string_view::npos;
-    const auto geometry = vks::CGeometry::LoadFromStr(isText ? text.data() : nullptr);
-    vks::CRefPtr<Geometry> wanted = dynamic_cast<Geometry *>(geometry.get());
-    return wanted ? Read(wanted) : std::nullopt;
+    const bool isText = row.type(kValue) == SQLITE_TEXT;
+    const auto geometry = isText ? storedGeometry<Geometry>(row.bytes(kValue)) : nullptr;
+    return geometry ? Read(geometry) : std::nullopt;
 }
 
 using ReadValue = Read (*)(const SqliteStatement &row);
@@ -98,23 +87,23 @@ const Value *find(const std::vector<std::pair<std::string, Value>> &known, std::
 
 } // namespace
 
-void DatabaseProperty::read(const DatabaseRows &rows, const TypeProperties &type, PropertyRecords &properties)
+void DatabasePropertyReader::read(const DatabaseRows &rows, const TypeProperties &type, PropertyRecords &properties)
 {
     const SqliteStatement &row = rows.row();
     const PropertyEntry *entry = entryOf(row.bytes(kName), type);
     if (!entry)
-        rows.refuse("name", QStringLiteral("is no property of the object: \"%1\"").arg(row.text(kName)));
+        rows.refuse(kName, QStringLiteral("is no property of the object: \"%1\"").arg(row.text(kName)));
     Read value = valueOf(row, *entry);
     if (!value)
-        rows.refuse("value", QStringLiteral("is no %1").arg(kindName(entry->kind)));
+        rows.refuse(kValue, QStringLiteral("is no %1").arg(kindName(entry->kind)));
     const bool standsTwice = std::any_of(properties.begin(), properties.end(),
                                          [entry](const auto &each) { return each.first == entry->name; });
     if (standsTwice)
-        rows.refuse("name", QStringLiteral("stands twice: \"%1\"").arg(entry->name));
+        rows.refuse(kName, QStringLiteral("stands twice: \"%1\"").arg(entry->name));
     properties.emplace_back(entry->name, std::move(*value));
 }
 
-const PropertyEntry *DatabaseProperty::entryOf(std::string_view name, const TypeProperties &type)
+const PropertyEntry *DatabasePropertyReader::entryOf(std::string_view name, const TypeProperties &type)
 {
     Names &names = m_names[&type];
     if (const PropertyEntry *const *known = find(names, name))
@@ -125,7 +114,7 @@ const PropertyEntry *DatabaseProperty::entryOf(std::string_view name, const Type
     return entry;
 }
 
-std::optional<PropertyValue> DatabaseProperty::valueOf(const SqliteStatement &row, const PropertyEntry &entry)
+std::optional<PropertyValue> DatabasePropertyReader::valueOf(const SqliteStatement &row, const PropertyEntry &entry)
 {
     if (row.isNull(kValue))
         return std::monostate();
@@ -133,7 +122,7 @@ std::optional<PropertyValue> DatabaseProperty::valueOf(const SqliteStatement &ro
                                                  : kReaders[static_cast<std::size_t>(entry.kind)](row);
 }
 
-std::optional<PropertyValue> DatabaseProperty::elevationOf(const SqliteStatement &row)
+std::optional<PropertyValue> DatabasePropertyReader::elevationOf(const SqliteStatement &row)
 {
     if (row.type(kValue) != SQLITE_TEXT)
         return std::nullopt;
@@ -146,11 +135,6 @@ std::optional<PropertyValue> DatabaseProperty::elevationOf(const SqliteStatement
     if (m_elevations.size() < kKeptElevations)
         m_elevations.emplace_back(utf8, text);
     return text;
-}
-
-std::string pointText(const vks::CVec2<double> &point)
-{
-    return textOf(point.x).toStdString() + ' ' + textOf(point.y).toStdString();
 }
 
 } // namespace hbx::embedded

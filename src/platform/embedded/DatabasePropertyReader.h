@@ -15,11 +15,11 @@ namespace hbx::embedded {
 
 /** Reads the rows of a property table, whose columns are owner, position, name and value. Names and elevations repeat
  *  from object to object, so each is looked up and checked once. */
-class DatabaseProperty
+class ORVCADPLATFORM_EXPORT DatabasePropertyReader
 {
 public:
     /** @param forDrawObject  whether the table holds values of draw objects */
-    explicit DatabaseProperty(bool forDrawObject) : m_forDrawObject(forDrawObject) {}
+    explicit DatabasePropertyReader(bool forDrawObject) : m_forDrawObject(forDrawObject) {}
 
     /** Adds the current row to the properties of an object. Throws DatabaseRefusal for a property that the type lacks, for
      *  one that stands twice and for a value of another kind. */
@@ -36,8 +36,5 @@ private:
     std::unordered_map<const TypeProperties *, Names> m_names;
     std::vector<std::pair<std::string, QString>> m_elevations;
 };
-
-/** Text of a point as it stands in the file. */
-std::string pointText(const vks::CVec2<double> &point);
 
 } // namespace hbx::embedded
