@@ -1,6 +1,6 @@
 #include "cli/WallInput.h"
 
-#include "cli/Files.h"
+#include "cli/FloorLookup.h"
 #include "embedded/ExchangeDocuments.h"
 #include "encoding/LocaleCodec.h"
 #include "platform/dwgx/DWGXModel.h"
