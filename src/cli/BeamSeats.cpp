@@ -3,6 +3,7 @@
 #include "ModelSerialization/ORVCADBeamLocalModel2HBXService.h"
 #include "beam/BeamIdentifyInput.h"
 #include "beam/BeamKeys.h"
+#include "cli/FloorLookup.h"
 #include "cli/ProjectInfo.h"
 #include "cli/ReplyWriting.h"
 #include "cli/SeatReplyCheck.h"
@@ -138,11 +139,8 @@ QJsonObject SeatOutcome::toJson() const
 QJsonObject seatDocument(const HBXProject &project, const std::vector<IHBXFloor *> &floors,
                          std::vector<SeatOutcome::Kind> &counts)
 {
-    QSet<qint64> floorIds;
-    for (const IHBXFloor *floor : floors)
-        floorIds.insert(floor->id());
     ORVCADBeamSDCIdentifyInputModel input(false);
-    getBeamSeatInfo(input, project.service()->model(), floorIds);
+    getBeamSeatInfo(input, project.service()->model(), idsOf(floors));
     QJsonObject document = input.beamSeatInfoToJsonObj();
     for (const ReplyArray &array : seatArrays()) {
         counts.emplace_back();

@@ -4,6 +4,7 @@
 #include "ModelSerialization/ORVCADBeamLocalModel2HBXService.h"
 #include "beam/ORVCADBeamCollectDataModel.h"
 #include "cli/BeamReplyCheck.h"
+#include "cli/FloorLookup.h"
 #include "cli/ProjectInfo.h"
 #include "cli/ReplyWriting.h"
 #include "platform/embedded/HBXModelStore.h"
@@ -246,11 +247,8 @@ QJsonObject BeamOutcome::toJson() const
 QJsonObject beamDocument(HBXProject &project, const std::vector<IHBXFloor *> &floors, BeamCounts &counts)
 {
     project.makeCurrent(); // stored spans are asked of the current project
-    QSet<qint64> floorIds;
-    for (const IHBXFloor *floor : floors)
-        floorIds.insert(floor->id());
     const auto beams = ORVCADBeamHBXModelConvertService().convertHBXToCollectDataModel(project.service()->model(),
-                                                                                       floorIds, beamTypes());
+                                                                                       idsOf(floors), beamTypes());
     for (const auto &beam : beams) {
         sortChains(*beam);
         count(*beam, counts);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSet>
 #include <QString>
 
 #include <vector>
@@ -29,9 +30,13 @@ std::vector<IHBXFloor *> pickFloors(const hbx::embedded::HBXProject &project, co
 std::vector<IHBXFloor *> pickFloors(const hbx::embedded::HBXProject &project, const Arguments &arguments);
 IHBXFloor &pickFloor(const hbx::embedded::HBXProject &project, const Arguments &arguments);
 
-// What members of replies name.
+QSet<qint64> idsOf(const std::vector<IHBXFloor *> &floors);
 
-/** The floor of that name in the region of that name; null, with the reason, where a model has no such floor. */
+// What members of replies name; null, with the reason, where a model has no such floor.
+
+/** The floor of that name in the region of that name. */
 IHBXFloor *floorOfNames(IHBXModel &model, const QString &regionName, const QString &floorName, QString &reason);
+/** The floor of that code in the region of that name. */
+IHBXFloor *floorOfCode(IHBXModel &model, const QString &regionName, const QString &floorCode, QString &reason);
 
 } // namespace orvcad
