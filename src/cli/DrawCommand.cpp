@@ -21,8 +21,12 @@ Summary draw(const Arguments &arguments)
     const bool onStdout = writeResult(output, plan.document);
     return {QStringLiteral("Drew %1 of %2 at 1:%3%4")
                 .arg(counted(plan.drawn, QStringLiteral("placed object")), floor.name(), QString::number(plan.scale),
-                     plan.left ? QStringLiteral("; %1 without geometry").arg(plan.left) : QString()),
-            {{"output", output}, {"drawn", plan.drawn}, {"withoutGeometry", plan.left}, {"scale", plan.scale}},
+                     plan.withoutGeometry ? QStringLiteral("; %1 without geometry").arg(plan.withoutGeometry)
+                                          : QString()),
+            {{"output", output},
+             {"drawn", plan.drawn},
+             {"withoutGeometry", plan.withoutGeometry},
+             {"scale", plan.scale}},
             kDone,
             onStdout};
 }
