@@ -3,6 +3,7 @@
 #include "cli/Command.h"
 #include "cli/Files.h"
 #include "cli/WallInput.h"
+#include "cli/WallKind.h"
 #include "platform/dwgx/DWGXModel.h"
 #include "platform/dwgx/HBXCADFileHelper.h"
 #include "platform/dwgx/HBXCADIOperator.h"
@@ -46,7 +47,7 @@ Summary exportWalls(const ExportArguments &arguments)
     const auto project = openProject(Arguments::text(arguments.project));
     IHBXRegion &region = requireRegion(*project, Arguments::text(arguments.region));
     WallInput input(*project, requireFloor(*project, region, Arguments::text(arguments.floor)),
-                    isBrick ? WallInput::kBrick : WallInput::kForce);
+                    wallKindOf(Arguments::text(arguments.kind)));
     if (!arguments.drawing.empty())
         addDrawing(input, Arguments::text(arguments.drawing));
 

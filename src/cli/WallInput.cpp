@@ -2,8 +2,10 @@
 
 #include "IdentifyInputModel/Wall/ORVCADWallInputModelConvertion.h"
 #include "cli/ProjectInfo.h"
+#include "cli/WallKind.h"
 #include "encoding/ORVCADXmlFileSerialization.h"
 #include "platform/dwgx/DWGXModel.h"
+#include "platform/embedded/HBXProject.h"
 #include "platform/embedded/HBXWallOptions.h"
 #include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXRegion.h"
@@ -69,36 +71,36 @@ int colorOf(const dwgx::DWGXEntity &entity, const dwgx::DWGXLayer &layer)
     return entity.color == dwgx::kColorByLayer ? layer.color : entity.color;
 }
 
-ORVCADCloudLineEdoInfo recordOf(const dwgx::DWGXLine &line, const dwgx::DWGXLayer &layer)
+ORVCADCloudLineEdoInfo edoInfoOf(const dwgx::DWGXLine &line, const dwgx::DWGXLayer &layer)
 {
-    ORVCADCloudLineEdoInfo record;
-    record.color = colorOf(line, layer);
-    record.blockID = line.blockId;
-    record.line = line.curve;
-    record.edoId = line.id;
-    return record;
+    ORVCADCloudLineEdoInfo info;
+    info.color = colorOf(line, layer);
+    info.blockID = line.blockId;
+    info.line = line.curve;
+    info.edoId = line.id;
+    return info;
 }
 
-ORVCADCloudTextEdoInfo recordOf(const dwgx::DWGXText &text, const dwgx::DWGXLayer &layer)
+ORVCADCloudTextEdoInfo edoInfoOf(const dwgx::DWGXText &text, const dwgx::DWGXLayer &layer)
 {
-    ORVCADCloudTextEdoInfo record;
+    ORVCADCloudTextEdoInfo info;
     const auto corners = text.corners();
-    record.text = text.content.toStdWString();
-    record.anglePts.assign(corners.begin(), corners.end());
-    record.color = colorOf(text, layer);
-    record.blockID = text.blockId;
-    record.dir = text.direction();
-    record.edoId = text.id;
-    return record;
+    info.text = text.content.toStdWString();
+    info.anglePts.assign(corners.begin(), corners.end());
+    info.color = colorOf(text, layer);
+    info.blockID = text.blockId;
+    info.dir = text.direction();
+    info.edoId = text.id;
+    return info;
 }
 
-template <typename Record, typename Entity>
-std::list<Record> recordsOf(const std::vector<Entity> &entities, const dwgx::DWGXLayer &layer)
+template <typename Info, typename Entity>
+std::list<Info> edoInfosOf(const std::vector<Entity> &entities, const dwgx::DWGXLayer &layer)
 {
-    std::list<Record> records;
+    std::list<Info> infos;
     for (const Entity &entity : entities)
-        records.push_back(recordOf(entity, layer));
-    return records;
+        infos.push_back(edoInfoOf(entity, layer));
+    return infos;
 }
 
 bool isXml(const QByteArray &bytes) { return QDomDocument().setContent(bytes, false); }
@@ -131,21 +133,17 @@ bool textReadsBack(const QString &text)
 
 } // namespace
 
-WallInput::WallInput(hbx::embedded::HBXProject &project, IHBXFloor &floor, Kind kind)
-    : m_model(Brick(EORVCADIdentifyType(kind)))
+WallInput::WallInput(hbx::embedded::HBXProject &project, const IHBXFloor &floor, const WallKind &kind)
+    : m_model(Brick(kind.identifyType))
 {
     project.makeCurrent();
     project.setCurrent(floor.region()->name(), floor.name());
-    if (kind == kForce)
-        m_model = Force(EORVCADIdentifyType(kind));
+    if (!kind.isBrick())
+        m_model = Force(kind.identifyType);
     IHBXModel *host = project.service()->model();
     hbx::embedded::HBXWallOptions options(host);
-    const Reading reading(floor.id(), &options, host, EORVCADIdentifyType(kind));
-    m_summary = {{"kind", kind == kBrick ? "brick" : "force"},
-                 {"floor", floor.name()},
-                 {"layers", 0},
-                 {"lines", 0},
-                 {"texts", 0}};
+    const Reading reading(floor.id(), &options, host, kind.identifyType);
+    m_summary = {{"kind", kind.word}, {"floor", floor.name()}, {"layers", 0}, {"lines", 0}, {"texts", 0}};
     m_summary["walls"] = std::visit([&reading](auto &model) { return takeWalls(reading, model); }, m_model);
     takeFloor(reading, base(), m_summary);
     QString code;
@@ -160,10 +158,10 @@ void WallInput::addDrawing(const dwgx::DWGXModel &drawing, const QString &name)
     for (const dwgx::DWGXLayer &layer : drawing.layers()) {
         if (!layer.lines.empty())
             base().setCadLineEdoDataInfo(layer.name.toStdWString(),
-                                         recordsOf<ORVCADCloudLineEdoInfo>(layer.lines, layer));
+                                         edoInfosOf<ORVCADCloudLineEdoInfo>(layer.lines, layer));
         if (!layer.texts.empty())
             base().setCadTextEdoDataInfo(layer.name.toStdWString(),
-                                         recordsOf<ORVCADCloudTextEdoInfo>(layer.texts, layer));
+                                         edoInfosOf<ORVCADCloudTextEdoInfo>(layer.texts, layer));
         if (!layer.lines.empty() || !layer.texts.empty())
             m_layers.append(layer.name);
         for (const dwgx::DWGXText &text : layer.texts)

@@ -2,14 +2,15 @@
 
 #include "IdentifyInputModel/Wall/ORVCADWallBrickDataInputModel.h"
 #include "IdentifyInputModel/Wall/ORVCADWallForceDataInputModel.h"
-#include "platform/embedded/HBXProject.h"
 
 #include <QByteArray>
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
 
+#include <utility>
 #include <variant>
+#include <vector>
 
 class IHBXFloor;
 
@@ -17,16 +18,20 @@ namespace dwgx {
 class DWGXModel;
 }
 
+namespace hbx::embedded {
+class HBXProject;
+}
+
 namespace orvcad {
+
+struct WallKind;
 
 /** What the identification of walls on one floor is told: what stands there, and a drawing of it. */
 class WallInput
 {
 public:
-    enum Kind { kBrick = 1, kForce = 2 }; ///< also the identify type in the document
-
     /** Reads the floor, which becomes the current one. */
-    WallInput(hbx::embedded::HBXProject &project, IHBXFloor &floor, Kind kind);
+    WallInput(hbx::embedded::HBXProject &project, const IHBXFloor &floor, const WallKind &kind);
     /** Adds the lines and texts of a drawing by layer; what has the colour of its layer gets that of the layer. */
     void addDrawing(const dwgx::DWGXModel &drawing, const QString &name);
 
