@@ -2,9 +2,9 @@
 
 #include "IdentifyInputModel/Wall/ORVCADWallBrickDataOutputModel.h"
 #include "IdentifyInputModel/Wall/ORVCADWallForceDataOutputModel.h"
-#include "IdentifyInputModel/Wall/WallHostKeys.h"
 #include "IdentifyInputModel/Wall/WallRecords.h"
 #include "IdentifyInputModel/Wall/WallStructsFromHbx.h"
+#include "cli/FloorLookup.h"
 #include "cli/ProjectInfo.h"
 #include "cli/WallReplyCheck.h"
 #include "platform/host/IHBXElement.h"
@@ -57,15 +57,12 @@ QString placeOf(const IHBXElement &element) { return QStringLiteral("floor ") + 
 
 } // namespace
 
-WallReply::WallReply(HBXProject &project, const WallKind &kind, const std::vector<IHBXFloor *> &floors)
+WallReply::WallReply(const HBXProject &project, const WallKind &kind, const std::vector<IHBXFloor *> &floors)
     : m_kind(kind), m_floors(static_cast<int>(floors.size()))
 {
-    QSet<qint64> floorIds;
-    for (const IHBXFloor *floor : floors)
-        floorIds.insert(floor->id());
     QList<IHBXElement *> elements;
-    project.service()->model()->elements()->queryElements(elements, floorIds, {kind.elementType}, true);
-    if (kind.elementType == wall::type::brickWall)
+    project.service()->model()->elements()->queryElements(elements, idsOf(floors), {kind.elementType}, true);
+    if (kind.isBrick())
         collect<ORVCADWallBrickDataOutputModel, Brick>(elements);
     else
         collect<ORVCADWallForceDataOutputModel, Force>(elements);

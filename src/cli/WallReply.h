@@ -22,7 +22,7 @@ class WallReply
 {
 public:
     /** Elements stand in the host's order, and so do the pieces of one. */
-    WallReply(hbx::embedded::HBXProject &project, const WallKind &kind, const std::vector<IHBXFloor *> &floors);
+    WallReply(const hbx::embedded::HBXProject &project, const WallKind &kind, const std::vector<IHBXFloor *> &floors);
 
     const QJsonObject &document() const { return m_document; }
     /** Elements and pieces that the document lacks or cannot hold whole. */
