@@ -4,6 +4,7 @@
 #include "cli/Openings.h"
 #include "cli/ProjectInfo.h"
 #include "doorwindow/DoorWindowKeys.h"
+#include "platform/embedded/HBXProject.h"
 #include "platform/host/IHBXElement.h"
 #include "platform/host/IHBXElementDrawObj.h"
 #include "platform/host/IHBXFloor.h"

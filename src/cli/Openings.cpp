@@ -9,6 +9,7 @@
 #include "doorwindow/DoorWindowKeys.h"
 #include "doorwindow/JsonDoorWin2HBX.h"
 #include "doorwindow/ORVCADWindoorDataOutputModel.h"
+#include "platform/embedded/HBXProject.h"
 #include "platform/host/HBXBatch.h"
 #include "platform/host/IHBXDrawObjs.h"
 #include "platform/host/IHBXElement.h"

@@ -6,6 +6,7 @@
 #include "cli/ProjectInfo.h"
 #include "cli/SlabReplyCheck.h"
 #include "cli/SlabWriter.h"
+#include "platform/embedded/HBXProject.h"
 #include "platform/host/HBXBatch.h"
 #include "platform/host/IHBXDrawObjs.h"
 #include "platform/host/IHBXElements.h"

@@ -4,6 +4,7 @@
 #include "cli/Files.h"
 #include "cli/ProjectInfo.h"
 #include "cli/WallReply.h"
+#include "platform/embedded/HBXProject.h"
 
 #include <QJsonArray>
 #include <QMap>

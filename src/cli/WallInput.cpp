@@ -47,17 +47,17 @@ int takeWalls(const Reading &reading, Force &model)
     return count;
 }
 
-/** Everything that both kinds of walls are told; the counts go into the summary. */
-void takeFloor(const Reading &reading, ORVCADWallDataInputModel &model, QJsonObject &summary)
+/** Everything that both kinds of walls are told. */
+void takeFloor(const Reading &reading, ORVCADWallDataInputModel &model, WallInput::Counts &counts)
 {
     auto bricks = taken(reading, &Reading::getCurFloorModelBrickLineEntDataInfo);
     auto forces = taken(reading, &Reading::getCurFloorModelForceLineEntDataInfo);
     auto axes = taken(reading, &Reading::getCurFloorModelAxisLineEntDataInfo);
     auto columns = taken(reading, &Reading::getCurFloorModelPointEntDataInfo);
-    summary["brickLines"] = static_cast<int>(bricks.size());
-    summary["forceLines"] = static_cast<int>(forces.size());
-    summary["axisLines"] = static_cast<int>(axes.size());
-    summary["columns"] = static_cast<int>(columns.size());
+    counts.brickLines = static_cast<int>(bricks.size());
+    counts.forceLines = static_cast<int>(forces.size());
+    counts.axisLines = static_cast<int>(axes.size());
+    counts.columns = static_cast<int>(columns.size());
     model.setCurFloorModelBrickLineEntDataInfo(std::move(bricks));
     model.setCurFloorModelForceLineEntDataInfo(std::move(forces));
     model.setCurFloorModelAxisLineEntDataInfo(std::move(axes));
@@ -134,7 +134,7 @@ bool textReadsBack(const QString &text)
 } // namespace
 
 WallInput::WallInput(hbx::embedded::HBXProject &project, const IHBXFloor &floor, const WallKind &kind)
-    : m_model(Brick(kind.identifyType))
+    : m_model(Brick(kind.identifyType)), m_kind(kind), m_floorName(floor.name())
 {
     project.makeCurrent();
     project.setCurrent(floor.region()->name(), floor.name());
@@ -143,9 +143,8 @@ WallInput::WallInput(hbx::embedded::HBXProject &project, const IHBXFloor &floor,
     IHBXModel *host = project.service()->model();
     hbx::embedded::HBXWallOptions options(host);
     const Reading reading(floor.id(), &options, host, kind.identifyType);
-    m_summary = {{"kind", kind.word}, {"floor", floor.name()}, {"layers", 0}, {"lines", 0}, {"texts", 0}};
-    m_summary["walls"] = std::visit([&reading](auto &model) { return takeWalls(reading, model); }, m_model);
-    takeFloor(reading, base(), m_summary);
+    m_counts.walls = std::visit([&reading](auto &model) { return takeWalls(reading, model); }, m_model);
+    takeFloor(reading, base(), m_counts);
     QString code;
     base().setProjectName(project.name().toStdWString());
     base().setFloorName(floor.name().toStdWString());
@@ -168,9 +167,9 @@ void WallInput::addDrawing(const dwgx::DWGXModel &drawing, const QString &name)
             if (text.content.contains(u'/'))
                 m_texts.emplace_back(layer.name, text.content);
     }
-    m_summary["layers"] = m_layers.size();
-    m_summary["lines"] = drawing.lineCount();
-    m_summary["texts"] = drawing.textCount();
+    m_counts.layers = m_layers.size();
+    m_counts.lines = drawing.lineCount();
+    m_counts.texts = drawing.textCount();
 }
 
 ORVCADWallDataInputModel &WallInput::base()
@@ -221,16 +220,28 @@ QStringList WallInput::unreadable(const QByteArray &xml) const
 
 QString WallInput::text() const
 {
-    const auto count = [this](const char *key, const char *singular) {
-        return counted(m_summary[QLatin1String(key)].toInt(), QLatin1String(singular));
-    };
-    const QString walls = counted(m_summary["walls"].toInt(), m_summary["kind"].toString() + " wall element");
+    const QString walls = counted(m_counts.walls, QLatin1String(m_kind.word) + QStringLiteral(" wall element"));
     return QStringLiteral("%1, %2, %3, %4 and %5 of %6; %7 with %8 and %9")
-        .arg(walls, count("brickLines", "placed brick wall"), count("forceLines", "placed force wall"),
-             count("axisLines", "axis line"), count("columns", "column"), m_summary["floor"].toString(),
-             count("layers", "layer"), count("lines", "line"), count("texts", "text"));
+        .arg(walls, counted(m_counts.brickLines, QStringLiteral("placed brick wall")),
+             counted(m_counts.forceLines, QStringLiteral("placed force wall")),
+             counted(m_counts.axisLines, QStringLiteral("axis line")),
+             counted(m_counts.columns, QStringLiteral("column")), m_floorName,
+             counted(m_counts.layers, QStringLiteral("layer")), counted(m_counts.lines, QStringLiteral("line")),
+             counted(m_counts.texts, QStringLiteral("text")));
 }
 
-QJsonObject WallInput::summary() const { return m_summary; }
+QJsonObject WallInput::summary() const
+{
+    return {{"kind", m_kind.word},
+            {"floor", m_floorName},
+            {"walls", m_counts.walls},
+            {"brickLines", m_counts.brickLines},
+            {"forceLines", m_counts.forceLines},
+            {"axisLines", m_counts.axisLines},
+            {"columns", m_counts.columns},
+            {"layers", m_counts.layers},
+            {"lines", m_counts.lines},
+            {"texts", m_counts.texts}};
+}
 
 } // namespace orvcad

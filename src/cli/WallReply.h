@@ -1,19 +1,20 @@
 #pragma once
 
-#include "IdentifyInputModel/Wall/IdentifyResultData.h"
 #include "cli/Applied.h"
 #include "cli/WallKind.h"
-#include "platform/embedded/HBXProject.h"
 
 #include <QJsonObject>
+#include <QList>
 #include <QString>
 
-#include <list>
-#include <string>
 #include <vector>
 
 class IHBXElement;
 class IHBXFloor;
+
+namespace hbx::embedded {
+class HBXProject;
+}
 
 namespace orvcad {
 
@@ -38,7 +39,6 @@ public:
 private:
     template <typename Output, typename Record> void collect(const QList<IHBXElement *> &elements);
     template <typename Output, typename Record> void add(Output &output, IHBXElement &element);
-    std::list<IdentifyResultData> piecesOf(IHBXElement &element, double width, std::wstring &name);
 
     const WallKind &m_kind;
     int m_floors = 0;

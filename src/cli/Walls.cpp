@@ -4,6 +4,7 @@
 #include "cli/ElementRemoval.h"
 #include "cli/ProjectInfo.h"
 #include "cli/WallReplyCheck.h"
+#include "platform/embedded/HBXProject.h"
 #include "platform/host/HBXBatch.h"
 #include "platform/host/IHBXDrawObjs.h"
 #include "platform/host/IHBXElement.h"
