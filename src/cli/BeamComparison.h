@@ -1,10 +1,12 @@
 #pragma once
 
-#include "platform/embedded/HBXProject.h"
-
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
+
+namespace hbx::embedded {
+class HBXProject;
+}
 
 namespace orvcad {
 

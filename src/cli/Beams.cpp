@@ -5,7 +5,9 @@
 #include "beam/ORVCADBeamCollectDataModel.h"
 #include "cli/BeamReplyCheck.h"
 #include "cli/ProjectInfo.h"
+#include "cli/ReplyWriting.h"
 #include "platform/embedded/HBXModelStore.h"
+#include "platform/embedded/HBXProject.h"
 #include "platform/host/HBXBatch.h"
 #include "platform/host/IHBXDrawObjs.h"
 #include "platform/host/IHBXElement.h"
@@ -33,7 +35,7 @@ const QSet<qint64> &beamTypes()
 {
     static const QSet<qint64> types = [] {
         QSet<qint64> all;
-        for (const BeamArray &array : beamArrays())
+        for (const ReplyArray &array : beamArrays())
             all.insert(array.elementType);
         return all;
     }();
@@ -260,19 +262,8 @@ QJsonObject beamDocument(HBXProject &project, const std::vector<IHBXFloor *> &fl
 
 BeamOutcome applyBeams(HBXProject &project, const QJsonObject &reply, const QString &file)
 {
-    IHBXModel &model = *project.service()->model();
-    const BeamReplyCheck check(model, reply, file);
-    BeamOutcome outcome;
-    outcome.members = check.memberCount();
-    outcome.leftOut = check.leftOut();
-
-    const int drawObjsBefore = model.drawObjects()->count();
-    const HBXBatch batch(model, "orvcad beam apply");
-    BeamWriter writer(project, outcome);
-    for (const BeamReplyCheck::Member &member : check.sound())
-        writer.write(member);
-    outcome.doubled = doubledSince(model, drawObjsBefore);
-    return outcome;
+    const BeamReplyCheck check(*project.service()->model(), reply, file);
+    return writeSound<BeamOutcome, BeamWriter>(project, check, "orvcad beam apply");
 }
 
 int removeBeams(HBXProject &project, const IHBXFloor &floor)

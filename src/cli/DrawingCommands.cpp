@@ -1,7 +1,7 @@
-#include "cli/Arguments.h"
-#include "cli/Command.h"
-#include "cli/Files.h"
+#include "cli/FloorLookup.h"
+#include "cli/ProjectFiles.h"
 #include "cli/ProjectInfo.h"
+#include "cli/Verb.h"
 #include "platform/dwgx/DWGXModel.h"
 #include "platform/dwgx/HBXCADFileHelper.h"
 #include "platform/dwgx/HBXCADIOperator.h"
@@ -70,12 +70,11 @@ QString toText(const dwgx::DWGXModel &drawing)
 Summary makeDrawing(const Arguments &arguments)
 {
     const auto project = openProject(Arguments::text(arguments.project));
-    IHBXRegion &region = requireRegion(*project, Arguments::text(arguments.region));
-    IHBXFloor &floor = requireFloor(*project, region, Arguments::text(arguments.floor));
+    IHBXFloor &floor = pickFloor(*project, arguments);
     const auto drawing = hbx::embedded::makeFloorDrawing(project->service()->model(), &floor);
     const QString output = Arguments::text(arguments.output);
     const auto fileOperator = newOperator();
-    const QString title = QStringLiteral("%1, %2").arg(region.name(), floor.name());
+    const QString title = QStringLiteral("%1, %2").arg(floor.region()->name(), floor.name());
     drawing->setTitle(title);
     drawing->setRemark(project->name());
     if (!fileOperator->write(output, drawing.get(), QString(), QString()))
@@ -99,20 +98,12 @@ Summary showDrawing(const Arguments &arguments)
 
 void addDrawingCommands(CLI::App &app, Command &command)
 {
-    CLI::App *group = app.add_subcommand("drawing", "Drawing files (.cadi2)");
-    group->require_subcommand(1);
-
-    auto arguments = newArguments();
-    CLI::App *verb = group->add_subcommand("make", "Draw a floor as layers, lines and texts");
-    addProject(verb, arguments);
-    addPlace(verb, arguments, true);
-    verb->add_option("-o,--output", arguments->output, "Drawing file to make (.cadi2)")->required();
-    verb->callback([&command, arguments] { command = [arguments] { return makeDrawing(*arguments); }; });
-
-    arguments = newArguments();
-    verb = group->add_subcommand("show", "What a drawing file holds");
-    verb->add_option("DRAWING", arguments->input, "Drawing file (.cadi2)")->required();
-    verb->callback([&command, arguments] { command = [arguments] { return showDrawing(*arguments); }; });
+    CLI::App &group = addGroup(app, "drawing", "Drawing files (.cadi2)");
+    Verb(group, command, "make", "Draw a floor as layers, lines and texts", makeDrawing)
+        .project()
+        .pickedFloor()
+        .output("Drawing file to make (.cadi2)", Verb::NoOutput::WrongUsage);
+    Verb(group, command, "show", "What a drawing file holds", showDrawing).input("DRAWING", "Drawing file (.cadi2)");
 }
 
 } // namespace orvcad

@@ -5,9 +5,6 @@
 #include "cli/JsonDifference.h"
 #include "drawing/DrawingKeys.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-
 namespace orvcad {
 
 namespace {
@@ -129,14 +126,12 @@ std::optional<JsonFault> firstRefusal(const QJsonObject &document)
 
 FloorExchange readFloorExchange(const QString &path)
 {
-    const QJsonDocument json = readJsonFile(path);
-    if (!json.isObject())
-        throw CommandFailure(kBadInput, path, {}, QStringLiteral("no floor exchange: its top is no object"));
+    const QJsonObject document = readJsonObject(path, QStringLiteral("floor exchange"));
     const ORVCADFloorSDCData format;
     FloorExchange exchange;
-    exchange.floors = readFloors(json.object(), path);
+    exchange.floors = readFloors(document, path);
     exchange.written = format.serialize(exchange.floors);
-    exchange.notKept = differences(json.object(), exchange.written);
+    exchange.notKept = differences(document, exchange.written);
     exchange.notStable = differences(exchange.written, format.serialize(readFloors(exchange.written, path)));
     return exchange;
 }

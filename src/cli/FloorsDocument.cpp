@@ -9,7 +9,6 @@
 #include "platform/host/IHBXRegion.h"
 
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 
 namespace orvcad {
@@ -47,14 +46,12 @@ std::unique_ptr<ORVCADFloors> floorsOfRegion(IHBXRegion &region)
 
 FloorsDocument readFloorsDocument(const QString &path)
 {
-    const QJsonDocument json = readJsonFile(path);
-    if (!json.isObject())
-        throw CommandFailure(kBadInput, path, {}, QStringLiteral("no floors document: its top is no object"));
+    const QJsonObject json = readJsonObject(path, QStringLiteral("floors document"));
     FloorsDocument document;
-    document.floors.reset(ORVCADFloors::fromJson(json.object()));
+    document.floors.reset(ORVCADFloors::fromJson(json));
     if (!document.floors)
         throw CommandFailure(kBadInput, path, {}, QStringLiteral("no floors document: AreaName or Floors is missing"));
-    const QJsonValue members = json.object()["Floors"];
+    const QJsonValue members = json["Floors"];
     if (!members.isArray())
         throw CommandFailure(kBadInput, path, QStringLiteral("Floors"), QStringLiteral("is no array"));
     int index = 0;

@@ -1,6 +1,6 @@
 #include "cli/OpeningComparison.h"
 
-#include "cli/Files.h"
+#include "cli/FloorLookup.h"
 #include "cli/Openings.h"
 #include "cli/ProjectInfo.h"
 #include "doorwindow/DoorWindowKeys.h"

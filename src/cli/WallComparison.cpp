@@ -1,7 +1,7 @@
 #include "cli/WallComparison.h"
 
 #include "IdentifyInputModel/Wall/WallKeys.h"
-#include "cli/Files.h"
+#include "cli/FloorLookup.h"
 #include "cli/ProjectInfo.h"
 #include "cli/WallReply.h"
 #include "platform/embedded/HBXProject.h"

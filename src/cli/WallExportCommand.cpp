@@ -1,12 +1,15 @@
 #include "cli/Applied.h"
-#include "cli/Arguments.h"
-#include "cli/Command.h"
 #include "cli/Files.h"
+#include "cli/FloorLookup.h"
+#include "cli/ProjectFiles.h"
+#include "cli/Verb.h"
 #include "cli/WallInput.h"
 #include "cli/WallKind.h"
 #include "platform/dwgx/DWGXModel.h"
 #include "platform/dwgx/HBXCADFileHelper.h"
 #include "platform/dwgx/HBXCADIOperator.h"
+
+#include <CLI/CLI.hpp>
 
 #include <QFileInfo>
 #include <QJsonArray>
@@ -14,12 +17,6 @@
 namespace orvcad {
 
 namespace {
-
-struct ExportArguments : Arguments
-{
-    std::string format = "json";
-    std::string drawing;
-};
 
 void addDrawing(WallInput &input, const QString &path)
 {
@@ -39,15 +36,13 @@ Format formatOf(const std::string &name)
     return name == "xml" ? &WallInput::xml : &WallInput::cloud;
 }
 
-Summary exportWalls(const ExportArguments &arguments)
+Summary exportWalls(const Arguments &arguments)
 {
-    const bool isBrick = arguments.kind == "brick";
-    if (!isBrick && arguments.format == "cloud")
+    const WallKind &kind = wallKindOf(Arguments::text(arguments.kind));
+    if (!kind.isBrick() && arguments.format == "cloud")
         throw CommandFailure(kWrongUsage, QStringLiteral("there is no cloud document of force walls"));
     const auto project = openProject(Arguments::text(arguments.project));
-    IHBXRegion &region = requireRegion(*project, Arguments::text(arguments.region));
-    WallInput input(*project, requireFloor(*project, region, Arguments::text(arguments.floor)),
-                    wallKindOf(Arguments::text(arguments.kind)));
+    WallInput input(*project, pickFloor(*project, arguments), kind);
     if (!arguments.drawing.empty())
         addDrawing(input, Arguments::text(arguments.drawing));
 
@@ -69,17 +64,17 @@ Summary exportWalls(const ExportArguments &arguments)
 
 void addWallExportCommand(CLI::App &group, Command &command)
 {
-    const auto arguments = std::make_shared<ExportArguments>();
-    CLI::App *verb = group.add_subcommand("export", "Write what the recognition of walls is told of a floor");
-    addProject(verb, arguments);
-    addWallKind(verb, arguments);
-    verb->add_option("--format", arguments->format, "Form of the document: json, xml or cloud (brick only)")
+    Verb verb(group, command, "export", "Write what the recognition of walls is told of a floor", exportWalls);
+    verb.arguments().format = "json";
+    verb.project().wallKind();
+    verb.app()
+        .add_option("--format", verb.arguments().format, "Form of the document: json, xml or cloud (brick only)")
         ->check(CLI::IsMember({"json", "xml", "cloud"}))
         ->capture_default_str();
-    addPlace(verb, arguments, true);
-    verb->add_option("--drawing", arguments->drawing, "Drawing of the floor (.cadi2), whose lines and texts are added");
-    addOutput(verb, arguments, "File to write the document to");
-    verb->callback([&command, arguments] { command = [arguments] { return exportWalls(*arguments); }; });
+    verb.pickedFloor();
+    verb.app().add_option("--drawing", verb.arguments().drawing,
+                          "Drawing of the floor (.cadi2), whose lines and texts are added");
+    verb.output("File to write the document to");
 }
 
 } // namespace orvcad

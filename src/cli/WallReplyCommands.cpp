@@ -1,11 +1,10 @@
 #include "cli/Applied.h"
-#include "cli/Arguments.h"
-#include "cli/Command.h"
 #include "cli/Files.h"
+#include "cli/FloorLookup.h"
+#include "cli/ProjectFiles.h"
+#include "cli/Verb.h"
 #include "cli/WallReply.h"
 #include "cli/Walls.h"
-
-#include <QJsonDocument>
 
 namespace orvcad {
 
@@ -23,10 +22,10 @@ Summary applyReply(const Arguments &arguments)
 Summary writeReply(const Arguments &arguments)
 {
     const auto project = openProject(Arguments::text(arguments.project));
-    const auto floors = pickFloors(*project, Arguments::text(arguments.region), Arguments::text(arguments.floor));
+    const auto floors = pickFloors(*project, arguments);
     const WallReply reply(*project, wallKindOf(Arguments::text(arguments.kind)), floors);
     const QString output = Arguments::text(arguments.output);
-    const bool onStdout = writeResult(output, QJsonDocument(reply.document()).toJson());
+    const bool onStdout = writeResult(output, reply.document());
     QJsonObject json = reply.toJson();
     json["output"] = output;
     return {QStringLiteral("Wrote ") + reply.text(), json, reply.leftOut().empty() ? kDone : kLeftOut, onStdout};
@@ -36,21 +35,16 @@ Summary writeReply(const Arguments &arguments)
 
 void addWallReplyCommands(CLI::App &group, Command &command)
 {
-    auto arguments = newArguments();
-    CLI::App *verb = group.add_subcommand("reply", "Write walls in the form of a reply");
-    addProject(verb, arguments);
-    addWallKind(verb, arguments);
-    addPlace(verb, arguments, false);
-    addOutput(verb, arguments, "File to write the reply to");
-    verb->callback([&command, arguments] { command = [arguments] { return writeReply(*arguments); }; });
-
-    arguments = newArguments();
-    verb = group.add_subcommand("apply", "Write a reply into a project and save it");
-    addProject(verb, arguments);
-    addWallKind(verb, arguments);
-    verb->add_option("REPLY", arguments->input, "Reply document")->required();
-    verb->add_flag("--strict", arguments->strict, "Save nothing when a member of the reply is left out");
-    verb->callback([&command, arguments] { command = [arguments] { return applyReply(*arguments); }; });
+    Verb(group, command, "reply", "Write walls in the form of a reply", writeReply)
+        .project()
+        .wallKind()
+        .anyFloors()
+        .output("File to write the reply to");
+    Verb(group, command, "apply", "Write a reply into a project and save it", applyReply)
+        .project()
+        .wallKind()
+        .input("REPLY", "Reply document")
+        .strict("reply");
 }
 
 } // namespace orvcad

@@ -1,6 +1,6 @@
 #include "cli/WallInput.h"
 
-#include "cli/Files.h"
+#include "cli/FloorLookup.h"
 #include "cli/WallKind.h"
 #include "embedded/ExchangeDocuments.h"
 #include "encoding/LocaleCodec.h"
