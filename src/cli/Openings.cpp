@@ -2,10 +2,14 @@
 
 #include "cli/Applied.h"
 #include "cli/Command.h"
+#include "cli/ElementRemoval.h"
+#include "cli/FloorLookup.h"
+#include "cli/OpeningTypes.h"
 #include "cli/ProjectInfo.h"
 #include "doorwindow/DoorWindowKeys.h"
 #include "doorwindow/JsonDoorWin2HBX.h"
 #include "doorwindow/ORVCADWindoorDataOutputModel.h"
+#include "platform/embedded/HBXProject.h"
 #include "platform/host/HBXBatch.h"
 #include "platform/host/IHBXDrawObjs.h"
 #include "platform/host/IHBXElement.h"
@@ -24,17 +28,8 @@ namespace {
 
 const QSet<qint64> &openingTypes()
 {
-    static const QSet<qint64> types{type::door, type::window, type::combined, type::wallOpening};
+    static const QSet<qint64> types(std::begin(kOpeningTypes), std::end(kOpeningTypes));
     return types;
-}
-
-std::vector<IHBXElement *> openingElements(IHBXModel &model)
-{
-    std::vector<IHBXElement *> elements;
-    for (int i = 0; i < model.elements()->count(); ++i)
-        if (openingTypes().contains(model.elements()->at(i)->type()))
-            elements.push_back(model.elements()->at(i));
-    return elements;
 }
 
 /** Counts what has come since the model had so many elements and draw objects: ids only ever grow. */
@@ -75,9 +70,7 @@ QJsonObject OpeningOutcome::toJson() const
 
 QJsonObject openingReply(IHBXModel &model, const std::vector<IHBXFloor *> &floors, OpeningOutcome &counts)
 {
-    QSet<qint64> floorIds;
-    for (const IHBXFloor *floor : floors)
-        floorIds.insert(floor->id());
+    const QSet<qint64> floorIds = idsOf(floors);
     QList<IHBXElement *> elements;
     model.elements()->queryElements(elements, floorIds, openingTypes(), true);
     QList<IHBXElementDrawObj *> openings;
@@ -138,12 +131,8 @@ std::vector<IHBXElementDrawObj *> placedOpenings(IHBXFloor &floor)
 
 int removeOpenings(HBXProject &project)
 {
-    IHBXModel &model = *project.service()->model();
-    const HBXBatch batch(model, "orvcad remove openings");
-    const std::vector<IHBXElement *> elements = openingElements(model);
-    for (IHBXElement *element : elements)
-        element->remove();
-    return static_cast<int>(elements.size());
+    return removeElements(*project.service()->model(), idsOf(pickFloors(project, QString(), QString())), openingTypes(),
+                          "orvcad remove openings");
 }
 
 } // namespace orvcad

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "cli/OpeningReplyCheck.h"
-#include "platform/embedded/HBXProject.h"
 
 #include <QJsonObject>
 #include <QString>
@@ -11,6 +10,10 @@
 class IHBXElementDrawObj;
 class IHBXFloor;
 class IHBXModel;
+
+namespace hbx::embedded {
+class HBXProject;
+}
 
 namespace orvcad {
 

@@ -1,5 +1,7 @@
 #include "cli/Verb.h"
 
+#include "cli/WallKind.h"
+
 #include <CLI/CLI.hpp>
 
 namespace orvcad {
@@ -39,9 +41,12 @@ Verb &Verb::anyFloors()
 
 Verb &Verb::wallKind()
 {
+    std::vector<std::string> words;
+    for (const WallKind &kind : wallKinds())
+        words.emplace_back(kind.word);
     m_app->add_option("--kind", m_arguments->kind, "Kind of walls: brick or force")
         ->required()
-        ->check(CLI::IsMember({"brick", "force"}));
+        ->check(CLI::IsMember(words));
     return *this;
 }
 

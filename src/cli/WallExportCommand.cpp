@@ -4,6 +4,7 @@
 #include "cli/ProjectFiles.h"
 #include "cli/Verb.h"
 #include "cli/WallInput.h"
+#include "cli/WallKind.h"
 #include "platform/dwgx/DWGXModel.h"
 #include "platform/dwgx/HBXCADFileHelper.h"
 #include "platform/dwgx/HBXCADIOperator.h"
@@ -37,11 +38,11 @@ Format formatOf(const std::string &name)
 
 Summary exportWalls(const Arguments &arguments)
 {
-    const bool isBrick = arguments.kind == "brick";
-    if (!isBrick && arguments.format == "cloud")
+    const WallKind &kind = wallKindOf(Arguments::text(arguments.kind));
+    if (!kind.isBrick() && arguments.format == "cloud")
         throw CommandFailure(kWrongUsage, QStringLiteral("there is no cloud document of force walls"));
     const auto project = openProject(Arguments::text(arguments.project));
-    WallInput input(*project, pickFloor(*project, arguments), isBrick ? WallInput::kBrick : WallInput::kForce);
+    WallInput input(*project, pickFloor(*project, arguments), kind);
     if (!arguments.drawing.empty())
         addDrawing(input, Arguments::text(arguments.drawing));
 

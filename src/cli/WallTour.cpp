@@ -5,6 +5,7 @@
 #include "cli/ProjectFiles.h"
 #include "cli/ProjectInfo.h"
 #include "cli/WallReply.h"
+#include "platform/embedded/HBXProject.h"
 
 #include <utility>
 
