@@ -41,10 +41,11 @@ QString whyNotSection(const QJsonObject &element)
     }
     const int subType = element.value(key::elementSubType).toInt();
     if (!mayHaveOutline(subTypeMade(element.value(key::elementType).toInt(), subType)))
-        return QStringLiteral("a beam of sub-type %1 has no outline, and SectionPoly is one").arg(subType);
+        return QStringLiteral("a beam of sub-type %1 has no outline, and %2 is one").arg(subType).arg(key::sectionPoly);
     GeometryTextReader::Polygon polygon;
-    return GeometryTextReader::reconstructPoly(outline, polygon) ? QString()
-                                                                 : QStringLiteral("SectionPoly is no outline");
+    return GeometryTextReader::reconstructPoly(outline, polygon)
+               ? QString()
+               : QStringLiteral("%1 is no outline").arg(key::sectionPoly);
 }
 
 QString whyNotType(qint64 elementType, const ReplyArray &array)

@@ -2,6 +2,7 @@
 
 #include "ModelSerialization/ORVCADBeamHBXModelConvertService.h"
 #include "ModelSerialization/ORVCADBeamLocalModel2HBXService.h"
+#include "beam/BeamKeys.h"
 #include "beam/ORVCADBeamCollectDataModel.h"
 #include "cli/BeamReplyCheck.h"
 #include "cli/FloorLookup.h"
@@ -142,7 +143,7 @@ private:
         beam.segments += made;
         if (result != Service::kDone) {
             ++beam.stopped;
-            leaveOut(QStringLiteral("%1.EDOInfo[%2]").arg(beam.place).arg(position), beam.name,
+            leaveOut(QStringLiteral("%1.%2[%3]").arg(beam.place, beam::key::edoInfos).arg(position), beam.name,
                      QStringLiteral("stopped behind %1 of %2, which stay unlinked: %3")
                          .arg(made)
                          .arg(counted(static_cast<int>(chain.segments.size()), QStringLiteral("segment")),

@@ -120,7 +120,7 @@ std::vector<ORVCADFloorSDCData::Floor> readFloors(const QJsonObject &document, c
 std::optional<JsonFault> firstRefusal(const QJsonObject &document)
 {
     if (!document.contains(key::floorSdcData))
-        return JsonFault{QString(), QStringLiteral("no floor exchange: FloorSDCData is missing")};
+        return JsonFault{QString(), QStringLiteral("no floor exchange: %1 is missing").arg(key::floorSdcData)};
     return firstFault(document, kDocument);
 }
 

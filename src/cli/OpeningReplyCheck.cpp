@@ -1,8 +1,8 @@
 #include "cli/OpeningReplyCheck.h"
 
 #include "cli/ExpectedValue.h"
-#include "cli/OpeningTypes.h"
 #include "cli/FloorLookup.h"
+#include "cli/OpeningTypes.h"
 #include "doorwindow/DoorWindowKeys.h"
 #include "platform/host/IHBXElement.h"
 #include "platform/host/IHBXElements.h"

@@ -217,8 +217,9 @@ void PlanPainter::paintAxis(const PlanObject::Axis &axis, const QString &stroke)
     vks::CVec2<double> outwards = axis.line->StartVt();
     outwards = {-outwards.x, outwards.y}; // back from the start; paper runs downwards
     const vks::CVec2<double> centre = start + outwards * kBubbleRadius;
-    m_page.addCircle(centre, kBubbleRadius,
-                     QStringLiteral("fill=\"#fff\" stroke=\"%1\" stroke-width=\".18\"").arg(planStrokeColour(kAxisGrid)));
+    m_page.addCircle(
+        centre, kBubbleRadius,
+        QStringLiteral("fill=\"#fff\" stroke=\"%1\" stroke-width=\".18\"").arg(planStrokeColour(kAxisGrid)));
     const double fitting = kBubbleText * kBubbleRoom * kBubbleRadius / PlanLabels::widthOf(axis.label, kBubbleText);
     const double size = std::min(kBubbleText, fitting);
     m_page.addText(centre + vks::CVec2<double>(0, size / 2), size, axis.label,

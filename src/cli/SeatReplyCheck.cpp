@@ -22,10 +22,11 @@ const QStringList kSeatRequired{key::entName, key::elementType, key::floorName, 
 QString whyNotPlace(const Seat &seat)
 {
     if (seat.seatElementType != type::tieBeam)
-        return seat.ipWorldPoly ? QString() : QStringLiteral("WorldPoly is no outline");
+        return seat.ipWorldPoly ? QString() : QStringLiteral("%1 is no outline").arg(key::worldPoly);
     if (!seat.ipCenterLine)
-        return QStringLiteral("CenterLine is no curve");
-    return seat.ipCenterLine->Length() > vks::g_DistEpsilon ? QString() : QStringLiteral("CenterLine has no length");
+        return QStringLiteral("%1 is no curve").arg(key::centerLine);
+    return seat.ipCenterLine->Length() > vks::g_DistEpsilon ? QString()
+                                                            : QStringLiteral("%1 has no length").arg(key::centerLine);
 }
 
 QString whyNotType(int elementType, const ReplyArray &array)

@@ -27,11 +27,10 @@ int wallCount(const QJsonObject &map) { return map.size() / 2; }
 
 const std::vector<WallKind> &wallKinds()
 {
-    static const std::vector<WallKind> kinds{
-        {"brick", EORVCADIdentifyType(1), wall::type::brickWall, wall::reply::brickWalls, wall::document::brickReply,
-         jsonBrickWall2HBX},
-        {"force", EORVCADIdentifyType(2), wall::type::forceWall, wall::reply::forceWalls, wall::document::forceReply,
-         jsonForceWall2HBX}};
+    static const std::vector<WallKind> kinds{{"brick", EORVCADIdentifyType(1), wall::type::brickWall,
+                                              wall::reply::brickWalls, wall::document::brickReply, jsonBrickWall2HBX},
+                                             {"force", EORVCADIdentifyType(2), wall::type::forceWall,
+                                              wall::reply::forceWalls, wall::document::forceReply, jsonForceWall2HBX}};
     return kinds;
 }
 

@@ -1,8 +1,8 @@
 #include "cli/WallReplyCheck.h"
 
 #include "IdentifyInputModel/Wall/WallKeys.h"
-#include "cli/MemberKinds.h"
 #include "cli/FloorLookup.h"
+#include "cli/MemberKinds.h"
 
 #include <QJsonDocument>
 #include <QRegularExpression>

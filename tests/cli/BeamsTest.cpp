@@ -1,4 +1,5 @@
 #include "cli/Beams.h"
+
 #include "ModelSerialization/ORVCADBeamLocalModel2HBXService.h"
 #include "beam/BeamModelDataInfo.h"
 #include "cli/FloorLookup.h"
