@@ -1,7 +1,7 @@
+#include "cli/Counted.h"
 #include "cli/FloorLookup.h"
 #include "cli/PlanSvg.h"
 #include "cli/ProjectFiles.h"
-#include "cli/ProjectInfo.h"
 #include "cli/Verb.h"
 #include "cli/Written.h"
 #include "platform/host/IHBXFloor.h"
@@ -16,12 +16,13 @@ Summary draw(const Arguments &arguments)
     const auto project = openProject(Arguments::text(arguments.project));
     IHBXFloor &floor = pickFloor(*project, arguments);
     const PlanSvg plan = drawPlan(*project->service()->model(), floor, project->name());
-    const QString left = plan.left ? QStringLiteral("; %1 without geometry").arg(plan.left) : QString();
+    const QString left =
+        plan.withoutGeometry ? QStringLiteral("; %1 without geometry").arg(plan.withoutGeometry) : QString();
     return writeDocument(arguments, plan.document,
                          {QStringLiteral("Drew %1 of %2 at 1:%3%4")
                               .arg(counted(plan.drawn, QStringLiteral("placed object")), floor.name(),
                                    QString::number(plan.scale), left),
-                          {{"drawn", plan.drawn}, {"withoutGeometry", plan.left}, {"scale", plan.scale}}});
+                          {{"drawn", plan.drawn}, {"withoutGeometry", plan.withoutGeometry}, {"scale", plan.scale}}});
 }
 
 } // namespace
