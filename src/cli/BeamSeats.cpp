@@ -3,9 +3,11 @@
 #include "ModelSerialization/ORVCADBeamLocalModel2HBXService.h"
 #include "beam/BeamIdentifyInput.h"
 #include "beam/BeamKeys.h"
-#include "cli/ProjectInfo.h"
+#include "cli/Counted.h"
+#include "cli/FloorLookup.h"
 #include "cli/ReplyWriting.h"
 #include "cli/SeatReplyCheck.h"
+#include "cli/TypeTitles.h"
 #include "platform/embedded/HBXProject.h"
 #include "platform/host/IHBXDrawObjs.h"
 #include "platform/host/IHBXElement.h"
@@ -138,11 +140,8 @@ QJsonObject SeatOutcome::toJson() const
 QJsonObject seatDocument(const HBXProject &project, const std::vector<IHBXFloor *> &floors,
                          std::vector<SeatOutcome::Kind> &counts)
 {
-    QSet<qint64> floorIds;
-    for (const IHBXFloor *floor : floors)
-        floorIds.insert(floor->id());
     ORVCADBeamSDCIdentifyInputModel input(false);
-    getBeamSeatInfo(input, project.service()->model(), floorIds);
+    getBeamSeatInfo(input, project.service()->model(), idsOf(floors));
     QJsonObject document = input.beamSeatInfoToJsonObj();
     for (const ReplyArray &array : seatArrays()) {
         counts.emplace_back();

@@ -4,8 +4,11 @@
 #include "ModelSerialization/ORVCADBeamLocalModel2HBXService.h"
 #include "beam/ORVCADBeamCollectDataModel.h"
 #include "cli/BeamReplyCheck.h"
-#include "cli/ProjectInfo.h"
+#include "cli/Counted.h"
+#include "cli/ElementRemoval.h"
+#include "cli/FloorLookup.h"
 #include "cli/ReplyWriting.h"
+#include "cli/TypeTitles.h"
 #include "platform/embedded/HBXModelStore.h"
 #include "platform/embedded/HBXProject.h"
 #include "platform/host/HBXBatch.h"
@@ -246,11 +249,8 @@ QJsonObject BeamOutcome::toJson() const
 QJsonObject beamDocument(HBXProject &project, const std::vector<IHBXFloor *> &floors, BeamCounts &counts)
 {
     project.makeCurrent(); // stored spans are asked of the current project
-    QSet<qint64> floorIds;
-    for (const IHBXFloor *floor : floors)
-        floorIds.insert(floor->id());
     const auto beams = ORVCADBeamHBXModelConvertService().convertHBXToCollectDataModel(project.service()->model(),
-                                                                                       floorIds, beamTypes());
+                                                                                       idsOf(floors), beamTypes());
     for (const auto &beam : beams) {
         sortChains(*beam);
         count(*beam, counts);
@@ -268,13 +268,7 @@ BeamOutcome applyBeams(HBXProject &project, const QJsonObject &reply, const QStr
 
 int removeBeams(HBXProject &project, const IHBXFloor &floor)
 {
-    IHBXModel &model = *project.service()->model();
-    const HBXBatch batch(model, "orvcad remove beams");
-    QList<IHBXElement *> elements;
-    model.elements()->queryElements(elements, {floor.id()}, beamTypes(), true);
-    for (IHBXElement *element : qAsConst(elements))
-        element->remove();
-    return elements.size();
+    return removeElements(*project.service()->model(), {floor.id()}, beamTypes(), "orvcad remove beams");
 }
 
 } // namespace orvcad

@@ -1,6 +1,6 @@
+#include "cli/Counted.h"
 #include "cli/FloorLookup.h"
 #include "cli/ProjectFiles.h"
-#include "cli/ProjectInfo.h"
 #include "cli/Verb.h"
 #include "platform/dwgx/DWGXModel.h"
 #include "platform/dwgx/HBXCADFileHelper.h"
