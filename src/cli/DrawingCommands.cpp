@@ -1,10 +1,9 @@
 #include "cli/Counted.h"
+#include "cli/DrawingFiles.h"
 #include "cli/FloorLookup.h"
 #include "cli/ProjectFiles.h"
 #include "cli/Verb.h"
 #include "platform/dwgx/DWGXModel.h"
-#include "platform/dwgx/HBXCADFileHelper.h"
-#include "platform/dwgx/HBXCADIOperator.h"
 #include "platform/embedded/HBXFloorDrawing.h"
 #include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXRegion.h"
@@ -13,21 +12,9 @@
 #include <QJsonArray>
 #include <QStringList>
 
-#include <memory>
-
 namespace orvcad {
 
 namespace {
-
-std::unique_ptr<HBXCADIOperator> newOperator()
-{
-    return std::unique_ptr<HBXCADIOperator>(HBXCADFileHelper::getInstance()->createCADIOperator());
-}
-
-[[noreturn]] void fail(const QString &path, const HBXCADIOperator &fileOperator)
-{
-    throw CommandFailure(kBadInput, path, fileOperator.lastErrorPlace(), fileOperator.lastErrorReason());
-}
 
 QString countsOf(const dwgx::DWGXModel &drawing)
 {
@@ -37,7 +24,7 @@ QString countsOf(const dwgx::DWGXModel &drawing)
              counted(drawing.textCount(), QStringLiteral("text")));
 }
 
-QJsonObject describe(const dwgx::DWGXModel &drawing)
+QJsonObject drawingToJson(const dwgx::DWGXModel &drawing)
 {
     QJsonArray layers;
     for (const dwgx::DWGXLayer &layer : drawing.layers())
@@ -52,7 +39,7 @@ QJsonObject describe(const dwgx::DWGXModel &drawing)
             {"texts", drawing.textCount()}};
 }
 
-QString toText(const dwgx::DWGXModel &drawing)
+QString drawingText(const dwgx::DWGXModel &drawing)
 {
     QStringList lines{QStringLiteral("%1: %2").arg(drawing.getTitle(), countsOf(drawing))};
     for (const dwgx::DWGXLayer &layer : drawing.layers())
@@ -73,25 +60,19 @@ Summary makeDrawing(const Arguments &arguments)
     IHBXFloor &floor = pickFloor(*project, arguments);
     const auto drawing = hbx::embedded::makeFloorDrawing(project->service()->model(), &floor);
     const QString output = Arguments::text(arguments.output);
-    const auto fileOperator = newOperator();
     const QString title = QStringLiteral("%1, %2").arg(floor.region()->name(), floor.name());
     drawing->setTitle(title);
     drawing->setRemark(project->name());
-    if (!fileOperator->write(output, drawing.get(), QString(), QString()))
-        fail(output, *fileOperator);
-    QJsonObject json = describe(*drawing);
+    writeDrawing(output, *drawing);
+    QJsonObject json = drawingToJson(*drawing);
     json["output"] = output;
     return {QStringLiteral("Drew %1 into %2: %3").arg(title, output, countsOf(*drawing)), json};
 }
 
 Summary showDrawing(const Arguments &arguments)
 {
-    const QString input = Arguments::text(arguments.input);
-    const std::unique_ptr<dwgx::DWGXModel> drawing(dwgx::DWGXModel::createObject());
-    const auto fileOperator = newOperator();
-    if (!fileOperator->read(input, drawing.get()))
-        fail(input, *fileOperator);
-    return {toText(*drawing), describe(*drawing)};
+    const auto drawing = readDrawing(Arguments::text(arguments.input));
+    return {drawingText(*drawing), drawingToJson(*drawing)};
 }
 
 } // namespace

@@ -47,6 +47,25 @@ void appendFloors(IHBXRegion &region, std::vector<IHBXFloor *> &floors)
         floors.push_back(region.floors()->at(i));
 }
 
+/** How a member names its floor. */
+struct FloorKey
+{
+    IHBXFloor *(IHBXFloors::*find)(const QString &);
+    QString word;
+};
+
+IHBXFloor *floorIn(IHBXModel &model, const QString &regionName, const FloorKey &key, const QString &value,
+                   QString &reason)
+{
+    IHBXRegion *region = model.regions()->find(regionName);
+    IHBXFloor *floor = region ? (region->floors()->*key.find)(value) : nullptr;
+    if (!region)
+        reason = QStringLiteral("unknown region \"%1\"").arg(regionName);
+    else if (!floor)
+        reason = QStringLiteral("unknown %1 \"%2\" in region \"%3\"").arg(key.word, value, regionName);
+    return floor;
+}
+
 } // namespace
 
 IHBXRegion &requireRegion(const HBXProject &project, const QString &name)
@@ -110,13 +129,12 @@ QSet<qint64> idsOf(const std::vector<IHBXFloor *> &floors)
 
 IHBXFloor *floorOfNames(IHBXModel &model, const QString &regionName, const QString &floorName, QString &reason)
 {
-    IHBXRegion *region = model.regions()->find(regionName);
-    IHBXFloor *floor = region ? region->floors()->find(floorName) : nullptr;
-    if (!region)
-        reason = QStringLiteral("unknown region \"%1\"").arg(regionName);
-    else if (!floor)
-        reason = QStringLiteral("unknown floor \"%1\" in region \"%2\"").arg(floorName, regionName);
-    return floor;
+    return floorIn(model, regionName, {&IHBXFloors::find, QStringLiteral("floor")}, floorName, reason);
+}
+
+IHBXFloor *floorOfCode(IHBXModel &model, const QString &regionName, const QString &floorCode, QString &reason)
+{
+    return floorIn(model, regionName, {&IHBXFloors::findByCode, QStringLiteral("floor code")}, floorCode, reason);
 }
 
 } // namespace orvcad

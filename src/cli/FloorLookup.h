@@ -29,11 +29,14 @@ std::vector<IHBXFloor *> pickFloors(const hbx::embedded::HBXProject &project, co
 /** Those of the arguments of a verb, and the one of a verb that has to be given one. */
 std::vector<IHBXFloor *> pickFloors(const hbx::embedded::HBXProject &project, const Arguments &arguments);
 IHBXFloor &pickFloor(const hbx::embedded::HBXProject &project, const Arguments &arguments);
+
 QSet<qint64> idsOf(const std::vector<IHBXFloor *> &floors);
 
-// What members of replies name.
+// What members of replies name; null, with the reason, where a model has no such floor.
 
-/** The floor of that name in the region of that name; null, with the reason, where a model has no such floor. */
+/** The floor of that name in the region of that name. */
 IHBXFloor *floorOfNames(IHBXModel &model, const QString &regionName, const QString &floorName, QString &reason);
+/** The floor of that code in the region of that name. */
+IHBXFloor *floorOfCode(IHBXModel &model, const QString &regionName, const QString &floorCode, QString &reason);
 
 } // namespace orvcad

@@ -28,7 +28,7 @@ QJsonObject floorToJson(ORVCADFloors &floors, ORVCADFloor &floor)
             {"downstairs", nameOf(floors.getDownstairFloor(&floor))}};
 }
 
-QJsonObject describe(ORVCADFloors &floors)
+QJsonObject floorsToJson(ORVCADFloors &floors)
 {
     QJsonArray list;
     for (ORVCADFloor *floor : qAsConst(floors.getFloors()))
@@ -61,7 +61,7 @@ QStringList floorLines(ORVCADFloors &floors)
     return table.lines();
 }
 
-QString toText(ORVCADFloors &floors)
+QString floorsText(ORVCADFloors &floors)
 {
     QStringList lines{QStringLiteral("Area %1").arg(floors.getAreaName())};
     lines += floorLines(floors);
@@ -84,8 +84,8 @@ Summary exportFloors(const Arguments &arguments)
 Summary showFloors(const Arguments &arguments)
 {
     const FloorsDocument document = readFloorsDocument(Arguments::text(arguments.input));
-    QJsonObject json = describe(*document.floors);
-    QString text = toText(*document.floors);
+    QJsonObject json = floorsToJson(*document.floors);
+    QString text = floorsText(*document.floors);
     json["leftOut"] = QJsonArray::fromStringList(document.leftOut);
     for (const QString &place : document.leftOut)
         text += QStringLiteral("\nleft out: ") + place;

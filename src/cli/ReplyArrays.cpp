@@ -12,7 +12,7 @@ namespace orvcad {
 namespace {
 
 /** The keys in quotes, with "and" before the last. */
-QString listOf(const std::vector<ReplyArray> &arrays)
+QString quotedKeys(const std::vector<ReplyArray> &arrays)
 {
     QStringList keys;
     for (const ReplyArray &array : arrays)
@@ -29,7 +29,7 @@ void forEachMember(const QJsonObject &reply, const QString &file, const std::vec
     const auto isThere = [&](const ReplyArray &array) { return reply.contains(array.key); };
     if (std::none_of(arrays.begin(), arrays.end(), isThere))
         throw CommandFailure(kBadInput, file, {},
-                             QStringLiteral("has none of the keys %1: no %2").arg(listOf(arrays), what));
+                             QStringLiteral("has none of the keys %1: no %2").arg(quotedKeys(arrays), what));
     for (const ReplyArray &array : arrays) {
         const QJsonValue members = reply.value(array.key);
         if (isThere(array) && !members.isArray())

@@ -1,4 +1,5 @@
 #include "cli/Applied.h"
+#include "cli/DrawingFiles.h"
 #include "cli/Files.h"
 #include "cli/FloorLookup.h"
 #include "cli/ProjectFiles.h"
@@ -8,9 +9,6 @@
 #include "cli/WallReply.h"
 #include "cli/Walls.h"
 #include "cli/Written.h"
-#include "platform/dwgx/DWGXModel.h"
-#include "platform/dwgx/HBXCADFileHelper.h"
-#include "platform/dwgx/HBXCADIOperator.h"
 
 #include <CLI/CLI.hpp>
 
@@ -24,15 +22,6 @@ namespace {
 constexpr char kJson[] = "json";
 constexpr char kXml[] = "xml";
 constexpr char kCloud[] = "cloud";
-
-void addDrawing(WallInput &input, const QString &path)
-{
-    const std::unique_ptr<dwgx::DWGXModel> drawing(dwgx::DWGXModel::createObject());
-    const std::unique_ptr<HBXCADIOperator> fileOperator(HBXCADFileHelper::getInstance()->createCADIOperator());
-    if (!fileOperator->read(path, drawing.get()))
-        throw CommandFailure(kBadInput, path, fileOperator->lastErrorPlace(), fileOperator->lastErrorReason());
-    input.addDrawing(*drawing, QFileInfo(path).fileName());
-}
 
 QByteArray documentOf(const WallInput &input, const std::string &format)
 {
@@ -48,8 +37,9 @@ Summary exportWalls(const Arguments &arguments)
         throw CommandFailure(kWrongUsage, QStringLiteral("there is no cloud document of force walls"));
     const auto project = openProject(Arguments::text(arguments.project));
     WallInput input(*project, pickFloor(*project, arguments), kind);
-    if (!arguments.drawing.empty())
-        addDrawing(input, Arguments::text(arguments.drawing));
+    const QString drawing = Arguments::text(arguments.drawing);
+    if (!drawing.isEmpty())
+        input.addDrawing(*readDrawing(drawing), QFileInfo(drawing).fileName());
 
     const QByteArray document = documentOf(input, arguments.format);
     const QStringList warnings = arguments.format == kXml ? input.unreadable(document) : QStringList();
