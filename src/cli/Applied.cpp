@@ -1,7 +1,7 @@
 #include "cli/Applied.h"
 
+#include "cli/Counted.h"
 #include "cli/ProjectFiles.h"
-#include "cli/ProjectInfo.h"
 #include "platform/embedded/HBXProject.h"
 #include "platform/host/HBXCheckError.h"
 #include "platform/host/IHBXCheck.h"

@@ -3,10 +3,11 @@
 #include "cli/BeamResult.h"
 #include "cli/BeamSeats.h"
 #include "cli/Beams.h"
+#include "cli/Counted.h"
 #include "cli/Files.h"
 #include "cli/FloorLookup.h"
 #include "cli/ProjectFiles.h"
-#include "cli/ProjectInfo.h"
+#include "cli/TypeTitles.h"
 #include "cli/Verb.h"
 #include "cli/Written.h"
 

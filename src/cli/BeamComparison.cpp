@@ -3,8 +3,8 @@
 #include "beam/BeamKeys.h"
 #include "cli/BeamReplyCheck.h"
 #include "cli/Beams.h"
+#include "cli/Counted.h"
 #include "cli/FloorLookup.h"
-#include "cli/ProjectInfo.h"
 #include "platform/embedded/HBXProject.h"
 
 #include <QJsonArray>
@@ -23,16 +23,10 @@ QString nameOf(const QJsonValue &beam) { return beam[beam::key::elementInfo][bea
 
 QString BeamComparison::text() const
 {
-    const QStringList lines{QStringLiteral("Compared with the original: %1 of beams, %2")
-                                .arg(counted(compared, QStringLiteral("segment")),
-                                     isSame() ? QStringLiteral("the payload written again is the same")
-                                              : QStringLiteral("the payload written again DIFFERS"))};
-    return (lines + deviations).join(QStringLiteral("\n  "));
-}
-
-QJsonObject BeamComparison::toJson() const
-{
-    return {{"compared", compared}, {"deviations", QJsonArray::fromStringList(deviations)}};
+    return textOf(QStringLiteral("%1 of beams, %2")
+                      .arg(counted(compared, QStringLiteral("segment")),
+                           isSame() ? QStringLiteral("the payload written again is the same")
+                                    : QStringLiteral("the payload written again DIFFERS")));
 }
 
 BeamComparison compareBeams(HBXProject &expected, HBXProject &found, const QString &floor)

@@ -2,7 +2,8 @@
 
 #include "beam/BeamIdentifyInput.h"
 #include "beam/ORVCADBeamIdentifyInputModel.h"
-#include "cli/ProjectInfo.h"
+#include "cli/Counted.h"
+#include "cli/TypeTitles.h"
 #include "platform/embedded/HBXProject.h"
 #include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXRegion.h"

@@ -5,9 +5,11 @@
 #include "beam/BeamKeys.h"
 #include "beam/ORVCADBeamCollectDataModel.h"
 #include "cli/BeamReplyCheck.h"
+#include "cli/Counted.h"
+#include "cli/ElementRemoval.h"
 #include "cli/FloorLookup.h"
-#include "cli/ProjectInfo.h"
 #include "cli/ReplyWriting.h"
+#include "cli/TypeTitles.h"
 #include "platform/embedded/HBXModelStore.h"
 #include "platform/embedded/HBXProject.h"
 #include "platform/host/HBXBatch.h"
@@ -267,13 +269,7 @@ BeamOutcome applyBeams(HBXProject &project, const QJsonObject &reply, const QStr
 
 int removeBeams(HBXProject &project, const IHBXFloor &floor)
 {
-    IHBXModel &model = *project.service()->model();
-    const HBXBatch batch(model, "orvcad remove beams");
-    QList<IHBXElement *> elements;
-    model.elements()->queryElements(elements, {floor.id()}, beamTypes(), true);
-    for (IHBXElement *element : qAsConst(elements))
-        element->remove();
-    return elements.size();
+    return removeElements(*project.service()->model(), {floor.id()}, beamTypes(), "orvcad remove beams");
 }
 
 } // namespace orvcad

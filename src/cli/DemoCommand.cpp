@@ -1,5 +1,6 @@
 #include "cli/BeamComparison.h"
 #include "cli/Beams.h"
+#include "cli/Counted.h"
 #include "cli/Files.h"
 #include "cli/FloorLookup.h"
 #include "cli/FloorsDocument.h"
@@ -99,7 +100,7 @@ void writeAndReadFloors(Tour &tour, const HBXProject &project)
 
 QJsonObject writePayload(Tour &tour, const HBXProject &project)
 {
-    OpeningOutcome counts;
+    OpeningCounts counts;
     QJsonObject reply = openingReply(*project.service()->model(), pickFloors(project, QString(), QString()), counts);
     const QByteArray json = QJsonDocument(reply).toJson();
     writeResult(tour.path(QStringLiteral("openings.json")), json);

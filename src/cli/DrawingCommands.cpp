@@ -1,7 +1,7 @@
+#include "cli/Counted.h"
 #include "cli/DrawingFiles.h"
 #include "cli/FloorLookup.h"
 #include "cli/ProjectFiles.h"
-#include "cli/ProjectInfo.h"
 #include "cli/Verb.h"
 #include "platform/dwgx/DWGXModel.h"
 #include "platform/embedded/HBXFloorDrawing.h"

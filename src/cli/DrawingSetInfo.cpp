@@ -1,6 +1,6 @@
 #include "cli/DrawingSetInfo.h"
 
-#include "cli/ProjectInfo.h"
+#include "cli/Counted.h"
 #include "cli/TextTable.h"
 #include "drawing/DrawingKeys.h"
 #include "platform/services/dwgxCommonUtil.h"

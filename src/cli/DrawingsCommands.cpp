@@ -1,9 +1,9 @@
+#include "cli/Counted.h"
 #include "cli/DrawingSetInfo.h"
 #include "cli/DrawingSetShape.h"
 #include "cli/Files.h"
 #include "cli/FloorExchange.h"
 #include "cli/FloorWords.h"
-#include "cli/ProjectInfo.h"
 #include "cli/TextTable.h"
 #include "cli/Verb.h"
 

@@ -1,7 +1,7 @@
+#include "cli/Counted.h"
 #include "cli/FloorLookup.h"
 #include "cli/FloorsDocument.h"
 #include "cli/ProjectFiles.h"
-#include "cli/ProjectInfo.h"
 #include "cli/TextTable.h"
 #include "cli/Verb.h"
 #include "cli/Written.h"

@@ -1,6 +1,6 @@
 #include "cli/JsonFault.h"
 
-#include "cli/ProjectInfo.h"
+#include "cli/Counted.h"
 
 #include <QJsonObject>
 

@@ -1,10 +1,11 @@
 #include "cli/Applied.h"
+#include "cli/Counted.h"
 #include "cli/Files.h"
 #include "cli/FloorLookup.h"
 #include "cli/Openings.h"
 #include "cli/ProjectFiles.h"
-#include "cli/ProjectInfo.h"
 #include "cli/Verb.h"
+#include "cli/Written.h"
 #include "doorwindow/ORVCADWindoorDataInputModel.h"
 #include "platform/host/IHBXService.h"
 
@@ -16,22 +17,19 @@ Summary exportOpenings(const Arguments &arguments)
 {
     const auto project = openProject(Arguments::text(arguments.project));
     const auto floors = pickFloors(*project, arguments);
-    OpeningOutcome counts;
+    const auto floorCount = static_cast<int>(floors.size());
+    OpeningCounts counts;
     const QJsonObject reply = openingReply(*project->service()->model(), floors, counts);
-    const QString output = Arguments::text(arguments.output);
-    const bool onStdout = writeResult(output, reply);
-    return {QStringLiteral("Wrote %1 and %2 (%3 in a wall) of %4")
-                .arg(counted(counts.elements, QStringLiteral("element")),
-                     counted(counts.placed, QStringLiteral("placed opening")))
-                .arg(counts.attached)
-                .arg(counted(static_cast<int>(floors.size()), QStringLiteral("floor"))),
-            {{"output", output},
-             {"floors", static_cast<int>(floors.size())},
-             {"elements", counts.elements},
-             {"placed", counts.placed},
-             {"attached", counts.attached}},
-            kDone,
-            onStdout};
+    return writeDocument(arguments, reply,
+                         {QStringLiteral("Wrote %1 and %2 (%3 in a wall) of %4")
+                              .arg(counted(counts.elements, QStringLiteral("element")),
+                                   counted(counts.placed, QStringLiteral("placed opening")))
+                              .arg(counts.attached)
+                              .arg(counted(floorCount, QStringLiteral("floor"))),
+                          {{"floors", floorCount},
+                           {"elements", counts.elements},
+                           {"placed", counts.placed},
+                           {"attached", counts.attached}}});
 }
 
 Summary applyReply(const Arguments &arguments)
@@ -43,19 +41,17 @@ Summary applyReply(const Arguments &arguments)
     return saveApplied(*project, outcome.leftOut.empty(), arguments.strict, outcome.text(), outcome.toJson());
 }
 
-Summary showOptions(const Arguments &arguments)
+Summary exportOptions(const Arguments &arguments)
 {
     const auto project = openProject(Arguments::text(arguments.project));
     ORVCADWindoorDataInputModel model;
     model.parseIdentifyOption(project->service());
     QJsonObject document;
     model.saveToJason(&document);
-    const QString output = Arguments::text(arguments.output);
-    const bool onStdout = writeResult(output, document);
-    return {QStringLiteral("Wrote %1").arg(counted(model.identifyOptions.size(), QStringLiteral("option"))),
-            {{"output", output}, {"options", model.identifyOptions.size()}},
-            kDone,
-            onStdout};
+    const int options = model.identifyOptions.size();
+    return writeDocument(
+        arguments, document,
+        {QStringLiteral("Wrote %1").arg(counted(options, QStringLiteral("option"))), {{"options", options}}});
 }
 
 } // namespace
@@ -71,7 +67,7 @@ void addOpeningCommands(CLI::App &app, Command &command)
         .project()
         .input("REPLY", "Reply document")
         .strict("reply");
-    Verb(group, command, "options", "Write the identify options of doors and windows", showOptions)
+    Verb(group, command, "options", "Write the identify options of doors and windows", exportOptions)
         .project()
         .output("File to write the options to");
 }

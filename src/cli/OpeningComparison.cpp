@@ -1,8 +1,8 @@
 #include "cli/OpeningComparison.h"
 
+#include "cli/Counted.h"
 #include "cli/FloorLookup.h"
 #include "cli/Openings.h"
-#include "cli/ProjectInfo.h"
 #include "doorwindow/DoorWindowKeys.h"
 #include "platform/embedded/HBXProject.h"
 #include "platform/host/IHBXElement.h"
@@ -24,7 +24,7 @@ namespace {
 
 QJsonArray membersWithoutIds(const HBXProject &project)
 {
-    OpeningOutcome counts;
+    OpeningCounts counts;
     const QJsonObject reply =
         openingReply(*project.service()->model(), pickFloors(project, QString(), QString()), counts);
     QJsonArray members = openingMembers(reply, project.path());

@@ -2,6 +2,7 @@
 #include "cli/ProjectFiles.h"
 #include "cli/ProjectInfo.h"
 #include "cli/Verb.h"
+#include "cli/Written.h"
 
 namespace orvcad {
 
@@ -21,15 +22,11 @@ Summary importProject(const Arguments &arguments)
 
 Summary exportProject(const Arguments &arguments)
 {
-    const QString output = Arguments::text(arguments.output);
     const auto project = openProject(Arguments::text(arguments.project));
-    const bool onStdout = writeResult(output, project->toJson());
-
     const ProjectInfo info = projectInfo(*project);
-    return {QStringLiteral("Exported %1: %2").arg(project->path(), info.counts()),
-            {{"input", project->path()}, {"output", output}, {"project", info.toJson()}},
-            kDone,
-            onStdout};
+    return writeDocument(arguments, project->toJson(),
+                         {QStringLiteral("Exported %1: %2").arg(project->path(), info.counts()),
+                          {{"input", project->path()}, {"project", info.toJson()}}});
 }
 
 Summary showInfo(const Arguments &arguments)

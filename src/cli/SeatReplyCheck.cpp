@@ -4,7 +4,7 @@
 #include "beam/BeamKeys.h"
 #include "cli/FloorLookup.h"
 #include "cli/MemberKinds.h"
-#include "cli/ProjectInfo.h"
+#include "cli/TypeTitles.h"
 #include "platform/geometry/KernelTolerance.h"
 
 using namespace beam;

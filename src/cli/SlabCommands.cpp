@@ -8,6 +8,7 @@
 #include "cli/SlabReplyCheck.h"
 #include "cli/Slabs.h"
 #include "cli/Verb.h"
+#include "cli/Written.h"
 #include "platform/host/IHBXFloor.h"
 
 #include <CLI/CLI.hpp>
@@ -26,16 +27,15 @@ Summary exportSlabs(const Arguments &arguments)
     const QString drawing = Arguments::text(arguments.drawing);
     const QJsonObject document =
         drawing.isEmpty() ? slabDocument(*project, floor, parts) : slabIoDocument(*project, floor, drawing);
-    const QString output = Arguments::text(arguments.output);
-    const bool onStdout = writeResult(output, document);
-    const QJsonObject model = slabModelOf(document, output);
-    QJsonObject json{{"output", output}, {"floor", floor.name()}, {"arrays", slabCounts(model)}};
+    const QJsonObject model = slabModelOf(document, Arguments::text(arguments.output));
+    QJsonObject json{{"floor", floor.name()}, {"arrays", slabCounts(model)}};
     if (!drawing.isEmpty())
         json["drawing"] = drawing;
-    return {QStringLiteral("Wrote %1 of %2%3")
-                .arg(slabCountsText(model), floor.name(),
-                     drawing.isEmpty() ? QString() : QStringLiteral(", with the drawing ") + drawing),
-            json, kDone, onStdout};
+    return writeDocument(arguments, document,
+                         {QStringLiteral("Wrote %1 of %2%3")
+                              .arg(slabCountsText(model), floor.name(),
+                                   drawing.isEmpty() ? QString() : QStringLiteral(", with the drawing ") + drawing),
+                          json});
 }
 
 /** Writes the map of what was made, unless --strict keeps it from being saved. A map of what then cannot be saved goes

@@ -1,7 +1,7 @@
 #include "cli/SlabComparison.h"
 
 #include "ModelSerialization/ORVCADBoardLocalModelTransformHBXService_Sample.h"
-#include "cli/ProjectInfo.h"
+#include "cli/Counted.h"
 #include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXRegion.h"
 #include "platform/services/HbxRelation.h"

@@ -2,8 +2,8 @@
 
 #include "ModelSerialization/ORVCADBoardLocalModelPersistenceService_Sample.h"
 #include "ModelSerialization/SlabHostKeys.h"
+#include "cli/Counted.h"
 #include "cli/ElementRemoval.h"
-#include "cli/ProjectInfo.h"
 #include "cli/SlabReplyCheck.h"
 #include "cli/SlabWriter.h"
 #include "platform/embedded/HBXProject.h"

@@ -1,8 +1,8 @@
 #include "cli/WallComparison.h"
 
 #include "IdentifyInputModel/Wall/WallKeys.h"
+#include "cli/Counted.h"
 #include "cli/FloorLookup.h"
-#include "cli/ProjectInfo.h"
 #include "cli/WallReply.h"
 #include "platform/embedded/HBXProject.h"
 

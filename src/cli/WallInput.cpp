@@ -1,7 +1,7 @@
 #include "cli/WallInput.h"
 
 #include "IdentifyInputModel/Wall/ORVCADWallInputModelConvertion.h"
-#include "cli/ProjectInfo.h"
+#include "cli/Counted.h"
 #include "cli/WallKind.h"
 #include "encoding/ORVCADXmlFileSerialization.h"
 #include "platform/dwgx/DWGXModel.h"

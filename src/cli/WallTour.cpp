@@ -1,9 +1,9 @@
 #include "cli/WallTour.h"
 
+#include "cli/Counted.h"
 #include "cli/Files.h"
 #include "cli/FloorLookup.h"
 #include "cli/ProjectFiles.h"
-#include "cli/ProjectInfo.h"
 #include "cli/WallReply.h"
 #include "platform/embedded/HBXProject.h"
 

@@ -1,8 +1,8 @@
 #include "cli/Walls.h"
 
 #include "IdentifyInputModel/Wall/WallKeys.h"
+#include "cli/Counted.h"
 #include "cli/ElementRemoval.h"
-#include "cli/ProjectInfo.h"
 #include "cli/WallReplyCheck.h"
 #include "platform/embedded/HBXProject.h"
 #include "platform/host/HBXBatch.h"
