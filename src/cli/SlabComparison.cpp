@@ -1,14 +1,12 @@
 #include "cli/SlabComparison.h"
 
 #include "ModelSerialization/ORVCADBoardLocalModelTransformHBXService_Sample.h"
-#include "cli/ProjectInfo.h"
+#include "cli/Counted.h"
 #include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXRegion.h"
 #include "platform/services/HbxRelation.h"
 #include "slab/ORVCADBoardLocalModel_Sample.h"
 #include "slab/TruncatedNumber.h"
-
-#include <QJsonArray>
 
 #include <algorithm>
 #include <cmath>
@@ -172,16 +170,10 @@ QString describe(const Piece &piece)
 
 QString SlabComparison::text() const
 {
-    const QStringList lines{QStringLiteral("Compared with the original: %1 of slabs, %2")
-                                .arg(counted(compared, QStringLiteral("member")),
-                                     isSame() ? QStringLiteral("nothing lost, added or moved")
-                                              : counted(deviations.size(), QStringLiteral("deviation")))};
-    return (lines + deviations).join(QStringLiteral("\n  "));
-}
-
-QJsonObject SlabComparison::toJson() const
-{
-    return {{"compared", compared}, {"deviations", QJsonArray::fromStringList(deviations)}};
+    return textOf(QStringLiteral("%1 of slabs, %2")
+                      .arg(counted(compared, QStringLiteral("member")),
+                           isSame() ? QStringLiteral("nothing lost, added or moved")
+                                    : counted(deviations.size(), QStringLiteral("deviation"))));
 }
 
 SlabComparison compareSlabs(IHBXModel &expectedModel, const IHBXFloor &expected, IHBXModel &foundModel,

@@ -1,7 +1,8 @@
+#include "cli/Beams.h"
+
 #include "ModelSerialization/ORVCADBeamLocalModel2HBXService.h"
 #include "beam/BeamModelDataInfo.h"
-#include "cli/Beams.h"
-#include "cli/Files.h"
+#include "cli/FloorLookup.h"
 #include "embedded/ExchangeDocuments.h"
 #include "platform/embedded/HBXModelStore.h"
 #include "platform/host/IHBXService.h"
@@ -54,10 +55,10 @@ QByteArray withoutSpans(const HBXProject &project)
     return copy->toJson();
 }
 
-class BeamApplyTest : public ::testing::TestWithParam<const char *>
+class BeamsTest : public ::testing::TestWithParam<const char *>
 {};
 
-TEST_P(BeamApplyTest, outcomeIsThatOfReconstructBeamButForTheSpans)
+TEST_P(BeamsTest, outcomeIsThatOfReconstructBeamButForTheSpans)
 {
     const QJsonObject reply = exported(GetParam());
     const auto applied = stripped(GetParam());
@@ -69,7 +70,7 @@ TEST_P(BeamApplyTest, outcomeIsThatOfReconstructBeamButForTheSpans)
     EXPECT_EQ(withoutSpans(*applied).toStdString(), reconstructed->toJson().toStdString());
 }
 
-TEST_P(BeamApplyTest, everyFloorGivesTheSameDocumentFromTheCopyAsFromTheBuilding)
+TEST_P(BeamsTest, everyFloorGivesTheSameDocumentFromTheCopyAsFromTheBuilding)
 {
     const auto original = projectOf(exchangetest::building(GetParam()));
     const auto copy = stripped(GetParam());
@@ -87,10 +88,9 @@ TEST_P(BeamApplyTest, everyFloorGivesTheSameDocumentFromTheCopyAsFromTheBuilding
     const QJsonObject again = beamDocument(*copy, pickFloors(*copy, QString(), QString()), counts);
     EXPECT_EQ(QJsonDocument(again).toJson().toStdString(), QJsonDocument(exported(GetParam())).toJson().toStdString());
 }
-INSTANTIATE_TEST_SUITE_P(Buildings, BeamApplyTest,
-                         ::testing::Values("duplex-apartment", "precast-hall", "masonry-block"));
+INSTANTIATE_TEST_SUITE_P(Buildings, BeamsTest, ::testing::Values("duplex-apartment", "precast-hall", "masonry-block"));
 
-TEST(BeamApplyOutcomeTest, madeBuildingComesOutAsReconstructBeamMakesIt)
+TEST(BeamOutcomeTest, madeBuildingComesOutAsReconstructBeamMakesIt)
 {
     const QJsonObject reply = exported("made-building");
     const auto applied = stripped("made-building");
@@ -100,7 +100,7 @@ TEST(BeamApplyOutcomeTest, madeBuildingComesOutAsReconstructBeamMakesIt)
     EXPECT_EQ(withoutSpans(*applied).toStdString(), reconstructed->toJson().toStdString());
 }
 
-TEST(BeamApplyOutcomeTest, everythingStandsInOneBatch)
+TEST(BeamOutcomeTest, everythingStandsInOneBatch)
 {
     const QJsonObject reply = exported("duplex-apartment");
     const auto project = stripped("duplex-apartment");
@@ -113,7 +113,7 @@ TEST(BeamApplyOutcomeTest, everythingStandsInOneBatch)
     EXPECT_EQ(brackets, (QStringList{"orvcad beam apply", "orvcad beam apply"}));
 }
 
-TEST(BeamApplyOutcomeTest, spansOfTheReplyStandAtTheHeadsOfTheChains)
+TEST(BeamOutcomeTest, spansOfTheReplyStandAtTheHeadsOfTheChains)
 {
     const QJsonObject reply = exported("made-building");
     const auto project = stripped("made-building");

@@ -4,9 +4,9 @@
 
 namespace {
 
-using DemoTest = CliFixture;
+using DemoCommandTest = CliFixture;
 
-TEST_F(DemoTest, tourBringsOpeningsBeamsAndSlabsBackWithoutDeviations)
+TEST_F(DemoCommandTest, tourBringsOpeningsBeamsAndSlabsBackWithoutDeviations)
 {
     const Result result = run({"demo", "tour", "--json"});
     EXPECT_EQ(result.exitCode, 0) << result.err.toStdString();
@@ -38,7 +38,7 @@ TEST_F(DemoTest, tourBringsOpeningsBeamsAndSlabsBackWithoutDeviations)
     EXPECT_EQ(summary["slabComparison"], QJsonValue(QJsonObject{{"compared", 21}, {"deviations", QJsonArray()}}));
 }
 
-TEST_F(DemoTest, tourBringsBrickAndForceWallsBackWithoutDeviations)
+TEST_F(DemoCommandTest, tourBringsBrickAndForceWallsBackWithoutDeviations)
 {
     const Result result = run({"demo", "tour", "--json"});
     EXPECT_EQ(result.exitCode, 0) << result.err.toStdString();
@@ -60,7 +60,7 @@ TEST_F(DemoTest, tourBringsBrickAndForceWallsBackWithoutDeviations)
     }
 }
 
-TEST_F(DemoTest, tourLeavesItsFiles)
+TEST_F(DemoCommandTest, tourLeavesItsFiles)
 {
     ASSERT_EQ(run({"demo", "tour"}).exitCode, 0);
     EXPECT_EQ(QDir(path("tour")).entryList(QDir::Files, QDir::Name).join(' ').toStdString(),
@@ -68,12 +68,10 @@ TEST_F(DemoTest, tourLeavesItsFiles)
               "hall-columns.json hall-drawings.json hall-restored.hbxdb hall-walls.json hall.hbxdb hall.json "
               "openings.json restored.hbxdb slab-ids.json "
               "slabs.json walls.json");
-    QFile original(sample("masonry-block"));
-    ASSERT_TRUE(original.open(QIODevice::ReadOnly));
-    EXPECT_EQ(read("tour/building.json"), original.readAll());
+    EXPECT_EQ(read("tour/building.json"), clitest::fileContent(sample("masonry-block")));
 }
 
-TEST_F(DemoTest, picturesDifferByTheOpeningsBeamsSlabsAndWallsOfTheDrawnFloor)
+TEST_F(DemoCommandTest, picturesDifferByTheOpeningsBeamsSlabsAndWallsOfTheDrawnFloor)
 {
     ASSERT_EQ(run({"demo", "tour"}).exitCode, 0);
     QDomDocument before;
@@ -87,7 +85,7 @@ TEST_F(DemoTest, picturesDifferByTheOpeningsBeamsSlabsAndWallsOfTheDrawnFloor)
     }
 }
 
-TEST_F(DemoTest, tourTellsItsStepsAsOneWouldTypeThem)
+TEST_F(DemoCommandTest, tourTellsItsStepsAsOneWouldTypeThem)
 {
     const Result result = run({"demo", "tour"});
     EXPECT_TRUE(result.out.startsWith("Building: Masonry block (")) << result.out.toStdString();
@@ -140,7 +138,7 @@ TEST_F(DemoTest, tourTellsItsStepsAsOneWouldTypeThem)
     }
 }
 
-TEST_F(DemoTest, typedStepsDoWhatTheTourDid)
+TEST_F(DemoCommandTest, typedStepsDoWhatTheTourDid)
 {
     ASSERT_EQ(run({"demo", "tour"}).exitCode, 0);
     EXPECT_EQ(run({"opening", "export", "tour/building.hbxdb"}).out, read("tour/openings.json"));
@@ -151,7 +149,7 @@ TEST_F(DemoTest, typedStepsDoWhatTheTourDid)
     EXPECT_EQ(run({"draw", "tour/restored.hbxdb", "--floor", "Level 1"}).out, read("tour/after.svg"));
 }
 
-TEST_F(DemoTest, tourMayBeTakenTwiceInOneDirectory)
+TEST_F(DemoCommandTest, tourMayBeTakenTwiceInOneDirectory)
 {
     ASSERT_EQ(run({"demo", "tour"}).exitCode, 0);
     const QByteArray after = read("tour/after.svg");
@@ -159,13 +157,13 @@ TEST_F(DemoTest, tourMayBeTakenTwiceInOneDirectory)
     EXPECT_EQ(read("tour/after.svg"), after);
 }
 
-TEST_F(DemoTest, tourGoesIntoItsOwnDirectoryWhenNoneIsNamed)
+TEST_F(DemoCommandTest, tourGoesIntoItsOwnDirectoryWhenNoneIsNamed)
 {
     ASSERT_EQ(run({"demo"}).exitCode, 0);
     EXPECT_TRUE(exists("orvcad-demo/after.svg"));
 }
 
-TEST_F(DemoTest, directoryThatCannotBeMadeIsNamed)
+TEST_F(DemoCommandTest, directoryThatCannotBeMadeIsNamed)
 {
     write("tour", QByteArray("a file"));
     refusal({"demo", "tour"}, "tour");
