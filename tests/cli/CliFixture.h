@@ -10,6 +10,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <vector>
+
 using clitest::with;
 using clitest::without;
 using openingtest::elementMember;
@@ -110,6 +113,18 @@ protected:
     {
         const Result result = run({"project", "import", sample(building), "-o", "house.hbxdb"});
         ASSERT_EQ(result.exitCode, 0) << result.err.toStdString();
+    }
+    using TakeFloor = std::function<void(const QString &region, const QJsonObject &floor)>;
+    /** Imports the sample buildings one by one as house.hbxdb, and gives their floors as project info tells them. */
+    void forEachFloorOfSamples(const TakeFloor &take)
+    {
+        for (const char *building : {"duplex-apartment", "masonry-block", "precast-hall", "made-building"}) {
+            importSample(building);
+            const QJsonObject info = run({"project", "info", "house.hbxdb", "--json"}).json();
+            for (const QJsonValue region : info["regions"].toArray())
+                for (const QJsonValue floor : region["floors"].toArray())
+                    take(region["name"].toString(), floor.toObject());
+        }
     }
     /** Imports a small building: region "House", floor "Level 1" of code "1", one brick wall along the x axis. */
     void importSmallHouse()

@@ -46,18 +46,13 @@ TEST_F(DrawCommandTest, objectsWithoutGeometryAreToldAndAreNoFailure)
 
 TEST_F(DrawCommandTest, everyFloorOfEverySampleIsDrawn)
 {
-    for (const char *building : {"duplex-apartment", "masonry-block", "precast-hall", "made-building"}) {
-        importSample(building);
-        const QJsonObject info = run({"project", "info", "house.hbxdb", "--json"}).json();
-        for (const QJsonValue region : info["regions"].toArray())
-            for (const QJsonValue floor : region.toObject()["floors"].toArray()) {
-                int placed = 0;
-                for (const QJsonValue type : floor.toObject()["types"].toArray())
-                    placed += type.toObject()["drawObjects"].toInt();
-                const QJsonObject drawn = draw(floor.toObject()["name"].toString(), region["name"].toString());
-                EXPECT_EQ(drawn["drawn"].toInt() + drawn["withoutGeometry"].toInt(), placed);
-            }
-    }
+    forEachFloorOfSamples([this](const QString &region, const QJsonObject &floor) {
+        int placed = 0;
+        for (const QJsonValue type : floor["types"].toArray())
+            placed += type["drawObjects"].toInt();
+        const QJsonObject drawn = draw(floor["name"].toString(), region);
+        EXPECT_EQ(drawn["drawn"].toInt() + drawn["withoutGeometry"].toInt(), placed);
+    });
 }
 
 TEST_F(DrawCommandTest, unknownRegionAndFloorListTheKnownOnes)

@@ -57,7 +57,7 @@ TEST_F(VerbTest, floorIsRequiredOfAVerbThatTakesOne)
 {
     Verb(m_app, m_command, "draw", "", told).pickedFloor();
     Verb(m_app, m_command, "export", "", told).anyFloors();
-    EXPECT_EQ(run("draw --region East"), "--floor is required");
+    EXPECT_EQ(run("draw"), "--floor is required");
     EXPECT_EQ(run("draw --floor 1"), "||1||||");
     EXPECT_EQ(run("export"), "||||||");
 }
