@@ -42,8 +42,9 @@ TEST_F(WallTourTest, wallsGoOutAndComeBackIntoTheCopyThatLostThem)
     EXPECT_EQ(tour.compare(), "Compared with the original: 2 pieces of brick walls, the reply written again is the "
                               "same but for ids");
     EXPECT_TRUE(tour.isSame());
-    EXPECT_EQ(tour.toJson()["apply"]["placed"], 2);
-    EXPECT_EQ(tour.toJson()["comparison"]["compared"], 2);
+    const QJsonObject json = tour.toJson();
+    EXPECT_EQ(json["apply"]["placed"], 2);
+    EXPECT_EQ(json["comparison"]["compared"], 2);
 }
 
 TEST_F(WallTourTest, copyThatDidNotGetItsWallsBackIsNotTheSame)
