@@ -59,7 +59,7 @@ constexpr char kPageStyle[] = "text{font-family:'DejaVu Sans','Noto Sans CJK SC'
 class PlanPainter
 {
 public:
-    PlanPainter(IHBXModel &model, IHBXFloor &floor, const QString &building)
+    PlanPainter(IHBXModel &model, const IHBXFloor &floor, const QString &building)
         : m_floor(floor), m_building(building), m_page(kWidth, kHeight)
     {
         collect(model);
@@ -98,7 +98,7 @@ private:
     void add(const PlanObject &placed);
     QString title() const;
 
-    IHBXFloor &m_floor;
+    const IHBXFloor &m_floor;
     QString m_building;
     SvgPage m_page;
     std::vector<PlanObject> m_objects;      // from the bottom to the top
@@ -288,7 +288,7 @@ void PlanPainter::paintLegend()
 
 } // namespace
 
-PlanSvg drawPlan(IHBXModel &model, IHBXFloor &floor, const QString &building)
+PlanSvg drawPlan(IHBXModel &model, const IHBXFloor &floor, const QString &building)
 {
     return PlanPainter(model, floor, building).paint();
 }

@@ -19,6 +19,6 @@ struct PlanSvg
 };
 
 /** @param building  title of the page */
-PlanSvg drawPlan(IHBXModel &model, IHBXFloor &floor, const QString &building);
+PlanSvg drawPlan(IHBXModel &model, const IHBXFloor &floor, const QString &building);
 
 } // namespace orvcad

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "JsonTexts.h"
+#include "OpeningReplies.h"
 
 #include <QDir>
 #include <QProcess>
@@ -14,6 +15,8 @@
 
 using clitest::with;
 using clitest::without;
+using openingtest::elementMember;
+using openingtest::placedMember;
 
 /** Runs the command in a directory of its own. */
 class CliFixture : public ::testing::Test
@@ -133,21 +136,7 @@ protected:
         ASSERT_EQ(run({"project", "import", "house.json", "-o", "house.hbxdb"}).exitCode, 0);
     }
 
-    static QJsonObject elementMember(const QString &name, int type = 4)
-    {
-        return {{"elementID", 1},        {"name", name},     {"nElementType", type},
-                {"nSubElementType", 0},  {"nHeight", 2100},  {"nWidth", 900},
-                {"nHeightFromFloor", 0}, {"floorName", "1"}, {"regionName", "House"}};
-    }
-    static QJsonObject placedMember(const QString &name, double x, double y)
-    {
-        return {{"elementName", name},   {"X", x},           {"Y", y},
-                {"nHeightFromFloor", 0}, {"floorName", "1"}, {"regionName", "House"}};
-    }
-    void writeReply(const QJsonArray &members) const
-    {
-        write("reply.json", QJsonObject{{"eDoorWin", QJsonObject{{"ElementsAndEdos", members}}}});
-    }
+    void writeReply(const QJsonArray &members) const { write("reply.json", openingtest::replyOf(members)); }
 
 private:
     QTemporaryDir m_directory;

@@ -32,9 +32,8 @@ TEST_F(PlanLegendTest, titleNamesFloorBuildingRegionCodeElevationAndScale)
 {
     openHouse();
     legend.paintTitle(floor(), "House & garden", 100);
-    EXPECT_EQ(Picture::texts(picture().root()),
-              (QStringList{"F", "House & garden", "House", "Floor code 1", "Bottom 0 m, height 3 m",
-                           "Scale 1:100 (A3)"}));
+    EXPECT_EQ(Picture::texts(picture().root()), (QStringList{"F", "House & garden", "House", "Floor code 1",
+                                                             "Bottom 0 m, height 3 m", "Scale 1:100 (A3)"}));
 }
 
 TEST_F(PlanLegendTest, titleThatIsTooLongIsMadeSmaller)
@@ -52,9 +51,8 @@ TEST_F(PlanLegendTest, areasHaveASwatchLinesALineAndWindowsBoth)
     legend.paintEntries({{0, {19, 3, true}}, {1, {23, 1, false}}, {2, {5, 2, true}}});
     const Picture all = picture();
     const QDomElement entries = all.group("legend");
-    EXPECT_EQ(Picture::texts(entries),
-              (QStringList{QStringLiteral("3 × slab"), QStringLiteral("1 × slab negative bar"),
-                           QStringLiteral("2 × window")}));
+    EXPECT_EQ(Picture::texts(entries), (QStringList{QStringLiteral("3 × slab"), QStringLiteral("1 × slab negative bar"),
+                                                    QStringLiteral("2 × window")}));
     EXPECT_EQ(count(entries, "rect"), 2);
     EXPECT_EQ(count(entries, "path"), 2);
 }
@@ -70,9 +68,8 @@ TEST_F(PlanLegendTest, elevationsStandBelowTheEntriesTypeByType)
     legend.paintElevations({{19, slabs}, {48, rafts}});
     const Picture all = picture();
     const QDomElement elevations = all.group("elevations");
-    EXPECT_EQ(Picture::texts(elevations),
-              (QStringList{"Top of slabs", "1 at +3.000 m", "1 at +2.950 m", "Top of rafts",
-                           QStringLiteral("1 at −1.500 m")}));
+    EXPECT_EQ(Picture::texts(elevations), (QStringList{"Top of slabs", "1 at +3.000 m", "1 at +2.950 m", "Top of rafts",
+                                                       QStringLiteral("1 at −1.500 m")}));
     double above = textOf(all.group("legend"), QStringLiteral("2 × slab")).attribute("y").toDouble();
     for (const QString &line : Picture::texts(elevations)) {
         const double y = textOf(elevations, line).attribute("y").toDouble();
@@ -98,9 +95,9 @@ struct Bar
 TEST_F(PlanLegendTest, scaleBarIsTheLongestRoundOneThatFits)
 {
     // Two halves have 50 mm of paper.
-    for (const Bar &bar : {Bar{100, "20", {"0", "2", "4 m"}}, Bar{20, "25", {"0", "0.5", "1 m"}},
-                           Bar{10000, "5", {"0", "50", "100 m"}},
-                           Bar{1, "100", {"0", "0.1", "0.2 m"}}}) { // none fits: the shortest
+    for (const Bar &bar :
+         {Bar{100, "20", {"0", "2", "4 m"}}, Bar{20, "25", {"0", "0.5", "1 m"}}, Bar{10000, "5", {"0", "50", "100 m"}},
+          Bar{1, "100", {"0", "0.1", "0.2 m"}}}) { // none fits: the shortest
         SvgPage sheet(420, 297);
         PlanLegend(sheet).paintScaleBar(bar.scale);
         const Picture drawn(sheet.document("", ""));

@@ -18,7 +18,11 @@ protected:
     }
     static std::string text(const vks::CBox2<double> &box)
     {
-        return QStringLiteral("%1 %2 %3 %4").arg(box.minPt.x).arg(box.minPt.y).arg(box.maxPt.x).arg(box.maxPt.y)
+        return QStringLiteral("%1 %2 %3 %4")
+            .arg(box.minPt.x)
+            .arg(box.minPt.y)
+            .arg(box.maxPt.x)
+            .arg(box.maxPt.y)
             .toStdString();
     }
 };

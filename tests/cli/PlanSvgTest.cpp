@@ -158,10 +158,9 @@ TEST_F(PlanSvgTest, axesCarryTheirLabels)
 
 TEST_F(PlanSvgTest, slabsAreShadedByElevationTheLowerTheDarker)
 {
-    const Picture picture =
-        drawHouse(slab("B0", "POLYGON((0 0, 900 0, 900 900, 0 900, 0 0))", "3") + ',' +
-                  slab("B1", "POLYGON((1000 0, 1900 0, 1900 900, 1000 900, 1000 0))", "2.95") + ',' +
-                  slab("B2", "POLYGON((2000 0, 2900 0, 2900 900, 2000 900, 2000 0))", "3"));
+    const Picture picture = drawHouse(slab("B0", "POLYGON((0 0, 900 0, 900 900, 0 900, 0 0))", "3") + ',' +
+                                      slab("B1", "POLYGON((1000 0, 1900 0, 1900 900, 1000 900, 1000 0))", "2.95") +
+                                      ',' + slab("B2", "POLYGON((2000 0, 2900 0, 2900 900, 2000 900, 2000 0))", "3"));
     EXPECT_EQ(Picture::texts(picture.group("elevations")),
               (QStringList{"Top of slabs", "2 at +3.000 m", "1 at +2.950 m"}));
     const QDomNodeList paths = picture.groupOfType(19).elementsByTagName("path");
