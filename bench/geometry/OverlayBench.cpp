@@ -79,10 +79,9 @@ void addRelation(bench::RatioTable &table, const char *name, double shift)
 int main()
 {
     bench::RatioTable table("Overlay and relations of polygons", bench::Time::Cpu);
-    for (const int corners : {4, 12})
-        addOverlay(table, corners, 0.0);
-    for (const int corners : {100, 1000})
-        addOverlay(table, corners, kOverlayCeiling);
+    for (const int corners : {4, 12, 100})
+        addOverlay(table, corners, 0.0); // told only: what is done once for each overlay weighs more in small ones
+    addOverlay(table, 1000, kOverlayCeiling);
     addRelation(table, "relation of equal squares / apart", 0);
     addRelation(table, "relation of overlapping squares / apart", 50);
     addRelation(table, "relation of touching squares / apart", 100);
