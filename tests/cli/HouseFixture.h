@@ -58,7 +58,7 @@ protected:
     static QByteArray slab(const char *name, const char *outline, const char *topElev = "3")
     {
         return QString(R"~({"name": "%1", "type": 19, "properties": {"Thickness": 120}, "drawObjects": [
-            {"properties": {"TopElev": "%3"}, "shape": {"kind": "face", "outline": "%2"}}]})~")
+            {"properties": {"TopElev": "%3"}, "shape": {"kind": "face", "outline": "%2", "height": -120}}]})~")
             .arg(name, outline, topElev)
             .toUtf8();
     }

@@ -22,8 +22,11 @@ protected:
     /** Bars of a slab. */
     static QByteArray bars(const char *info)
     {
-        return QByteArray(R"~({"name": "SLJ", "type": 22, "drawObjects": [{"properties": {"BarInfo": ")~") + info +
-               R"~("}, "shape": {"kind": "face2d", "outline": "POLYGON((0 0, 900 0, 900 900, 0 900, 0 0))"}}]})~";
+        return QString(R"~({"name": "SLJ", "type": 22, "drawObjects": [{"properties": {"BarInfo": "%1", "Type": 0,
+            "Position": 1, "CurveData": "LINESTRING(0 500, 900 500)", "ReferenceCurve": "LINESTRING(0 500, 900 500)"},
+            "shape": {"kind": "face2d", "outline": "POLYGON((0 0, 900 0, 900 900, 0 900, 0 0))"}}]})~")
+            .arg(QLatin1String(info))
+            .toUtf8();
     }
 
     const QByteArray b1 = slab("B1", "POLYGON((0 0, 900 0, 900 800, 0 800, 0 0))");
@@ -64,6 +67,7 @@ TEST_F(SlabComparisonTest, otherElevationAndOtherOutlineAreTold)
 
 TEST_F(SlabComparisonTest, barsAreComparedByWhatTheySay)
 {
+    EXPECT_EQ(compare(bars("C10@200"), bars("C10@200")).compared, 1);
     EXPECT_TRUE(compare(bars("C10@200"), bars("C10@200")).isSame());
     EXPECT_FALSE(compare(bars("C10@200"), bars("C12@200")).isSame());
 }
