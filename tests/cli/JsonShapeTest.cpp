@@ -1,7 +1,7 @@
 #include "cli/JsonShape.h"
 
 #include "JsonTexts.h"
-#include "encoding/KeyLiteral.h"
+#include "encoding/RecordKey.h"
 
 using namespace orvcad;
 using clitest::valueOf;

@@ -2,7 +2,7 @@
 
 #include "CommandFailures.h"
 #include "JsonTexts.h"
-#include "encoding/KeyLiteral.h"
+#include "encoding/RecordKey.h"
 
 using clitest::failureOf;
 using clitest::objectOf;
