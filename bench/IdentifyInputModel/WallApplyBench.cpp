@@ -1,35 +1,20 @@
 #include "IdentifyInputModel/Wall/JsonWall2HBX.h"
-#include "platform/embedded/HBXProject.h"
 #include "platform/host/HBXCheckError.h"
 #include "platform/host/IHBXCheck.h"
 #include "platform/host/IHBXDrawObjs.h"
 #include "platform/host/IHBXModel.h"
-#include "platform/host/IHBXService.h"
 #include "support/RatioBench.h"
+#include "support/ReplyApply.h"
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
 #include <algorithm>
-#include <cstdlib>
 #include <map>
-#include <memory>
 #include <vector>
 
-using hbx::embedded::HBXProject;
-using hbx::embedded::ProjectError;
-
 namespace {
-
-QByteArray buildingText()
-{
-    QFile file(QStringLiteral(ORVCAD_TEST_DATA "/buildings/masonry-block.json"));
-    if (!file.open(QIODevice::ReadOnly))
-        std::abort();
-    return file.readAll();
-}
 
 QJsonObject elementOf(int number, const QString &name)
 {
@@ -83,53 +68,29 @@ QByteArray replyText(int pieces, const Shares &shares)
     return QJsonDocument(QJsonObject{{"eBrickWall", QJsonObject{{"ElementsAndEdos", document}}}}).toJson();
 }
 
-/** Writes a reply into a building that is fresh for each run. */
-class Apply
-{
-public:
-    Apply(int pieces, const Shares &shares) : m_reply(replyText(pieces, shares)) {}
+bench::ReplyApply applyOf(int pieces, const Shares &shares) { return {replyText(pieces, shares), jsonBrickWall2HBX}; }
 
-    void prepare()
-    {
-        static const QByteArray building = buildingText();
-        ProjectError error;
-        m_project = HBXProject::fromJson(building, QStringLiteral("masonry-block.json"), error);
-        if (!m_project)
-            std::abort();
-    }
-    void run() { jsonBrickWall2HBX(m_project->service(), QJsonDocument::fromJson(m_reply).object()); }
-    /** What the command asks of each object that was made. */
-    void check()
-    {
-        IHBXModel &model = *m_project->service()->model();
+/** What the command asks of each object that was made. */
+bench::Work checking(bench::ReplyApply &apply)
+{
+    const auto make = [&apply] {
+        apply.prepare();
+        apply.run();
+    };
+    const auto check = [&apply] {
+        IHBXModel &model = *apply.service()->model();
         HBXCheckError error;
         std::map<qint64, QString> collisions;
         for (int i = 0; i < model.drawObjects()->count(); ++i)
             bench::keep(model.checker()->checkDrawObj(model.drawObjects()->at(i), error, collisions));
-    }
-    bench::Work work()
-    {
-        return {[this] { prepare(); }, [this] { run(); }};
-    }
-    bench::Work checking()
-    {
-        return {[this] {
-                    prepare();
-                    run();
-                },
-                [this] { check(); }};
-    }
-    const QByteArray &reply() const { return m_reply; }
-
-private:
-    QByteArray m_reply;
-    std::unique_ptr<HBXProject> m_project;
-};
+    };
+    return {make, check};
+}
 
 /** What no reader of the reply can avoid: the document, and a look at each value. */
-void walk(const QByteArray &reply)
+void walk(const bench::ReplyApply &apply)
 {
-    const QJsonObject walls = QJsonDocument::fromJson(reply).object()["eBrickWall"].toObject();
+    const QJsonObject walls = apply.object()["eBrickWall"].toObject();
     int length = 0;
     for (const QJsonValue member : walls["ElementsAndEdos"].toObject()["BrickWallIdentifyData"].toObject())
         for (const QJsonValue piece : member.toArray())
@@ -156,14 +117,14 @@ int main()
                    {"a piece each", {1, false}},
                    {"a piece each, one name for all", {1, true}}};
     for (const auto &reply : replies) {
-        Apply small(kSmall, reply.shares);
-        Apply large(kLarge, reply.shares);
+        bench::ReplyApply small = applyOf(kSmall, reply.shares);
+        bench::ReplyApply large = applyOf(kLarge, reply.shares);
         const std::string name = reply.name;
-        table.row(name + " / reply parsed and walked", kLarge, large.work(), [&] { walk(large.reply()); });
+        table.row(name + " / reply parsed and walked", kLarge, large.work(), [&] { walk(large); });
         table.growth(name + ", cost per piece", kLarge, large.work(), kSmall, small.work(), kLinear);
     }
-    Apply small(kSmall, {1, false});
-    Apply large(kLarge, {1, false});
-    table.growth("check of all, cost per piece", kLarge, large.checking(), kSmall, small.checking(), kLinear);
+    bench::ReplyApply small = applyOf(kSmall, {1, false});
+    bench::ReplyApply large = applyOf(kLarge, {1, false});
+    table.growth("check of all, cost per piece", kLarge, checking(large), kSmall, checking(small), kLinear);
     return table.print();
 }

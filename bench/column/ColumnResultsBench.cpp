@@ -1,6 +1,6 @@
 #include "column/ORVCADAIIdentifyColumnResultModel.h"
 #include "encoding/GeometryInfo.h"
-#include "encoding/KeyLiteral.h"
+#include "encoding/RecordKey.h"
 #include "platform/geometry/CLine2d.h"
 #include "support/RatioBench.h"
 

@@ -400,11 +400,11 @@ void addBuilding(bench::RatioTable &table)
 {
     constexpr int kDrawings = 5000;
     constexpr int kSmall = 50;
-    constexpr int kStoreys = 60;
+    constexpr int kFloorsOfBuilding = 60;
     constexpr double kFlat = 3.0;   // what misses of the processor's caches cost
     constexpr double kLookup = 3.0; // the records are asked for each floor name; the hashes hold ready answers
-    const Building large(kDrawings, kStoreys);
-    const Building small(kSmall, kStoreys);
+    const Building large(kDrawings, kFloorsOfBuilding);
+    const Building small(kSmall, kFloorsOfBuilding);
     const BuildingByHand byHand(large);
     const auto floorsOfAll = [](const Building &one) {
         return [&one] {
@@ -418,7 +418,7 @@ void addBuilding(bench::RatioTable &table)
                 bench::keep(one.mappings.getMappingDrawingNames(kRegion, floor));
         };
     };
-    table.growth("drawings of a floor, 50 to 5,000 by 60", kStoreys, drawingsOfAll(large), kStoreys,
+    table.growth("drawings of a floor, 50 to 5,000 by 60", kFloorsOfBuilding, drawingsOfAll(large), kFloorsOfBuilding,
                  drawingsOfAll(small), kFlat);
     table.row(
         "floors of each of 5,000 drawings / two hashes", kDrawings, floorsOfAll(large),
@@ -431,7 +431,7 @@ void addBuilding(bench::RatioTable &table)
         },
         kLookup);
     table.row(
-        "drawings of each of 60 floors / two hashes", kStoreys, drawingsOfAll(large),
+        "drawings of each of 60 floors / two hashes", kFloorsOfBuilding, drawingsOfAll(large),
         [&] {
             for (const QString &floor : large.floorNames)
                 bench::keep(byHand.drawings.value({kRegion, floor}));

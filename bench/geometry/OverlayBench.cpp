@@ -1,22 +1,21 @@
+// Overlay against the same by GEOS alone, floating: corners in, corners out, no welding, no rounding, no judging of the
+// result; and relations of polygons against that of two whose boxes lie apart.
+
 #include "platform/geometry/CBooleanOperate2D.h"
 #include "platform/geometry/CLine2d.h"
 #include "platform/geometry/GeosContext.h"
 #include "platform/geometry/PolygonRelation.h"
+#include "support/RatioBench.h"
 
-#include <algorithm>
-#include <benchmark/benchmark.h>
-#include <chrono>
 #include <geos_c.h>
-
-// Overlay against the same by GEOS alone, floating: corners in, corners out, no welding, no rounding, no judging of the
-// result. Both sides run in turn; the counter "ratio" is the quotient of their medians.
 
 namespace {
 
 namespace geos = vks::geos;
 using Point = vks::CVec2<double>;
 using PolygonPtr = vks::CRefPtr<vks::CPolygon>;
-using Clock = std::chrono::steady_clock;
+
+constexpr double kOverlayCeiling = 1.3; // of GEOS alone
 
 /** A cogged wheel: every second corner lies farther out. */
 vks::Ring wheel(const Point &centre, int corners)
@@ -49,54 +48,42 @@ std::size_t byGeosAlone(const vks::Ring &a, const vks::Ring &b)
     return corners;
 }
 
-template <typename Work> double secondsOf(Work work)
+/** Two wheels that overlap, of so many corners each; times are per corner. */
+void addOverlay(bench::RatioTable &table, int corners, double ceiling)
 {
-    const Clock::time_point start = Clock::now();
-    benchmark::DoNotOptimize(work());
-    return std::chrono::duration<double>(Clock::now() - start).count();
-}
-
-double median(std::vector<double> values)
-{
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
-
-void overlay(benchmark::State &state)
-{
-    const vks::Ring a = wheel({0, 0}, static_cast<int>(state.range(0)));
-    const vks::Ring b = wheel({700, 300}, static_cast<int>(state.range(0)));
+    const vks::Ring a = wheel({0, 0}, corners);
+    const vks::Ring b = wheel({700, 300}, corners);
     const PolygonPtr first = polygonOf(a);
     const PolygonPtr second = polygonOf(b);
-    std::vector<double> ours;
-    std::vector<double> alone;
-    for (auto _ : state) {
-        ours.push_back(secondsOf([&] { return vks::CBooleanOperate2D::Intersect(first, second)->LoopCount(); }));
-        alone.push_back(secondsOf([&] { return byGeosAlone(a, b); }));
-    }
-    state.counters["ratio"] = median(ours) / median(alone);
+    const auto ours = [&] { bench::keep(vks::CBooleanOperate2D::Intersect(first, second)->LoopCount()); };
+    const auto alone = [&] { bench::keep(byGeosAlone(a, b)); };
+    table.row("intersection / by GEOS alone", 2 * static_cast<std::size_t>(corners), ours, alone, ceiling);
 }
 
-void relationOfApartBoxes(benchmark::State &state)
+PolygonPtr squareAt(double x) { return polygonOf({{x, 0}, {x + 100, 0}, {x + 100, 100}, {x, 100}}); }
+
+/** Two squares that lie so far beside each other, against squares apart. */
+void addRelation(bench::RatioTable &table, const char *name, double shift)
 {
-    const PolygonPtr a = polygonOf({{0, 0}, {100, 0}, {100, 100}, {0, 100}});
-    const PolygonPtr b = polygonOf({{500, 0}, {600, 0}, {600, 100}, {500, 100}});
-    for (auto _ : state)
-        benchmark::DoNotOptimize(vks::PolygonPolygonPosition(a, b, 1.0));
+    const PolygonPtr square = squareAt(0);
+    const PolygonPtr moved = squareAt(shift);
+    const PolygonPtr apart = squareAt(500);
+    const auto relation = [&square](const PolygonPtr &other) {
+        return [&] { bench::keep(vks::PolygonPolygonPosition(square, other, 1.0)); };
+    };
+    table.row(name, 1, relation(moved), relation(apart));
 }
-
-void relationOfOverlappingBoxes(benchmark::State &state)
-{
-    const auto shift = static_cast<double>(state.range(0));
-    const PolygonPtr a = polygonOf({{0, 0}, {100, 0}, {100, 100}, {0, 100}});
-    const PolygonPtr b = polygonOf({{shift, 0}, {shift + 100, 0}, {shift + 100, 100}, {shift, 100}});
-    for (auto _ : state)
-        benchmark::DoNotOptimize(vks::PolygonPolygonPosition(a, b, 1.0));
-}
-
-BENCHMARK(overlay)->Arg(4)->Arg(12)->Arg(100)->Arg(1000)->Unit(benchmark::kMicrosecond);
-BENCHMARK(relationOfApartBoxes);
-BENCHMARK(relationOfOverlappingBoxes)->Arg(0)->Arg(50)->Arg(100);
 
 } // namespace
+
+int main()
+{
+    bench::RatioTable table("Overlay and relations of polygons", bench::Time::Cpu);
+    for (const int corners : {4, 12, 100})
+        addOverlay(table, corners, 0.0); // told only: what is done once for each overlay weighs more in small ones
+    addOverlay(table, 1000, kOverlayCeiling);
+    addRelation(table, "relation of equal squares / apart", 0);
+    addRelation(table, "relation of overlapping squares / apart", 50);
+    addRelation(table, "relation of touching squares / apart", 100);
+    return table.print();
+}

@@ -72,46 +72,38 @@ constexpr WriteStep kWidth = WriteStep::Width;
 constexpr WriteStep kElevations = WriteStep::Elevations;
 
 // clang-format off
-const EntRow (&entRows())[19]
-{
-    static const EntRow rows[] = {
-        {property::sectionWidth,     kInteger, true,  kAny,     kAlways,  kSection,    &Ent::SectionWidth},
-        {property::sectionHeight,    kInteger, true,  kAny,     kAlways,  kSection,    &Ent::SectionHeight},
-        {property::sectionPoly,      kText,    false, kAny,     kIfThere, kUnwritten,  Outline{&Ent::SectionPoly}},
-        // Meant: elevations of the element are never written; they reach the host by the draw objects alone.
-        {property::startPtTopElev,   kText,    true,  kAny,     kAlways,  kUnwritten,  &Ent::StartTopElev},
-        {property::endPtTopElev,     kText,    true,  kAny,     kAlways,  kUnwritten,  &Ent::EndTopElev},
-        {property::hoopBar,          kText,    true,  kAny,     kIfThere, kCommonBars, &Ent::HoopBar},
-        {property::limb,             kText,    true,  kAny,     kIfThere, kCommonBars, &Ent::LimbCount},
-        {property::tieBar,           kText,    true,  kAny,     kIfThere, kCommonBars, &Ent::TieBar},
-        {property::axisOffset,       kDouble,  true,  kAny,     kAlways,  kOffset,     &Ent::AxisOffset},
-        {property::axisOffsetJZBZ,   kDouble,  true,  kAny,     kIfThere, kOffset,     &Ent::AxisOffset},
-        {property::spanCount,        kText,    true,  kSpanned, kAlways,  kSpanCount,  &BeamEntInfo::SpanCount},
-        {property::topThroughBar,    kText,    true,  kSpanned, kAlways,  kBarsOfKind, &BeamEntInfo::TopThroughBar},
-        {property::bottomThroughBar, kText,    true,  kSpanned, kAlways,  kBarsOfKind, &BeamEntInfo::BottomThroughBar},
-        {property::sideBar,          kText,    true,  kSpanned, kAlways,  kBarsOfKind, &BeamEntInfo::SideBar},
-        {property::type1,            kInteger, true,  kBeam,    kAlways,  kType,       &BeamEntInfo::Type},
-        {property::type,             kInteger, false, kOther,   kAlways,  kType,       &BeamEntInfo::Type},
-        {property::topHoriBar,       kText,    true,  kLink,    kAlways,  kBarsOfKind, &LinkBeamEntInfo::TopHoribar},
-        {property::bottomHoriBar,    kText,    true,  kLink,    kAlways,  kBarsOfKind, &LinkBeamEntInfo::BottomHoriBar},
-        {property::sideBarAL,        kText,    true,  kLink,    kAlways,  kBarsOfKind, &LinkBeamEntInfo::SideBarAL},
-    };
-    return rows;
-}
+constexpr EntRow kEntRows[] = {
+    {property::sectionWidth,     kInteger, true,  kAny,     kAlways,  kSection,    &Ent::SectionWidth},
+    {property::sectionHeight,    kInteger, true,  kAny,     kAlways,  kSection,    &Ent::SectionHeight},
+    {property::sectionPoly,      kText,    false, kAny,     kIfThere, kUnwritten,  Outline{&Ent::SectionPoly}},
+    // Meant: elevations of the element are never written; they reach the host by the draw objects alone.
+    {property::startPtTopElev,   kText,    true,  kAny,     kAlways,  kUnwritten,  &Ent::StartTopElev},
+    {property::endPtTopElev,     kText,    true,  kAny,     kAlways,  kUnwritten,  &Ent::EndTopElev},
+    {property::hoopBar,          kText,    true,  kAny,     kIfThere, kCommonBars, &Ent::HoopBar},
+    {property::limb,             kText,    true,  kAny,     kIfThere, kCommonBars, &Ent::LimbCount},
+    {property::tieBar,           kText,    true,  kAny,     kIfThere, kCommonBars, &Ent::TieBar},
+    {property::axisOffset,       kDouble,  true,  kAny,     kAlways,  kOffset,     &Ent::AxisOffset},
+    {property::axisOffsetJZBZ,   kDouble,  true,  kAny,     kIfThere, kOffset,     &Ent::AxisOffset},
+    {property::spanCount,        kText,    true,  kSpanned, kAlways,  kSpanCount,  &BeamEntInfo::SpanCount},
+    {property::topThroughBar,    kText,    true,  kSpanned, kAlways,  kBarsOfKind, &BeamEntInfo::TopThroughBar},
+    {property::bottomThroughBar, kText,    true,  kSpanned, kAlways,  kBarsOfKind, &BeamEntInfo::BottomThroughBar},
+    {property::sideBar,          kText,    true,  kSpanned, kAlways,  kBarsOfKind, &BeamEntInfo::SideBar},
+    {property::type1,            kInteger, true,  kBeam,    kAlways,  kType,       &BeamEntInfo::Type},
+    {property::type,             kInteger, false, kOther,   kAlways,  kType,       &BeamEntInfo::Type},
+    {property::topHoriBar,       kText,    true,  kLink,    kAlways,  kBarsOfKind, &LinkBeamEntInfo::TopHoribar},
+    {property::bottomHoriBar,    kText,    true,  kLink,    kAlways,  kBarsOfKind, &LinkBeamEntInfo::BottomHoriBar},
+    {property::sideBarAL,        kText,    true,  kLink,    kAlways,  kBarsOfKind, &LinkBeamEntInfo::SideBarAL},
+};
 
-const SegmentRow (&segmentRows())[5]
-{
-    using Segment = BeamSegmentInfo;
-    static const SegmentRow rows[] = {
-        // Meant: read from the shape, and rounded where the element's width is not.
-        {property::sectionWidth,   kInteger, true, kAny, kNever,   kWidth,      Rounded{&Segment::LineWidth}},
-        {property::axisOffset,     kDouble,  true, kAny, kAlways,  kOffset,     &Segment::AxisOffset},
-        {property::axisOffsetJZBZ, kDouble,  true, kAny, kIfThere, kOffset,     &Segment::AxisOffset},
-        {property::startPtTopElev, kText,    true, kAny, kAlways,  kElevations, &Segment::StartPtTopElev},
-        {property::endPtTopElev,   kText,    true, kAny, kAlways,  kElevations, &Segment::EndPtTopElev},
-    };
-    return rows;
-}
+using Segment = BeamSegmentInfo;
+constexpr SegmentRow kSegmentRows[] = {
+    // Meant: read from the shape, and rounded where the element's width is not.
+    {property::sectionWidth,   kInteger, true, kAny, kNever,   kWidth,      Rounded{&Segment::LineWidth}},
+    {property::axisOffset,     kDouble,  true, kAny, kAlways,  kOffset,     &Segment::AxisOffset},
+    {property::axisOffsetJZBZ, kDouble,  true, kAny, kIfThere, kOffset,     &Segment::AxisOffset},
+    {property::startPtTopElev, kText,    true, kAny, kAlways,  kElevations, &Segment::StartPtTopElev},
+    {property::endPtTopElev,   kText,    true, kAny, kAlways,  kElevations, &Segment::EndPtTopElev},
+};
 // clang-format on
 
 bool counts(Of types, qint64 elementType)
@@ -228,22 +220,22 @@ constexpr qint64 kAnyType = -1; // rows of segments are for all types
 
 void readEntProperties(const IHBXProperties &properties, qint64 elementType, BaseBeamEntInfo &record)
 {
-    readRows(properties, entRows(), elementType, record);
+    readRows(properties, kEntRows, elementType, record);
 }
 
 void readSegmentProperties(const IHBXProperties &properties, BeamSegmentInfo &record)
 {
-    readRows(properties, segmentRows(), kAnyType, record);
+    readRows(properties, kSegmentRows, kAnyType, record);
 }
 
 std::vector<PropertyText> entPropertyTexts(const BaseBeamEntInfo &record, WriteStep step)
 {
-    return textsOf(entRows(), record.ElementType, record, step);
+    return textsOf(kEntRows, record.ElementType, record, step);
 }
 
 std::vector<PropertyText> segmentPropertyTexts(const BeamSegmentInfo &record, WriteStep step)
 {
-    return textsOf(segmentRows(), kAnyType, record, step);
+    return textsOf(kSegmentRows, kAnyType, record, step);
 }
 
 } // namespace beam

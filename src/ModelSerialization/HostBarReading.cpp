@@ -1,7 +1,7 @@
 #include "ModelSerialization/HostBarReading.h"
 
-#include "ModelSerialization/HostSlabKeys.h"
 #include "ModelSerialization/HostSlabValues.h"
+#include "ModelSerialization/SlabHostKeys.h"
 #include "platform/geometry/KernelTolerance.h"
 #include "platform/geometry/PolygonRepair.h"
 #include "platform/host/IHBXDrawObjs.h"

@@ -1,7 +1,7 @@
 #include "ModelSerialization/HostBarRows.h"
 
-#include "ModelSerialization/HostSlabKeys.h"
 #include "ModelSerialization/HostSlabValues.h"
+#include "ModelSerialization/SlabHostKeys.h"
 #include "platform/dwgx/DWGXBaseBoxTree.h"
 #include "slab/SlabBarDirection.h"
 

@@ -1,7 +1,7 @@
 #include "ModelSerialization/HostSlabReading.h"
 
-#include "ModelSerialization/HostSlabKeys.h"
 #include "ModelSerialization/HostSlabValues.h"
+#include "ModelSerialization/SlabHostKeys.h"
 #include "platform/host/IHBXAxisGrid.h"
 #include "platform/host/IHBXCustomLineSolidShape.h"
 #include "platform/host/IHBXCustomPointSolidShape.h"
@@ -15,6 +15,14 @@ double thicknessOf(IHBXElementDrawObj &object)
 {
     const auto *shape = dynamic_cast<const IHBXFaceSolidShape *>(object.shape());
     return shape ? -shape->height() : 0.0; // plates hang down from their top
+}
+
+/** What slabs and rafts have in common. */
+template <typename Plate> void readPlate(IHBXElementDrawObj &object, const HostSlabValues &values, Plate &plate)
+{
+    plate.surface = outlineOf<IHBXFaceSolidShape>(object);
+    plate.thickness = thicknessOf(object);
+    plate.stateDescript = values.text(key::remark);
 }
 
 void readStrip(IHBXElementDrawObj &object, Local::Support &support)
@@ -64,20 +72,16 @@ void readHalf(const std::vector<HBXAxis> &axes, const vks::CCoord3<double> &fram
 void read(IHBXElementDrawObj &object, Local::Raft &raft)
 {
     const HostSlabValues values(object);
-    raft.surface = outlineOf<IHBXFaceSolidShape>(object);
-    raft.thickness = thicknessOf(object);
+    readPlate(object, values, raft);
     raft.topElev = values.metres(key::topElev);
     raft.bottomElev = values.metres(key::bottomElev);
-    raft.stateDescript = values.text(key::remark);
 }
 
 void read(IHBXElementDrawObj &object, Local::Board &board)
 {
     const HostSlabValues values(object);
-    board.surface = outlineOf<IHBXFaceSolidShape>(object);
-    board.thickness = thicknessOf(object);
+    readPlate(object, values, board);
     board.elev = values.metres(key::topElev);
-    board.stateDescript = values.text(key::remark);
 }
 
 void read(IHBXElementDrawObj &object, Local::BoardHole &hole)

@@ -2,12 +2,15 @@
 
 #include "ModelSerialization/HostBarReading.h"
 #include "ModelSerialization/HostFloor.h"
-#include "ModelSerialization/HostSlabKeys.h"
 #include "ModelSerialization/HostSlabReading.h"
 #include "ModelSerialization/HostSlabValues.h"
-#include "ModelSerialization/SlabHostWriting.h"
+#include "ModelSerialization/SlabHostKeys.h"
 #include "platform/dwgx/DWGXModel.h"
+#include "platform/host/IHBXDrawObjs.h"
+#include "platform/host/IHBXElement.h"
+#include "platform/host/IHBXElementDrawObj.h"
 #include "platform/host/IHBXFloor.h"
+#include "platform/host/IHBXModel.h"
 #include "platform/services/HBXOptionNames.h"
 #include "platform/services/OptionGroupReader.h"
 #include "slab/DrawingFolder.h"
@@ -91,8 +94,9 @@ void Service::FromHost::readSupports() const
 void Service::FromHost::readAxisNets() const
 {
     constexpr int anySubType = -1;
+    constexpr auto axisGrid = static_cast<int>(slabhost::type::axisGrid);
     Objects objects;
-    model.drawObjects()->queryDrawObjsOfFloor(objects, floor.id(), slabhost::types::axisNets, anySubType, true);
+    model.drawObjects()->queryDrawObjsOfFloor(objects, floor.id(), axisGrid, anySubType, true);
     objects.removeAll(nullptr);
     for (Object *object : qAsConst(objects)) {
         Local::AxisNet *net = local.addAixsNet(); // meant: always with its id, and never with an identity

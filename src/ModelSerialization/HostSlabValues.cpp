@@ -1,6 +1,6 @@
 #include "ModelSerialization/HostSlabValues.h"
 
-#include "ModelSerialization/SlabHostWriting.h"
+#include "ModelSerialization/SlabNumbers.h"
 #include "platform/geometry/KernelTolerance.h"
 #include "platform/geometry/OrientProjectCurve2d.h"
 #include "platform/host/IHBXLineShape2D.h"
@@ -32,7 +32,7 @@ QString HostSlabValues::text(const QString &key) const
     return value;
 }
 
-qint32 HostSlabValues::hook(const QString &key) const { return truncated(text(key).toDouble()); }
+qint32 HostSlabValues::hook(const QString &key) const { return clampedInt(text(key).toDouble()); }
 
 CurvePtr HostSlabValues::curve(const QString &key) const
 {

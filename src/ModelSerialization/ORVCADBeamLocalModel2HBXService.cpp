@@ -1,9 +1,9 @@
 #include "ModelSerialization/ORVCADBeamLocalModel2HBXService.h"
 
+#include "ModelSerialization/BeamHostWriting.h"
 #include "ModelSerialization/BeamProperties.h"
 #include "ModelSerialization/BeamSubTypes.h"
 #include "ModelSerialization/HostFloor.h"
-#include "ModelSerialization/HostWriting.h"
 #include "ModelSerialization/SeatProperties.h"
 #include "beam/BeamKeys.h"
 #include "beam/BeamModelDataInfo.h"
@@ -45,6 +45,11 @@ constexpr int kPileMadeInstead = 128;
 
 constexpr int kRectangularPile = 64;
 constexpr int kRectangularTieBeam = 70;
+
+/** Modes of making an element, as the host is told them. */
+constexpr int kElementMode = 0;
+constexpr int kFoundationMode = 1;
+constexpr int kUnitMode = 2;
 
 struct FoundationKind
 {
@@ -99,7 +104,8 @@ bool ORVCADBeamLocalModel2HBXService::localModel2BeamEnt(BaseBeamEntInfo *beam, 
     IHBXElements &elements = *model()->elements();
     element = elements.findElement(beam->Name, floor->id(), beam->ElementType, true, 0);
     if (!element)
-        element = elements.createElement(beam->ElementType, beam->ElementSubType, nullptr, floor, 0, QString(), 0);
+        element =
+            elements.createElement(beam->ElementType, beam->ElementSubType, nullptr, floor, kElementMode, QString(), 0);
     if (!element || !setName(*element, beam->Name))
         return false;
     model()->refresh(0);
@@ -270,15 +276,25 @@ bool ORVCADBeamLocalModel2HBXService::checkBeforeReconstruct(const Seat &seat, I
     return true;
 }
 
-bool ORVCADBeamLocalModel2HBXService::localModel2FoundationEnt(const Seat &seat, IHBXElement *&element)
+/** The seat's element, found by name or made. False where there is no such floor, the element being as it was, and when
+ *  the host makes none. */
+bool ORVCADBeamLocalModel2HBXService::findOrCreateElement(const Seat &seat, qint64 subType, int mode,
+                                                          IHBXElement *&element)
 {
     IHBXFloor *floor = nullptr;
     if (!checkBeforeReconstruct(seat, element, floor))
         return false;
-    const qint64 subType = seat->seatElementType == type::pileCap ? kPileCap.subType : kIsolatedFoundation.subType;
     if (!element)
-        element = model()->elements()->createElement(seat->seatElementType, subType, nullptr, floor, 1, QString(), 0);
-    if (!element || !setName(*element, seat->EntName))
+        element =
+            model()->elements()->createElement(seat->seatElementType, subType, nullptr, floor, mode, QString(), 0);
+    return element != nullptr;
+}
+
+bool ORVCADBeamLocalModel2HBXService::localModel2FoundationEnt(const Seat &seat, IHBXElement *&element)
+{
+    const bool isPileCap = seat && seat->seatElementType == type::pileCap;
+    const qint64 subType = isPileCap ? kPileCap.subType : kIsolatedFoundation.subType;
+    if (!findOrCreateElement(seat, subType, kFoundationMode, element) || !setName(*element, seat->EntName))
         return false;
     writeAll(seatPropertyTexts(*seat, SeatStep::FoundationHeight), element);
     IHBXElement *unit = createUnit(*seat, *element);
@@ -295,7 +311,7 @@ IHBXElement *ORVCADBeamLocalModel2HBXService::createUnit(const ORVBeamSDCSeatInf
 {
     const FoundationKind &kind = seat.seatElementType == type::isolatedFoundation ? kIsolatedFoundation : kPileCap;
     IHBXElement *unit = model()->elements()->createElement(kind.unitType, kind.unitSubType, &foundation,
-                                                           foundation.floor(), 2, QString(), 0);
+                                                           foundation.floor(), kUnitMode, QString(), 0);
     if (!unit)
         return nullptr;
     try {
@@ -309,15 +325,11 @@ IHBXElement *ORVCADBeamLocalModel2HBXService::createUnit(const ORVBeamSDCSeatInf
 
 bool ORVCADBeamLocalModel2HBXService::localModel2PileEnt(const Seat &seat, IHBXElement *&element)
 {
-    if (seat && seat->nElementSubType == kPileMadeAsAnother)
-        seat->nElementSubType = kPileMadeInstead;
-    IHBXFloor *floor = nullptr;
-    if (!checkBeforeReconstruct(seat, element, floor))
+    if (!seat)
         return false;
-    if (!element)
-        element = model()->elements()->createElement(seat->seatElementType, seat->nElementSubType, nullptr, floor, 0,
-                                                     QString(), 0);
-    if (!element || !setName(*element, seat->EntName))
+    if (seat->nElementSubType == kPileMadeAsAnother)
+        seat->nElementSubType = kPileMadeInstead;
+    if (!findOrCreateElement(seat, seat->nElementSubType, kElementMode, element) || !setName(*element, seat->EntName))
         return false;
     const bool isKindWritten = writeAll(seatPropertyTexts(*seat, SeatStep::PileKind), element);
     const bool isSectionWritten = writePileSection(element, *seat);
@@ -343,13 +355,7 @@ bool ORVCADBeamLocalModel2HBXService::writePileSection(IHBXElement *element, con
 
 bool ORVCADBeamLocalModel2HBXService::localModel2TieBeamEnt(const Seat &seat, IHBXElement *&element)
 {
-    IHBXFloor *floor = nullptr;
-    if (!checkBeforeReconstruct(seat, element, floor))
-        return false;
-    if (!element)
-        element = model()->elements()->createElement(seat->seatElementType, seat->nElementSubType, nullptr, floor, 0,
-                                                     QString(), 0);
-    if (!element)
+    if (!seat || !findOrCreateElement(seat, seat->nElementSubType, kElementMode, element))
         return false;
     setName(*element, seat->EntName); // meant: unlike a pile, a tie beam keeps the name that it has
     if (seat->nElementSubType == kRectangularTieBeam)

@@ -173,6 +173,7 @@ private:
     bool reconstructSeat(const Seat &seat, int site,
                          bool (ORVCADBeamLocalModel2HBXService::*makeEnt)(const Seat &, IHBXElement *&),
                          bool (ORVCADBeamLocalModel2HBXService::*makeEdo)(const Seat &, IHBXElement *));
+    bool findOrCreateElement(const Seat &seat, qint64 subType, int mode, IHBXElement *&element);
     IHBXElement *createUnit(const ORVBeamSDCSeatInfoModel &seat, IHBXElement &foundation);
     bool writePileSection(IHBXElement *element, const ORVBeamSDCSeatInfoModel &seat);
     IHBXElementDrawObj *createEnteredDrawObj(IHBXElement *element);

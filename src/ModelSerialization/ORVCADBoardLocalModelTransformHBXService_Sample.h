@@ -110,7 +110,7 @@ public:
     static void localRaftStraddleMainForcedBar2HBX(const ORVCADBoardLocalModel_Sample *local, IHBXService *service,
                                                    dwgx::DWGXBaseBoxTree *boxTree, const QString &region,
                                                    const QString &floor, IdMap &idMap);
-    /** One that is drawn over another negative bar of the current floor at the level of its slab is left out. */
+    /** One that is drawn over another negative bar of the current floor at the elevation of its slab is left out. */
     static void localNegativeForcedBar2HBX(const ORVCADBoardLocalModel_Sample *local, IHBXService *service,
                                            dwgx::DWGXBaseBoxTree *boxTree, const QString &region, const QString &floor,
                                            IdMap &idMap);

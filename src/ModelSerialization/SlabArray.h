@@ -31,11 +31,8 @@ template <typename Element, typename Add, typename Rows> struct SlabArray
     void write(const Model &model, QJsonObject &json) const
     {
         QJsonArray array;
-        for (const Element *element : (model.*list)()) {
-            QJsonObject object;
-            encoding::writeFields(*element, rows, object);
-            array.append(object);
-        }
+        for (const Element *element : (model.*list)())
+            array.append(encoding::writtenFields(*element, rows));
         json.insert(key, array);
     }
     void read(const QJsonObject &json, Model &model) const

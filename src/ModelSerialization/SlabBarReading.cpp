@@ -1,7 +1,8 @@
 #include "ModelSerialization/SlabBarReading.h"
 
 #include "ModelSerialization/SlabBarGeometry.h"
-#include "ModelSerialization/SlabHostWriting.h"
+#include "ModelSerialization/SlabNumbers.h"
+#include "slab/ORVCADBoardLocalModel_Sample.h"
 
 #include <utility>
 
@@ -87,8 +88,8 @@ template <typename Bar> SlabBarRecords newMainBars(const std::vector<const Bar *
 template <typename Bar> void addStraddle(const Bar &bar, SlabBarRecord &record)
 {
     record.labelPosition = bar.labelPosition;
-    record.leftLabel = truncated(bar.leftStretchLength);
-    record.rightLabel = truncated(bar.rightStretchLength);
+    record.leftLabel = clampedInt(bar.leftStretchLength);
+    record.rightLabel = clampedInt(bar.rightStretchLength);
     addArea(
         bar, [&bar](const vks::CPolygon &area) { return straddlePoint(area, bar.rowNumber); }, record);
 }
@@ -122,8 +123,8 @@ void addLabels(int left, int right, int labelPosition, SlabBarRecord &record)
 
 template <typename Bar> void addLine(const Bar &bar, SlabBarRecord &record)
 {
-    const int left = truncated(bar.leftStretchLength);
-    const int right = truncated(bar.rightStretchLength);
+    const int left = clampedInt(bar.leftStretchLength);
+    const int right = clampedInt(bar.rightStretchLength);
     addLabels(left, right, bar.labelPosition, record);
     record.line = layingLine(bar.line);
     if (!record.line)

@@ -1,9 +1,10 @@
 #pragma once
 
 #include "ModelSerialization/SlabBarKinds.h"
-#include "slab/ORVCADBoardLocalModel_Sample.h"
 
 #include <vector>
+
+class ORVCADBoardLocalModel_Sample;
 
 /** The bars of a local model that are not in the host yet, as the host gets them. */
 namespace slabhost {

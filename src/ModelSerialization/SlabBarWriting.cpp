@@ -5,8 +5,10 @@
 #include "platform/host/HBXModelException.h"
 #include "platform/host/IHBXCurState.h"
 #include "platform/host/IHBXDrawObjStatus.h"
+#include "platform/host/IHBXDrawObjs.h"
 #include "platform/host/IHBXFaceShape2D.h"
 #include "platform/host/IHBXLineShape2D.h"
+#include "platform/host/IHBXModel.h"
 #include "platform/host/IHBXProperties.h"
 #include "platform/services/ValidateBarInfo.h"
 
@@ -98,25 +100,23 @@ void writeCatalog(IHBXElementDrawObj &bar, const Slabs &slabs)
     properties->setString(property::catalog, QStringLiteral("%1[%2]").arg(name, id), kBarFlag);
 }
 
-IHBXElementDrawObj *writeAreaBar(const SlabBarTarget &target, const SlabBarKind &kind, IHBXElement &element,
-                                 const SlabBarRecord &record)
+// Both give false for a bar that may not stay.
+
+bool enterAreaBar(const SlabBarTarget &target, const SlabBarKind &kind, const SlabBarRecord &record,
+                  IHBXElementDrawObj &bar)
 {
-    DrawObjGuard made(createDrawObj(target.floor, element));
-    IHBXElementDrawObj *bar = made.get();
-    if (!bar)
-        return nullptr;
-    writeProperties(kind, record, *bar);
-    if (auto *shape = dynamic_cast<IHBXFaceShape2D *>(bar->shape()))
+    writeProperties(kind, record, bar);
+    if (auto *shape = dynamic_cast<IHBXFaceShape2D *>(bar.shape()))
         shape->setPolygon(record.area);
-    target.floor.model.drawObjects()->addDrawObj(bar);
+    target.floor.model.drawObjects()->addDrawObj(&bar);
     const Slabs slabs = findBoardEdosByPoly(target.slabs, record.area);
     SlabLinkGuard links(slabs);
-    syncReinfInfo(&target.service, bar, slabs);
-    writeCatalog(*bar, slabs);
-    if (!passesCheck(target.floor, *bar))
-        return nullptr;
-    links.release();
-    return made.release();
+    syncReinfInfo(&target.service, &bar, slabs);
+    writeCatalog(bar, slabs);
+    const bool stays = passesCheck(target.floor, bar);
+    if (stays)
+        links.release();
+    return stays;
 }
 
 /** The slab that a line bar now depends on, as the host holds it. */
@@ -130,29 +130,23 @@ int dependOnSlab(const SlabBarTarget &target, const SlabBarRecord &record, IHBXE
     return properties ? properties->asInt(property::dependSlabId) : kNoSlab;
 }
 
-IHBXElementDrawObj *writeLineBar(const SlabBarTarget &target, const SlabBarKind &kind, IHBXElement &element,
-                                 const SlabBarRecord &record)
+bool enterLineBar(const SlabBarTarget &target, const SlabBarKind &kind, const SlabBarRecord &record,
+                  IHBXElementDrawObj &bar)
 {
-    DrawObjGuard made(createDrawObj(target.floor, element));
-    IHBXElementDrawObj *bar = made.get();
-    if (!bar)
-        return nullptr;
     if (IHBXCurState *state = target.floor.state)
-        bar->status()->setLayer(state->currentLayer(kAnyLayerKind));
-    writeProperties(kind, record, *bar);
-    if (auto *shape = dynamic_cast<IHBXLineShape2D *>(bar->shape()))
+        bar.status()->setLayer(state->currentLayer(kAnyLayerKind));
+    writeProperties(kind, record, bar);
+    if (auto *shape = dynamic_cast<IHBXLineShape2D *>(bar.shape()))
         shape->setLine(record.line);
-    const int slabId = dependOnSlab(target, record, *bar);
+    const int slabId = dependOnSlab(target, record, bar);
     // Meant: the bars of rafts, too, are compared with the negative bars of slabs.
-    const bool stays = checkBFJOverlap(&target.service, slabId, record.line, static_cast<int>(type::negativeBar),
-                                       static_cast<int>(bar->id()));
-    return stays ? made.release() : nullptr;
+    return checkBFJOverlap(&target.service, slabId, record.line, static_cast<int>(type::negativeBar),
+                           static_cast<int>(bar.id()));
 }
 
-using WriteBar = IHBXElementDrawObj *(*)(const SlabBarTarget &, const SlabBarKind &, IHBXElement &,
-                                         const SlabBarRecord &);
+using EnterBar = bool (*)(const SlabBarTarget &, const SlabBarKind &, const SlabBarRecord &, IHBXElementDrawObj &);
 
-void writeBars(const SlabBarTarget &target, const SlabBarKind &kind, std::vector<SlabBarRecord> records, WriteBar write)
+void writeBars(const SlabBarTarget &target, const SlabBarKind &kind, std::vector<SlabBarRecord> records, EnterBar enter)
 {
     const auto isInvalid = [](const Group &group) { return !ValidateBarInfo(kSlabBarInfo, group.front().barInfo); };
     auto groups =
@@ -160,19 +154,22 @@ void writeBars(const SlabBarTarget &target, const SlabBarKind &kind, std::vector
     groups.erase(std::remove_if(groups.begin(), groups.end(), isInvalid), groups.end());
     writeGroups(
         target.floor, groups, [&kind](const Group &group) { return ruleOf(kind, group.front()); },
-        [&](IHBXElement &element, const SlabBarRecord &record) { return write(target, kind, element, record); });
+        [&](IHBXElement &element, const SlabBarRecord &record) {
+            return writeDrawObj(target.floor, element,
+                                [&](IHBXElementDrawObj &bar) { return enter(target, kind, record, bar); });
+        });
 }
 
 } // namespace
 
 void writeAreaBars(const SlabBarTarget &target, const SlabBarKind &kind, std::vector<SlabBarRecord> records)
 {
-    writeBars(target, kind, std::move(records), writeAreaBar);
+    writeBars(target, kind, std::move(records), enterAreaBar);
 }
 
 void writeLineBars(const SlabBarTarget &target, const SlabBarKind &kind, std::vector<SlabBarRecord> records)
 {
-    writeBars(target, kind, std::move(records), writeLineBar);
+    writeBars(target, kind, std::move(records), enterLineBar);
 }
 
 } // namespace slabhost

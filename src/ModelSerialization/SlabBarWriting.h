@@ -2,8 +2,10 @@
 
 #include "ModelSerialization/SlabBarKinds.h"
 #include "ModelSerialization/SlabHostWriting.h"
-#include "platform/dwgx/DWGXBaseBoxTree.h"
 
+namespace dwgx {
+class DWGXBaseBoxTree;
+}
 class IHBXService;
 
 namespace slabhost {

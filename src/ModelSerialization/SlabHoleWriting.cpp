@@ -1,8 +1,13 @@
 #include "ModelSerialization/SlabHoleWriting.h"
 
+#include "ModelSerialization/SectionInfoText.h"
 #include "ModelSerialization/SlabHostKeys.h"
+#include "ModelSerialization/SlabHostWriting.h"
+#include "ModelSerialization/SlabNumbers.h"
 #include "platform/geometry/CArc2d.h"
 #include "platform/geometry/CLine2d.h"
+#include "platform/host/IHBXDrawObjs.h"
+#include "platform/host/IHBXModel.h"
 #include "platform/host/IHBXProperties.h"
 #include "platform/host/IHBXSectionPointSolidShape.h"
 #include "platform/services/DwgxRound.h"
@@ -10,6 +15,7 @@
 #include "platform/services/NormalAngle.h"
 #include "platform/services/ORVFindSlabHoleParentUtils.h"
 #include "platform/services/PolyIsCongruent.h"
+#include "slab/ORVCADBoardLocalModel_Sample.h"
 
 #include <cmath>
 #include <tuple>
@@ -23,7 +29,7 @@ using Polygon = vks::CRefPtr<vks::CPolygon>;
 
 constexpr double kPi = 3.141592653589793;            // rad
 constexpr double kNearFullTurn = 0.0010123456789;    // rad
-constexpr double kSectionStepsPerMillimetre = -0.02; // meant: subtracted, see sectionSteps
+constexpr double kSectionStepsPerMillimetre = -0.02; // meant: subtracted, see sectionLines
 constexpr bool kSizeFlag = false;
 constexpr bool kSectionFlag = true;
 
@@ -46,7 +52,7 @@ struct HoleRecord
 int radiusOf(const vks::CPolygon &circle)
 {
     const auto *arc = dynamic_cast<const vks::CArc2d *>(circle.GetCurve(0));
-    return arc ? truncated(arc->Radius()) : 0;
+    return arc ? clampedInt(arc->Radius()) : 0;
 }
 
 void measure(HoleRecord &record)
@@ -202,7 +208,7 @@ IHBXElementDrawObj *writeHole(const SlabTarget &target, IHBXElement &element, co
 }
 
 /** Meant: one more than the whole steps of 50 mm. */
-int sectionSteps(double halfSize) { return 1 - truncated(dwgx::round(halfSize) * kSectionStepsPerMillimetre); }
+int sectionLines(double halfSize) { return 1 - clampedInt(dwgx::round(halfSize) * kSectionStepsPerMillimetre); }
 
 } // namespace
 
@@ -229,8 +235,8 @@ void fillAlienHoleProp(const vks::CPolygon *polygon, IHBXElement *const &element
     const Point half(box.Width() / 2, box.Height() / 2);
     properties->setPolygon(property::sectionPoly, section, kSizeFlag);
     properties->setPoint(property::insertPt, &half, kSizeFlag);
-    const QString steps = QStringLiteral("100*%1;100*%2").arg(sectionSteps(half.x)).arg(sectionSteps(half.y));
-    properties->setString(property::sectionInfo, steps, kSizeFlag);
+    const QString info = sectionInfoText(sectionLines(half.x), sectionLines(half.y));
+    properties->setString(property::sectionInfo, info, kSizeFlag);
     // Meant: the other way round than of a rectangle.
     properties->setInt(property::width, dwgx::round(box.Height()), kSizeFlag);
     properties->setInt(property::length, dwgx::round(box.Width()), kSizeFlag);

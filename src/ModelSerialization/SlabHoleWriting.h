@@ -1,10 +1,17 @@
 #pragma once
 
-#include "ModelSerialization/SlabHostWriting.h"
-#include "platform/geometry/CPolygon.h"
-#include "slab/ORVCADBoardLocalModel_Sample.h"
+#include "ORVCADModelDataExport.h"
 
+namespace vks {
+class CPolygon;
+}
+class IHBXElement;
+class ORVCADBoardLocalModel_Sample;
+
+/** Holes on their way into the host. */
 namespace slabhost {
+
+struct SlabTarget;
 
 /** Writes the new holes: rectangles along the axes, circles, and any other outline. Those of one name, edge bar text, size
  *  and kind share an element, and of an outline that is neither rectangle nor circle the first one of the element counts

@@ -1,19 +1,15 @@
 #include "ModelSerialization/SlabHostWriting.h"
 
-#include "platform/geometry/KernelTolerance.h"
 #include "platform/host/HBXModelException.h"
 #include "platform/host/IHBXCheck.h"
+#include "platform/host/IHBXDrawObjs.h"
+#include "platform/host/IHBXElements.h"
 #include "platform/host/IHBXFloor.h"
+#include "platform/host/IHBXModel.h"
 #include "platform/host/IHBXProperties.h"
-
-#include <algorithm>
-#include <cmath>
-#include <limits>
 
 namespace slabhost {
 namespace {
-
-constexpr double kNoiseOfDoubles = 1e-12; // mm, and part of a length: when the kernel has no tolerance
 
 QString freeName(IHBXElements &elements, const IHBXFloor &floor, const QString &name, qint64 type)
 {
@@ -36,18 +32,6 @@ bool wasFilled(IHBXElement &element, const std::function<void(IHBXElement &)> &f
 }
 
 } // namespace
-
-int truncated(double value)
-{
-    constexpr double least = std::numeric_limits<int>::min();
-    constexpr double greatest = std::numeric_limits<int>::max();
-    return std::isnan(value) ? 0 : static_cast<int>(std::clamp(value, least, greatest));
-}
-
-double lengthTolerance(double size)
-{
-    return vks::g_DistEpsilon != 0.0 ? vks::g_DistEpsilon : std::max(kNoiseOfDoubles, kNoiseOfDoubles * size);
-}
 
 IHBXElementDrawObj *createDrawObj(const SlabTarget &target, IHBXElement &element)
 {

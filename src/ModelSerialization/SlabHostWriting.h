@@ -1,11 +1,8 @@
 #pragma once
 
 #include "ORVCADModelDataExport.h"
-#include "platform/host/IHBXDrawObjs.h"
 #include "platform/host/IHBXElement.h"
 #include "platform/host/IHBXElementDrawObj.h"
-#include "platform/host/IHBXElements.h"
-#include "platform/host/IHBXModel.h"
 
 #include <QString>
 #include <QUuid>
@@ -18,6 +15,7 @@
 
 class IHBXCurState;
 class IHBXFloor;
+class IHBXModel;
 class IHBXProperties;
 
 /** The steps that all writers of slabs, holes and bars take in the host. */
@@ -34,11 +32,6 @@ struct SlabTarget
     IHBXFloor &floor;
     IdMap &ids; ///< receives what was written
 };
-
-/** The number without its fraction; beyond the range the end of the range, for NaN 0. */
-ORVCADMODELDATA_EXPORT int truncated(double value);
-/** The tolerance for equal lengths: g_DistEpsilon; while that is 0, the larger of 1e-12 and 1e-12 times the size told. */
-ORVCADMODELDATA_EXPORT double lengthTolerance(double size);
 
 // ---- Draw objects
 
@@ -65,6 +58,15 @@ private:
 
 /** A draw object of an element on the target's floor, not entered; null when the host makes none. */
 IHBXElementDrawObj *createDrawObj(const SlabTarget &target, IHBXElement &element);
+/** Makes a draw object of an element on the target's floor.
+ *  @param fill  (IHBXElementDrawObj &) -> bool: fills it and enters it
+ *  @return null when the host makes none or fill is false: nothing is left in the host then */
+template <typename Fill>
+IHBXElementDrawObj *writeDrawObj(const SlabTarget &target, IHBXElement &element, const Fill &fill)
+{
+    DrawObjGuard made(createDrawObj(target, element));
+    return made.get() && fill(*made.get()) ? made.release() : nullptr;
+}
 /** The verdict of the host's check; its reasons are dropped. */
 bool passesCheck(const SlabTarget &target, IHBXElementDrawObj &object);
 

@@ -1,12 +1,17 @@
 #include "ModelSerialization/SlabPlateWriting.h"
 
 #include "ModelSerialization/SlabHostKeys.h"
+#include "ModelSerialization/SlabHostWriting.h"
+#include "ModelSerialization/SlabNumbers.h"
 #include "platform/host/IHBXCurState.h"
 #include "platform/host/IHBXDrawObjStatus.h"
+#include "platform/host/IHBXDrawObjs.h"
 #include "platform/host/IHBXFaceSolidShape.h"
 #include "platform/host/IHBXFloor.h"
+#include "platform/host/IHBXModel.h"
 #include "platform/host/IHBXProperties.h"
 #include "platform/services/HbxTolerance.h"
+#include "slab/ORVCADBoardLocalModel_Sample.h"
 
 #include <cmath>
 
@@ -54,7 +59,7 @@ std::vector<PlateElevation> elevationsOf(const Model::Raft &raft)
 
 template <typename Plate> PlateRecord recordOf(const Plate &plate, const PlateKind &kind)
 {
-    PlateRecord record{plate.recongnizedID, plate.name, truncated(plate.thickness), nullptr, elevationsOf(plate)};
+    PlateRecord record{plate.recongnizedID, plate.name, clampedInt(plate.thickness), nullptr, elevationsOf(plate)};
     if (record.name.isEmpty())
         record.name = QLatin1String(kind.namePrefix) + QString::number(record.thickness);
     if (plate.surface)
@@ -89,24 +94,20 @@ void setElevations(const SlabTarget &target, const PlateKind &kind, const PlateR
         properties.setString(elevation.property, elevationText(kind.baseWord, elevation.metres - base), false);
 }
 
-IHBXElementDrawObj *writePlate(const SlabTarget &target, const PlateKind &kind, IHBXElement &element,
-                               const PlateRecord &record)
+/** False when the host's check refuses it. */
+bool enterPlate(const SlabTarget &target, const PlateKind &kind, const PlateRecord &record, IHBXElementDrawObj &plate)
 {
-    DrawObjGuard made(createDrawObj(target, element));
-    IHBXElementDrawObj *plate = made.get();
-    if (!plate)
-        return nullptr;
-    target.model.drawObjects()->addDrawObj(plate);
-    if (IHBXProperties *properties = plate->properties())
+    target.model.drawObjects()->addDrawObj(&plate);
+    if (IHBXProperties *properties = plate.properties())
         setElevations(target, kind, record, *properties);
-    if (auto *shape = dynamic_cast<IHBXFaceSolidShape *>(plate->shape()))
+    if (auto *shape = dynamic_cast<IHBXFaceSolidShape *>(plate.shape()))
         shape->setPolygon(record.surface);
     if (target.state)
-        plate->status()->setLayer(target.state->layer());
-    if (!passesCheck(target, *plate))
-        return nullptr;
-    plate->status()->setState(kPassedState);
-    return made.release();
+        plate.status()->setLayer(target.state->layer());
+    if (!passesCheck(target, plate))
+        return false;
+    plate.status()->setState(kPassedState);
+    return true;
 }
 
 void writePlates(const SlabTarget &target, const PlateKind &kind, std::vector<PlateRecord> records)
@@ -115,7 +116,10 @@ void writePlates(const SlabTarget &target, const PlateKind &kind, std::vector<Pl
     writeGroups(
         target, grouped(std::move(records), keyOf),
         [&kind](const std::vector<PlateRecord> &group) { return ruleOf(kind, group.front()); },
-        [&](IHBXElement &element, const PlateRecord &record) { return writePlate(target, kind, element, record); });
+        [&](IHBXElement &element, const PlateRecord &record) {
+            return writeDrawObj(target, element,
+                                [&](IHBXElementDrawObj &plate) { return enterPlate(target, kind, record, plate); });
+        });
 }
 
 } // namespace

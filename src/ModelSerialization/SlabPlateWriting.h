@@ -1,9 +1,15 @@
 #pragma once
 
-#include "ModelSerialization/SlabHostWriting.h"
-#include "slab/ORVCADBoardLocalModel_Sample.h"
+#include "ORVCADModelDataExport.h"
 
+#include <QString>
+
+class ORVCADBoardLocalModel_Sample;
+
+/** Slabs and rafts on their way into the host. */
 namespace slabhost {
+
+struct SlabTarget;
 
 /** An elevation of the host in metres from a base of the floor: the base word alone within 0.00001 m, else the word, a sign
  *  and the amount in six digits.

@@ -2,10 +2,13 @@
 
 #include "ModelSerialization/HostSlabValues.h"
 #include "ModelSerialization/SlabHostKeys.h"
-#include "ModelSerialization/SlabHostWriting.h"
+#include "ModelSerialization/SlabNumbers.h"
+#include "platform/dwgx/DWGXBaseBoxTree.h"
 #include "platform/geometry/CPositionJudge.h"
 #include "platform/host/IHBXCurState.h"
+#include "platform/host/IHBXDrawObjs.h"
 #include "platform/host/IHBXFloor.h"
+#include "platform/host/IHBXModel.h"
 #include "platform/host/IHBXProperties.h"
 #include "platform/host/IHBXService.h"
 #include "platform/services/HbxRelation.h"
@@ -17,9 +20,6 @@
 
 namespace slabhost {
 namespace {
-
-using Polygon = vks::CRefPtr<vks::CPolygon>;
-using Curve = vks::CRefPtr<vks::CCurve2d>;
 
 constexpr double kSupportAllowance = 150.0; // mm: either end of a bar lies over a support
 constexpr double kBoxMargin = 1.0;          // mm beyond the tolerance: boxes only narrow the search
@@ -47,28 +47,20 @@ std::vector<IHBXElementDrawObj *> slabsInBox(dwgx::DWGXBaseBoxTree *boxTree, con
     return slabs;
 }
 
-Polygon outlineOf(IHBXElementDrawObj &slab)
-{
-    Polygon outline;
-    if (const IHBXShape *shape = slab.shape())
-        shape->worldPoly(outline, IHBXModel::g_bDefaultAutoCalc);
-    return outline;
-}
-
 /** Those of the slabs for which a test of their outline holds. */
 template <typename Test>
 std::vector<IHBXElementDrawObj *> slabsThat(std::vector<IHBXElementDrawObj *> slabs, const Test &test)
 {
-    const auto fails = [&test](IHBXElementDrawObj *slab) { return !test(outlineOf(*slab)); };
+    const auto fails = [&test](IHBXElementDrawObj *slab) { return !test(sharedOutline(slab->shape())); };
     slabs.erase(std::remove_if(slabs.begin(), slabs.end(), fails), slabs.end());
     return slabs;
 }
 
 // ---- Overlap of negative bars
 
-Curve drawnCurve(IHBXElementDrawObj *bar)
+CurvePtr drawnCurve(IHBXElementDrawObj *bar)
 {
-    Curve curve;
+    CurvePtr curve;
     IHBXProperties *properties = bar ? bar->properties() : nullptr;
     return properties ? properties->asCurve(curve, property::curveData) : curve;
 }
@@ -82,13 +74,13 @@ bool shareStretch(const vks::CCurve2d *a, const vks::CCurve2d *b)
 struct BarInQuestion
 {
     const vks::CCurve2d &line;
-    Curve drawn;
-    double level; ///< mm
+    CurvePtr drawn;
+    double elevation; ///< mm
 
     bool isCoveredBy(IHBXElementDrawObj &other) const
     {
         return shareStretch(&line, planCurve(other)) &&
-               hbx::isEqual(level, getNegReinfElev(&other), lengthTolerance(level)) &&
+               hbx::isEqual(elevation, getNegReinfElev(&other), lengthTolerance(elevation)) &&
                shareStretch(drawn, drawnCurve(&other));
     }
 };
@@ -109,14 +101,14 @@ IHBXElementDrawObj *findBoardByCurve(dwgx::DWGXBaseBoxTree *boxTree, const vks::
 {
     if (!curve)
         return nullptr;
-    const Curve free = curve->Clone();
+    const CurvePtr free = curve->Clone();
     free->SetStartT(kSupportAllowance);
     free->SetEndT(curve->Length() - kSupportAllowance);
-    const auto slabs = slabsThat(slabsInBox(boxTree, curve->Box()), [&free](const Polygon &outline) {
+    const auto slabs = slabsThat(slabsInBox(boxTree, curve->Box()), [&free](const PolygonPtr &outline) {
         return isOneOf(kUnderCurve, hbx::linePolyPosition(free, outline, 0.0));
     });
     const auto isLower = [](IHBXElementDrawObj *a, IHBXElementDrawObj *b) {
-        return getSlabElev(a, QStringLiteral("TopElev")) < getSlabElev(b, QStringLiteral("TopElev"));
+        return getSlabElev(a, key::topElev) < getSlabElev(b, key::topElev);
     };
     const auto lowest = std::min_element(slabs.begin(), slabs.end(), isLower);
     return lowest == slabs.end() ? nullptr : *lowest;
@@ -126,7 +118,7 @@ std::vector<IHBXElementDrawObj *> findBoardEdosByPoly(dwgx::DWGXBaseBoxTree *box
 {
     if (!polygon)
         return {};
-    return slabsThat(slabsInBox(boxTree, polygon->Box()), [polygon](const Polygon &outline) {
+    return slabsThat(slabsInBox(boxTree, polygon->Box()), [polygon](const PolygonPtr &outline) {
         return isOneOf(kUnderArea, hbx::polyPolyPosition(polygon, outline, 0.0));
     });
 }
@@ -147,8 +139,8 @@ bool checkBFJOverlap(IHBXService *service, int slabId, const vks::CCurve2d *curv
     if (!service || !curve)
         return false;
     IHBXDrawObjs &drawObjs = *service->model()->drawObjects();
-    const double level = getSlabElev(drawObjs.drawObjById(slabId), QStringLiteral("TopElev"));
-    const BarInQuestion bar{*curve, drawnCurve(drawObjs.drawObjById(selfId)), level};
+    const double elevation = getSlabElev(drawObjs.drawObjById(slabId), key::topElev);
+    const BarInQuestion bar{*curve, drawnCurve(drawObjs.drawObjById(selfId)), elevation};
     const auto bars = barsAt(*service, *curve, elementType);
     return std::none_of(bars.begin(), bars.end(),
                         [&](IHBXElementDrawObj *other) { return other->id() != selfId && bar.isCoveredBy(*other); });

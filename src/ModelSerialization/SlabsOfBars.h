@@ -1,12 +1,16 @@
 #pragma once
 
 #include "ORVCADModelDataExport.h"
-#include "platform/dwgx/DWGXBaseBoxTree.h"
-#include "platform/geometry/CCurve2d.h"
-#include "platform/geometry/CPolygon.h"
 
 #include <vector>
 
+namespace dwgx {
+class DWGXBaseBoxTree;
+}
+namespace vks {
+class CCurve2d;
+class CPolygon;
+} // namespace vks
 class IHBXElementDrawObj;
 class IHBXService;
 
@@ -27,8 +31,8 @@ ORVCADMODELDATA_EXPORT void syncReinfInfo(IHBXService *service, IHBXElementDrawO
                                           const std::vector<IHBXElementDrawObj *> &slabs);
 
 /** Whether a negative bar may stay in the host: no other bar of a type on the current floor, laid along its line and at
- *  the level of its slab, is drawn over it.
- *  @param slabId  of the bar's slab; 0.0 is the level where there is none
+ *  the elevation of its slab, is drawn over it.
+ *  @param slabId  of the bar's slab; 0.0 is the elevation where there is none
  *  @param curve   the bar's line; a bar without one may not stay
  *  @param selfId  of the bar itself */
 ORVCADMODELDATA_EXPORT bool checkBFJOverlap(IHBXService *service, int slabId, const vks::CCurve2d *curve,

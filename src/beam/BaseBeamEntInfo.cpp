@@ -27,9 +27,4 @@ BaseBeamEntInfo::~BaseBeamEntInfo() = default;
 
 void BaseBeamEntInfo::fromJson(const QJsonObject &json) { encoding::readFields(json, Fields::table, *this); }
 
-QJsonObject BaseBeamEntInfo::toJsonObj() const
-{
-    QJsonObject json;
-    encoding::writeFields(*this, Fields::table, json);
-    return json;
-}
+QJsonObject BaseBeamEntInfo::toJsonObj() const { return encoding::writtenFields(*this, Fields::table); }

@@ -14,9 +14,4 @@ struct BeamEdoInfo::Fields
 
 void BeamEdoInfo::fromJson(const QJsonObject &json) { encoding::readFields(json, Fields::table, *this); }
 
-QJsonObject BeamEdoInfo::toJsonObj() const
-{
-    QJsonObject json;
-    encoding::writeFields(*this, Fields::table, json);
-    return json;
-}
+QJsonObject BeamEdoInfo::toJsonObj() const { return encoding::writtenFields(*this, Fields::table); }

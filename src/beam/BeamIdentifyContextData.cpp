@@ -16,9 +16,7 @@ struct BeamIdentifyContextData::FloorFields
 
 QJsonObject BeamIdentifyContextData::toJson() const
 {
-    QJsonObject floor;
-    if (floorInfo)
-        encoding::writeFields(*floorInfo, FloorFields::table, floor);
+    const QJsonObject floor = floorInfo ? encoding::writtenFields(*floorInfo, FloorFields::table) : QJsonObject();
     QJsonObject options;
     for (auto option = cadOptions.cbegin(); option != cadOptions.cend(); ++option)
         options.insert(option.key(), option.value());

@@ -17,9 +17,4 @@ struct BeamSegmentInfo::Fields
 
 void BeamSegmentInfo::fromJson(const QJsonObject &json) { encoding::readFields(json, Fields::table, *this); }
 
-QJsonObject BeamSegmentInfo::toJsonObj() const
-{
-    QJsonObject json;
-    encoding::writeFields(*this, Fields::table, json);
-    return json;
-}
+QJsonObject BeamSegmentInfo::toJsonObj() const { return encoding::writtenFields(*this, Fields::table); }

@@ -29,9 +29,4 @@ struct BeamSpanInfo::Fields
 
 void BeamSpanInfo::fromJson(const QJsonObject &json) { encoding::readFields(json, Fields::table, *this); }
 
-QJsonObject BeamSpanInfo::toJsonObj() const
-{
-    QJsonObject json;
-    encoding::writeFields(*this, Fields::table, json);
-    return json;
-}
+QJsonObject BeamSpanInfo::toJsonObj() const { return encoding::writtenFields(*this, Fields::table); }

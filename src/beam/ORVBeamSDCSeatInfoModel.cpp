@@ -26,11 +26,6 @@ struct ORVBeamSDCSeatInfoModel::Fields
         fieldOr(key::edoBtmElev, &Record::EDOBtmElev));
 };
 
-QJsonObject ORVBeamSDCSeatInfoModel::toJson() const
-{
-    QJsonObject json;
-    encoding::writeFields(*this, Fields::table, json);
-    return json;
-}
+QJsonObject ORVBeamSDCSeatInfoModel::toJson() const { return encoding::writtenFields(*this, Fields::table); }
 
 void ORVBeamSDCSeatInfoModel::fromJson(const QJsonObject &json) { encoding::readFields(json, Fields::table, *this); }

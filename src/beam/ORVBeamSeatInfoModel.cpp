@@ -23,15 +23,9 @@ struct ORVBeamSeatInfoModel::Fields
         fieldOr(key::worldLine, &Record::ipWorldLine), fieldAs<BeamBoxText>(key::box, &Record::box));
 };
 
-QJsonObject ORVBeamSeatInfoModel::toJson() const
-{
-    QJsonObject json;
-    encoding::writeFields(*this, Fields::table, json);
-    return json;
-}
+QJsonObject ORVBeamSeatInfoModel::toJson() const { return encoding::writtenFields(*this, Fields::table); }
 
 void ORVBeamSeatInfoModel::fromJson(ORVBeamSeatInfoModel *target, const QJsonObject &json)
 {
-    if (target)
-        encoding::readFields(json, Fields::table, *target);
+    encoding::readFieldsInto(target, Fields::table, json);
 }

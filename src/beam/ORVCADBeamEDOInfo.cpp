@@ -17,15 +17,9 @@ struct ORVCADBeamEDOInfo::Fields
         fieldAppended(key::segments, &Record::vecSegmentInfo));
 };
 
-QJsonObject ORVCADBeamEDOInfo::toJson() const
-{
-    QJsonObject json;
-    encoding::writeFields(*this, Fields::table, json);
-    return json;
-}
+QJsonObject ORVCADBeamEDOInfo::toJson() const { return encoding::writtenFields(*this, Fields::table); }
 
 void ORVCADBeamEDOInfo::fromJson(ORVCADBeamEDOInfo *target, const QJsonObject &json)
 {
-    if (target)
-        encoding::readFields(json, Fields::table, *target);
+    encoding::readFieldsInto(target, Fields::table, json);
 }

@@ -20,15 +20,9 @@ struct ORVCADBeamEdoInfoTmp::Fields
         fieldAppended(key::runs, &Record::edoInfos), fieldAppended(key::seats, &Record::seatEdoIDList));
 };
 
-QJsonObject ORVCADBeamEdoInfoTmp::toJson() const
-{
-    QJsonObject json;
-    encoding::writeFields(*this, Fields::table, json);
-    return json;
-}
+QJsonObject ORVCADBeamEdoInfoTmp::toJson() const { return encoding::writtenFields(*this, Fields::table); }
 
 void ORVCADBeamEdoInfoTmp::fromJson(ORVCADBeamEdoInfoTmp *target, const QJsonObject &json)
 {
-    if (target)
-        encoding::readFields(json, Fields::table, *target);
+    encoding::readFieldsInto(target, Fields::table, json);
 }

@@ -24,15 +24,9 @@ struct ORVCADBeamIdentifyInputModel::Fields
         fieldOr(key::beamYWBZLayer, &Record::strBeamYWBZLayerName));
 };
 
-QJsonObject ORVCADBeamIdentifyInputModel::toJson() const
-{
-    QJsonObject json;
-    encoding::writeFields(*this, Fields::table, json);
-    return json;
-}
+QJsonObject ORVCADBeamIdentifyInputModel::toJson() const { return encoding::writtenFields(*this, Fields::table); }
 
 void ORVCADBeamIdentifyInputModel::fromJson(ORVCADBeamIdentifyInputModel *target, const QJsonObject &json)
 {
-    if (target)
-        encoding::readFields(json, Fields::table, *target);
+    encoding::readFieldsInto(target, Fields::table, json);
 }

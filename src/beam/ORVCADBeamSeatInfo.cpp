@@ -16,15 +16,9 @@ struct ORVCADBeamSeatInfo::Fields
         fieldOr(key::seatSegmentId, &Record::nBeamSegmentInfoID));
 };
 
-QJsonObject ORVCADBeamSeatInfo::toJson() const
-{
-    QJsonObject json;
-    encoding::writeFields(*this, Fields::table, json);
-    return json;
-}
+QJsonObject ORVCADBeamSeatInfo::toJson() const { return encoding::writtenFields(*this, Fields::table); }
 
 void ORVCADBeamSeatInfo::fromJson(ORVCADBeamSeatInfo *target, const QJsonObject &json)
 {
-    if (target)
-        encoding::readFields(json, Fields::table, *target);
+    encoding::readFieldsInto(target, Fields::table, json);
 }

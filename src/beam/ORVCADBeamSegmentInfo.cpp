@@ -14,15 +14,9 @@ struct ORVCADBeamSegmentInfo::Fields
         fieldOr(key::line, &Record::ipLine), fieldOr(key::offset, &Record::dOffset), fieldOr(key::id, &Record::id));
 };
 
-QJsonObject ORVCADBeamSegmentInfo::toJson() const
-{
-    QJsonObject json;
-    encoding::writeFields(*this, Fields::table, json);
-    return json;
-}
+QJsonObject ORVCADBeamSegmentInfo::toJson() const { return encoding::writtenFields(*this, Fields::table); }
 
 void ORVCADBeamSegmentInfo::fromJson(ORVCADBeamSegmentInfo *target, const QJsonObject &json)
 {
-    if (target)
-        encoding::readFields(json, Fields::table, *target);
+    encoding::readFieldsInto(target, Fields::table, json);
 }

@@ -1,7 +1,8 @@
 #include "cli/Applied.h"
 
-#include "cli/Files.h"
-#include "cli/ProjectInfo.h"
+#include "cli/Counted.h"
+#include "cli/ProjectFiles.h"
+#include "platform/embedded/HBXProject.h"
 #include "platform/host/HBXCheckError.h"
 #include "platform/host/IHBXCheck.h"
 #include "platform/host/IHBXDrawObjs.h"

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "cli/Command.h"
-#include "platform/embedded/HBXProject.h"
 
 #include <QJsonArray>
 #include <QStringList>
@@ -9,6 +8,10 @@
 #include <vector>
 
 class IHBXModel;
+
+namespace hbx::embedded {
+class HBXProject;
+}
 
 namespace orvcad {
 
@@ -45,5 +48,12 @@ QString doubledLine(int doubled);
  *  completes the summary by "project" and "saved". */
 Summary saveApplied(hbx::embedded::HBXProject &project, bool isComplete, bool isStrict, const QString &text,
                     QJsonObject json);
+
+/** The same for the outcome of a reply, which has leftOut, text() and toJson(). */
+template <typename Outcome>
+Summary saveApplied(hbx::embedded::HBXProject &project, const Outcome &outcome, bool isStrict)
+{
+    return saveApplied(project, outcome.leftOut.empty(), isStrict, outcome.text(), outcome.toJson());
+}
 
 } // namespace orvcad

@@ -3,8 +3,9 @@
 #include "beam/BeamKeys.h"
 #include "cli/BeamReplyCheck.h"
 #include "cli/Beams.h"
-#include "cli/Files.h"
-#include "cli/ProjectInfo.h"
+#include "cli/Counted.h"
+#include "cli/FloorLookup.h"
+#include "platform/embedded/HBXProject.h"
 
 #include <QJsonArray>
 
@@ -14,18 +15,18 @@ using hbx::embedded::HBXProject;
 
 namespace orvcad {
 
+namespace {
+
+QString nameOf(const QJsonValue &beam) { return beam[beam::key::elementInfo][beam::key::name].toString(); }
+
+} // namespace
+
 QString BeamComparison::text() const
 {
-    const QStringList lines{QStringLiteral("Compared with the original: %1 of beams, %2")
-                                .arg(counted(compared, QStringLiteral("segment")),
-                                     isSame() ? QStringLiteral("the payload written again is the same")
-                                              : QStringLiteral("the payload written again DIFFERS"))};
-    return (lines + deviations).join(QStringLiteral("\n  "));
-}
-
-QJsonObject BeamComparison::toJson() const
-{
-    return {{"compared", compared}, {"deviations", QJsonArray::fromStringList(deviations)}};
+    return textOf(QStringLiteral("%1 of beams, %2")
+                      .arg(counted(compared, QStringLiteral("segment")),
+                           isSame() ? QStringLiteral("the payload written again is the same")
+                                    : QStringLiteral("the payload written again DIFFERS")));
 }
 
 BeamComparison compareBeams(HBXProject &expected, HBXProject &found, const QString &floor)
@@ -36,7 +37,7 @@ BeamComparison compareBeams(HBXProject &expected, HBXProject &found, const QStri
     const QJsonObject after = beamDocument(found, pickFloors(found, QString(), floor), again);
     BeamComparison comparison;
     comparison.compared = counts.segments;
-    for (const BeamArray &array : beamArrays()) {
+    for (const ReplyArray &array : beamArrays()) {
         const QJsonArray wanted = before.value(array.key).toArray();
         const QJsonArray there = after.value(array.key).toArray();
         for (int i = 0; i < std::max(wanted.size(), there.size()); ++i)
@@ -44,11 +45,7 @@ BeamComparison compareBeams(HBXProject &expected, HBXProject &found, const QStri
                 comparison.deviations.append(QStringLiteral("%1[%2] (%3)")
                                                  .arg(array.key)
                                                  .arg(i)
-                                                 .arg((i < wanted.size() ? wanted : there)
-                                                          .at(i)
-                                                          .toObject()[beam::key::elementInfo]
-                                                          .toObject()[beam::key::name]
-                                                          .toString()));
+                                                 .arg(nameOf((i < wanted.size() ? wanted : there).at(i))));
     }
     return comparison;
 }

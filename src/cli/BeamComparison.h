@@ -1,22 +1,18 @@
 #pragma once
 
-#include "platform/embedded/HBXProject.h"
+#include "cli/Comparison.h"
 
-#include <QJsonObject>
-#include <QString>
-#include <QStringList>
+namespace hbx::embedded {
+class HBXProject;
+}
 
 namespace orvcad {
 
-/** How the beams of a floor differ between two projects. */
-struct BeamComparison
+/** How the beams of a floor differ between two projects: beams whose part of the payload is another one. Their segments are
+ *  what is counted. */
+struct BeamComparison : Comparison
 {
-    int compared = 0;       ///< segments of the first project
-    QStringList deviations; ///< beams whose part of the payload is another one
-
-    bool isSame() const { return deviations.isEmpty(); }
     QString text() const;
-    QJsonObject toJson() const;
 };
 
 /** The floor is named as --floor names it, in the only region of both projects. */

@@ -2,12 +2,13 @@
 
 #include "beam/BeamIdentifyInput.h"
 #include "beam/ORVCADBeamIdentifyInputModel.h"
-#include "cli/ProjectInfo.h"
+#include "cli/Counted.h"
+#include "cli/TypeTitles.h"
+#include "platform/embedded/HBXProject.h"
 #include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXRegion.h"
 
 #include <QJsonArray>
-#include <QMap>
 #include <QStringList>
 
 #include <memory>
@@ -43,15 +44,12 @@ void copy(const ORVCADBeamSDCIdentifyInputModel &from, ORVCADBeamIdentifyInputMo
     }
 }
 
-QJsonArray seatsByType(const ORVCADBeamIdentifyInputModel &input)
+QMap<int, int> seatsByType(const ORVCADBeamIdentifyInputModel &input)
 {
     QMap<int, int> counts;
     for (const ORVBeamSeatInfoModel *seat : input.beamSeatInfos)
         ++counts[seat->seatElementType];
-    QJsonArray json;
-    for (auto type = counts.cbegin(); type != counts.cend(); ++type)
-        json.append(QJsonObject{{"type", type.key()}, {"title", typeTitle(type.key())}, {"count", type.value()}});
-    return json;
+    return counts;
 }
 
 int codeCount(const ORVCADBeamIdentifyInputModel &input)
@@ -64,33 +62,39 @@ int codeCount(const ORVCADBeamIdentifyInputModel &input)
 
 } // namespace
 
-BeamInput::BeamInput(hbx::embedded::HBXProject &project, const IHBXFloor &floor)
+BeamInput::BeamInput(hbx::embedded::HBXProject &project, const IHBXFloor &floor) : m_floor(floor.name())
 {
     project.makeCurrent();
-    project.setCurrent(floor.region()->name(), floor.name());
+    project.setCurrent(floor.region()->name(), m_floor);
     const Gathered gathered(createBeamIdentifyInputModel(project.service(), false));
     ORVCADBeamIdentifyInputModel input;
     copy(*gathered, input);
     m_document = input.toJson();
-    m_summary = {{"floor", floor.name()},
-                 {"seats", seatsByType(input)},
-                 {"axisLines", static_cast<int>(input.axisLines.size())},
-                 {"beamCodes", codeCount(input)}};
+    m_seats = seatsByType(input);
+    m_axisLines = static_cast<int>(input.axisLines.size());
+    m_beamCodes = codeCount(input);
 }
 
 QString BeamInput::text() const
 {
     QStringList kinds;
     int seats = 0;
-    for (const QJsonValue kind : m_summary["seats"].toArray()) {
-        seats += kind["count"].toInt();
-        kinds.append(counted(kind["count"].toInt(), kind["title"].toString()));
+    for (auto kind = m_seats.cbegin(); kind != m_seats.cend(); ++kind) {
+        seats += kind.value();
+        kinds.append(counted(kind.value(), typeTitle(kind.key())));
     }
     const QString listed = kinds.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(kinds.join(QStringLiteral(", ")));
     return QStringLiteral("%1%2, %3 and %4 of %5")
-        .arg(counted(seats, QStringLiteral("seat")), listed,
-             counted(m_summary["axisLines"].toInt(), QStringLiteral("axis line")),
-             counted(m_summary["beamCodes"].toInt(), QStringLiteral("beam code")), m_summary["floor"].toString());
+        .arg(counted(seats, QStringLiteral("seat")), listed, counted(m_axisLines, QStringLiteral("axis line")),
+             counted(m_beamCodes, QStringLiteral("beam code")), m_floor);
+}
+
+QJsonObject BeamInput::summary() const
+{
+    QJsonArray seats;
+    for (auto kind = m_seats.cbegin(); kind != m_seats.cend(); ++kind)
+        seats.append(QJsonObject{{"type", kind.key()}, {"title", typeTitle(kind.key())}, {"count", kind.value()}});
+    return {{"floor", m_floor}, {"seats", seats}, {"axisLines", m_axisLines}, {"beamCodes", m_beamCodes}};
 }
 
 } // namespace orvcad

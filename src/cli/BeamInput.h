@@ -1,11 +1,14 @@
 #pragma once
 
-#include "platform/embedded/HBXProject.h"
-
 #include <QJsonObject>
+#include <QMap>
 #include <QString>
 
 class IHBXFloor;
+
+namespace hbx::embedded {
+class HBXProject;
+}
 
 namespace orvcad {
 
@@ -18,13 +21,17 @@ public:
 
     /** The document. */
     const QJsonObject &document() const { return m_document; }
-    /** "89 seats and 22 axis lines of Level 1: 40 columns, …". */
+    /** "89 seats (40 columns, …), 22 axis lines and 3 beam codes of Level 1". */
     QString text() const;
-    QJsonObject summary() const { return m_summary; }
+    /** "floor", "seats" by type, "axisLines" and "beamCodes". */
+    QJsonObject summary() const;
 
 private:
     QJsonObject m_document;
-    QJsonObject m_summary;
+    QString m_floor;
+    QMap<int, int> m_seats; ///< how many, by element type
+    int m_axisLines = 0;
+    int m_beamCodes = 0;
 };
 
 } // namespace orvcad

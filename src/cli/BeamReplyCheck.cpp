@@ -3,17 +3,11 @@
 #include "ModelSerialization/BeamSubTypes.h"
 #include "beam/BeamKeys.h"
 #include "cli/ExpectedValue.h"
+#include "cli/FloorLookup.h"
 #include "cli/MemberKinds.h"
 #include "encoding/GeometryTextReader.h"
-#include "platform/host/IHBXFloor.h"
-#include "platform/host/IHBXFloors.h"
-#include "platform/host/IHBXModel.h"
-#include "platform/host/IHBXRegion.h"
-#include "platform/host/IHBXRegions.h"
 
 #include <QJsonArray>
-
-#include <algorithm>
 
 using namespace beam;
 
@@ -47,17 +41,18 @@ QString whyNotSection(const QJsonObject &element)
     }
     const int subType = element.value(key::elementSubType).toInt();
     if (!mayHaveOutline(subTypeMade(element.value(key::elementType).toInt(), subType)))
-        return QStringLiteral("a beam of sub-type %1 has no outline, and SectionPoly is one").arg(subType);
+        return QStringLiteral("a beam of sub-type %1 has no outline, and %2 is one").arg(subType).arg(key::sectionPoly);
     GeometryTextReader::Polygon polygon;
-    return GeometryTextReader::reconstructPoly(outline, polygon) ? QString()
-                                                                 : QStringLiteral("SectionPoly is no outline");
+    return GeometryTextReader::reconstructPoly(outline, polygon)
+               ? QString()
+               : QStringLiteral("%1 is no outline").arg(key::sectionPoly);
 }
 
-QString whyNotType(qint64 elementType, const BeamArray &array)
+QString whyNotType(qint64 elementType, const ReplyArray &array)
 {
     if (elementType == array.elementType)
         return {};
-    for (const BeamArray &other : beamArrays())
+    for (const ReplyArray &other : beamArrays())
         if (other.elementType == elementType)
             return QStringLiteral("a beam of type %1 belongs into \"%2\"").arg(elementType).arg(other.key);
     return QStringLiteral("type %1 is no beam (15, 17, 47)").arg(elementType);
@@ -108,44 +103,24 @@ QString whyNotChain(const QJsonValue &value)
 
 } // namespace
 
-const std::vector<BeamArray> &beamArrays()
+const std::vector<ReplyArray> &beamArrays()
 {
-    static const std::vector<BeamArray> arrays{
-        {type::beam, key::beams}, {type::linkBeam, key::linkBeams}, {type::foundationBeam, key::foundationBeams}};
+    static const std::vector<ReplyArray> arrays{
+        {key::beams, type::beam}, {key::linkBeams, type::linkBeam}, {key::foundationBeams, type::foundationBeam}};
     return arrays;
-}
-
-IHBXFloor *floorOfNames(IHBXModel &model, const QString &regionName, const QString &floorName, QString &reason)
-{
-    IHBXRegion *region = model.regions()->find(regionName);
-    IHBXFloor *floor = region ? region->floors()->find(floorName) : nullptr;
-    if (!region)
-        reason = QStringLiteral("unknown region \"%1\"").arg(regionName);
-    else if (!floor)
-        reason = QStringLiteral("unknown floor \"%1\" in region \"%2\"").arg(floorName, regionName);
-    return floor;
 }
 
 BeamReplyCheck::BeamReplyCheck(IHBXModel &model, const QJsonObject &reply, const QString &file) : m_model(model)
 {
-    const auto isThere = [&](const BeamArray &array) { return reply.contains(array.key); };
-    if (std::none_of(beamArrays().begin(), beamArrays().end(), isThere))
-        throw CommandFailure(
-            kBadInput, file, {},
-            QStringLiteral("has none of the keys \"Beam\", \"LinkBeam\" and \"FDBeam\": no reply of beams"));
-    for (const BeamArray &array : beamArrays()) {
-        const QJsonValue members = reply.value(array.key);
-        if (isThere(array) && !members.isArray())
-            throw CommandFailure(kBadInput, file, array.key, QStringLiteral("is no array"));
-        int index = 0;
-        for (const QJsonValue member : members.toArray())
-            look(QStringLiteral("%1[%2]").arg(array.key).arg(index++), member, array);
-    }
+    forEachMember(reply, file, beamArrays(), QStringLiteral("reply of beams"),
+                  [&](const ReplyArray &array, const QString &place, const QJsonValue &member) {
+                      ++m_memberCount;
+                      look(place, member, array);
+                  });
 }
 
-void BeamReplyCheck::look(const QString &place, const QJsonValue &value, const BeamArray &array)
+void BeamReplyCheck::look(const QString &place, const QJsonValue &value, const ReplyArray &array)
 {
-    ++m_memberCount;
     QJsonObject object = value.toObject();
     const QString name = object.value(key::elementInfo).toObject().value(key::name).toString();
     const QString reason = whyNot(value, array);
@@ -154,23 +129,27 @@ void BeamReplyCheck::look(const QString &place, const QJsonValue &value, const B
         return;
     }
     Member member{place, std::make_shared<BeamModelDataInfo>(), {}};
-    const QJsonArray chains = object.value(key::edoInfos).toArray();
-    QJsonArray kept;
-    for (int i = 0; i < chains.size(); ++i) {
-        const QString chainReason = whyNotChain(chains.at(i));
-        if (!chainReason.isEmpty()) {
-            m_leftOut.push_back({QStringLiteral("%1.%2[%3]").arg(place, key::edoInfos).arg(i), name, chainReason});
-            continue;
-        }
-        kept.append(chains.at(i));
-        member.chains.push_back(i);
-    }
-    object.insert(key::edoInfos, kept);
+    object.insert(key::edoInfos, soundChains(object.value(key::edoInfos).toArray(), name, member));
     member.beam->fromJson(object);
     m_sound.push_back(member);
 }
 
-QString BeamReplyCheck::whyNot(const QJsonValue &value, const BeamArray &array) const
+QJsonArray BeamReplyCheck::soundChains(const QJsonArray &chains, const QString &name, Member &member)
+{
+    QJsonArray sound;
+    for (int i = 0; i < chains.size(); ++i) {
+        const QString reason = whyNotChain(chains.at(i));
+        if (!reason.isEmpty()) {
+            m_leftOut.push_back({QStringLiteral("%1.%2[%3]").arg(member.place, key::edoInfos).arg(i), name, reason});
+            continue;
+        }
+        sound.append(chains.at(i));
+        member.chains.push_back(i);
+    }
+    return sound;
+}
+
+QString BeamReplyCheck::whyNot(const QJsonValue &value, const ReplyArray &array) const
 {
     const QJsonObject member = value.toObject();
     if (!value.isObject())
@@ -182,7 +161,7 @@ QString BeamReplyCheck::whyNot(const QJsonValue &value, const BeamArray &array) 
     return whyNotElement(member.value(key::elementInfo).toObject(), array);
 }
 
-QString BeamReplyCheck::whyNotElement(const QJsonObject &element, const BeamArray &array) const
+QString BeamReplyCheck::whyNotElement(const QJsonObject &element, const ReplyArray &array) const
 {
     const QJsonObject pattern = BeamModelDataInfo::makeElementInfo(array.elementType)->toJsonObj();
     QString wrong = wrongKey(element, pattern, kElementWhole, kElementRequired);

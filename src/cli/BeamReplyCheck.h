@@ -2,6 +2,7 @@
 
 #include "beam/BeamModelDataInfo.h"
 #include "cli/Applied.h"
+#include "cli/ReplyArrays.h"
 
 #include <QJsonObject>
 #include <QString>
@@ -9,22 +10,12 @@
 #include <memory>
 #include <vector>
 
-class IHBXFloor;
 class IHBXModel;
 
 namespace orvcad {
 
-/** An array of a reply of beams, and the element type of its beams. */
-struct BeamArray
-{
-    qint64 elementType;
-    QLatin1String key;
-};
-/** In the order in which a reply is written into a project. */
-const std::vector<BeamArray> &beamArrays();
-
-/** The floor of that name in the region of that name; null, with the reason, when there is none. */
-IHBXFloor *floorOfNames(IHBXModel &model, const QString &regionName, const QString &floorName, QString &reason);
+/** The arrays of a reply of beams, in the order in which they are written into a project. */
+const std::vector<ReplyArray> &beamArrays();
 
 /** Looks through a reply of beams before it is written into a model, and says of each beam that the model would not take, or
  *  would take for something else, why not, and likewise of each chain. Nothing is changed. A beam goes on without those of
@@ -49,9 +40,12 @@ public:
     int memberCount() const { return m_memberCount; }
 
 private:
-    void look(const QString &place, const QJsonValue &value, const BeamArray &array);
-    QString whyNot(const QJsonValue &value, const BeamArray &array) const;
-    QString whyNotElement(const QJsonObject &element, const BeamArray &array) const;
+    void look(const QString &place, const QJsonValue &value, const ReplyArray &array);
+    /** The chains that go on, whose positions the member gets.
+     *  @param name  of the beam */
+    QJsonArray soundChains(const QJsonArray &chains, const QString &name, Member &member);
+    QString whyNot(const QJsonValue &value, const ReplyArray &array) const;
+    QString whyNotElement(const QJsonObject &element, const ReplyArray &array) const;
 
     IHBXModel &m_model;
     std::vector<Member> m_sound;

@@ -3,8 +3,9 @@
 #include "beam/BeamKeys.h"
 #include "beam/ORVCADBeamIdentifyResultModel.h"
 #include "cli/Command.h"
+#include "cli/Counted.h"
 #include "cli/Files.h"
-#include "cli/ProjectInfo.h"
+#include "cli/TypeTitles.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -3,11 +3,12 @@
 #include "ModelSerialization/ORVCADBeamLocalModel2HBXService.h"
 #include "beam/BeamIdentifyInput.h"
 #include "beam/BeamKeys.h"
-#include "cli/BeamReplyCheck.h"
-#include "cli/MemberKinds.h"
-#include "cli/ProjectInfo.h"
-#include "platform/geometry/KernelTolerance.h"
-#include "platform/host/HBXBatch.h"
+#include "cli/Counted.h"
+#include "cli/FloorLookup.h"
+#include "cli/ReplyWriting.h"
+#include "cli/SeatReplyCheck.h"
+#include "cli/TypeTitles.h"
+#include "platform/embedded/HBXProject.h"
 #include "platform/host/IHBXDrawObjs.h"
 #include "platform/host/IHBXElement.h"
 #include "platform/host/IHBXElementDrawObj.h"
@@ -30,9 +31,6 @@ namespace {
 using Service = ORVCADBeamLocalModel2HBXService;
 using Seat = ORVBeamSDCSeatInfoModel;
 
-const QStringList kSeatWhole{key::elementType, key::elementSubType, key::sectionWidth, key::sectinoHeight, key::height};
-const QStringList kSeatRequired{key::entName, key::elementType, key::floorName, key::regionName};
-
 /** How a kind of seat is made. */
 bool reconstruct(Service &service, const std::shared_ptr<Seat> &seat)
 {
@@ -40,23 +38,6 @@ bool reconstruct(Service &service, const std::shared_ptr<Seat> &seat)
         return service.reconstructPile(seat);
     return seat->seatElementType == type::tieBeam ? service.reconstructTieBeam(seat)
                                                   : service.reconstructFoundation(seat);
-}
-
-/** A seat stands where its outline is, a tie beam where its centre line is. */
-QString whyNotPlace(const Seat &seat)
-{
-    if (seat.seatElementType != type::tieBeam)
-        return seat.ipWorldPoly ? QString() : QStringLiteral("WorldPoly is no outline");
-    if (!seat.ipCenterLine)
-        return QStringLiteral("CenterLine is no curve");
-    return seat.ipCenterLine->Length() > vks::g_DistEpsilon ? QString() : QStringLiteral("CenterLine has no length");
-}
-
-QString whyNotType(int elementType, const SeatKind &kind)
-{
-    return elementType == kind.elementType
-               ? QString()
-               : QStringLiteral("type %1 is no %2").arg(elementType).arg(typeTitle(kind.elementType));
 }
 
 bool isUnit(const IHBXElement &element) { return element.parent() != nullptr; }
@@ -123,62 +104,6 @@ private:
 
 } // namespace
 
-const std::vector<SeatKind> &seatKinds()
-{
-    static const std::vector<SeatKind> kinds{{key::isolatedFoundations, type::isolatedFoundation},
-                                             {key::pileCaps, type::pileCap},
-                                             {key::piles, type::pile},
-                                             {key::tieBeams, type::tieBeam}};
-    return kinds;
-}
-
-SeatReplyCheck::SeatReplyCheck(IHBXModel &model, const QJsonObject &reply, const QString &file) : m_model(model)
-{
-    const auto isThere = [&](const SeatKind &kind) { return reply.contains(kind.key); };
-    if (std::none_of(seatKinds().begin(), seatKinds().end(), isThere))
-        throw CommandFailure(kBadInput, file, {},
-                             QStringLiteral("has none of the keys \"etIsolatedFD\", \"etPileCap\", \"etPile\" and "
-                                            "\"etTieBeam\": no document of seats"));
-    for (const SeatKind &kind : seatKinds()) {
-        const QJsonValue members = reply.value(kind.key);
-        if (isThere(kind) && !members.isArray())
-            throw CommandFailure(kBadInput, file, kind.key, QStringLiteral("is no array"));
-        for (int i = 0; i < members.toArray().size(); ++i) {
-            ++m_memberCount;
-            const QJsonValue member = members.toArray().at(i);
-            const QString place = QStringLiteral("%1[%2]").arg(kind.key).arg(i);
-            const QString reason = whyNot(member, kind);
-            if (!reason.isEmpty()) {
-                m_leftOut.push_back({place, member.toObject().value(key::entName).toString(), reason});
-                continue;
-            }
-            m_sound.push_back({place, std::make_shared<Seat>()});
-            m_sound.back().seat->fromJson(member.toObject());
-        }
-    }
-}
-
-QString SeatReplyCheck::whyNot(const QJsonValue &value, const SeatKind &kind) const
-{
-    const QJsonObject member = value.toObject();
-    if (!value.isObject())
-        return QStringLiteral("is no object");
-    static const QJsonObject pattern = Seat().toJson();
-    QString reason = wrongKey(member, pattern, kSeatWhole, kSeatRequired);
-    if (reason.isEmpty())
-        reason = whyNotType(member.value(key::elementType).toInt(), kind);
-    if (reason.isEmpty() && member.value(key::entName).toString().isEmpty())
-        reason = QStringLiteral("has no name");
-    if (reason.isEmpty())
-        floorOfNames(m_model, member.value(key::regionName).toString(), member.value(key::floorName).toString(),
-                     reason);
-    if (!reason.isEmpty())
-        return reason;
-    Seat seat;
-    seat.fromJson(member);
-    return whyNotPlace(seat);
-}
-
 QString SeatOutcome::Kind::text() const
 {
     const QString below = units ? QStringLiteral(", %1 below").arg(counted(units, QStringLiteral("unit"))) : QString();
@@ -215,34 +140,21 @@ QJsonObject SeatOutcome::toJson() const
 QJsonObject seatDocument(const HBXProject &project, const std::vector<IHBXFloor *> &floors,
                          std::vector<SeatOutcome::Kind> &counts)
 {
-    QSet<qint64> floorIds;
-    for (const IHBXFloor *floor : floors)
-        floorIds.insert(floor->id());
     ORVCADBeamSDCIdentifyInputModel input(false);
-    getBeamSeatInfo(input, project.service()->model(), floorIds);
+    getBeamSeatInfo(input, project.service()->model(), idsOf(floors));
     QJsonObject document = input.beamSeatInfoToJsonObj();
-    for (const SeatKind &kind : seatKinds()) {
+    for (const ReplyArray &array : seatArrays()) {
         counts.emplace_back();
-        counts.back().type = kind.elementType;
-        counts.back().placed = document.value(kind.key).toArray().size();
+        counts.back().type = array.elementType;
+        counts.back().placed = document.value(array.key).toArray().size();
     }
     return document;
 }
 
 SeatOutcome applySeats(HBXProject &project, const QJsonObject &reply, const QString &file)
 {
-    IHBXModel &model = *project.service()->model();
-    const SeatReplyCheck check(model, reply, file);
-    SeatOutcome outcome;
-    outcome.members = check.memberCount();
-    outcome.leftOut = check.leftOut();
-    const int drawObjsBefore = model.drawObjects()->count();
-    const HBXBatch batch(model, "orvcad beam seats apply");
-    SeatWriter writer(project, outcome);
-    for (const SeatReplyCheck::Member &member : check.sound())
-        writer.write(member);
-    outcome.doubled = doubledSince(model, drawObjsBefore);
-    return outcome;
+    const SeatReplyCheck check(*project.service()->model(), reply, file);
+    return writeSound<SeatOutcome, SeatWriter>(project, check, "orvcad beam seats apply");
 }
 
 } // namespace orvcad

@@ -1,56 +1,19 @@
 #pragma once
 
 #include "cli/Applied.h"
-#include "platform/embedded/HBXProject.h"
 
 #include <QJsonObject>
 #include <QString>
 
-#include <memory>
 #include <vector>
 
 class IHBXFloor;
-class IHBXModel;
-class ORVBeamSDCSeatInfoModel;
+
+namespace hbx::embedded {
+class HBXProject;
+}
 
 namespace orvcad {
-
-/** A kind of seat that can be made anew: the array that holds it, and its element type. */
-struct SeatKind
-{
-    QLatin1String key;
-    qint64 elementType;
-};
-/** Foundations before piles before tie beams. */
-const std::vector<SeatKind> &seatKinds();
-
-/** Looks through a document of seats before it is written into a model, and says of each seat that the model would not take, or
- *  would take for something else, why not. Nothing is changed. */
-class SeatReplyCheck
-{
-public:
-    struct Member
-    {
-        QString place; ///< etPile[3]
-        std::shared_ptr<ORVBeamSDCSeatInfoModel> seat;
-    };
-
-    /** Throws CommandFailure naming file and place when the document holds no seats. */
-    SeatReplyCheck(IHBXModel &model, const QJsonObject &reply, const QString &file);
-
-    /** The seats that can be written, kind by kind. */
-    const std::vector<Member> &sound() const { return m_sound; }
-    const std::vector<LeftOut> &leftOut() const { return m_leftOut; }
-    int memberCount() const { return m_memberCount; }
-
-private:
-    QString whyNot(const QJsonValue &value, const SeatKind &kind) const;
-
-    IHBXModel &m_model;
-    std::vector<Member> m_sound;
-    std::vector<LeftOut> m_leftOut;
-    int m_memberCount = 0;
-};
 
 /** What writing a document of seats into a project did. */
 struct SeatOutcome

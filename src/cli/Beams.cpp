@@ -2,10 +2,16 @@
 
 #include "ModelSerialization/ORVCADBeamHBXModelConvertService.h"
 #include "ModelSerialization/ORVCADBeamLocalModel2HBXService.h"
+#include "beam/BeamKeys.h"
 #include "beam/ORVCADBeamCollectDataModel.h"
 #include "cli/BeamReplyCheck.h"
-#include "cli/ProjectInfo.h"
+#include "cli/Counted.h"
+#include "cli/ElementRemoval.h"
+#include "cli/FloorLookup.h"
+#include "cli/ReplyWriting.h"
+#include "cli/TypeTitles.h"
 #include "platform/embedded/HBXModelStore.h"
+#include "platform/embedded/HBXProject.h"
 #include "platform/host/HBXBatch.h"
 #include "platform/host/IHBXDrawObjs.h"
 #include "platform/host/IHBXElement.h"
@@ -33,7 +39,7 @@ const QSet<qint64> &beamTypes()
 {
     static const QSet<qint64> types = [] {
         QSet<qint64> all;
-        for (const BeamArray &array : beamArrays())
+        for (const ReplyArray &array : beamArrays())
             all.insert(array.elementType);
         return all;
     }();
@@ -139,7 +145,7 @@ private:
         beam.segments += made;
         if (result != Service::kDone) {
             ++beam.stopped;
-            leaveOut(QStringLiteral("%1.EDOInfo[%2]").arg(beam.place).arg(position), beam.name,
+            leaveOut(QStringLiteral("%1.%2[%3]").arg(beam.place, beam::key::edoInfos).arg(position), beam.name,
                      QStringLiteral("stopped behind %1 of %2, which stay unlinked: %3")
                          .arg(made)
                          .arg(counted(static_cast<int>(chain.segments.size()), QStringLiteral("segment")),
@@ -244,11 +250,8 @@ QJsonObject BeamOutcome::toJson() const
 QJsonObject beamDocument(HBXProject &project, const std::vector<IHBXFloor *> &floors, BeamCounts &counts)
 {
     project.makeCurrent(); // stored spans are asked of the current project
-    QSet<qint64> floorIds;
-    for (const IHBXFloor *floor : floors)
-        floorIds.insert(floor->id());
     const auto beams = ORVCADBeamHBXModelConvertService().convertHBXToCollectDataModel(project.service()->model(),
-                                                                                       floorIds, beamTypes());
+                                                                                       idsOf(floors), beamTypes());
     for (const auto &beam : beams) {
         sortChains(*beam);
         count(*beam, counts);
@@ -260,30 +263,13 @@ QJsonObject beamDocument(HBXProject &project, const std::vector<IHBXFloor *> &fl
 
 BeamOutcome applyBeams(HBXProject &project, const QJsonObject &reply, const QString &file)
 {
-    IHBXModel &model = *project.service()->model();
-    const BeamReplyCheck check(model, reply, file);
-    BeamOutcome outcome;
-    outcome.members = check.memberCount();
-    outcome.leftOut = check.leftOut();
-
-    const int drawObjsBefore = model.drawObjects()->count();
-    const HBXBatch batch(model, "orvcad beam apply");
-    BeamWriter writer(project, outcome);
-    for (const BeamReplyCheck::Member &member : check.sound())
-        writer.write(member);
-    outcome.doubled = doubledSince(model, drawObjsBefore);
-    return outcome;
+    const BeamReplyCheck check(*project.service()->model(), reply, file);
+    return writeSound<BeamOutcome, BeamWriter>(project, check, "orvcad beam apply");
 }
 
 int removeBeams(HBXProject &project, const IHBXFloor &floor)
 {
-    IHBXModel &model = *project.service()->model();
-    const HBXBatch batch(model, "orvcad remove beams");
-    QList<IHBXElement *> elements;
-    model.elements()->queryElements(elements, {floor.id()}, beamTypes(), true);
-    for (IHBXElement *element : qAsConst(elements))
-        element->remove();
-    return elements.size();
+    return removeElements(*project.service()->model(), {floor.id()}, beamTypes(), "orvcad remove beams");
 }
 
 } // namespace orvcad

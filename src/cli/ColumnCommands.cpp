@@ -1,10 +1,8 @@
-#include "cli/Arguments.h"
 #include "cli/ColumnDocumentCheck.h"
-#include "cli/Command.h"
 #include "cli/Files.h"
+#include "cli/Verb.h"
 
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QStringList>
 
 namespace orvcad {
@@ -13,14 +11,9 @@ namespace {
 
 QStringList linesOf(const QString &file, const ColumnDocumentCheck &check)
 {
-    const auto line = [&](const QString &place, const QString &reason) {
-        return QStringLiteral("%1: %2: %3").arg(file, place, reason);
-    };
-    QStringList lines{line(check.title(), check.contentText())};
-    for (const JsonFault &finding : check.findings())
-        lines.append(line(finding.place, finding.reason));
-    for (const JsonFault &fault : check.writtenOtherwise())
-        lines.append(line(fault.place, fault.reason));
+    QStringList lines{QStringLiteral("%1: %2: %3").arg(file, check.title(), check.contentText())};
+    lines += faultLines(file, check.findings());
+    lines += faultLines(file, check.writtenOtherwise());
     if (check.missingKeys() > 0)
         lines.append(QStringLiteral("missing keys, read as 0, false or empty: %1").arg(check.missingKeys()));
     return lines << check.verdict();
@@ -37,12 +30,10 @@ Summary summaryOf(const QString &file, const ColumnDocumentCheck &check)
     return {linesOf(file, check).join('\n'), json, check.findings().empty() ? kDone : kLeftOut};
 }
 
-Summary checkFile(const QString &file)
+Summary checkRecord(const Arguments &arguments)
 {
-    const QJsonDocument document = readJsonFile(file);
-    if (!document.isObject())
-        throw CommandFailure(kBadInput, file, {}, QStringLiteral("no column record: its top is no object"));
-    const ColumnDocumentCheck check(document.object());
+    const QString file = Arguments::text(arguments.input);
+    const ColumnDocumentCheck check(readJsonObject(file, QStringLiteral("column record")));
     if (!check.isColumnRecord())
         throw CommandFailure(kBadInput, file, {}, QStringLiteral("no column record: it has none of the keys of one"));
     return summaryOf(file, check);
@@ -52,14 +43,9 @@ Summary checkFile(const QString &file)
 
 void addColumnCommands(CLI::App &app, Command &command)
 {
-    CLI::App *group = app.add_subcommand("column", "Column records");
-    group->require_subcommand(1);
-
-    auto arguments = newArguments();
-    CLI::App *verb = group->add_subcommand("check", "Tell what a column record holds, and what is wrong with it");
-    verb->add_option("FILE", arguments->input, "Order to identify or check columns, or results")->required();
-    verb->callback(
-        [&command, arguments] { command = [arguments] { return checkFile(Arguments::text(arguments->input)); }; });
+    CLI::App &group = addGroup(app, "column", "Column records");
+    Verb(group, command, "check", "Tell what a column record holds, and what is wrong with it", checkRecord)
+        .input("FILE", "Order to identify or check columns, or results");
 }
 
 } // namespace orvcad

@@ -1,7 +1,7 @@
 #include "cli/ColumnDocumentCheck.h"
 
+#include "cli/ColumnRecordLook.h"
 #include "cli/JsonDifference.h"
-#include "cli/ProjectInfo.h"
 
 #include <QHash>
 #include <QMap>
@@ -156,52 +156,107 @@ QString howWritten(const JsonDifference &difference)
         .arg(QString::number(difference.after.toDouble(), 'f', 0));
 }
 
-} // namespace
+// Kinds of records.
 
-template <typename Fields> void ColumnDocumentCheck::check(const QJsonObject &document)
+/** A document taken as a record of a kind. */
+struct Taken
 {
-    m_content = contentOf<Fields>(document);
-    m_written = writtenAgain<Fields>(document);
-    m_look.lookAtObject(document, Fields::table, JsonPlace());
+    QJsonObject content;
+    QJsonObject written; ///< the document as it is written from the record
+    ColumnRecordLook look{};
+};
+
+template <typename Fields> Taken taken(const QJsonObject &document)
+{
+    Taken record{contentOf<Fields>(document), writtenAgain<Fields>(document)};
+    record.look.lookAtObject(document, Fields::table, JsonPlace());
+    return record;
 }
+
+struct Kind
+{
+    const char *title;
+    int (*knownKeys)(const QJsonObject &document);
+    Taken (*taken)(const QJsonObject &document);
+};
+template <typename Fields> constexpr Kind kindOf(const char *title)
+{
+    return {title, knownKeys<Fields>, taken<Fields>};
+}
+
+constexpr Kind kKinds[] = {
+    kindOf<ResultModelFields>("results of identification"),
+    // Before the order to identify, which has all of its keys but one.
+    kindOf<CheckInputFields>("order to check"),
+    kindOf<IdentifyInputFields>("order to identify"),
+    kindOf<HoopBarFields>("hoop bar settings"),
+    kindOf<SemanticFields>("words of elevations"),
+};
+
+// What no table of fields tells.
+
+void checkHoopBars(const QJsonObject &par, const JsonPlace &place, ColumnRecordLook &look)
+{
+    HoopBarLists lists;
+    encoding::readFields(par, HoopBarFields::table, lists);
+    const JsonPlace list(place, key::hoopBarPicInfos);
+    QMap<qint64, int> first;
+    for (int i = 0; i < sizeOf(lists.pictures); ++i) {
+        const qint64 id = lists.pictures[static_cast<std::size_t>(i)].id;
+        if (first.contains(id))
+            look.note(JsonPlace(list, i),
+                      QStringLiteral("has the id %1 of picture %2, and is left out").arg(id).arg(first[id]));
+        else
+            first.insert(id, i);
+    }
+}
+
+void checkLimbs(const QJsonObject &document, const JsonPlace &place, ColumnRecordLook &look)
+{
+    const auto model = filled<ORVCADColumnCloudIdentifyInputModel>(document);
+    const JsonPlace list(place, key::elements);
+    for (int i = 0; i < sizeOf(model.elements); ++i) {
+        const QString limbs = model.elements[static_cast<std::size_t>(i)]->bar.strLimb;
+        qint64 bPicture = 0;
+        qint64 hPicture = 0;
+        if (limbs.isEmpty() ||
+            model.oHoopBarSettingPar.parseColumnCombLimbInfo(limbs.toStdWString(), bPicture, hPicture))
+            continue;
+        const JsonPlace element(list, i);
+        const JsonPlace bar(element, key::bar);
+        look.note(JsonPlace(bar, key::limb),
+                  QStringLiteral("\"%1\" has no picture in the hoop bar settings").arg(limbs));
+    }
+}
+
+} // namespace
 
 ColumnDocumentCheck::ColumnDocumentCheck(const QJsonObject &document)
 {
-    struct Kind
-    {
-        const char *title;
-        int known;
-        void (ColumnDocumentCheck::*check)(const QJsonObject &);
-    };
-    using Self = ColumnDocumentCheck;
-    const Kind kinds[] = {
-        {"results of identification", knownKeys<ResultModelFields>(document), &Self::check<ResultModelFields>},
-        // Before the order to identify, which has all of its keys but one.
-        {"order to check", knownKeys<CheckInputFields>(document), &Self::check<CheckInputFields>},
-        {"order to identify", knownKeys<IdentifyInputFields>(document), &Self::check<IdentifyInputFields>},
-        {"hoop bar settings", knownKeys<HoopBarFields>(document), &Self::check<HoopBarFields>},
-        {"words of elevations", knownKeys<SemanticFields>(document), &Self::check<SemanticFields>},
-    };
-    const Kind &best = *std::max_element(std::begin(kinds), std::end(kinds),
-                                         [](const Kind &a, const Kind &b) { return a.known < b.known; });
-    if (best.known == 0)
+    const Kind &best = *std::max_element(std::begin(kKinds), std::end(kKinds), [&](const Kind &a, const Kind &b) {
+        return a.knownKeys(document) < b.knownKeys(document);
+    });
+    if (best.knownKeys(document) == 0)
         return;
     m_title = QString::fromLatin1(best.title);
-    (this->*best.check)(document);
+    Taken record = best.taken(document);
     const JsonPlace top;
-    checkHoopBars(document, top);
-    checkHoopBars(document[key::hoopBarSettingPar].toObject(), JsonPlace(top, key::hoopBarSettingPar));
+    checkHoopBars(document, top, record.look);
+    checkHoopBars(document[key::hoopBarSettingPar].toObject(), JsonPlace(top, key::hoopBarSettingPar), record.look);
     if (document.contains(key::hoopBarSettingPar))
-        checkLimbs(document, top);
-    compareWithWritten(document);
+        checkLimbs(document, top, record.look);
+    m_content = record.content;
+    m_findings = record.look.findings();
+    m_missingKeys = record.look.missingKeys();
+    compareWithWritten(document, record.written);
 }
 
-void ColumnDocumentCheck::compareWithWritten(const QJsonObject &document)
+void ColumnDocumentCheck::compareWithWritten(const QJsonObject &document, const QJsonObject &written)
 {
     QHash<QString, QString> reasons;
     for (const JsonFault &finding : findings())
         reasons.insert(finding.place, finding.reason);
-    for (const JsonDifference &difference : differencesBetween(document, withPicturesInOrderOf(document, m_written))) {
+    for (const JsonDifference &difference : differencesBetween(document, withPicturesInOrderOf(document, written))) {
         if (difference.before.isUndefined())
             continue;
         const QStringList holders = holdersOf(difference.place);
@@ -224,45 +279,6 @@ QString ColumnDocumentCheck::contentText() const
     return parts.join(QStringLiteral(", "));
 }
 
-QString ColumnDocumentCheck::verdict() const
-{
-    const int count = sizeOf(m_notKept);
-    return count == 0 ? QStringLiteral("written again, it is the same document")
-                      : QStringLiteral("written again, it differs at %1").arg(counted(count, QStringLiteral("place")));
-}
-
-void ColumnDocumentCheck::checkHoopBars(const QJsonObject &par, const JsonPlace &place)
-{
-    HoopBarLists lists;
-    encoding::readFields(par, HoopBarFields::table, lists);
-    const JsonPlace list(place, key::hoopBarPicInfos);
-    QMap<qint64, int> first;
-    for (int i = 0; i < sizeOf(lists.pictures); ++i) {
-        const qint64 id = lists.pictures[static_cast<std::size_t>(i)].id;
-        if (first.contains(id))
-            m_look.note(JsonPlace(list, i),
-                        QStringLiteral("has the id %1 of picture %2, and is left out").arg(id).arg(first[id]));
-        else
-            first.insert(id, i);
-    }
-}
-
-void ColumnDocumentCheck::checkLimbs(const QJsonObject &document, const JsonPlace &place)
-{
-    const auto model = filled<ORVCADColumnCloudIdentifyInputModel>(document);
-    const JsonPlace list(place, key::elements);
-    for (int i = 0; i < sizeOf(model.elements); ++i) {
-        const QString limbs = model.elements[static_cast<std::size_t>(i)]->bar.strLimb;
-        qint64 bPicture = 0;
-        qint64 hPicture = 0;
-        if (limbs.isEmpty() ||
-            model.oHoopBarSettingPar.parseColumnCombLimbInfo(limbs.toStdWString(), bPicture, hPicture))
-            continue;
-        const JsonPlace element(list, i);
-        const JsonPlace bar(element, key::bar);
-        m_look.note(JsonPlace(bar, key::limb),
-                    QStringLiteral("\"%1\" has no picture in the hoop bar settings").arg(limbs));
-    }
-}
+QString ColumnDocumentCheck::verdict() const { return writtenAgainText(m_notKept.size()); }
 
 } // namespace orvcad

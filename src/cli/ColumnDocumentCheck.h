@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/ColumnRecordLook.h"
+#include "cli/JsonFault.h"
 
 #include <QJsonObject>
 #include <QString>
@@ -24,27 +24,25 @@ public:
     /** "key value" of everything that the record holds, in the order of the keys. */
     QString contentText() const;
     /** Values that the reader does not take as they stand, in the order of the reader. */
-    const std::vector<JsonFault> &findings() const { return m_look.findings(); }
+    const std::vector<JsonFault> &findings() const { return m_findings; }
     /** What the document has and what is written from the record lacks or has otherwise, each with the finding that tells
      *  why or with the value that is written; in the order of the keys. A key that is missing is no loss, though the
      *  record writes it. */
     const std::vector<JsonFault> &notKept() const { return m_notKept; }
     /** Those of them that no finding tells of: values that are sound and have another form when they are written. */
     const std::vector<JsonFault> &writtenOtherwise() const { return m_writtenOtherwise; }
-    int missingKeys() const { return m_look.missingKeys(); }
+    int missingKeys() const { return m_missingKeys; }
     /** Whether the document survives being written again, in words. */
     QString verdict() const;
 
 private:
-    template <typename Fields> void check(const QJsonObject &document);
-    void compareWithWritten(const QJsonObject &document);
-    void checkHoopBars(const QJsonObject &par, const dwgx::JsonPlace &place);
-    void checkLimbs(const QJsonObject &document, const dwgx::JsonPlace &place);
+    /** @param written  the document as it is written from the record */
+    void compareWithWritten(const QJsonObject &document, const QJsonObject &written);
 
     QString m_title;
     QJsonObject m_content;
-    QJsonObject m_written;
-    ColumnRecordLook m_look;
+    std::vector<JsonFault> m_findings;
+    int m_missingKeys = 0;
     std::vector<JsonFault> m_notKept;
     std::vector<JsonFault> m_writtenOtherwise;
 };

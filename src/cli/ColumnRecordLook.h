@@ -5,6 +5,7 @@
 #include "column/ColumnInputFields.h"
 #include "column/ColumnResultFields.h"
 #include "encoding/GeometryTextReader.h"
+#include "encoding/PointText.h"
 #include "platform/dwgx/StrictJson.h"
 
 #include <QStringList>
@@ -112,7 +113,7 @@ private:
         vks::CVec2<double> point;
         if (!value.isString())
             expect(value, Expected::Text, place);
-        else if (!ORVCADJsonCGeometryObjOper().getVector2dInfo(value.toString(), point))
+        else if (!encoding::readPoint(value.toString(), point))
             note(place, QStringLiteral("is no text of a point"));
     }
 

@@ -59,8 +59,4 @@ void addDrawingsCommands(CLI::App &app, Command &command);
 void addDrawCommand(CLI::App &app, Command &command);
 void addDemoCommand(CLI::App &app, Command &command);
 
-/** Verbs of the group of walls. */
-void addWallExportCommand(CLI::App &group, Command &command);
-void addWallReplyCommands(CLI::App &group, Command &command);
-
 } // namespace orvcad

@@ -1,10 +1,9 @@
-#include "cli/Arguments.h"
-#include "cli/Command.h"
-#include "cli/Files.h"
-#include "cli/ProjectInfo.h"
+#include "cli/Counted.h"
+#include "cli/DrawingFiles.h"
+#include "cli/FloorLookup.h"
+#include "cli/ProjectFiles.h"
+#include "cli/Verb.h"
 #include "platform/dwgx/DWGXModel.h"
-#include "platform/dwgx/HBXCADFileHelper.h"
-#include "platform/dwgx/HBXCADIOperator.h"
 #include "platform/embedded/HBXFloorDrawing.h"
 #include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXRegion.h"
@@ -13,21 +12,9 @@
 #include <QJsonArray>
 #include <QStringList>
 
-#include <memory>
-
 namespace orvcad {
 
 namespace {
-
-std::unique_ptr<HBXCADIOperator> newOperator()
-{
-    return std::unique_ptr<HBXCADIOperator>(HBXCADFileHelper::getInstance()->createCADIOperator());
-}
-
-[[noreturn]] void fail(const QString &path, const HBXCADIOperator &fileOperator)
-{
-    throw CommandFailure(kBadInput, path, fileOperator.lastErrorPlace(), fileOperator.lastErrorReason());
-}
 
 QString countsOf(const dwgx::DWGXModel &drawing)
 {
@@ -37,7 +24,7 @@ QString countsOf(const dwgx::DWGXModel &drawing)
              counted(drawing.textCount(), QStringLiteral("text")));
 }
 
-QJsonObject describe(const dwgx::DWGXModel &drawing)
+QJsonObject drawingToJson(const dwgx::DWGXModel &drawing)
 {
     QJsonArray layers;
     for (const dwgx::DWGXLayer &layer : drawing.layers())
@@ -52,7 +39,7 @@ QJsonObject describe(const dwgx::DWGXModel &drawing)
             {"texts", drawing.textCount()}};
 }
 
-QString toText(const dwgx::DWGXModel &drawing)
+QString drawingText(const dwgx::DWGXModel &drawing)
 {
     QStringList lines{QStringLiteral("%1: %2").arg(drawing.getTitle(), countsOf(drawing))};
     for (const dwgx::DWGXLayer &layer : drawing.layers())
@@ -70,49 +57,34 @@ QString toText(const dwgx::DWGXModel &drawing)
 Summary makeDrawing(const Arguments &arguments)
 {
     const auto project = openProject(Arguments::text(arguments.project));
-    IHBXRegion &region = requireRegion(*project, Arguments::text(arguments.region));
-    IHBXFloor &floor = requireFloor(*project, region, Arguments::text(arguments.floor));
+    IHBXFloor &floor = pickFloor(*project, arguments);
     const auto drawing = hbx::embedded::makeFloorDrawing(project->service()->model(), &floor);
     const QString output = Arguments::text(arguments.output);
-    const auto fileOperator = newOperator();
-    const QString title = QStringLiteral("%1, %2").arg(region.name(), floor.name());
+    const QString title = QStringLiteral("%1, %2").arg(floor.region()->name(), floor.name());
     drawing->setTitle(title);
     drawing->setRemark(project->name());
-    if (!fileOperator->write(output, drawing.get(), QString(), QString()))
-        fail(output, *fileOperator);
-    QJsonObject json = describe(*drawing);
+    writeDrawing(output, *drawing);
+    QJsonObject json = drawingToJson(*drawing);
     json["output"] = output;
     return {QStringLiteral("Drew %1 into %2: %3").arg(title, output, countsOf(*drawing)), json};
 }
 
 Summary showDrawing(const Arguments &arguments)
 {
-    const QString input = Arguments::text(arguments.input);
-    const std::unique_ptr<dwgx::DWGXModel> drawing(dwgx::DWGXModel::createObject());
-    const auto fileOperator = newOperator();
-    if (!fileOperator->read(input, drawing.get()))
-        fail(input, *fileOperator);
-    return {toText(*drawing), describe(*drawing)};
+    const auto drawing = readDrawing(Arguments::text(arguments.input));
+    return {drawingText(*drawing), drawingToJson(*drawing)};
 }
 
 } // namespace
 
 void addDrawingCommands(CLI::App &app, Command &command)
 {
-    CLI::App *group = app.add_subcommand("drawing", "Drawing files (.cadi2)");
-    group->require_subcommand(1);
-
-    auto arguments = newArguments();
-    CLI::App *verb = group->add_subcommand("make", "Draw a floor as layers, lines and texts");
-    addProject(verb, arguments);
-    addPlace(verb, arguments, true);
-    verb->add_option("-o,--output", arguments->output, "Drawing file to make (.cadi2)")->required();
-    verb->callback([&command, arguments] { command = [arguments] { return makeDrawing(*arguments); }; });
-
-    arguments = newArguments();
-    verb = group->add_subcommand("show", "What a drawing file holds");
-    verb->add_option("DRAWING", arguments->input, "Drawing file (.cadi2)")->required();
-    verb->callback([&command, arguments] { command = [arguments] { return showDrawing(*arguments); }; });
+    CLI::App &group = addGroup(app, "drawing", "Drawing files (.cadi2)");
+    Verb(group, command, "make", "Draw a floor as layers, lines and texts", makeDrawing)
+        .project()
+        .pickedFloor()
+        .output("Drawing file to make (.cadi2)", Verb::NoOutput::WrongUsage);
+    Verb(group, command, "show", "What a drawing file holds", showDrawing).input("DRAWING", "Drawing file (.cadi2)");
 }
 
 } // namespace orvcad

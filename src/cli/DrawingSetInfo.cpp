@@ -1,6 +1,6 @@
 #include "cli/DrawingSetInfo.h"
 
-#include "cli/ProjectInfo.h"
+#include "cli/Counted.h"
 #include "cli/TextTable.h"
 #include "drawing/DrawingKeys.h"
 #include "platform/services/dwgxCommonUtil.h"
@@ -44,7 +44,7 @@ QString shownNumber(const QJsonValue &number)
 
 QString shownCount(int count) { return count == 0 ? QStringLiteral("-") : QString::number(count); }
 
-template <typename Record, typename ToJson> QJsonArray arrayOf(const std::vector<Record> &records, ToJson toJson)
+template <typename Record, typename ToJson> QJsonArray jsonArrayOf(const std::vector<Record> &records, ToJson toJson)
 {
     QJsonArray array;
     for (const Record &record : records)
@@ -196,7 +196,7 @@ QJsonObject DrawingSetInfo::toJson(const Drawing &drawing)
     };
     return {{"name", drawing.name},
             {"parent", drawing.parent},
-            {"floors", arrayOf(drawing.places, placeToJson)},
+            {"floors", jsonArrayOf(drawing.places, placeToJson)},
             {"types", QJsonArray::fromStringList(drawing.types)},
             {"tables", drawing.tables},
             {"layers", drawing.layers},
@@ -233,10 +233,10 @@ QJsonObject DrawingSetInfo::toJson() const
 {
     const auto each = [](const auto &record) { return toJson(record); };
     return {{"areaName", m_areaName},
-            {"stages", arrayOf(m_stages, each)},
-            {"floors", arrayOf(m_floors.list, each)},
-            {"drawings", arrayOf(m_drawings.list, each)},
-            {"layers", arrayOf(m_types.list, each)}};
+            {"stages", jsonArrayOf(m_stages, each)},
+            {"floors", jsonArrayOf(m_floors.list, each)},
+            {"drawings", jsonArrayOf(m_drawings.list, each)},
+            {"layers", jsonArrayOf(m_types.list, each)}};
 }
 
 // For people.

@@ -4,8 +4,6 @@
 #include "cli/Files.h"
 #include "drawing/DrawingKeys.h"
 
-#include <QJsonDocument>
-
 #include <algorithm>
 #include <iterator>
 
@@ -107,12 +105,10 @@ std::optional<JsonFault> drawingSetFault(const QJsonObject &set)
 
 QJsonObject readDrawingSet(const QString &path)
 {
-    const QJsonDocument json = readJsonFile(path);
-    if (!json.isObject())
-        throw CommandFailure(kBadInput, path, {}, QStringLiteral("no drawing-set file: its top is no object"));
-    if (const auto fault = drawingSetFault(json.object()))
+    QJsonObject set = readJsonObject(path, QStringLiteral("drawing-set file"));
+    if (const auto fault = drawingSetFault(set))
         throw CommandFailure(kBadInput, path, fault->place, fault->reason);
-    return json.object();
+    return set;
 }
 
 } // namespace orvcad

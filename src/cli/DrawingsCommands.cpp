@@ -1,15 +1,13 @@
-#include "cli/Arguments.h"
-#include "cli/Command.h"
+#include "cli/Counted.h"
 #include "cli/DrawingSetInfo.h"
 #include "cli/DrawingSetShape.h"
 #include "cli/Files.h"
 #include "cli/FloorExchange.h"
 #include "cli/FloorWords.h"
-#include "cli/ProjectInfo.h"
 #include "cli/TextTable.h"
+#include "cli/Verb.h"
 
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QStringList>
 
 namespace orvcad {
@@ -28,60 +26,55 @@ template <typename T> QJsonValue valueOf(const ORVCADFloorSDCData::Data<T> &data
 
 QString shown(const QJsonValue &value) { return value.isNull() ? QStringLiteral("-") : value.toVariant().toString(); }
 
-QJsonObject floorToJson(const Floor &floor)
+/** What is told of a floor: to machines under a key, to people in a column. */
+struct FloorField
 {
-    return {{"id", valueOf(floor.ID)},
-            {"description", valueOf(floor.Description)},
-            {"code", valueOf(floor.Code)},
-            {"height", valueOf(floor.Height)},
-            {"structuralElevation", valueOf(floor.StructuralElevation)},
-            {"standardCount", valueOf(floor.StdFloorCount)},
-            {"regionID", valueOf(floor.Region.ID)},
-            {"region", valueOf(floor.Region.Description)},
-            {"settings", static_cast<int>(floor.ConcreteAnchorJoints.size())}};
-}
+    const char *key;
+    const char *heading; ///< null for what people are not told
+    Align align;
+    QJsonValue (*value)(const Floor &);
+};
+const FloorField kFloorFields[] = {
+    {"id", "id", Align::Right, [](const Floor &floor) { return valueOf(floor.ID); }},
+    {"description", "floor", Align::Left, [](const Floor &floor) { return valueOf(floor.Description); }},
+    {"code", "code", Align::Left, [](const Floor &floor) { return valueOf(floor.Code); }},
+    {"height", "height", Align::Right, [](const Floor &floor) { return valueOf(floor.Height); }},
+    {"structuralElevation", "elevation", Align::Right,
+     [](const Floor &floor) { return valueOf(floor.StructuralElevation); }},
+    {"standardCount", "storeys", Align::Right, [](const Floor &floor) { return valueOf(floor.StdFloorCount); }},
+    {"regionID", nullptr, Align::Right, [](const Floor &floor) { return valueOf(floor.Region.ID); }},
+    {"region", "region", Align::Left, [](const Floor &floor) { return valueOf(floor.Region.Description); }},
+    {"settings", "settings", Align::Right,
+     [](const Floor &floor) { return QJsonValue(static_cast<int>(floor.ConcreteAnchorJoints.size())); }},
+};
 
 QJsonArray floorsToJson(const std::vector<Floor> &floors)
 {
     QJsonArray array;
-    for (const Floor &floor : floors)
-        array.append(floorToJson(floor));
+    for (const Floor &floor : floors) {
+        QJsonObject json;
+        for (const FloorField &field : kFloorFields)
+            json[QLatin1String(field.key)] = field.value(floor);
+        array.append(json);
+    }
     return array;
 }
 
-QStringList floorLines(const QJsonArray &floors)
+QStringList floorLines(const std::vector<Floor> &floors)
 {
-    TextTable table({{"id", Align::Right},
-                     {"floor"},
-                     {"code"},
-                     {"height", Align::Right},
-                     {"elevation", Align::Right},
-                     {"storeys", Align::Right},
-                     {"region"},
-                     {"settings", Align::Right}});
-    for (const QJsonValue value : floors) {
+    std::vector<TextTable::Column> columns;
+    for (const FloorField &field : kFloorFields)
+        if (field.heading)
+            columns.push_back({field.heading, field.align});
+    TextTable table(columns);
+    for (const Floor &floor : floors) {
         QStringList cells;
-        for (const char *key :
-             {"id", "description", "code", "height", "structuralElevation", "standardCount", "region", "settings"})
-            cells.append(shown(value.toObject().value(QLatin1String(key))));
+        for (const FloorField &field : kFloorFields)
+            if (field.heading)
+                cells.append(shown(field.value(floor)));
         table.add(cells);
     }
     return table.isEmpty() ? QStringList() : table.lines();
-}
-
-void appendFaults(const QString &what, const std::vector<JsonFault> &faults, QStringList &lines)
-{
-    for (const JsonFault &fault : faults)
-        lines.append(QStringLiteral("%1: %2: %3").arg(what, fault.place, fault.reason));
-}
-
-QString verdict(const FloorExchange &exchange)
-{
-    return exchange.notKept.empty() && exchange.notStable.empty()
-               ? QStringLiteral("written again, it is the same document")
-               : QStringLiteral("written again, it differs at %1")
-                     .arg(counted(static_cast<int>(exchange.notKept.size() + exchange.notStable.size()),
-                                  QStringLiteral("place")));
 }
 
 Summary showDrawingSet(const Arguments &arguments)
@@ -94,16 +87,17 @@ Summary showFloorExchange(const Arguments &arguments)
 {
     const FloorExchange exchange = readFloorExchange(Arguments::text(arguments.input));
     const QString output = Arguments::text(arguments.output);
-    const bool onStdout = !output.isEmpty() && writeResult(output, QJsonDocument(exchange.written).toJson());
-    const QJsonArray floors = floorsToJson(exchange.floors);
+    const bool onStdout = !output.isEmpty() && writeResult(output, exchange.written);
+    const std::size_t differences = exchange.notKept.size() + exchange.notStable.size();
     QStringList lines{QStringLiteral("Floor exchange of %1: %2")
-                          .arg(counted(floors.size(), QStringLiteral("floor")), verdict(exchange))};
-    lines += floorLines(floors);
-    appendFaults(QStringLiteral("not kept"), exchange.notKept, lines);
-    appendFaults(QStringLiteral("not stable"), exchange.notStable, lines);
+                          .arg(counted(static_cast<int>(exchange.floors.size()), QStringLiteral("floor")),
+                               writtenAgainText(differences))};
+    lines += floorLines(exchange.floors);
+    lines += faultLines(QStringLiteral("not kept"), exchange.notKept);
+    lines += faultLines(QStringLiteral("not stable"), exchange.notStable);
     return {lines.join('\n'),
-            {{"floors", floors},
-             {"same", exchange.notKept.empty() && exchange.notStable.empty()},
+            {{"floors", floorsToJson(exchange.floors)},
+             {"same", differences == 0},
              {"notKept", faultsToJson(exchange.notKept)},
              {"notStable", faultsToJson(exchange.notStable)}},
             kDone,
@@ -120,24 +114,14 @@ Summary showWords(const Arguments &arguments)
 
 void addDrawingsCommands(CLI::App &app, Command &command)
 {
-    CLI::App *group = app.add_subcommand("drawings", "Sets of drawings and the names of floors on them");
-    group->require_subcommand(1);
-
-    auto arguments = newArguments();
-    CLI::App *verb = group->add_subcommand("show", "What a drawing-set file holds: stages, floors, drawings, layers");
-    verb->add_option("SET", arguments->input, "Drawing-set file")->required();
-    verb->callback([&command, arguments] { command = [arguments] { return showDrawingSet(*arguments); }; });
-
-    arguments = newArguments();
-    verb = group->add_subcommand("floors", "Read a floor exchange, write it again and compare the two");
-    verb->add_option("FLOORS", arguments->input, "Floor exchange")->required();
-    verb->add_option("-o,--output", arguments->output, "File to write the document to as it is written again");
-    verb->callback([&command, arguments] { command = [arguments] { return showFloorExchange(*arguments); }; });
-
-    arguments = newArguments();
-    verb = group->add_subcommand("words", "The ways in which drawings write a floor");
-    verb->add_option("FLOOR", arguments->input, "Number of a floor, or a word for one")->required();
-    verb->callback([&command, arguments] { command = [arguments] { return showWords(*arguments); }; });
+    CLI::App &group = addGroup(app, "drawings", "Sets of drawings and the names of floors on them");
+    Verb(group, command, "show", "What a drawing-set file holds: stages, floors, drawings, layers", showDrawingSet)
+        .input("SET", "Drawing-set file");
+    Verb(group, command, "floors", "Read a floor exchange, write it again and compare the two", showFloorExchange)
+        .input("FLOORS", "Floor exchange")
+        .output("File to write the document to as it is written again", Verb::NoOutput::NothingIsWritten);
+    Verb(group, command, "words", "The ways in which drawings write a floor", showWords)
+        .input("FLOOR", "Number of a floor, or a word for one");
 }
 
 } // namespace orvcad

@@ -5,9 +5,6 @@
 #include "cli/JsonDifference.h"
 #include "drawing/DrawingKeys.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-
 namespace orvcad {
 
 namespace {
@@ -123,20 +120,18 @@ std::vector<ORVCADFloorSDCData::Floor> readFloors(const QJsonObject &document, c
 std::optional<JsonFault> firstRefusal(const QJsonObject &document)
 {
     if (!document.contains(key::floorSdcData))
-        return JsonFault{QString(), QStringLiteral("no floor exchange: FloorSDCData is missing")};
+        return JsonFault{QString(), QStringLiteral("no floor exchange: %1 is missing").arg(key::floorSdcData)};
     return firstFault(document, kDocument);
 }
 
 FloorExchange readFloorExchange(const QString &path)
 {
-    const QJsonDocument json = readJsonFile(path);
-    if (!json.isObject())
-        throw CommandFailure(kBadInput, path, {}, QStringLiteral("no floor exchange: its top is no object"));
+    const QJsonObject document = readJsonObject(path, QStringLiteral("floor exchange"));
     const ORVCADFloorSDCData format;
     FloorExchange exchange;
-    exchange.floors = readFloors(json.object(), path);
+    exchange.floors = readFloors(document, path);
     exchange.written = format.serialize(exchange.floors);
-    exchange.notKept = differences(json.object(), exchange.written);
+    exchange.notKept = differences(document, exchange.written);
     exchange.notStable = differences(exchange.written, format.serialize(readFloors(exchange.written, path)));
     return exchange;
 }

@@ -1,14 +1,14 @@
-#include "cli/Arguments.h"
-#include "cli/Command.h"
-#include "cli/Files.h"
+#include "cli/Counted.h"
+#include "cli/FloorLookup.h"
 #include "cli/FloorsDocument.h"
-#include "cli/ProjectInfo.h"
+#include "cli/ProjectFiles.h"
 #include "cli/TextTable.h"
+#include "cli/Verb.h"
+#include "cli/Written.h"
 #include "drawing/ORVCADFloor.h"
 #include "drawing/ORVCADFloors.h"
 
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QStringList>
 
 namespace orvcad {
@@ -28,7 +28,7 @@ QJsonObject floorToJson(ORVCADFloors &floors, ORVCADFloor &floor)
             {"downstairs", nameOf(floors.getDownstairFloor(&floor))}};
 }
 
-QJsonObject describe(ORVCADFloors &floors)
+QJsonObject floorsToJson(ORVCADFloors &floors)
 {
     QJsonArray list;
     for (ORVCADFloor *floor : qAsConst(floors.getFloors()))
@@ -41,9 +41,9 @@ QJsonObject describe(ORVCADFloors &floors)
             {"lowest", nameOf(floors.getLowestFloor())}};
 }
 
-QString shown(const QJsonValue &name) { return name.isString() ? name.toString() : QStringLiteral("-"); }
+QString shown(ORVCADFloor *floor) { return floor ? floor->name() : QStringLiteral("-"); }
 
-TextTable tableOf(const QJsonArray &floors)
+QStringList floorLines(ORVCADFloors &floors)
 {
     constexpr auto right = TextTable::Align::Right;
     TextTable table({{"no", right},
@@ -54,44 +54,38 @@ TextTable tableOf(const QJsonArray &floors)
                      {"upstairs"},
                      {"downstairs"}});
     int number = 0;
-    for (const QJsonValue value : floors) {
-        const QJsonObject floor = value.toObject();
-        table.add({QString::number(++number), floor["name"].toString(), QString::number(floor["bottomElev"].toDouble()),
-                   QString::number(floor["topElev"].toDouble()), QString::number(floor["standardCount"].toInt()),
-                   shown(floor["upstairs"]), shown(floor["downstairs"])});
-    }
-    return table;
+    for (ORVCADFloor *floor : qAsConst(floors.getFloors()))
+        table.add({QString::number(++number), floor->name(), QString::number(floor->btmElev()),
+                   QString::number(floor->topElev()), QString::number(floor->stdCount()),
+                   shown(floors.getUpstairFloor(floor)), shown(floors.getDownstairFloor(floor))});
+    return table.lines();
 }
 
-QString toText(const QJsonObject &description)
+QString floorsText(ORVCADFloors &floors)
 {
-    QStringList lines{QStringLiteral("Area %1").arg(description["areaName"].toString())};
-    lines += tableOf(description["floors"].toArray()).lines();
+    QStringList lines{QStringLiteral("Area %1").arg(floors.getAreaName())};
+    lines += floorLines(floors);
     lines.append(QStringLiteral("base %1, first %2, highest %3, lowest %4")
-                     .arg(shown(description["base"]), shown(description["first"]), shown(description["highest"]),
-                          shown(description["lowest"])));
+                     .arg(shown(floors.getBaseFloor()), shown(floors.getFirstFloor()), shown(floors.getHighestFloor()),
+                          shown(floors.getLowestFloor())));
     return lines.join('\n');
 }
 
 Summary exportFloors(const Arguments &arguments)
 {
     const auto project = openProject(Arguments::text(arguments.project));
-    IHBXRegion &region = requireRegion(*project, Arguments::text(arguments.region));
-    const auto floors = floorsOfRegion(region);
-    const QString output = Arguments::text(arguments.output);
-    const bool onStdout = writeResult(output, QJsonDocument(floors->toJson()).toJson());
-    return {QStringLiteral("Wrote %1 of %2")
-                .arg(counted(floors->getCount(), QStringLiteral("floor")), floors->getAreaName()),
-            {{"output", output}, {"areaName", floors->getAreaName()}, {"floors", floors->getCount()}},
-            kDone,
-            onStdout};
+    const auto floors = floorsOfRegion(requireRegion(*project, Arguments::text(arguments.region)));
+    return writeDocument(arguments, floors->toJson(),
+                         {QStringLiteral("Wrote %1 of %2")
+                              .arg(counted(floors->getCount(), QStringLiteral("floor")), floors->getAreaName()),
+                          {{"areaName", floors->getAreaName()}, {"floors", floors->getCount()}}});
 }
 
 Summary showFloors(const Arguments &arguments)
 {
     const FloorsDocument document = readFloorsDocument(Arguments::text(arguments.input));
-    QJsonObject json = describe(*document.floors);
-    QString text = toText(json);
+    QJsonObject json = floorsToJson(*document.floors);
+    QString text = floorsText(*document.floors);
     json["leftOut"] = QJsonArray::fromStringList(document.leftOut);
     for (const QString &place : document.leftOut)
         text += QStringLiteral("\nleft out: ") + place;
@@ -102,20 +96,13 @@ Summary showFloors(const Arguments &arguments)
 
 void addFloorsCommands(CLI::App &app, Command &command)
 {
-    CLI::App *group = app.add_subcommand("floors", "Floors documents");
-    group->require_subcommand(1);
-
-    auto arguments = newArguments();
-    CLI::App *verb = group->add_subcommand("export", "Write the floors of a region as a floors document");
-    addProject(verb, arguments);
-    verb->add_option("--region", arguments->region, "Name of the region; may be absent where there is only one");
-    addOutput(verb, arguments, "File to write the document to");
-    verb->callback([&command, arguments] { command = [arguments] { return exportFloors(*arguments); }; });
-
-    arguments = newArguments();
-    verb = group->add_subcommand("show", "Read a floors document and print how its floors stand to each other");
-    verb->add_option("FLOORS", arguments->input, "Floors document")->required();
-    verb->callback([&command, arguments] { command = [arguments] { return showFloors(*arguments); }; });
+    CLI::App &group = addGroup(app, "floors", "Floors documents");
+    Verb(group, command, "export", "Write the floors of a region as a floors document", exportFloors)
+        .project()
+        .region()
+        .output("File to write the document to");
+    Verb(group, command, "show", "Read a floors document and print how its floors stand to each other", showFloors)
+        .input("FLOORS", "Floors document");
 }
 
 } // namespace orvcad

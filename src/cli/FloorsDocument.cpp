@@ -2,6 +2,7 @@
 
 #include "cli/Command.h"
 #include "cli/Files.h"
+#include "drawing/DrawingKeys.h"
 #include "drawing/ORVCADFloor.h"
 #include "drawing/ORVCADFloors.h"
 #include "platform/host/IHBXFloor.h"
@@ -9,7 +10,6 @@
 #include "platform/host/IHBXRegion.h"
 
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 
 namespace orvcad {
@@ -47,21 +47,19 @@ std::unique_ptr<ORVCADFloors> floorsOfRegion(IHBXRegion &region)
 
 FloorsDocument readFloorsDocument(const QString &path)
 {
-    const QJsonDocument json = readJsonFile(path);
-    if (!json.isObject())
-        throw CommandFailure(kBadInput, path, {}, QStringLiteral("no floors document: its top is no object"));
+    const QJsonObject json = readJsonObject(path, QStringLiteral("floors document"));
     FloorsDocument document;
-    document.floors.reset(ORVCADFloors::fromJson(json.object()));
+    document.floors.reset(ORVCADFloors::fromJson(json));
     if (!document.floors)
         throw CommandFailure(kBadInput, path, {}, QStringLiteral("no floors document: AreaName or Floors is missing"));
-    const QJsonValue members = json.object()["Floors"];
+    const QJsonValue members = json[drawing::key::floors];
     if (!members.isArray())
-        throw CommandFailure(kBadInput, path, QStringLiteral("Floors"), QStringLiteral("is no array"));
+        throw CommandFailure(kBadInput, path, drawing::key::floors, QStringLiteral("is no array"));
     int index = 0;
     for (const QJsonValue &member : members.toArray()) {
         const QString reason = reasonToSkip(member);
         if (!reason.isEmpty())
-            document.leftOut.append(QStringLiteral("Floors[%1]: %2").arg(index).arg(reason));
+            document.leftOut.append(QStringLiteral("%1[%2]: %3").arg(drawing::key::floors).arg(index).arg(reason));
         ++index;
     }
     return document;

@@ -10,12 +10,12 @@ namespace orvcad {
 
 namespace {
 
-bool isWhole(const QJsonValue &number) { return number.toVariant().userType() == QMetaType::LongLong; }
+bool isInt64(const QJsonValue &number) { return number.toVariant().userType() == QMetaType::LongLong; }
 
 /** Qt compares numbers as doubles, for which a whole one beyond 53 bits is its neighbour. */
 bool isSame(const QJsonValue &before, const QJsonValue &after)
 {
-    if (before != after || !before.isDouble() || !(isWhole(before) || isWhole(after)))
+    if (before != after || !before.isDouble() || !(isInt64(before) || isInt64(after)))
         return before == after;
     return before.toVariant().toLongLong() == after.toVariant().toLongLong();
 }

@@ -2,7 +2,9 @@
 
 #include <QJsonArray>
 #include <QString>
+#include <QStringList>
 
+#include <cstddef>
 #include <vector>
 
 namespace orvcad {
@@ -16,5 +18,11 @@ struct JsonFault
 
 /** Array of "place" and "reason", as summaries hold faults. */
 QJsonArray faultsToJson(const std::vector<JsonFault> &faults);
+/** A line for each, with place and reason behind what they are about: a file, a kind of fault. */
+QStringList faultLines(const QString &about, const std::vector<JsonFault> &faults);
+
+/** Whether a document is the same when it is written again, in words.
+ *  @param differences  places at which it is not */
+QString writtenAgainText(std::size_t differences);
 
 } // namespace orvcad

@@ -31,7 +31,7 @@ bool isNumber(const QJsonValue &value)
     return value.isDouble() && value.toDouble() > std::numeric_limits<double>::lowest();
 }
 
-bool fits(const QJsonValue &value, Kind kind)
+bool isOfKind(const QJsonValue &value, Kind kind)
 {
     switch (kind) {
     case Kind::Text:
@@ -143,7 +143,7 @@ Fault faultIn(const QJsonValue &value, const JsonShape &shape)
 {
     if (shape.mayBeEmpty && shape.kind == Kind::List && value.isNull())
         return {};
-    if (!fits(value, shape.kind))
+    if (!isOfKind(value, shape.kind))
         return JsonFault{QString(), reasonFor(value, shape.kind)};
     if (shape.kind == Kind::Object)
         return faultOfObject(value.toObject(), shape);

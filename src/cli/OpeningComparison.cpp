@@ -1,9 +1,10 @@
 #include "cli/OpeningComparison.h"
 
-#include "cli/Files.h"
+#include "cli/Counted.h"
+#include "cli/FloorLookup.h"
 #include "cli/Openings.h"
-#include "cli/ProjectInfo.h"
 #include "doorwindow/DoorWindowKeys.h"
+#include "platform/embedded/HBXProject.h"
 #include "platform/host/IHBXElement.h"
 #include "platform/host/IHBXElementDrawObj.h"
 #include "platform/host/IHBXFloor.h"
@@ -23,7 +24,7 @@ namespace {
 
 QJsonArray membersWithoutIds(const HBXProject &project)
 {
-    OpeningOutcome counts;
+    OpeningCounts counts;
     const QJsonObject reply =
         openingReply(*project.service()->model(), pickFloors(project, QString(), QString()), counts);
     QJsonArray members = openingMembers(reply, project.path());
@@ -69,19 +70,19 @@ QString nameOf(const IHBXElementDrawObj &opening)
 
 QString OpeningComparison::text() const
 {
-    QStringList lines{QStringLiteral("Compared with the original: %1, %2; %3")
-                          .arg(counted(compared, QStringLiteral("opening")),
-                               sameDocument ? QStringLiteral("the payload written again is the same but for ids")
-                                            : QStringLiteral("the payload written again DIFFERS"),
-                               deviations.isEmpty() ? QStringLiteral("each in the wall it came from")
-                                                    : counted(deviations.size(), QStringLiteral("deviation")))};
-    return (lines + deviations).join(QStringLiteral("\n  "));
+    return textOf(QStringLiteral("%1, %2; %3")
+                      .arg(counted(compared, QStringLiteral("opening")),
+                           sameDocument ? QStringLiteral("the payload written again is the same but for ids")
+                                        : QStringLiteral("the payload written again DIFFERS"),
+                           deviations.isEmpty() ? QStringLiteral("each in the wall it came from")
+                                                : counted(deviations.size(), QStringLiteral("deviation"))));
 }
 
 QJsonObject OpeningComparison::toJson() const
 {
-    return {
-        {"compared", compared}, {"sameDocument", sameDocument}, {"deviations", QJsonArray::fromStringList(deviations)}};
+    QJsonObject json = Comparison::toJson();
+    json["sameDocument"] = sameDocument;
+    return json;
 }
 
 OpeningComparison compareOpenings(const HBXProject &expected, const HBXProject &found)

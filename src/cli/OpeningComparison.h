@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QJsonObject>
-#include <QString>
-#include <QStringList>
+#include "cli/Comparison.h"
 
 namespace hbx::embedded {
 class HBXProject;
@@ -10,15 +8,14 @@ class HBXProject;
 
 namespace orvcad {
 
-/** How the doors and windows of two projects differ. */
-struct OpeningComparison
+/** How the doors and windows of two projects differ: placed openings that stand in another wall, or are missing. */
+struct OpeningComparison : Comparison
 {
-    int compared = 0;          ///< placed openings of the first project
     bool sameDocument = false; ///< the reply documents are the same array but for ids
-    QStringList deviations;    ///< openings that stand in another wall, or are missing
 
-    bool isSame() const { return sameDocument && deviations.isEmpty(); }
+    bool isSame() const { return sameDocument && Comparison::isSame(); }
     QString text() const;
+    /** "sameDocument", too. */
     QJsonObject toJson() const;
 };
 

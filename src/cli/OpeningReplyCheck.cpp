@@ -1,20 +1,15 @@
 #include "cli/OpeningReplyCheck.h"
 
 #include "cli/ExpectedValue.h"
+#include "cli/FloorLookup.h"
+#include "cli/OpeningTypes.h"
 #include "doorwindow/DoorWindowKeys.h"
 #include "platform/host/IHBXElement.h"
 #include "platform/host/IHBXElements.h"
 #include "platform/host/IHBXFloor.h"
-#include "platform/host/IHBXFloors.h"
 #include "platform/host/IHBXModel.h"
-#include "platform/host/IHBXRegion.h"
-#include "platform/host/IHBXRegions.h"
 
 #include <QStringList>
-
-#include <algorithm>
-#include <iterator>
-#include <limits>
 
 using namespace doorwindow;
 
@@ -36,12 +31,6 @@ constexpr KeyKind kPlacedKeys[] = {
     {key::elementName, Expected::Text},        {key::x, Expected::Number},       {key::y, Expected::Number},
     {key::heightFromFloor, Expected::Integer}, {key::floorName, Expected::Text}, {key::regionName, Expected::Text},
 };
-constexpr qint64 kOpeningTypes[] = {type::door, type::window, type::combined, type::wallOpening};
-
-bool isOpening(qint64 elementType)
-{
-    return std::find(std::begin(kOpeningTypes), std::end(kOpeningTypes), elementType) != std::end(kOpeningTypes);
-}
 
 template <std::size_t Count> QString mistypedKey(const QJsonObject &member, const KeyKind (&keys)[Count])
 {
@@ -57,17 +46,6 @@ QString elementNameOf(const QJsonObject &member)
 }
 
 } // namespace
-
-IHBXFloor *floorOfCode(IHBXModel &model, const QString &regionName, const QString &floorCode, QString &reason)
-{
-    IHBXRegion *region = model.regions()->find(regionName);
-    IHBXFloor *floor = region ? region->floors()->findByCode(floorCode) : nullptr;
-    if (!region)
-        reason = QStringLiteral("unknown region \"%1\"").arg(regionName);
-    else if (!floor)
-        reason = QStringLiteral("unknown floor code \"%1\" in region \"%2\"").arg(floorCode, regionName);
-    return floor;
-}
 
 QString OpeningReplyCheck::LeftOut::text() const
 {

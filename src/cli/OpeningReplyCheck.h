@@ -13,9 +13,6 @@ class IHBXModel;
 
 namespace orvcad {
 
-/** The floor of that code in the region of that name; null, with the reason, when there is none. */
-IHBXFloor *floorOfCode(IHBXModel &model, const QString &regionName, const QString &floorCode, QString &reason);
-
 /** Looks through a reply of doors and windows before it is written into a model, and says of each member that the model
  *  would not take why not. Nothing is changed. */
 class OpeningReplyCheck

@@ -2,10 +2,14 @@
 
 #include "cli/Applied.h"
 #include "cli/Command.h"
-#include "cli/ProjectInfo.h"
+#include "cli/Counted.h"
+#include "cli/ElementRemoval.h"
+#include "cli/FloorLookup.h"
+#include "cli/OpeningTypes.h"
 #include "doorwindow/DoorWindowKeys.h"
 #include "doorwindow/JsonDoorWin2HBX.h"
 #include "doorwindow/ORVCADWindoorDataOutputModel.h"
+#include "platform/embedded/HBXProject.h"
 #include "platform/host/HBXBatch.h"
 #include "platform/host/IHBXDrawObjs.h"
 #include "platform/host/IHBXElement.h"
@@ -24,27 +28,20 @@ namespace {
 
 const QSet<qint64> &openingTypes()
 {
-    static const QSet<qint64> types{type::door, type::window, type::combined, type::wallOpening};
+    static const QSet<qint64> types(std::begin(kOpeningTypes), std::end(kOpeningTypes));
     return types;
 }
 
-std::vector<IHBXElement *> openingElements(IHBXModel &model)
-{
-    std::vector<IHBXElement *> elements;
-    for (int i = 0; i < model.elements()->count(); ++i)
-        if (openingTypes().contains(model.elements()->at(i)->type()))
-            elements.push_back(model.elements()->at(i));
-    return elements;
-}
-
 /** Counts what has come since the model had so many elements and draw objects: ids only ever grow. */
-void countNew(IHBXModel &model, int elementsBefore, int drawObjsBefore, OpeningOutcome &outcome)
+OpeningCounts countNew(IHBXModel &model, int elementsBefore, int drawObjsBefore)
 {
-    outcome.elements = model.elements()->count() - elementsBefore;
-    outcome.placed = model.drawObjects()->count() - drawObjsBefore;
+    OpeningCounts counts;
+    counts.elements = model.elements()->count() - elementsBefore;
+    counts.placed = model.drawObjects()->count() - drawObjsBefore;
     for (int i = drawObjsBefore; i < model.drawObjects()->count(); ++i)
         if (model.drawObjects()->at(i)->parent())
-            ++outcome.attached;
+            ++counts.attached;
+    return counts;
 }
 
 } // namespace
@@ -53,10 +50,10 @@ QString OpeningOutcome::text() const
 {
     const QString text =
         QStringLiteral("%1 read: %2 made, %3 placed (%4 in a wall, %5 in none), %6 left out")
-            .arg(counted(members, QStringLiteral("member")), counted(elements, QStringLiteral("element")),
-                 counted(placed, QStringLiteral("opening")))
-            .arg(attached)
-            .arg(placed - attached)
+            .arg(counted(members, QStringLiteral("member")), counted(made.elements, QStringLiteral("element")),
+                 counted(made.placed, QStringLiteral("opening")))
+            .arg(made.attached)
+            .arg(made.placed - made.attached)
             .arg(leftOut.size());
     QStringList lines;
     for (const auto &member : leftOut)
@@ -69,15 +66,17 @@ QJsonObject OpeningOutcome::toJson() const
     QJsonArray leftOutJson;
     for (const auto &member : leftOut)
         leftOutJson.append(member.toJson());
-    return {{"members", members},   {"elementsMade", elements},        {"placed", placed},
-            {"attached", attached}, {"unattached", placed - attached}, {"leftOut", leftOutJson}};
+    return {{"members", members},
+            {"elementsMade", made.elements},
+            {"placed", made.placed},
+            {"attached", made.attached},
+            {"unattached", made.placed - made.attached},
+            {"leftOut", leftOutJson}};
 }
 
-QJsonObject openingReply(IHBXModel &model, const std::vector<IHBXFloor *> &floors, OpeningOutcome &counts)
+QJsonObject openingReply(IHBXModel &model, const std::vector<IHBXFloor *> &floors, OpeningCounts &counts)
 {
-    QSet<qint64> floorIds;
-    for (const IHBXFloor *floor : floors)
-        floorIds.insert(floor->id());
+    const QSet<qint64> floorIds = idsOf(floors);
     QList<IHBXElement *> elements;
     model.elements()->queryElements(elements, floorIds, openingTypes(), true);
     QList<IHBXElementDrawObj *> openings;
@@ -92,7 +91,6 @@ QJsonObject openingReply(IHBXModel &model, const std::vector<IHBXFloor *> &floor
     }
     counts.elements = elements.size();
     counts.placed = openings.size();
-    counts.members = counts.elements + counts.placed;
 
     QJsonObject reply;
     output.saveToJson(key::elementsAndEdos, &reply);
@@ -125,7 +123,7 @@ OpeningOutcome applyOpenings(HBXProject &project, const QJsonArray &members)
     const HBXBatch batch(model, "orvcad opening apply");
     const QJsonObject sound{{key::elementsAndEdos, check.sound()}};
     jsonDoorWin2HBX(project.service(), {{key::reply, sound}});
-    countNew(model, elementsBefore, drawObjsBefore, outcome);
+    outcome.made = countNew(model, elementsBefore, drawObjsBefore);
     return outcome;
 }
 
@@ -138,12 +136,8 @@ std::vector<IHBXElementDrawObj *> placedOpenings(IHBXFloor &floor)
 
 int removeOpenings(HBXProject &project)
 {
-    IHBXModel &model = *project.service()->model();
-    const HBXBatch batch(model, "orvcad remove openings");
-    const std::vector<IHBXElement *> elements = openingElements(model);
-    for (IHBXElement *element : elements)
-        element->remove();
-    return static_cast<int>(elements.size());
+    return removeElements(*project.service()->model(), idsOf(pickFloors(project, QString(), QString())), openingTypes(),
+                          "orvcad remove openings");
 }
 
 } // namespace orvcad

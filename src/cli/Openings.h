@@ -1,7 +1,6 @@
 #pragma once
 
 #include "cli/OpeningReplyCheck.h"
-#include "platform/embedded/HBXProject.h"
 
 #include <QJsonObject>
 #include <QString>
@@ -12,15 +11,25 @@ class IHBXElementDrawObj;
 class IHBXFloor;
 class IHBXModel;
 
+namespace hbx::embedded {
+class HBXProject;
+}
+
 namespace orvcad {
+
+/** Doors and windows, counted. */
+struct OpeningCounts
+{
+    int elements = 0;
+    int placed = 0;   ///< placed objects
+    int attached = 0; ///< of them in a wall
+};
 
 /** What writing a reply of doors and windows into a project did. */
 struct OpeningOutcome
 {
     int members = 0;
-    int elements = 0; ///< elements made
-    int placed = 0;   ///< placed objects made
-    int attached = 0; ///< of them in a wall
+    OpeningCounts made;
     std::vector<OpeningReplyCheck::LeftOut> leftOut;
 
     QString text() const;
@@ -28,7 +37,7 @@ struct OpeningOutcome
 };
 
 /** The reply document of all doors and windows of those floors, in the host's order; counts gets their numbers. */
-QJsonObject openingReply(IHBXModel &model, const std::vector<IHBXFloor *> &floors, OpeningOutcome &counts);
+QJsonObject openingReply(IHBXModel &model, const std::vector<IHBXFloor *> &floors, OpeningCounts &counts);
 
 /** "ElementsAndEdos" of a reply; throws CommandFailure naming file and place when the document has no such array. */
 QJsonArray openingMembers(const QJsonObject &reply, const QString &file);

@@ -1,5 +1,7 @@
 #include "cli/PlanLabels.h"
 
+#include "cli/WideCharacters.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -15,7 +17,6 @@ constexpr double kMargin = 1.15;         // room that a text asks for, in parts 
 constexpr double kUpright = 1e-9;        // rad; below this a direction counts as upright
 constexpr double kFilled = 0.75;         // an outline that fills less of its rectangle keeps nothing free
 constexpr int kPointsPerCurve = 8;       // enough for a full circle to be as wide as high
-constexpr int kFirstWide = 0x2E80;       // Chinese and Japanese characters stand from here on
 
 /** Where a name is tried, in parts of the way from the middle of the room to its ends; the middle first. */
 constexpr double kPlaces[] = {0.0, 0.25, -0.25, 0.5, -0.5, 0.75, -0.75, 1.0, -1.0};
@@ -96,7 +97,7 @@ double PlanLabels::widthOf(const QString &text, double textHeight)
 {
     double letters = 0.0;
     for (const QChar letter : text)
-        letters += letter.unicode() < kFirstWide ? kWidthPerHeight : kWidePerHeight;
+        letters += isWide(letter) ? kWidePerHeight : kWidthPerHeight;
     return letters * textHeight;
 }
 

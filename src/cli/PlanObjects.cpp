@@ -94,7 +94,7 @@ PlanObject planObjectOf(IHBXElementDrawObj &object)
     if (isOneOf(kBars, object.type()))
         readBar(object, placed);
     if (placed.outline && isOneOf(kPlates, object.type()))
-        placed.topElev = getSlabElev(&object, QStringLiteral("TopElev"));
+        placed.topElev = getSlabElev(&object, QString::fromStdWString(slabhost::property::topElev));
     return placed;
 }
 

@@ -13,12 +13,12 @@ namespace orvcad {
 struct PlanSvg
 {
     QByteArray document;
-    double scale = 0.0; ///< 100 for 1:100
-    int drawn = 0;      ///< placed objects on the picture
-    int left = 0;       ///< placed objects without geometry, which it does not show
+    double scale = 0.0;      ///< 100 for 1:100
+    int drawn = 0;           ///< placed objects on the picture
+    int withoutGeometry = 0; ///< placed objects that it does not show
 };
 
 /** @param building  title of the page */
-PlanSvg drawPlan(IHBXModel &model, IHBXFloor &floor, const QString &building);
+PlanSvg drawPlan(IHBXModel &model, const IHBXFloor &floor, const QString &building);
 
 } // namespace orvcad

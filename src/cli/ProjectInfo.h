@@ -1,12 +1,14 @@
 #pragma once
 
-#include "platform/embedded/HBXProject.h"
-
 #include <QJsonObject>
 #include <QMap>
 #include <QString>
 
 #include <vector>
+
+namespace hbx::embedded {
+class HBXProject;
+}
 
 namespace orvcad {
 
@@ -46,10 +48,5 @@ struct ProjectInfo
 };
 
 ProjectInfo projectInfo(const hbx::embedded::HBXProject &project);
-
-/** "1 door", "2 doors". */
-QString counted(int number, const QString &singular);
-/** English title of an element type, for summaries and legends: "brick wall (1003)". */
-QString typeTitle(qint64 type);
 
 } // namespace orvcad

@@ -2,7 +2,7 @@
 
 #include "ModelSerialization/ORVCADBoardLocalModelPersistenceService_Sample.h"
 #include "ModelSerialization/SlabHostKeys.h"
-#include "cli/ProjectInfo.h"
+#include "cli/Counted.h"
 #include "slab/ORVCADBoardLocalModel_Sample.h"
 #include "slab/SlabKeys.h"
 

@@ -1,14 +1,12 @@
 #include "cli/SlabComparison.h"
 
 #include "ModelSerialization/ORVCADBoardLocalModelTransformHBXService_Sample.h"
-#include "cli/ProjectInfo.h"
+#include "cli/Counted.h"
 #include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXRegion.h"
 #include "platform/services/HbxRelation.h"
 #include "slab/ORVCADBoardLocalModel_Sample.h"
 #include "slab/TruncatedNumber.h"
-
-#include <QJsonArray>
 
 #include <algorithm>
 #include <cmath>
@@ -22,6 +20,8 @@ using Local = ORVCADBoardLocalModel_Sample;
 
 constexpr double kSamePlace = 1e-6;     // mm
 constexpr double kSameElevation = 1e-5; // m: an elevation travels as a text of six digits
+constexpr double kSameDirection = 1e-6; // of the parts of a unit vector
+constexpr double kFarApart = 1.0;       // mm: outlines are not the same whose boxes are
 
 /** What is compared of an element. */
 struct Piece
@@ -53,10 +53,9 @@ Piece pieceOf(const Local::BoardHole &hole) { return {QStringLiteral("hole ") + 
 /** The two ways in which bars of an area run are one. */
 QString directionText(const vks::CVec2<double> &direction)
 {
-    constexpr double step = 1e-6;
-    const bool isTurned = direction.x < -step || (direction.x < step && direction.y < 0);
+    const bool isTurned = direction.x < -kSameDirection || (direction.x < kSameDirection && direction.y < 0);
     const vks::CVec2<double> upright = isTurned ? -direction : direction;
-    return QStringLiteral("%1 %2").arg(qRound64(upright.x / step)).arg(qRound64(upright.y / step));
+    return QStringLiteral("%1 %2").arg(qRound64(upright.x / kSameDirection)).arg(qRound64(upright.y / kSameDirection));
 }
 
 template <typename Bar> Piece mainPiece(const Bar &bar, const char *title)
@@ -140,7 +139,8 @@ bool sameOutline(const vks::CPolygon *a, const vks::CPolygon *b)
 {
     if (!a || !b)
         return a == b;
-    return a->Box().Grown(1.0).Intersects(b->Box()) && hbx::polyPolyPosition(a, b, kSamePlace) == vks::kPolygonsSame;
+    return a->Box().Grown(kFarApart).Intersects(b->Box()) &&
+           hbx::polyPolyPosition(a, b, kSamePlace) == vks::kPolygonsSame;
 }
 
 bool sameElevations(const std::vector<double> &a, const std::vector<double> &b)
@@ -172,16 +172,10 @@ QString describe(const Piece &piece)
 
 QString SlabComparison::text() const
 {
-    const QStringList lines{QStringLiteral("Compared with the original: %1 of slabs, %2")
-                                .arg(counted(compared, QStringLiteral("member")),
-                                     isSame() ? QStringLiteral("nothing lost, added or moved")
-                                              : counted(deviations.size(), QStringLiteral("deviation")))};
-    return (lines + deviations).join(QStringLiteral("\n  "));
-}
-
-QJsonObject SlabComparison::toJson() const
-{
-    return {{"compared", compared}, {"deviations", QJsonArray::fromStringList(deviations)}};
+    return textOf(QStringLiteral("%1 of slabs, %2")
+                      .arg(counted(compared, QStringLiteral("member")),
+                           isSame() ? QStringLiteral("nothing lost, added or moved")
+                                    : counted(deviations.size(), QStringLiteral("deviation"))));
 }
 
 SlabComparison compareSlabs(IHBXModel &expectedModel, const IHBXFloor &expected, IHBXModel &foundModel,

@@ -5,6 +5,7 @@
 #include "ModelSerialization/ORVCADBoardLocalModelTransformHBXService_Sample.h"
 #include "cli/Command.h"
 #include "cli/Files.h"
+#include "platform/embedded/HBXProject.h"
 #include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXRegion.h"
 #include "platform/host/IHBXService.h"

@@ -1,11 +1,13 @@
 #pragma once
 
-#include "platform/embedded/HBXProject.h"
-
 #include <QJsonObject>
 #include <QString>
 
 class IHBXFloor;
+
+namespace hbx::embedded {
+class HBXProject;
+}
 
 namespace orvcad {
 

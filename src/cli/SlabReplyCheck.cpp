@@ -60,14 +60,6 @@ SlabReplyCheck::SlabReplyCheck(const QJsonObject &model)
             look(array, model.value(array.key));
 }
 
-int SlabReplyCheck::memberCount() const
-{
-    int members = 0;
-    for (const Count &count : m_counts)
-        members += count.members;
-    return members;
-}
-
 void SlabReplyCheck::look(const SlabArray &array, const QJsonValue &value)
 {
     const QJsonArray members = value.toArray();
@@ -96,12 +88,10 @@ void SlabReplyCheck::look(const SlabArray &array, int index, const QJsonValue &v
         return;
     }
     const QString reason = whyNot(array, value, pattern);
-    if (reason.isEmpty()) {
+    if (reason.isEmpty())
         take(array, place, member);
-        return;
-    }
-    ++count.leftOut;
-    m_leftOut.push_back({place, member.value(key::name).toString(), reason});
+    else
+        m_leftOut.push_back({place, member.value(key::name).toString(), reason});
 }
 
 void SlabReplyCheck::take(const SlabArray &array, const QString &place, QJsonObject json)

@@ -36,7 +36,6 @@ public:
         const SlabArray *array = nullptr;
         int members = 0;
         int known = 0; ///< the host has them: "id" is above 0
-        int leftOut = 0;
     };
 
     explicit SlabReplyCheck(const QJsonObject &model);
@@ -46,7 +45,6 @@ public:
     const std::vector<LeftOut> &leftOut() const { return m_leftOut; }
     /** Of the arrays that the reply has and that are written. */
     const std::vector<Count> &counts() const { return m_counts; }
-    int memberCount() const;
     /** Supports and axes, which no reply makes. */
     int passedOver() const { return m_passedOver; }
     /** Sound members whose identity another one has before them. */

@@ -4,6 +4,7 @@
 #include "ModelSerialization/ORVCADBoardLocalModelTransformHBXService_Sample.h"
 #include "ModelSerialization/SlabHostKeys.h"
 #include "platform/dwgx/DWGXBaseBoxTree.h"
+#include "platform/embedded/HBXProject.h"
 #include "platform/host/IHBXElementDrawObj.h"
 #include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXModel.h"

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "cli/SlabReplyCheck.h"
-#include "platform/embedded/HBXProject.h"
 
 #include <QSet>
 #include <QString>
@@ -14,6 +13,10 @@ class IHBXFloor;
 
 namespace dwgx {
 class DWGXBaseBoxTree;
+}
+
+namespace hbx::embedded {
+class HBXProject;
 }
 
 namespace orvcad {

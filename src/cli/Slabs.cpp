@@ -2,12 +2,13 @@
 
 #include "ModelSerialization/ORVCADBoardLocalModelPersistenceService_Sample.h"
 #include "ModelSerialization/SlabHostKeys.h"
-#include "cli/ProjectInfo.h"
+#include "cli/Counted.h"
+#include "cli/ElementRemoval.h"
 #include "cli/SlabReplyCheck.h"
 #include "cli/SlabWriter.h"
+#include "platform/embedded/HBXProject.h"
 #include "platform/host/HBXBatch.h"
 #include "platform/host/IHBXDrawObjs.h"
-#include "platform/host/IHBXElement.h"
 #include "platform/host/IHBXElements.h"
 #include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXRegion.h"
@@ -168,13 +169,7 @@ SlabOutcome applySlabs(HBXProject &project, IHBXFloor &floor, const QJsonObject 
 
 int removeSlabs(HBXProject &project, const IHBXFloor &floor)
 {
-    IHBXModel &model = *project.service()->model();
-    const HBXBatch batch(model, "orvcad remove slabs");
-    QList<IHBXElement *> elements;
-    model.elements()->queryElements(elements, {floor.id()}, slabTypes(), true);
-    for (IHBXElement *element : qAsConst(elements))
-        element->remove();
-    return elements.size();
+    return removeElements(*project.service()->model(), {floor.id()}, slabTypes(), "orvcad remove slabs");
 }
 
 } // namespace orvcad

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "cli/Applied.h"
-#include "platform/embedded/HBXProject.h"
 
 #include <QJsonObject>
 #include <QLatin1String>
@@ -12,6 +11,10 @@
 #include <vector>
 
 class IHBXFloor;
+
+namespace hbx::embedded {
+class HBXProject;
+}
 
 namespace orvcad {
 

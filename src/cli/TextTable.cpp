@@ -1,5 +1,7 @@
 #include "cli/TextTable.h"
 
+#include "cli/WideCharacters.h"
+
 #include <algorithm>
 #include <numeric>
 
@@ -7,11 +9,7 @@ namespace orvcad {
 
 namespace {
 
-/** First character of those that terminals draw over two columns: ideographs, their punctuation, full-width forms. */
-constexpr ushort kFirstWide = 0x2E80;
-
-bool isWide(QChar character) { return character.unicode() >= kFirstWide; }
-
+/** Terminals draw wide characters over two columns. */
 int widthOf(const QString &text)
 {
     return std::accumulate(text.begin(), text.end(), 0,

@@ -1,9 +1,10 @@
 #include "cli/WallComparison.h"
 
 #include "IdentifyInputModel/Wall/WallKeys.h"
-#include "cli/Files.h"
-#include "cli/ProjectInfo.h"
+#include "cli/Counted.h"
+#include "cli/FloorLookup.h"
 #include "cli/WallReply.h"
+#include "platform/embedded/HBXProject.h"
 
 #include <QJsonArray>
 #include <QMap>
@@ -19,16 +20,15 @@ using Walls = QMap<QString, QJsonArray>;
 
 Walls wallsOf(const WallReply &reply, const WallKind &kind)
 {
-    const QJsonObject document = reply.document()[kind.reply].toObject()[wall::reply::elementsAndEdos].toObject();
-    const QJsonObject map = document[kind.document].toObject();
+    const QJsonObject map = kind.mapIn(reply.document());
     Walls walls;
-    for (int i = 0; i < map.size() / 2; ++i) {
-        QJsonObject element = map[QStringLiteral("key_%1").arg(i)].toObject();
+    for (int i = 0; i < wallCount(map); ++i) {
+        QJsonObject element = map[wallElementKey(i)].toObject();
         element.remove(wall::key::edoId);
         const auto text = [&element](QLatin1String key) { return element[key].toString(); };
         const QString name = QStringLiteral("%1 on floor %2 of %3")
                                  .arg(text(wall::key::entName), text(wall::key::floorCode), text(wall::key::region));
-        walls[name] = {element, map[QStringLiteral("value_%1").arg(i)]};
+        walls[name] = {element, map[wallPiecesKey(i)]};
     }
     return walls;
 }
@@ -37,19 +37,21 @@ Walls wallsOf(const WallReply &reply, const WallKind &kind)
 
 QString WallComparison::text() const
 {
-    const QStringList lines{QStringLiteral("Compared with the original: %1 of %2 walls, %3")
-                                .arg(counted(compared, QStringLiteral("piece")), kind,
-                                     isSame() ? QStringLiteral("the reply written again is the same but for ids")
-                                              : QStringLiteral("the reply written again DIFFERS"))};
-    return (lines + deviations).join(QStringLiteral("\n  "));
+    return textOf(QStringLiteral("%1 of %2 walls, %3")
+                      .arg(counted(compared, QStringLiteral("piece")), kind,
+                           isSame() ? QStringLiteral("the reply written again is the same but for ids")
+                                    : QStringLiteral("the reply written again DIFFERS")));
 }
 
 QJsonObject WallComparison::toJson() const
 {
-    return {{"kind", kind}, {"compared", compared}, {"deviations", QJsonArray::fromStringList(deviations)}};
+    QJsonObject json = Comparison::toJson();
+    json["kind"] = kind;
+    return json;
 }
 
-WallComparison compareWalls(HBXProject &expected, HBXProject &found, const WallKind &kind, const QString &floor)
+WallComparison compareWalls(const HBXProject &expected, const HBXProject &found, const WallKind &kind,
+                            const QString &floor)
 {
     const WallReply before(expected, kind, pickFloors(expected, QString(), floor));
     const WallReply after(found, kind, pickFloors(found, QString(), floor));

@@ -1,28 +1,28 @@
 #pragma once
 
-#include "cli/WallKind.h"
-#include "platform/embedded/HBXProject.h"
+#include "cli/Comparison.h"
 
-#include <QJsonObject>
-#include <QString>
-#include <QStringList>
+namespace hbx::embedded {
+class HBXProject;
+}
 
 namespace orvcad {
 
-/** How the walls of a kind differ between two projects, to the six digits of their text form. */
-struct WallComparison
-{
-    QString kind;
-    int compared = 0;       ///< pieces of the first project
-    QStringList deviations; ///< elements whose part of the reply is another one, but for ids
+struct WallKind;
 
-    bool isSame() const { return deviations.isEmpty(); }
+/** How the walls of a kind differ between two projects, to the six digits of their text form: elements whose part of the
+ *  reply is another one, but for ids. Their pieces are what is counted. */
+struct WallComparison : Comparison
+{
+    QString kind; ///< word of the kind
+
     QString text() const;
+    /** "kind", too. */
     QJsonObject toJson() const;
 };
 
 /** The floor is named as --floor names it, in the only region of both projects; all floors where it is empty. */
-WallComparison compareWalls(hbx::embedded::HBXProject &expected, hbx::embedded::HBXProject &found, const WallKind &kind,
-                            const QString &floor);
+WallComparison compareWalls(const hbx::embedded::HBXProject &expected, const hbx::embedded::HBXProject &found,
+                            const WallKind &kind, const QString &floor);
 
 } // namespace orvcad

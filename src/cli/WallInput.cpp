@@ -1,9 +1,11 @@
 #include "cli/WallInput.h"
 
 #include "IdentifyInputModel/Wall/ORVCADWallInputModelConvertion.h"
-#include "cli/ProjectInfo.h"
+#include "cli/Counted.h"
+#include "cli/WallKind.h"
 #include "encoding/ORVCADXmlFileSerialization.h"
 #include "platform/dwgx/DWGXModel.h"
+#include "platform/embedded/HBXProject.h"
 #include "platform/embedded/HBXWallOptions.h"
 #include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXRegion.h"
@@ -45,17 +47,17 @@ int takeWalls(const Reading &reading, Force &model)
     return count;
 }
 
-/** Everything that both kinds of walls are told; the counts go into the summary. */
-void takeFloor(const Reading &reading, ORVCADWallDataInputModel &model, QJsonObject &summary)
+/** Everything that both kinds of walls are told. */
+void takeFloor(const Reading &reading, ORVCADWallDataInputModel &model, WallInput::Counts &counts)
 {
     auto bricks = taken(reading, &Reading::getCurFloorModelBrickLineEntDataInfo);
     auto forces = taken(reading, &Reading::getCurFloorModelForceLineEntDataInfo);
     auto axes = taken(reading, &Reading::getCurFloorModelAxisLineEntDataInfo);
     auto columns = taken(reading, &Reading::getCurFloorModelPointEntDataInfo);
-    summary["brickLines"] = static_cast<int>(bricks.size());
-    summary["forceLines"] = static_cast<int>(forces.size());
-    summary["axisLines"] = static_cast<int>(axes.size());
-    summary["columns"] = static_cast<int>(columns.size());
+    counts.brickLines = static_cast<int>(bricks.size());
+    counts.forceLines = static_cast<int>(forces.size());
+    counts.axisLines = static_cast<int>(axes.size());
+    counts.columns = static_cast<int>(columns.size());
     model.setCurFloorModelBrickLineEntDataInfo(std::move(bricks));
     model.setCurFloorModelForceLineEntDataInfo(std::move(forces));
     model.setCurFloorModelAxisLineEntDataInfo(std::move(axes));
@@ -69,36 +71,36 @@ int colorOf(const dwgx::DWGXEntity &entity, const dwgx::DWGXLayer &layer)
     return entity.color == dwgx::kColorByLayer ? layer.color : entity.color;
 }
 
-ORVCADCloudLineEdoInfo recordOf(const dwgx::DWGXLine &line, const dwgx::DWGXLayer &layer)
+ORVCADCloudLineEdoInfo edoInfoOf(const dwgx::DWGXLine &line, const dwgx::DWGXLayer &layer)
 {
-    ORVCADCloudLineEdoInfo record;
-    record.color = colorOf(line, layer);
-    record.blockID = line.blockId;
-    record.line = line.curve;
-    record.edoId = line.id;
-    return record;
+    ORVCADCloudLineEdoInfo info;
+    info.color = colorOf(line, layer);
+    info.blockID = line.blockId;
+    info.line = line.curve;
+    info.edoId = line.id;
+    return info;
 }
 
-ORVCADCloudTextEdoInfo recordOf(const dwgx::DWGXText &text, const dwgx::DWGXLayer &layer)
+ORVCADCloudTextEdoInfo edoInfoOf(const dwgx::DWGXText &text, const dwgx::DWGXLayer &layer)
 {
-    ORVCADCloudTextEdoInfo record;
+    ORVCADCloudTextEdoInfo info;
     const auto corners = text.corners();
-    record.text = text.content.toStdWString();
-    record.anglePts.assign(corners.begin(), corners.end());
-    record.color = colorOf(text, layer);
-    record.blockID = text.blockId;
-    record.dir = text.direction();
-    record.edoId = text.id;
-    return record;
+    info.text = text.content.toStdWString();
+    info.anglePts.assign(corners.begin(), corners.end());
+    info.color = colorOf(text, layer);
+    info.blockID = text.blockId;
+    info.dir = text.direction();
+    info.edoId = text.id;
+    return info;
 }
 
-template <typename Record, typename Entity>
-std::list<Record> recordsOf(const std::vector<Entity> &entities, const dwgx::DWGXLayer &layer)
+template <typename Info, typename Entity>
+std::list<Info> edoInfosOf(const std::vector<Entity> &entities, const dwgx::DWGXLayer &layer)
 {
-    std::list<Record> records;
+    std::list<Info> infos;
     for (const Entity &entity : entities)
-        records.push_back(recordOf(entity, layer));
-    return records;
+        infos.push_back(edoInfoOf(entity, layer));
+    return infos;
 }
 
 bool isXml(const QByteArray &bytes) { return QDomDocument().setContent(bytes, false); }
@@ -131,23 +133,18 @@ bool textReadsBack(const QString &text)
 
 } // namespace
 
-WallInput::WallInput(hbx::embedded::HBXProject &project, IHBXFloor &floor, Kind kind)
-    : m_model(Brick(EORVCADIdentifyType(kind)))
+WallInput::WallInput(hbx::embedded::HBXProject &project, const IHBXFloor &floor, const WallKind &kind)
+    : m_model(Brick(kind.identifyType)), m_kind(kind), m_floorName(floor.name())
 {
     project.makeCurrent();
     project.setCurrent(floor.region()->name(), floor.name());
-    if (kind == kForce)
-        m_model = Force(EORVCADIdentifyType(kind));
+    if (!kind.isBrick())
+        m_model = Force(kind.identifyType);
     IHBXModel *host = project.service()->model();
     hbx::embedded::HBXWallOptions options(host);
-    const Reading reading(floor.id(), &options, host, EORVCADIdentifyType(kind));
-    m_summary = {{"kind", kind == kBrick ? "brick" : "force"},
-                 {"floor", floor.name()},
-                 {"layers", 0},
-                 {"lines", 0},
-                 {"texts", 0}};
-    m_summary["walls"] = std::visit([&reading](auto &model) { return takeWalls(reading, model); }, m_model);
-    takeFloor(reading, base(), m_summary);
+    const Reading reading(floor.id(), &options, host, kind.identifyType);
+    m_counts.walls = std::visit([&reading](auto &model) { return takeWalls(reading, model); }, m_model);
+    takeFloor(reading, base(), m_counts);
     QString code;
     base().setProjectName(project.name().toStdWString());
     base().setFloorName(floor.name().toStdWString());
@@ -160,19 +157,19 @@ void WallInput::addDrawing(const dwgx::DWGXModel &drawing, const QString &name)
     for (const dwgx::DWGXLayer &layer : drawing.layers()) {
         if (!layer.lines.empty())
             base().setCadLineEdoDataInfo(layer.name.toStdWString(),
-                                         recordsOf<ORVCADCloudLineEdoInfo>(layer.lines, layer));
+                                         edoInfosOf<ORVCADCloudLineEdoInfo>(layer.lines, layer));
         if (!layer.texts.empty())
             base().setCadTextEdoDataInfo(layer.name.toStdWString(),
-                                         recordsOf<ORVCADCloudTextEdoInfo>(layer.texts, layer));
+                                         edoInfosOf<ORVCADCloudTextEdoInfo>(layer.texts, layer));
         if (!layer.lines.empty() || !layer.texts.empty())
             m_layers.append(layer.name);
         for (const dwgx::DWGXText &text : layer.texts)
             if (text.content.contains(u'/'))
                 m_texts.emplace_back(layer.name, text.content);
     }
-    m_summary["layers"] = m_layers.size();
-    m_summary["lines"] = drawing.lineCount();
-    m_summary["texts"] = drawing.textCount();
+    m_counts.layers = m_layers.size();
+    m_counts.lines = drawing.lineCount();
+    m_counts.texts = drawing.textCount();
 }
 
 ORVCADWallDataInputModel &WallInput::base()
@@ -223,16 +220,28 @@ QStringList WallInput::unreadable(const QByteArray &xml) const
 
 QString WallInput::text() const
 {
-    const auto count = [this](const char *key, const char *singular) {
-        return counted(m_summary[QLatin1String(key)].toInt(), QLatin1String(singular));
-    };
-    const QString walls = counted(m_summary["walls"].toInt(), m_summary["kind"].toString() + " wall element");
+    const QString walls = counted(m_counts.walls, QLatin1String(m_kind.word) + QStringLiteral(" wall element"));
     return QStringLiteral("%1, %2, %3, %4 and %5 of %6; %7 with %8 and %9")
-        .arg(walls, count("brickLines", "placed brick wall"), count("forceLines", "placed force wall"),
-             count("axisLines", "axis line"), count("columns", "column"), m_summary["floor"].toString(),
-             count("layers", "layer"), count("lines", "line"), count("texts", "text"));
+        .arg(walls, counted(m_counts.brickLines, QStringLiteral("placed brick wall")),
+             counted(m_counts.forceLines, QStringLiteral("placed force wall")),
+             counted(m_counts.axisLines, QStringLiteral("axis line")),
+             counted(m_counts.columns, QStringLiteral("column")), m_floorName,
+             counted(m_counts.layers, QStringLiteral("layer")), counted(m_counts.lines, QStringLiteral("line")),
+             counted(m_counts.texts, QStringLiteral("text")));
 }
 
-QJsonObject WallInput::summary() const { return m_summary; }
+QJsonObject WallInput::summary() const
+{
+    return {{"kind", m_kind.word},
+            {"floor", m_floorName},
+            {"walls", m_counts.walls},
+            {"brickLines", m_counts.brickLines},
+            {"forceLines", m_counts.forceLines},
+            {"axisLines", m_counts.axisLines},
+            {"columns", m_counts.columns},
+            {"layers", m_counts.layers},
+            {"lines", m_counts.lines},
+            {"texts", m_counts.texts}};
+}
 
 } // namespace orvcad

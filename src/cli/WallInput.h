@@ -2,14 +2,15 @@
 
 #include "IdentifyInputModel/Wall/ORVCADWallBrickDataInputModel.h"
 #include "IdentifyInputModel/Wall/ORVCADWallForceDataInputModel.h"
-#include "platform/embedded/HBXProject.h"
 
 #include <QByteArray>
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
 
+#include <utility>
 #include <variant>
+#include <vector>
 
 class IHBXFloor;
 
@@ -17,16 +18,33 @@ namespace dwgx {
 class DWGXModel;
 }
 
+namespace hbx::embedded {
+class HBXProject;
+}
+
 namespace orvcad {
+
+struct WallKind;
 
 /** What the identification of walls on one floor is told: what stands there, and a drawing of it. */
 class WallInput
 {
 public:
-    enum Kind { kBrick = 1, kForce = 2 }; ///< also the identify type in the document
+    /** What the document holds. */
+    struct Counts
+    {
+        int walls = 0;      ///< elements of the kind
+        int brickLines = 0; ///< placed brick walls
+        int forceLines = 0; ///< placed force walls
+        int axisLines = 0;
+        int columns = 0;
+        int layers = 0; ///< of the drawing that have lines or texts
+        int lines = 0;  ///< of the drawing
+        int texts = 0;  ///< likewise
+    };
 
     /** Reads the floor, which becomes the current one. */
-    WallInput(hbx::embedded::HBXProject &project, IHBXFloor &floor, Kind kind);
+    WallInput(hbx::embedded::HBXProject &project, const IHBXFloor &floor, const WallKind &kind);
     /** Adds the lines and texts of a drawing by layer; what has the colour of its layer gets that of the layer. */
     void addDrawing(const dwgx::DWGXModel &drawing, const QString &name);
 
@@ -40,6 +58,7 @@ public:
      *  one that does. */
     QStringList unreadable(const QByteArray &xml) const;
 
+    /** "1 brick wall element, 1 placed brick wall, … of Level 1; 2 layers with 30 lines and 4 texts". */
     QString text() const;
     QJsonObject summary() const;
 
@@ -47,7 +66,9 @@ private:
     ORVCADWallDataInputModel &base();
 
     std::variant<ORVCADWallBrickDataInputModel, ORVCADWallForceDataInputModel> m_model;
-    QJsonObject m_summary;
+    const WallKind &m_kind;
+    QString m_floorName;
+    Counts m_counts;
     QStringList m_layers;                             // of the drawing, each once
     std::vector<std::pair<QString, QString>> m_texts; // that hold a "/": layer and text
 };

@@ -8,11 +8,29 @@
 
 namespace orvcad {
 
+bool WallKind::isBrick() const { return elementType == wall::type::brickWall; }
+
+QJsonObject WallKind::replyOf(const QJsonObject &map) const
+{
+    return {{reply, QJsonObject{{wall::reply::elementsAndEdos, QJsonObject{{document, map}}}}}};
+}
+
+QJsonObject WallKind::mapIn(const QJsonObject &walls) const
+{
+    const QJsonValue inReply = walls[reply].toObject()[wall::reply::elementsAndEdos];
+    return inReply.toObject()[document].toObject();
+}
+
+QString wallElementKey(int number) { return QStringLiteral("key_%1").arg(number); }
+QString wallPiecesKey(int number) { return QStringLiteral("value_%1").arg(number); }
+int wallCount(const QJsonObject &map) { return map.size() / 2; }
+
 const std::vector<WallKind> &wallKinds()
 {
-    static const std::vector<WallKind> kinds{
-        {"brick", wall::type::brickWall, wall::reply::brickWalls, wall::document::brickReply, jsonBrickWall2HBX},
-        {"force", wall::type::forceWall, wall::reply::forceWalls, wall::document::forceReply, jsonForceWall2HBX}};
+    static const std::vector<WallKind> kinds{{"brick", EORVCADIdentifyType(1), wall::type::brickWall,
+                                              wall::reply::brickWalls, wall::document::brickReply, jsonBrickWall2HBX},
+                                             {"force", EORVCADIdentifyType(2), wall::type::forceWall,
+                                              wall::reply::forceWalls, wall::document::forceReply, jsonForceWall2HBX}};
     return kinds;
 }
 

@@ -2,11 +2,12 @@
 
 #include "IdentifyInputModel/Wall/ORVCADWallBrickDataOutputModel.h"
 #include "IdentifyInputModel/Wall/ORVCADWallForceDataOutputModel.h"
-#include "IdentifyInputModel/Wall/WallHostKeys.h"
 #include "IdentifyInputModel/Wall/WallRecords.h"
 #include "IdentifyInputModel/Wall/WallStructsFromHbx.h"
-#include "cli/ProjectInfo.h"
+#include "cli/Counted.h"
+#include "cli/FloorLookup.h"
 #include "cli/WallReplyCheck.h"
+#include "platform/embedded/HBXProject.h"
 #include "platform/host/IHBXElement.h"
 #include "platform/host/IHBXElementDrawObj.h"
 #include "platform/host/IHBXElements.h"
@@ -14,7 +15,9 @@
 #include "platform/host/IHBXModel.h"
 #include "platform/host/IHBXService.h"
 
+#include <list>
 #include <memory>
+#include <string>
 #include <type_traits>
 #include <utility>
 
@@ -55,17 +58,32 @@ template <typename Record> QJsonObject textsOf(const Record &record)
 
 QString placeOf(const IHBXElement &element) { return QStringLiteral("floor ") + element.floor()->name(); }
 
+/** The pieces of an element of that name, in the host's order; those that are none are left out. */
+std::list<IdentifyResultData> piecesOf(IHBXElement &element, double width, std::wstring &name,
+                                       std::vector<LeftOut> &leftOut)
+{
+    QList<IHBXElementDrawObj *> objects;
+    element.drawObjs(objects, 0);
+    std::list<IdentifyResultData> pieces;
+    for (IHBXElementDrawObj *object : qAsConst(objects)) {
+        IdentifyResultData piece;
+        if (loadORVCADWallEdoIdentifyResStructFromHbx(width, name, object, &piece))
+            pieces.push_back(std::move(piece));
+        else
+            leftOut.push_back({placeOf(element), QString::fromStdWString(name),
+                               QStringLiteral("draw object %1 is no solid along a line").arg(object->id())});
+    }
+    return pieces;
+}
+
 } // namespace
 
-WallReply::WallReply(HBXProject &project, const WallKind &kind, const std::vector<IHBXFloor *> &floors)
+WallReply::WallReply(const HBXProject &project, const WallKind &kind, const std::vector<IHBXFloor *> &floors)
     : m_kind(kind), m_floors(static_cast<int>(floors.size()))
 {
-    QSet<qint64> floorIds;
-    for (const IHBXFloor *floor : floors)
-        floorIds.insert(floor->id());
     QList<IHBXElement *> elements;
-    project.service()->model()->elements()->queryElements(elements, floorIds, {kind.elementType}, true);
-    if (kind.elementType == wall::type::brickWall)
+    project.service()->model()->elements()->queryElements(elements, idsOf(floors), {kind.elementType}, true);
+    if (kind.isBrick())
         collect<ORVCADWallBrickDataOutputModel, Brick>(elements);
     else
         collect<ORVCADWallForceDataOutputModel, Force>(elements);
@@ -90,7 +108,7 @@ template <typename Output, typename Record> void WallReply::add(Output &output, 
     const QString cut = cutName(texts);
     if (!cut.isEmpty())
         return m_leftOut.push_back({placeOf(element), name, cut});
-    const std::list<IdentifyResultData> pieces = piecesOf(element, record->width, record->entName);
+    const std::list<IdentifyResultData> pieces = piecesOf(element, record->width, record->entName, m_leftOut);
     if (pieces.empty()) {
         ++m_withoutPieces;
         return;
@@ -102,22 +120,6 @@ template <typename Output, typename Record> void WallReply::add(Output &output, 
         append(output, given, piece);
     ++m_elements;
     m_pieces += static_cast<int>(pieces.size());
-}
-
-std::list<IdentifyResultData> WallReply::piecesOf(IHBXElement &element, double width, std::wstring &name)
-{
-    QList<IHBXElementDrawObj *> objects;
-    element.drawObjs(objects, 0);
-    std::list<IdentifyResultData> pieces;
-    for (IHBXElementDrawObj *object : qAsConst(objects)) {
-        IdentifyResultData piece;
-        if (loadORVCADWallEdoIdentifyResStructFromHbx(width, name, object, &piece))
-            pieces.push_back(std::move(piece));
-        else
-            m_leftOut.push_back({placeOf(element), QString::fromStdWString(name),
-                                 QStringLiteral("draw object %1 is no solid along a line").arg(object->id())});
-    }
-    return pieces;
 }
 
 QString WallReply::headline() const

@@ -1,19 +1,20 @@
 #pragma once
 
-#include "IdentifyInputModel/Wall/IdentifyResultData.h"
 #include "cli/Applied.h"
 #include "cli/WallKind.h"
-#include "platform/embedded/HBXProject.h"
 
 #include <QJsonObject>
+#include <QList>
 #include <QString>
 
-#include <list>
-#include <string>
 #include <vector>
 
 class IHBXElement;
 class IHBXFloor;
+
+namespace hbx::embedded {
+class HBXProject;
+}
 
 namespace orvcad {
 
@@ -22,7 +23,7 @@ class WallReply
 {
 public:
     /** Elements stand in the host's order, and so do the pieces of one. */
-    WallReply(hbx::embedded::HBXProject &project, const WallKind &kind, const std::vector<IHBXFloor *> &floors);
+    WallReply(const hbx::embedded::HBXProject &project, const WallKind &kind, const std::vector<IHBXFloor *> &floors);
 
     const QJsonObject &document() const { return m_document; }
     /** Elements and pieces that the document lacks or cannot hold whole. */
@@ -38,7 +39,6 @@ public:
 private:
     template <typename Output, typename Record> void collect(const QList<IHBXElement *> &elements);
     template <typename Output, typename Record> void add(Output &output, IHBXElement &element);
-    std::list<IdentifyResultData> piecesOf(IHBXElement &element, double width, std::wstring &name);
 
     const WallKind &m_kind;
     int m_floors = 0;

@@ -1,8 +1,8 @@
 #include "cli/WallReplyCheck.h"
 
 #include "IdentifyInputModel/Wall/WallKeys.h"
+#include "cli/FloorLookup.h"
 #include "cli/MemberKinds.h"
-#include "cli/OpeningReplyCheck.h"
 
 #include <QJsonDocument>
 #include <QRegularExpression>
@@ -100,9 +100,6 @@ QString whyNotPiece(const QJsonValue &value)
     return reason.isEmpty() ? whyNotAxis(key::pieceLine, piece.value(key::pieceLine).toString()) : reason;
 }
 
-QString keyName(int number) { return QStringLiteral("key_%1").arg(number); }
-QString valueName(int number) { return QStringLiteral("value_%1").arg(number); }
-
 /** The object of that key; throws naming the place. */
 QJsonObject objectIn(const QJsonObject &object, const QString &key, const QString &place, const QString &file,
                      const WallKind &kind)
@@ -142,7 +139,7 @@ WallReplyCheck::WallReplyCheck(IHBXModel &model, const WallKind &kind, const QJs
     const QJsonObject walls = objectIn(reply, kind.reply, kind.reply, file, kind);
     const QJsonObject document = objectIn(walls, reply::elementsAndEdos, above, file, kind);
     const QJsonObject map = objectIn(document, kind.document, above + '.' + kind.document, file, kind);
-    m_memberCount = map.size() / 2; // as the reader counts
+    m_memberCount = wallCount(map);
     for (int number = 0; number < m_memberCount; ++number)
         look(map, number);
     lookForUnread(map);
@@ -153,10 +150,10 @@ WallReplyCheck::WallReplyCheck(IHBXModel &model, const WallKind &kind, const QJs
 void WallReplyCheck::look(const QJsonObject &map, int number)
 {
     const QString above = m_kind.document + QLatin1Char('.');
-    const QJsonValue element = map.value(keyName(number));
-    const QJsonValue pieces = map.value(valueName(number));
+    const QJsonValue element = map.value(wallElementKey(number));
+    const QJsonValue pieces = map.value(wallPiecesKey(number));
     Member member;
-    member.place = above + keyName(number);
+    member.place = above + wallElementKey(number);
     member.edoId = element.toObject().value(key::edoId).toString().toLongLong();
     member.element = used(element.toObject(), kElementKeys);
     const QString name = element.toObject().value(key::entName).toString();
@@ -170,7 +167,7 @@ void WallReplyCheck::look(const QJsonObject &map, int number)
     m_places.insert(record, member.place);
     for (const QString &cut : cutBars(element.toObject()))
         leaveOut(member.place, name, cut);
-    lookAtPieces(pieces.toArray(), above + valueName(number), member);
+    lookAtPieces(pieces.toArray(), above + wallPiecesKey(number), member);
     m_sound.push_back(member);
 }
 
@@ -193,8 +190,8 @@ void WallReplyCheck::lookForUnread(const QJsonObject &map)
 {
     QStringList unread = map.keys();
     for (int number = 0; number < m_memberCount; ++number) {
-        unread.removeOne(keyName(number));
-        unread.removeOne(valueName(number));
+        unread.removeOne(wallElementKey(number));
+        unread.removeOne(wallPiecesKey(number));
     }
     for (const QString &key : unread)
         leaveOut(m_kind.document + QLatin1Char('.') + key, {},

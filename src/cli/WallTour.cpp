@@ -1,10 +1,11 @@
 #include "cli/WallTour.h"
 
+#include "cli/Counted.h"
 #include "cli/Files.h"
-#include "cli/ProjectInfo.h"
+#include "cli/FloorLookup.h"
+#include "cli/ProjectFiles.h"
 #include "cli/WallReply.h"
-
-#include <QJsonDocument>
+#include "platform/embedded/HBXProject.h"
 
 #include <utility>
 
@@ -21,7 +22,7 @@ QString WallTour::path(const QString &name) const { return fileIn(m_directory, n
 TourStep WallTour::write(HBXProject &project)
 {
     const WallReply reply(project, m_kind, pickFloors(project, QString(), m_stop.floor));
-    writeResult(path(m_stop.reply), QJsonDocument(reply.document()).toJson());
+    writeResult(path(m_stop.reply), reply.document());
     return {QStringLiteral("wall reply %1 --kind %2 --floor \"%3\" -o %4")
                 .arg(m_stop.original, m_stop.kind, m_stop.floor, m_stop.reply),
             reply.text()};

@@ -3,13 +3,13 @@
 #include "cli/TourStep.h"
 #include "cli/WallComparison.h"
 #include "cli/Walls.h"
-#include "platform/embedded/HBXProject.h"
 
 #include <QJsonObject>
 #include <QString>
-#include <QStringList>
 
-#include <vector>
+namespace hbx::embedded {
+class HBXProject;
+}
 
 namespace orvcad {
 

@@ -1,11 +1,11 @@
 #include "cli/Walls.h"
 
 #include "IdentifyInputModel/Wall/WallKeys.h"
-#include "cli/ProjectInfo.h"
+#include "cli/Counted.h"
+#include "cli/ElementRemoval.h"
 #include "cli/WallReplyCheck.h"
+#include "platform/embedded/HBXProject.h"
 #include "platform/host/HBXBatch.h"
-#include "platform/host/HBXCheckError.h"
-#include "platform/host/IHBXCheck.h"
 #include "platform/host/IHBXDrawObjs.h"
 #include "platform/host/IHBXElement.h"
 #include "platform/host/IHBXElementDrawObj.h"
@@ -30,9 +30,7 @@ namespace {
 /** A reply with one wall. */
 QJsonObject replyOf(const WallKind &kind, const WallReplyCheck::Member &member)
 {
-    const QJsonObject map{{"key_0", member.element}, {"value_0", member.pieces}};
-    const QJsonObject document{{kind.document, map}};
-    return {{kind.reply, QJsonObject{{wall::reply::elementsAndEdos, document}}}};
+    return kind.replyOf({{wallElementKey(0), member.element}, {wallPiecesKey(0), member.pieces}});
 }
 
 /** Writes walls one by one, so that what the host says is about one of them, and keeps account. */
@@ -49,57 +47,51 @@ public:
         const int elementsBefore = m_model.elements()->count();
         const int drawObjsBefore = m_model.drawObjects()->count();
         m_kind.write(m_project.service(), replyOf(m_kind, member));
-        noteObjects(member, drawObjsBefore);
-        noteRefusals(member, journalBefore);
+        noteRefusals(member, journalBefore, placesOf(member, drawObjsBefore));
         if (m_model.elements()->count() > elementsBefore)
-            noteWall(member, *m_model.elements()->at(elementsBefore), m_model.drawObjects()->count() - drawObjsBefore);
+            noteWall(member, *m_model.elements()->at(elementsBefore), drawObjsBefore);
         else
             leaveOut(member, member.place, QStringLiteral("the host made no element"));
     }
 
 private:
-    void noteWall(const WallReplyCheck::Member &member, const IHBXElement &element, int placed)
+    using Places = std::map<qint64, QString>; // in the reply, by draw object
+
+    /** Which piece each of the new draw objects is; nothing when not all were made. */
+    Places placesOf(const WallReplyCheck::Member &member, int drawObjsBefore) const
+    {
+        Places places;
+        const int made = m_model.drawObjects()->count() - drawObjsBefore;
+        for (int i = 0; i < made && made == member.pieces.size(); ++i)
+            places[m_model.drawObjects()->at(drawObjsBefore + i)->id()] = member.piecePlaces.at(i);
+        return places;
+    }
+    void noteRefusals(const WallReplyCheck::Member &member, std::size_t journalBefore, const Places &places)
+    {
+        const auto &entries = m_project.journal().entries();
+        for (std::size_t i = journalBefore; i < entries.size(); ++i)
+            if (entries[i].kind == JournalEntry::kWriteThrew) {
+                const auto piece = places.find(entries[i].objectId);
+                leaveOut(member, piece == places.end() ? member.place : piece->second,
+                         QStringLiteral("a value was refused: ") + entries[i].reason);
+            }
+    }
+    void noteWall(const WallReplyCheck::Member &member, const IHBXElement &element, int drawObjsBefore)
     {
         WallOutcome::Wall wall;
         wall.place = member.place;
         wall.wanted = member.text(wall::key::entName);
         element.name(wall.name);
         wall.floor = member.text(wall::key::floorCode);
-        wall.placed = placed;
-        wall.leftOut = member.leftOut + member.pieces.size() - placed;
-        wall.doubled = m_doubled;
+        wall.placed = m_model.drawObjects()->count() - drawObjsBefore;
+        wall.leftOut = member.leftOut + member.pieces.size() - wall.placed;
+        wall.doubled = doubledSince(m_model, drawObjsBefore);
         m_outcome.walls.push_back(wall);
-        if (placed < member.pieces.size())
+        if (wall.placed < member.pieces.size())
             leaveOut(member, member.place,
                      QStringLiteral("the host made %1 of its %2")
-                         .arg(placed)
+                         .arg(wall.placed)
                          .arg(counted(member.pieces.size(), QStringLiteral("piece"))));
-    }
-    /** Has the host check the new objects, and notes which piece each of them is, if all were made. */
-    void noteObjects(const WallReplyCheck::Member &member, int drawObjsBefore)
-    {
-        m_doubled = 0;
-        m_pieceOf.clear();
-        const int made = m_model.drawObjects()->count() - drawObjsBefore;
-        for (int i = 0; i < made; ++i) {
-            IHBXElementDrawObj *object = m_model.drawObjects()->at(drawObjsBefore + i);
-            if (made == member.pieces.size())
-                m_pieceOf[object->id()] = member.piecePlaces.at(i);
-            HBXCheckError error;
-            std::map<qint64, QString> collisions;
-            m_model.checker()->checkDrawObj(object, error, collisions);
-            m_doubled += collisions.empty() ? 0 : 1;
-        }
-    }
-    void noteRefusals(const WallReplyCheck::Member &member, std::size_t journalBefore)
-    {
-        const auto &entries = m_project.journal().entries();
-        for (std::size_t i = journalBefore; i < entries.size(); ++i)
-            if (entries[i].kind == JournalEntry::kWriteThrew) {
-                const auto piece = m_pieceOf.find(entries[i].objectId);
-                leaveOut(member, piece == m_pieceOf.end() ? member.place : piece->second,
-                         QStringLiteral("a value was refused: ") + entries[i].reason);
-            }
     }
     void leaveOut(const WallReplyCheck::Member &member, const QString &place, const QString &reason)
     {
@@ -110,8 +102,6 @@ private:
     IHBXModel &m_model;
     const WallKind &m_kind;
     WallOutcome &m_outcome;
-    std::map<qint64, QString> m_pieceOf; // of the wall at hand: place in the reply by draw object
-    int m_doubled = 0;                   // likewise
 };
 
 } // namespace
@@ -196,13 +186,7 @@ WallOutcome applyWalls(HBXProject &project, const WallKind &kind, const QJsonObj
 
 int removeWalls(HBXProject &project, const WallKind &kind, const IHBXFloor &floor)
 {
-    IHBXModel &model = *project.service()->model();
-    const HBXBatch batch(model, "orvcad remove walls");
-    QList<IHBXElement *> elements;
-    model.elements()->queryElementsOnFloor(elements, floor.id(), kind.elementType, true);
-    for (IHBXElement *element : qAsConst(elements))
-        element->remove();
-    return elements.size();
+    return removeElements(*project.service()->model(), {floor.id()}, {kind.elementType}, "orvcad remove walls");
 }
 
 } // namespace orvcad

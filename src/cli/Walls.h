@@ -2,7 +2,6 @@
 
 #include "cli/Applied.h"
 #include "cli/WallKind.h"
-#include "platform/embedded/HBXProject.h"
 
 #include <QJsonObject>
 #include <QString>
@@ -10,7 +9,10 @@
 #include <vector>
 
 class IHBXFloor;
-class IHBXModel;
+
+namespace hbx::embedded {
+class HBXProject;
+}
 
 namespace orvcad {
 

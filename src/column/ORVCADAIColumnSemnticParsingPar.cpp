@@ -6,13 +6,10 @@ using namespace column;
 
 QJsonObject ORVCADAIColumnSemnticParsingPar::toJson() const
 {
-    QJsonObject json;
-    encoding::writeFields(*this, SemanticFields::table, json);
-    return json;
+    return encoding::writtenFields(*this, SemanticFields::table);
 }
 
 void ORVCADAIColumnSemnticParsingPar::fromJson(ORVCADAIColumnSemnticParsingPar *target, const QJsonObject &json) const
 {
-    if (target)
-        encoding::readFields(json, SemanticFields::table, *target);
+    encoding::readFieldsInto(target, SemanticFields::table, json);
 }

@@ -6,14 +6,11 @@ using namespace column;
 
 QJsonObject ORVCADAIIdentifyColumnResultModel::toJson() const
 {
-    QJsonObject json;
-    encoding::writeFields(*this, ResultModelFields::table, json);
-    return json;
+    return encoding::writtenFields(*this, ResultModelFields::table);
 }
 
 void ORVCADAIIdentifyColumnResultModel::fromJson(ORVCADAIIdentifyColumnResultModel *target,
                                                  const QJsonObject &json) const
 {
-    if (target)
-        encoding::readFields(json, ResultModelFields::table, *target);
+    encoding::readFieldsInto(target, ResultModelFields::table, json);
 }

@@ -6,13 +6,10 @@ using namespace column;
 
 QJsonObject ORVCADColumnCloudCheckInputModel::toJson() const
 {
-    QJsonObject json;
-    encoding::writeFields(*this, CheckInputFields::table, json);
-    return json;
+    return encoding::writtenFields(*this, CheckInputFields::table);
 }
 
 void ORVCADColumnCloudCheckInputModel::fromJson(ORVCADColumnCloudCheckInputModel *target, const QJsonObject &json) const
 {
-    if (target)
-        encoding::readFields(json, CheckInputFields::table, *target);
+    encoding::readFieldsInto(target, CheckInputFields::table, json);
 }

@@ -6,14 +6,11 @@ using namespace column;
 
 QJsonObject ORVCADColumnCloudIdentifyInputModel::toJson() const
 {
-    QJsonObject json;
-    encoding::writeFields(*this, IdentifyInputFields::table, json);
-    return json;
+    return encoding::writtenFields(*this, IdentifyInputFields::table);
 }
 
 void ORVCADColumnCloudIdentifyInputModel::fromJson(ORVCADColumnCloudIdentifyInputModel *target,
                                                    const QJsonObject &json) const
 {
-    if (target)
-        encoding::readFields(json, IdentifyInputFields::table, *target);
+    encoding::readFieldsInto(target, IdentifyInputFields::table, json);
 }

@@ -16,7 +16,10 @@ namespace {
 constexpr qint64 kNoPicture = -1;
 constexpr QChar kBetweenLimbs = u'*';
 
-std::wstring limbText(int bLimbs, int hLimbs) { return std::to_wstring(bLimbs) + L'*' + std::to_wstring(hLimbs); }
+std::wstring limbText(int bLimbs, int hLimbs)
+{
+    return (QString::number(bLimbs) + kBetweenLimbs + QString::number(hLimbs)).toStdWString();
+}
 
 /** The limbs of both sides; false when the text is no pair of whole numbers. */
 bool readLimbs(const std::wstring &text, int &bLimbs, int &hLimbs)
@@ -117,15 +120,12 @@ QJsonObject ORVCADColumnHoopBarSettingPar::toJson() const
         lists.pictures.push_back({*entry.second, entry.first});
     for (const ORVCADColumnHoopBarSetting *setting : m_settings)
         lists.settings.push_back(*setting);
-    QJsonObject json;
-    encoding::writeFields(lists, HoopBarFields::table, json);
-    return json;
+    return encoding::writtenFields(lists, HoopBarFields::table);
 }
 
 void ORVCADColumnHoopBarSettingPar::fromJson(const QJsonObject &json)
 {
-    HoopBarLists lists;
-    encoding::readFields(json, HoopBarFields::table, lists);
+    const auto lists = encoding::readRecord<HoopBarLists>(json, HoopBarFields::table);
     for (const HoopPicture &picture : lists.pictures)
         if (m_pictures.count(picture.id) == 0) // meant: no message here, unlike addHoopBarPicInfo
             m_pictures.emplace(picture.id, new ORVCADColumnHoopBarPicInfo(picture));

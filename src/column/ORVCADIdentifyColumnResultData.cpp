@@ -8,14 +8,10 @@ ORVCADIdentifyColumnResultData::~ORVCADIdentifyColumnResultData() { delete colum
 
 QJsonObject ORVCADIdentifyColumnResultData::toJson() const
 {
-    QJsonObject json;
-    if (columnInfo)
-        encoding::writeFields(*this, ResultFields::table, json);
-    return json;
+    return columnInfo ? encoding::writtenFields(*this, ResultFields::table) : QJsonObject();
 }
 
 void ORVCADIdentifyColumnResultData::fromJson(ORVCADIdentifyColumnResultData *target, const QJsonObject &json) const
 {
-    if (target)
-        encoding::readFields(json, ResultFields::table, *target);
+    encoding::readFieldsInto(target, ResultFields::table, json);
 }

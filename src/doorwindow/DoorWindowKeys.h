@@ -1,6 +1,6 @@
 #pragma once
 
-#include "encoding/KeyLiteral.h"
+#include "encoding/RecordKey.h"
 
 #include <QtGlobal>
 

@@ -33,6 +33,7 @@ constexpr double kWallSearchHalfSize = 5.0; // mm, half the box about an opening
 constexpr double kOverlapTolerance = std::numeric_limits<double>::epsilon(); // mm, boxes this far apart still touch
 constexpr double kBoxValidityTolerance = 1e-12;                              // mm, a box may be this much inside out
 constexpr double kRoundsFrom = 0.4;                                          // smallest amount that roundHalf rounds
+constexpr int kElementMode = 4; // of making an element, as the host is told
 
 struct SubTypeOfType
 {
@@ -68,7 +69,7 @@ void createOpeningElement(IHBXModel &model, const ORVCADWinDoorElementStruct &re
     IHBXFloor *floor = region->floors()->findByCode(record.floorName);
     const qint64 subType = openingSubType(record.elementType, record.elementSubType);
     IHBXElement *element =
-        model.elements()->createElement(record.elementType, subType, nullptr, floor, 4, QString(), 0);
+        model.elements()->createElement(record.elementType, subType, nullptr, floor, kElementMode, QString(), 0);
     if (!element)
         return;
     element->setName(record.name);

@@ -59,16 +59,9 @@ void ORVCADWinDoorEdoStruct::loadFromEdo(IHBXElementDrawObj *drawObj)
     aboveFloorHeight = properties ? properties->asInt(property::aboveFloorHeight) : 0;
 }
 
-QJsonObject ORVCADWinDoorEdoStruct::toJson() const
-{
-    QJsonObject json;
-    encoding::writeFields(*this, Fields::table, json);
-    return json;
-}
+QJsonObject ORVCADWinDoorEdoStruct::toJson() const { return encoding::writtenFields(*this, Fields::table); }
 
 ORVCADWinDoorEdoStruct ORVCADWinDoorEdoStruct::fromJson(const QJsonObject &json)
 {
-    ORVCADWinDoorEdoStruct record;
-    encoding::readFields(json, Fields::table, record);
-    return record;
+    return encoding::readRecord<ORVCADWinDoorEdoStruct>(json, Fields::table);
 }

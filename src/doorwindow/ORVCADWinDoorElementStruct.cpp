@@ -40,16 +40,9 @@ void ORVCADWinDoorElementStruct::loadFromHBX(IHBXElement *element)
         regionName = region->name();
 }
 
-QJsonObject ORVCADWinDoorElementStruct::toJson() const
-{
-    QJsonObject json;
-    encoding::writeFields(*this, Fields::table, json);
-    return json;
-}
+QJsonObject ORVCADWinDoorElementStruct::toJson() const { return encoding::writtenFields(*this, Fields::table); }
 
 ORVCADWinDoorElementStruct ORVCADWinDoorElementStruct::fromJson(const QJsonObject &json)
 {
-    ORVCADWinDoorElementStruct record;
-    encoding::readFields(json, Fields::table, record);
-    return record;
+    return encoding::readRecord<ORVCADWinDoorElementStruct>(json, Fields::table);
 }

@@ -2,6 +2,8 @@
 
 #include "encoding/RecordFields.h"
 
+#include <memory>
+
 /** Further rows of RecordFields.h, for what the drawing-set records read another way than they write. */
 namespace drawing {
 
@@ -22,6 +24,14 @@ template <typename Kind, typename Record, typename T>
 constexpr auto fieldRequiredAs(QLatin1String key, T Record::*member, encoding::Flow flow = encoding::Flow::Both)
 {
     return encoding::FieldRow<Kind, Record, T, encoding::detail::UseZero>{key, member, {}, flow, true};
+}
+
+/** Reads a record that is new.
+ *  @return the record, which belongs to the caller; null when a required key is missing */
+template <typename Record, typename Table>
+Record *readOrNull(std::unique_ptr<Record> record, const Table &table, const QJsonObject &json)
+{
+    return encoding::readFields(json, table, *record) ? record.release() : nullptr;
 }
 
 /** Ids of drawing objects, written whole and read as 32-bit numbers: what does not fit there reads as 0. */

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "encoding/KeyLiteral.h"
+#include "encoding/LayerFileKeys.h"
+#include "encoding/RecordKey.h"
 
 /** Names that the drawing-set records have in JSON. */
 namespace drawing::key {
@@ -25,7 +26,7 @@ constexpr QLatin1String elementTypes = "ElementTypes"_key;
 
 constexpr QLatin1String layers = "Layers"_key;
 constexpr QLatin1String classifiedLayers = "ClassifiedLayers"_key;
-constexpr QLatin1String layerName = "LayerName"_key;
+using encoding::layerfile::layerName;
 constexpr QLatin1String cadEdoIds = "CADEdoIds"_key;
 
 constexpr QLatin1String layerClassifyItems = "LayerClassifyItems"_key;
@@ -33,8 +34,8 @@ constexpr QLatin1String classifiedJsonFilePath = "ClassifiedJsonFilePath"_key;
 
 // The same as drawing analysis writes it.
 constexpr QLatin1String fileName = "FileName"_key;
-constexpr QLatin1String edoIdList = "EdoIDList"_key;
-constexpr QLatin1String edoId = "EdoID"_key;
+using encoding::layerfile::edoId;
+using encoding::layerfile::edoIdList;
 
 // Drawings of a floor.
 constexpr QLatin1String regionId = "regionID"_key;

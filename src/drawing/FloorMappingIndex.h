@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ORVCADModelDataExport.h"
 #include "drawing/ORVCADDrawingFloorMapping.h"
 
 #include <QHash>
@@ -17,7 +18,7 @@ namespace drawing {
 using FloorMappingList = QMap<qint64, std::shared_ptr<ORVCADDrawingFloorMapping>>;
 
 /** The records of a floor mapping set by place, region and drawing. Valid as long as the list that it was built from. */
-class FloorMappingIndex
+class ORVCADMODELDATA_EXPORT FloorMappingIndex
 {
 public:
     struct Entry

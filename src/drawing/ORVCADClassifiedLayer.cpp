@@ -16,12 +16,7 @@ struct ORVCADClassifiedLayer::Fields
                         drawing::fieldRequiredAs<drawing::NarrowIds>(key::cadEdoIds, &ORVCADClassifiedLayer::m_edoIds));
 };
 
-QJsonObject ORVCADClassifiedLayer::toJson() const
-{
-    QJsonObject json;
-    writeFields(*this, Fields::table, json);
-    return json;
-}
+QJsonObject ORVCADClassifiedLayer::toJson() const { return writtenFields(*this, Fields::table); }
 
 ORVCADClassifiedLayer *ORVCADClassifiedLayer::fromJson(const QJsonObject &json)
 {

@@ -65,17 +65,11 @@ QStringList ORVCADClassifiedLayers::getLayersName() const
     return names;
 }
 
-QJsonObject ORVCADClassifiedLayers::toJson() const
-{
-    QJsonObject json;
-    writeFields(*this, Fields::table, json);
-    return json;
-}
+QJsonObject ORVCADClassifiedLayers::toJson() const { return writtenFields(*this, Fields::table); }
 
 ORVCADClassifiedLayers *ORVCADClassifiedLayers::fromJson(const QJsonObject &json)
 {
-    auto group = std::make_unique<ORVCADClassifiedLayers>(QString(), 0);
-    return readFields(json, Fields::table, *group) ? group.release() : nullptr;
+    return drawing::readOrNull(std::make_unique<ORVCADClassifiedLayers>(QString(), 0), Fields::table, json);
 }
 
 void ORVCADClassifiedLayers::takeFromAnalysis(ORVCADClassifiedLayer *layer)

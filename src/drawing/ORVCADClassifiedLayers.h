@@ -20,8 +20,8 @@ public:
     ORVCADClassifiedLayers(const QString &drawingName, int elementType);
     ~ORVCADClassifiedLayers();
     ORVCADClassifiedLayers(const ORVCADClassifiedLayers &) = default;
-    ORVCADClassifiedLayers &operator=(const ORVCADClassifiedLayers &) = default; ///< the layers held before are not
-                                                                                 ///< deleted
+    /** As with a copy; what was held before is not deleted. */
+    ORVCADClassifiedLayers &operator=(const ORVCADClassifiedLayers &) = default;
 
     const QString &getDrawingName() const { return m_drawingName; }
     void setDrawingName(const QString &name) { m_drawingName = name; }

@@ -19,12 +19,6 @@ namespace {
 
 ORVCADDisposeInfoData *g_data = nullptr;
 
-template <typename Stage> void destroy(Stage *&stage)
-{
-    delete stage;
-    stage = nullptr;
-}
-
 template <typename Stage> QJsonValue writtenOrNull(const Stage *stage)
 {
     return stage ? stage->toJson() : QJsonValue();
@@ -53,12 +47,12 @@ void ORVCADDisposeInfoData::freeData()
 
 ORVCADDisposeInfoData::~ORVCADDisposeInfoData()
 {
-    destroy(floors);
-    destroy(floorMappings);
-    destroy(elementMappings);
-    destroy(classifiedLayers);
-    destroy(scaleRevision);
-    destroy(location);
+    delete floors;
+    delete floorMappings;
+    delete elementMappings;
+    delete classifiedLayers;
+    delete scaleRevision;
+    delete location;
     // Meant: the sub-drawing set and the parse data stay with whoever made them.
 }
 

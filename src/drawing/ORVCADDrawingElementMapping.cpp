@@ -40,15 +40,9 @@ struct ORVCADDrawingElementMapping::Fields
         drawing::fieldRequiredAs<TypeNames>(key::elementTypes, &ORVCADDrawingElementMapping::m_elementTypes));
 };
 
-QJsonObject ORVCADDrawingElementMapping::toJson() const
-{
-    QJsonObject json;
-    writeFields(*this, Fields::table, json);
-    return json;
-}
+QJsonObject ORVCADDrawingElementMapping::toJson() const { return writtenFields(*this, Fields::table); }
 
 ORVCADDrawingElementMapping *ORVCADDrawingElementMapping::fromJson(const QJsonObject &json)
 {
-    auto mapping = std::make_unique<ORVCADDrawingElementMapping>(QString());
-    return readFields(json, Fields::table, *mapping) ? mapping.release() : nullptr;
+    return drawing::readOrNull(std::make_unique<ORVCADDrawingElementMapping>(QString()), Fields::table, json);
 }

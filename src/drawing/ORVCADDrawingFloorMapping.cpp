@@ -21,11 +21,6 @@ struct ORVCADDrawingFloorMapping::Fields
         field(key::drawingFloorMappings, &Mapping::drawingNames, Flow::ReadOnly));
 };
 
-QJsonObject ORVCADDrawingFloorMapping::toJson() const
-{
-    QJsonObject json;
-    writeFields(*this, Fields::table, json);
-    return json;
-}
+QJsonObject ORVCADDrawingFloorMapping::toJson() const { return writtenFields(*this, Fields::table); }
 
 bool ORVCADDrawingFloorMapping::readJson(const QJsonObject &json) { return readFields(json, Fields::table, *this); }

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "ORVCADModelDataExport.h"
+
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
 
 /** The drawings of one floor: a record inside ORVCADDrawingFloorMappings, which alone uses it. */
-struct ORVCADDrawingFloorMapping
+struct ORVCADMODELDATA_EXPORT ORVCADDrawingFloorMapping
 {
     qint64 regionId = 0; ///< region of the host model
     QString floorName;   ///< of a floor within the region

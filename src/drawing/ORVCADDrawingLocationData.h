@@ -16,9 +16,8 @@ public:
     ORVCADDrawingLocationData() = default;
     ~ORVCADDrawingLocationData();
     ORVCADDrawingLocationData(const ORVCADDrawingLocationData &) = default;
-    ORVCADDrawingLocationData &operator=(const ORVCADDrawingLocationData &) =
-        default; ///< the items held before are not
-                 ///< deleted
+    /** As with a copy; what was held before is not deleted. */
+    ORVCADDrawingLocationData &operator=(const ORVCADDrawingLocationData &) = default;
 
     /** Appends an item and takes it over. */
     void addItem(ORVCADDrawingLocationDataItem *item) { m_items.append(item); }

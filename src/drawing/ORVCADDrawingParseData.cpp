@@ -1,15 +1,19 @@
 #include "drawing/ORVCADDrawingParseData.h"
 
 #include "drawing/DrawingKeys.h"
+#include "encoding/JsonMembers.h"
 
 #include <QJsonArray>
-#include <QMap>
+
+#include <utility>
+#include <vector>
 
 namespace key = drawing::key;
 
 namespace {
 
 using Levels = QList<ORVCADConcreteLevel>;
+using Members = std::vector<encoding::JsonMember>;
 
 struct TypeWord
 {
@@ -35,22 +39,13 @@ int typeOf(const QString &word)
     return kUnknownTable;
 }
 
-/** Members in any order as an object. Out of order, each insertion would move what is there already. */
-QJsonObject objectOf(const QMap<QString, QJsonValue> &members)
-{
-    QJsonObject object;
-    for (auto member = members.begin(); member != members.end(); ++member)
-        object.insert(member.key(), member.value());
-    return object;
-}
-
 /** The records by their row numbers, in decimal. */
 template <typename Record, typename Write> QJsonObject byRow(const QList<Record> &records, Write write)
 {
-    QMap<QString, QJsonValue> members;
+    Members members;
     for (const Record &record : records)
-        members.insert(QString::number(record.row), write(record));
-    return objectOf(members);
+        members.emplace_back(QString::number(record.row), write(record));
+    return encoding::objectOf(std::move(members));
 }
 
 QJsonValue writeRange(const std::array<int, 4> &range) { return QJsonArray{range[0], range[1], range[2], range[3]}; }
@@ -59,10 +54,10 @@ QJsonValue writeCells(const ORVCADTableRowData &row) { return QJsonArray::fromSt
 
 QJsonValue writeLevel(const ORVCADConcreteLevel &level)
 {
-    QMap<QString, QJsonValue> members;
+    Members members;
     for (const auto &value : level.values)
-        members.insert(value.first, value.second);
-    return objectOf(members);
+        members.emplace_back(value.first, value.second);
+    return encoding::objectOf(std::move(members));
 }
 
 QJsonObject writeTable(const ORVCADTableData &table)
@@ -132,10 +127,10 @@ bool readTable(const QJsonObject &json, const Levels &shared, ORVCADTableData &t
 
 QJsonObject ORVCADDrawingParseData::toJson() const
 {
-    QMap<QString, QJsonValue> members;
+    Members members;
     for (int i = 0; i < m_tables.size(); ++i)
-        members.insert(key::table + QString::number(i), writeTable(m_tables.at(i)));
-    return objectOf(members);
+        members.emplace_back(key::table + QString::number(i), writeTable(m_tables.at(i)));
+    return encoding::objectOf(std::move(members));
 }
 
 QList<ORVCADTableData> ORVCADDrawingParseData::fromJson(const QJsonObject &root)

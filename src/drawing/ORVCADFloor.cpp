@@ -1,9 +1,8 @@
 #include "drawing/ORVCADFloor.h"
 
+#include "drawing/DrawingFields.h"
 #include "drawing/DrawingKeys.h"
 #include "drawing/FloorElevation.h"
-#include "encoding/KeyLiteral.h"
-#include "encoding/RecordFields.h"
 
 #include <memory>
 
@@ -54,15 +53,9 @@ bool ORVCADFloor::isFirstFloor() const
     return m_code == kFirstFloorMark || m_name == kFirstFloorMark || spansZero;
 }
 
-QJsonObject ORVCADFloor::toJson() const
-{
-    QJsonObject json;
-    writeFields(*this, Fields::table, json);
-    return json;
-}
+QJsonObject ORVCADFloor::toJson() const { return writtenFields(*this, Fields::table); }
 
 ORVCADFloor *ORVCADFloor::fromJson(const QJsonObject &json)
 {
-    auto floor = std::make_unique<ORVCADFloor>();
-    return readFields(json, Fields::table, *floor) ? floor.release() : nullptr;
+    return drawing::readOrNull(std::make_unique<ORVCADFloor>(), Fields::table, json);
 }

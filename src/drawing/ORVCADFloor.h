@@ -5,7 +5,7 @@
 #include <QJsonObject>
 #include <QString>
 
-/** One storey of the building as the recognition feature sees it; elevations and heights in metres, like the host's.
+/** One floor of the building as the recognition feature sees it; elevations and heights in metres, like the host's.
  *  Its JSON form is one object of the floors document; schema: schemas/floors.schema.json. */
 class ORVCADMODELDATA_EXPORT ORVCADFloor
 {

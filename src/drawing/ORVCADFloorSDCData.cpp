@@ -6,6 +6,7 @@
 #include <limits>
 #include <tuple>
 
+using namespace encoding;
 namespace key = drawing::key;
 
 namespace {
@@ -38,33 +39,27 @@ struct ORVCADFloorSDCData::Fields
 {
     using Joint = ConcreteAnchorJoint;
 
-    static constexpr auto region = std::make_tuple(encoding::field(key::id, &Region::ID), //
-                                                   encoding::field(key::description, &Region::Description));
+    static constexpr auto region = std::make_tuple(field(key::id, &Region::ID), //
+                                                   field(key::description, &Region::Description));
 
     static constexpr auto joint = std::make_tuple(
-        encoding::field(key::typeId, &Joint::TypeID),
-        encoding::field(key::basicElementTypeId, &Joint::BasicElementTypeID),
-        encoding::field(key::concGradeId, &Joint::ConcGradeID), encoding::field(key::concTypeId, &Joint::ConcTypeID),
-        encoding::field(key::mortarGradeId, &Joint::MortarGradeID),
-        encoding::field(key::mortarTypeId, &Joint::MortarTypeID),
-        encoding::field(key::aseismicLevelId, &Joint::AseismicLevelID), encoding::field(key::anchor1, &Joint::Anchor1),
-        encoding::field(key::anchor2, &Joint::Anchor2), encoding::field(key::anchor3, &Joint::Anchor3),
-        encoding::field(key::anchor4, &Joint::Anchor4), encoding::field(key::anchor5, &Joint::Anchor5),
-        encoding::field(key::anchor6, &Joint::Anchor6), encoding::field(key::joint1, &Joint::Joint1),
-        encoding::field(key::joint2, &Joint::Joint2), encoding::field(key::joint3, &Joint::Joint3),
-        encoding::field(key::joint4, &Joint::Joint4), encoding::field(key::joint5, &Joint::Joint5),
-        encoding::field(key::joint6, &Joint::Joint6),
-        encoding::field(key::protectiveLayerThickness, &Joint::ProtectiveLayerThickness),
-        encoding::field(key::remark, &Joint::Remark));
+        field(key::typeId, &Joint::TypeID), field(key::basicElementTypeId, &Joint::BasicElementTypeID),
+        field(key::concGradeId, &Joint::ConcGradeID), field(key::concTypeId, &Joint::ConcTypeID),
+        field(key::mortarGradeId, &Joint::MortarGradeID), field(key::mortarTypeId, &Joint::MortarTypeID),
+        field(key::aseismicLevelId, &Joint::AseismicLevelID), field(key::anchor1, &Joint::Anchor1),
+        field(key::anchor2, &Joint::Anchor2), field(key::anchor3, &Joint::Anchor3),
+        field(key::anchor4, &Joint::Anchor4), field(key::anchor5, &Joint::Anchor5),
+        field(key::anchor6, &Joint::Anchor6), field(key::joint1, &Joint::Joint1), field(key::joint2, &Joint::Joint2),
+        field(key::joint3, &Joint::Joint3), field(key::joint4, &Joint::Joint4), field(key::joint5, &Joint::Joint5),
+        field(key::joint6, &Joint::Joint6), field(key::protectiveLayerThickness, &Joint::ProtectiveLayerThickness),
+        field(key::remark, &Joint::Remark));
 
     static constexpr auto floor = std::make_tuple(
-        encoding::field(key::id, &Floor::ID), encoding::field(key::description, &Floor::Description),
-        encoding::field(key::height, &Floor::Height), encoding::field(key::stdFloorCount, &Floor::StdFloorCount),
-        encoding::field(key::structuralElevation, &Floor::StructuralElevation),
-        encoding::field(key::startFloorNo, &Floor::StartFloorNo), encoding::field(key::remark, &Floor::Remark),
-        encoding::field(key::code, &Floor::Code), encoding::field(key::slabThickness, &Floor::SlabThickness),
-        encoding::field(key::floorArea, &Floor::FloorArea),
-        encoding::field(key::relatedFloorId, &Floor::RelatedFloorID));
+        field(key::id, &Floor::ID), field(key::description, &Floor::Description), field(key::height, &Floor::Height),
+        field(key::stdFloorCount, &Floor::StdFloorCount), field(key::structuralElevation, &Floor::StructuralElevation),
+        field(key::startFloorNo, &Floor::StartFloorNo), field(key::remark, &Floor::Remark),
+        field(key::code, &Floor::Code), field(key::slabThickness, &Floor::SlabThickness),
+        field(key::floorArea, &Floor::FloorArea), field(key::relatedFloorId, &Floor::RelatedFloorID));
 };
 
 ORVCADFloorSDCData::ORVCADFloorSDCData()
@@ -83,8 +78,7 @@ QJsonObject ORVCADFloorSDCData::serialize(const std::vector<Floor> &floors) cons
 
 QJsonObject ORVCADFloorSDCData::serializeFloor(const Floor &floor) const
 {
-    QJsonObject json;
-    encoding::writeFields(floor, Fields::floor, json);
+    QJsonObject json = writtenFields(floor, Fields::floor);
     json.insert(m_regionKey, serializeRegion(floor.Region));
     if (!floor.ConcreteAnchorJoints.empty())
         json.insert(m_jointsKey, serializeConcreteAnchorJoints(floor.ConcreteAnchorJoints));
@@ -93,16 +87,12 @@ QJsonObject ORVCADFloorSDCData::serializeFloor(const Floor &floor) const
 
 QJsonObject ORVCADFloorSDCData::serializeRegion(const Region &region) const
 {
-    QJsonObject json;
-    encoding::writeFields(region, Fields::region, json);
-    return json;
+    return writtenFields(region, Fields::region);
 }
 
 QJsonObject ORVCADFloorSDCData::serializeConcreteAnchorJoint(const ConcreteAnchorJoint &joint) const
 {
-    QJsonObject json;
-    encoding::writeFields(joint, Fields::joint, json);
-    return json;
+    return writtenFields(joint, Fields::joint);
 }
 
 QJsonArray ORVCADFloorSDCData::serializeConcreteAnchorJoints(const std::vector<ConcreteAnchorJoint> &joints) const

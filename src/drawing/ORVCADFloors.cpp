@@ -1,9 +1,9 @@
 #include "drawing/ORVCADFloors.h"
 
+#include "drawing/DrawingFields.h"
 #include "drawing/DrawingKeys.h"
 #include "drawing/FloorElevation.h"
 #include "drawing/RecordSearch.h"
-#include "encoding/RecordFields.h"
 
 #include <QSet>
 
@@ -131,15 +131,9 @@ void ORVCADFloors::setCurrentFloor(const QString &name)
         m_currentFloor = floor;
 }
 
-QJsonObject ORVCADFloors::toJson() const
-{
-    QJsonObject json;
-    writeFields(*this, Fields::table, json);
-    return json;
-}
+QJsonObject ORVCADFloors::toJson() const { return writtenFields(*this, Fields::table); }
 
 ORVCADFloors *ORVCADFloors::fromJson(const QJsonObject &json)
 {
-    auto floors = std::make_unique<ORVCADFloors>();
-    return readFields(json, Fields::table, *floors) ? floors.release() : nullptr;
+    return drawing::readOrNull(std::make_unique<ORVCADFloors>(), Fields::table, json);
 }

@@ -7,7 +7,7 @@
 #include <QList>
 #include <QString>
 
-/** The storeys of one area, in the order in which they were added; nothing sorts them, and the rules below go by
+/** The floors of one area, in the order in which they were added; nothing sorts them, and the rules below go by
  *  elevation (m, equal within 1e-12), not by order, but where they say so.
  *  Its JSON form is the floors document; schema: schemas/floors.schema.json, docs/formats/floors.md.
  *

@@ -1,7 +1,7 @@
 #include "drawing/ORVCADLayerClassifyItem.h"
 
+#include "drawing/DrawingFields.h"
 #include "drawing/DrawingKeys.h"
-#include "encoding/RecordFields.h"
 
 #include <memory>
 
@@ -20,15 +20,9 @@ ORVCADLayerClassifyItem::ORVCADLayerClassifyItem(const QString &drawingName, int
     : m_drawingName(drawingName), m_elementType(elementType)
 {}
 
-QJsonObject ORVCADLayerClassifyItem::toJson() const
-{
-    QJsonObject json;
-    writeFields(*this, Fields::table, json);
-    return json;
-}
+QJsonObject ORVCADLayerClassifyItem::toJson() const { return writtenFields(*this, Fields::table); }
 
 ORVCADLayerClassifyItem *ORVCADLayerClassifyItem::fromJson(const QJsonObject &json)
 {
-    auto item = std::make_unique<ORVCADLayerClassifyItem>(QString(), 0);
-    return readFields(json, Fields::table, *item) ? item.release() : nullptr;
+    return drawing::readOrNull(std::make_unique<ORVCADLayerClassifyItem>(QString(), 0), Fields::table, json);
 }

@@ -43,15 +43,9 @@ void ORVCADLayerClassifyResult::clear()
     m_items.clear();
 }
 
-QJsonObject ORVCADLayerClassifyResult::toJson() const
-{
-    QJsonObject json;
-    writeFields(*this, Fields::table, json);
-    return json;
-}
+QJsonObject ORVCADLayerClassifyResult::toJson() const { return writtenFields(*this, Fields::table); }
 
 ORVCADLayerClassifyResult *ORVCADLayerClassifyResult::fromJson(const QJsonObject &json)
 {
-    auto result = std::make_unique<ORVCADLayerClassifyResult>();
-    return readFields(json, Fields::table, *result) ? result.release() : nullptr;
+    return drawing::readOrNull(std::make_unique<ORVCADLayerClassifyResult>(), Fields::table, json);
 }

@@ -4,19 +4,13 @@
 #include "encoding/GeometryInfo.h"
 #include "encoding/GeometryTextReader.h"
 #include "encoding/NumberText.h"
-#include "encoding/ORVCADJsonCGeometryObjOper.h"
+#include "encoding/PointText.h"
 
 namespace encoding {
 
 namespace {
 
 constexpr char16_t kNumberEnd = u',';
-
-const ORVCADJsonCGeometryObjOper &geometry()
-{
-    static const ORVCADJsonCGeometryObjOper converter;
-    return converter;
-}
 
 /** Calls take(number) for each piece between commas; the empty text has one piece. */
 template <typename Take> void readNumbers(QStringView text, Take &&take)
@@ -55,20 +49,19 @@ std::string ItemText<std::string>::read(QStringView value) { return value.toStri
 
 void ItemText<vks::CVec2<double>>::append(QString &record, const vks::CVec2<double> &value)
 {
-    record.append(geometry().getVector2dInfo(value));
+    appendPoint(record, value);
 }
-vks::CVec2<double> ItemText<vks::CVec2<double>>::read(QStringView value)
-{
-    return geometry().getVector2dInfo(value.toString());
-}
+vks::CVec2<double> ItemText<vks::CVec2<double>>::read(QStringView value) { return pointOf(value); }
 
 void ItemText<std::vector<vks::CVec2<double>>>::append(QString &record, const std::vector<vks::CVec2<double>> &value)
 {
-    record.append(geometry().getVector2dsInfo(value));
+    appendPoints(record, value);
 }
 std::vector<vks::CVec2<double>> ItemText<std::vector<vks::CVec2<double>>>::read(QStringView value)
 {
-    return geometry().getVector2dsInfo(value.toString());
+    std::vector<vks::CVec2<double>> points;
+    readPoints(value, points);
+    return points;
 }
 
 void ItemText<vks::CRefPtr<vks::CCurve2d>>::append(QString &record, const vks::CRefPtr<vks::CCurve2d> &value)
@@ -77,9 +70,7 @@ void ItemText<vks::CRefPtr<vks::CCurve2d>>::append(QString &record, const vks::C
 }
 vks::CRefPtr<vks::CCurve2d> ItemText<vks::CRefPtr<vks::CCurve2d>>::read(QStringView value)
 {
-    vks::CRefPtr<vks::CCurve2d> curve;
-    GeometryTextReader::reconstructCurve(value, curve);
-    return curve;
+    return GeometryTextReader::curveOf(value);
 }
 
 void ItemText<vks::CRefPtr<vks::CPolygon>>::append(QString &record, const vks::CRefPtr<vks::CPolygon> &value)
@@ -88,7 +79,7 @@ void ItemText<vks::CRefPtr<vks::CPolygon>>::append(QString &record, const vks::C
 }
 vks::CRefPtr<vks::CPolygon> ItemText<vks::CRefPtr<vks::CPolygon>>::read(QStringView value)
 {
-    return geometry().getPolyInfo(value.toString());
+    return GeometryTextReader::polygonOf(value.toString());
 }
 
 void ItemText<std::set<int>>::append(QString &record, const std::set<int> &value)

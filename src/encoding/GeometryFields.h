@@ -1,19 +1,21 @@
 #pragma once
 
 #include "encoding/GeometryInfo.h"
-#include "encoding/ORVCADJsonCGeometryObjOper.h"
+#include "encoding/GeometryTextReader.h"
+#include "encoding/PointText.h"
 #include "encoding/RecordFields.h"
 
 /** Geometry as a value in the rows of RecordFields.h, in one of its two text forms. */
 namespace encoding {
 
-/** The short texts of docs/formats/geometry-text.md, null as the empty text. A bad or missing text reads as null. */
+/** The short texts of docs/formats/geometry-text.md, null as the empty text. A bad or missing text reads as null, but
+ *  a polygon that can be built and is not valid as that polygon. */
 template <> struct ValueKind<vks::CRefPtr<vks::CCurve2d>>
 {
     static QJsonValue toValue(const vks::CRefPtr<vks::CCurve2d> &curve) { return getCurveInfo(curve); }
     static vks::CRefPtr<vks::CCurve2d> fromValue(const QJsonValue &json, const vks::CRefPtr<vks::CCurve2d> & /*none*/)
     {
-        return ORVCADJsonCGeometryObjOper().getCurveInfo(json.toString());
+        return GeometryTextReader::curveOf(json.toString());
     }
 };
 
@@ -22,20 +24,17 @@ template <> struct ValueKind<vks::CRefPtr<vks::CPolygon>>
     static QJsonValue toValue(const vks::CRefPtr<vks::CPolygon> &polygon) { return getPolyInfo(polygon); }
     static vks::CRefPtr<vks::CPolygon> fromValue(const QJsonValue &json, const vks::CRefPtr<vks::CPolygon> & /*none*/)
     {
-        return ORVCADJsonCGeometryObjOper().getPolyInfo(json.toString());
+        return GeometryTextReader::polygonOf(json.toString());
     }
 };
 
 /** A bad or missing text reads as the origin. */
 template <> struct ValueKind<vks::CVec2<double>>
 {
-    static QJsonValue toValue(const vks::CVec2<double> &point)
-    {
-        return ORVCADJsonCGeometryObjOper().getVector2dInfo(point);
-    }
+    static QJsonValue toValue(const vks::CVec2<double> &point) { return pointText(point); }
     static vks::CVec2<double> fromValue(const QJsonValue &json, const vks::CVec2<double> & /*none*/)
     {
-        return ORVCADJsonCGeometryObjOper().getVector2dInfo(json.toString());
+        return pointOf(json.toString());
     }
 };
 

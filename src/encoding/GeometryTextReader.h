@@ -60,4 +60,10 @@ public:
     static bool reconstructPoly_Simplified_Normal_StringToDouble(const QString &text, std::vector<Vertex> &vertices);
     /** The kernel's own text. */
     static bool reconstructPoly_WithAsString(const QString &text, Polygon &polygon);
+
+    /** What reconstructCurve makes of a text; null when it is bad. */
+    static Curve curveOf(QStringView text);
+    /** What reconstructPoly makes of a text; null only when nothing can be built. A polygon that is built and not valid
+     *  is given all the same, and nothing tells so. */
+    static Polygon polygonOf(const QString &text);
 };

@@ -1,6 +1,6 @@
 #include "encoding/JsonDocumentFile.h"
 
-#include "encoding/KeyLiteral.h"
+#include "encoding/LayerFileKeys.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -8,11 +8,9 @@
 
 namespace {
 
-using namespace encoding; // for ""_key
+namespace layerfile = encoding::layerfile;
+using encoding::operator""_key;
 
-constexpr QLatin1String kLayerName = "LayerName"_key;
-constexpr QLatin1String kEdoIdList = "EdoIDList"_key;
-constexpr QLatin1String kEdoId = "EdoID"_key;
 constexpr QLatin1String kFileEnding = ".json"_key;
 
 constexpr int kDone = 0;
@@ -57,7 +55,7 @@ QJsonObject layerNamed(const QString &name, const QJsonArray &layers)
     QJsonObject layer;
     for (const QJsonValue entry : layers) {
         layer = entry.toObject();
-        if (layer.value(kLayerName).toString() == name)
+        if (layer.value(layerfile::layerName).toString() == name)
             break;
     }
     return layer; // meant: a name that is not there gives the last layer
@@ -69,7 +67,7 @@ bool readIds(const QJsonArray &entries, QVector<int> &ids)
         return false;
     ids.clear();
     for (const QJsonValue entry : entries)
-        ids.append(entry.toObject().value(kEdoId).toInt(-1));
+        ids.append(entry.toObject().value(layerfile::edoId).toInt(-1));
     return true;
 }
 
@@ -111,7 +109,7 @@ int readLayerEdoIds(const QString &path, const QString &layerName, QString &mess
         return kFailed;
     }
     const QJsonArray layers = document.object().value(layerKeyOf(path)).toArray();
-    if (!readIds(layerNamed(layerName, layers).value(kEdoIdList).toArray(), ids)) {
+    if (!readIds(layerNamed(layerName, layers).value(layerfile::edoIdList).toArray(), ids)) {
         message = QStringLiteral("no datas");
         return kFailed;
     }

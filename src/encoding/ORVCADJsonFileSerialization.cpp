@@ -1,6 +1,7 @@
 #include "encoding/ORVCADJsonFileSerialization.h"
 
 #include "encoding/FlatRecord.h"
+#include "encoding/JsonMembers.h"
 
 #include <QJsonArray>
 #include <QJsonValue>
@@ -11,29 +12,16 @@
 
 namespace {
 
-using Member = std::pair<QString, QJsonValue>;
-
 QString keyName(int i) { return QStringLiteral("key_%1").arg(i); }
 QString valueName(int i) { return QStringLiteral("value_%1").arg(i); }
 
-/** An object of many members. One that is not put behind all others costs as much as there are members already. */
-QJsonObject objectOf(std::vector<Member> &members)
-{
-    std::stable_sort(members.begin(), members.end(),
-                     [](const Member &a, const Member &b) { return a.first < b.first; });
-    QJsonObject object;
-    for (const Member &member : members)
-        object.insert(member.first, member.second);
-    return object;
-}
-
 QJsonObject largeRecordObject(const QString &record)
 {
-    std::vector<Member> members;
+    std::vector<encoding::JsonMember> members;
     encoding::forEachItem(record, [&members](QStringView key, QStringView value) {
         members.emplace_back(key.toString(), value.toString());
     });
-    return objectOf(members);
+    return encoding::objectOf(std::move(members));
 }
 
 /** Of two items of one key the later one counts. */
@@ -110,13 +98,13 @@ ORVCADJsonFileSerialization::~ORVCADJsonFileSerialization() = default;
 
 void ORVCADJsonFileSerialization::writeRecordMap(const QString &key, QMap<QString, QStringList> &records)
 {
-    std::vector<Member> members;
+    std::vector<encoding::JsonMember> members;
     int i = 0;
     for (auto entry = records.constBegin(); entry != records.constEnd(); ++entry, ++i) {
         members.emplace_back(keyName(i), recordObject(entry.key()));
         members.emplace_back(valueName(i), recordArray(entry.value()));
     }
-    m_root.insert(key, objectOf(members));
+    m_root.insert(key, encoding::objectOf(std::move(members)));
 }
 
 void ORVCADJsonFileSerialization::writeRecordList(const QString &key, const QStringList &records)

@@ -159,8 +159,7 @@ bool ORVCADXmlFileSerialization::parse()
     const QString text = encoding::decodedXml(m_content.toLocal8Bit());
     if (!encoding::isSafeXml(text) || !m_document.setContent(text, false) || m_document.isNull())
         return false;
-    m_root = m_document.documentElement();
-    for (QDomNode child = m_root.firstChild(); !child.isNull(); child = child.nextSibling())
+    for (QDomNode child = m_document.documentElement().firstChild(); !child.isNull(); child = child.nextSibling())
         if (child.isElement())
             m_elementsByName.insert(child.nodeName(), child.toElement());
     return true;

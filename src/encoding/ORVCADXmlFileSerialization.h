@@ -48,6 +48,5 @@ private:
     const bool m_isNew;
     encoding::XmlTextWriter m_written; // children of the root; a QDomDocument could not keep attributes in order
     QDomDocument m_document;           // what was parsed
-    QDomElement m_root;
     QMap<QString, QDomElement> m_elementsByName; // children of the parsed root
 };

@@ -24,7 +24,7 @@
  *              field(key::id, &Hole::m_id, Flow::WriteOnly)); // meant: a hole in a reply is a new one
  *      };
  *
- *  and calls writeFields(*this, Fields::table, json) and readFields(json, Fields::table, record). */
+ *  and calls writtenFields(*this, Fields::table) and readFields(json, Fields::table, record). */
 namespace encoding {
 
 /** Which of the two directions a row takes part in. */
@@ -237,12 +237,36 @@ template <typename Record, typename Table> void writeFields(const Record &record
     });
 }
 
+/** A new object with those rows. */
+template <typename Record, typename Table> QJsonObject writtenFields(const Record &record, const Table &table)
+{
+    QJsonObject json;
+    writeFields(record, table, json);
+    return json;
+}
+
 /** Reads every row that is not write-only, in order.
  *  @return false when a required key is missing; rows behind it are not read then, those before it are */
 template <typename Table, typename Record> bool readFields(const QJsonObject &json, const Table &table, Record &record)
 {
     const auto readRow = [&](const auto &row) { return row.flow == Flow::WriteOnly || row.read(json, record); };
     return std::apply([&](const auto &...rows) { return (readRow(rows) && ...); }, table);
+}
+
+/** The same for a record that a caller may not have: null does nothing. */
+template <typename Table, typename Record>
+void readFieldsInto(Record *target, const Table &table, const QJsonObject &json)
+{
+    if (target)
+        readFields(json, table, *target);
+}
+
+/** A fresh record, read; behind a required key that is missing it keeps its defaults. */
+template <typename Record, typename Table> Record readRecord(const QJsonObject &json, const Table &table)
+{
+    Record record;
+    readFields(json, table, record);
+    return record;
 }
 
 } // namespace encoding

@@ -122,12 +122,7 @@ struct DoubleReadAsInt
  *  is no object reads as one without keys. */
 template <typename Fields> struct Nested
 {
-    template <typename T> static QJsonValue toValue(const T &record)
-    {
-        QJsonObject json;
-        writeFields(record, Fields::table, json);
-        return json;
-    }
+    template <typename T> static QJsonValue toValue(const T &record) { return writtenFields(record, Fields::table); }
     template <typename T> static T fromValue(const QJsonValue &json, T record)
     {
         readFields(json.toObject(), Fields::table, record);

@@ -2,8 +2,6 @@
 
 #include <QXmlInputSource>
 
-#include <iterator>
-
 namespace encoding {
 
 namespace {

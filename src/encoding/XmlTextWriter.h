@@ -2,6 +2,7 @@
 
 #include "ORVCADModelDataExport.h"
 
+#include <QByteArray>
 #include <QHash>
 #include <QString>
 #include <QStringView>

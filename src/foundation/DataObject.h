@@ -10,6 +10,13 @@
 
 namespace gp {
 
+/** A tree of its own, told by the tag, for objects that stand in several trees. */
+template <typename Tag, typename T> class My : public TreeNode<T, 0>
+{
+public:
+    using TreeNode<T, 0>::TreeNode;
+};
+
 /** The side that an object shows in a second tree. Its Adapter is the node there, and a base of Owner. */
 template <typename Owner> class Hook
 {

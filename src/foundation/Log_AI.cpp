@@ -13,15 +13,15 @@ std::atomic<qint64> g_logs{0}; // of all trees, which may belong to several thre
 
 struct Log_AI::Record
 {
-    QUuid id = QUuid::createUuid();
+    QUuid id;
     QString type;
     QString descript;
+    double confidenceLevel;
     QMap<QString, QVariant> values;
-    double confidenceLevel = 0.0;
 };
 
 Log_AI::Log_AI(const QString &type, const QString &descript, double confidenceLevel, Object_AI *parent)
-    : Object_AI(parent), m_record(new Record{QUuid::createUuid(), type, descript, {}, confidenceLevel})
+    : Object_AI(parent), m_record(new Record{QUuid::createUuid(), type, descript, confidenceLevel, {}})
 {
     ++g_logs;
 }

@@ -1,12 +1,11 @@
 #pragma once
 
 #include "ORVCADModelDataExport.h"
-#include "foundation/Object_AI.h"
 #include "platform/geometry/CBox2.h"
 #include "platform/geometry/CCurve2d.h"
 #include "platform/geometry/CPolygon.h"
 #include "slab/AxisGrid_Sample.h"
-#include "slab/ORVCADBoardLocalModel_Sample.h"
+#include "slab/BoardLocalModel.h"
 
 #include <QString>
 #include <QUuid>
@@ -260,5 +259,3 @@ public:
 };
 
 // NOLINTEND(performance-noexcept-move-constructor)
-
-#include "slab/BoardLocalModelBars.h" // IWYU pragma: keep

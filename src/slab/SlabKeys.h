@@ -1,6 +1,6 @@
 #pragma once
 
-#include "encoding/KeyLiteral.h"
+#include "encoding/RecordKey.h"
 
 /** Names that slab models have in JSON. Meant: they keep their spelling. */
 namespace slab::key {

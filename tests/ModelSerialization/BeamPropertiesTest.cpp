@@ -1,13 +1,9 @@
 #include "ModelSerialization/BeamProperties.h"
-#include "ModelSerialization/SeatProperties.h"
 
+#include "ModelSerialization/PropertyRows.h"
 #include "beam/BeamEntInfo.h"
 #include "beam/BeamSegmentInfo.h"
 #include "beam/LinkBeamEntInfo.h"
-#include "beam/ORVBeamSDCSeatInfoModel.h"
-#include "platform/embedded/HBXPropertyCatalogue.h"
-
-#include <QStringList>
 
 #include <gtest/gtest.h>
 
@@ -15,8 +11,11 @@
 
 namespace {
 
-using beam::SeatStep;
 using beam::WriteStep;
+using propertyrows::isKnown;
+using propertyrows::kOffsets;
+using propertyrows::kSizes;
+using propertyrows::rowsOf;
 
 constexpr WriteStep kEntSteps[] = {WriteStep::AxisOffset, WriteStep::Type,       WriteStep::SpanCount,
                                    WriteStep::Section,    WriteStep::BarsOfKind, WriteStep::CommonBars};
@@ -33,18 +32,6 @@ std::unique_ptr<BaseBeamEntInfo> entOf(qint64 type)
     return ent;
 }
 
-/** Name, kind and flag of each row. */
-QStringList rowsOf(const std::vector<PropertyText> &texts)
-{
-    QStringList rows;
-    for (const PropertyText &text : texts)
-        rows.append(QString("%1 %2 %3")
-                        .arg(QString::fromStdWString(text.name))
-                        .arg(static_cast<int>(text.type))
-                        .arg(text.flag ? "true" : "false"));
-    return rows;
-}
-
 QStringList entRows(qint64 type)
 {
     QStringList rows;
@@ -53,8 +40,6 @@ QStringList entRows(qint64 type)
     return rows;
 }
 
-const QStringList kOffsets{"AxisOffset 2 true", "AxisOffset_JZBZ 2 true"};
-const QStringList kSizes{"SectionWidth 1 true", "SectionHeight 1 true"};
 const QStringList kSpannedBars{"TopThroughBar 0 true", "BottomThroughBar 0 true", "SideBar 0 true"};
 const QStringList kLinkBars{"TopHoriBar 0 true", "BottomHoriBar 0 true", "SideBarAL 0 true"};
 const QStringList kCommonBars{"HoopBar 0 true", "Limb 0 true", "TieBar 0 true"};
@@ -112,29 +97,6 @@ INSTANTIATE_TEST_SUITE_P(Numbers, BeamNumberTextTest,
                                            NumberCase{1234.5678, "1234.57"}, NumberCase{1.5e6, "1.5e+06"},
                                            NumberCase{-0.00001, "-1e-05"}));
 
-QStringList seatRows(SeatStep step) { return rowsOf(beam::seatPropertyTexts(ORVBeamSDCSeatInfoModel(), step)); }
-
-TEST(SeatPropertiesTest, stepsWriteTheirRows)
-{
-    EXPECT_EQ(seatRows(SeatStep::FoundationHeight), QStringList{"Height 1 true"});
-    EXPECT_EQ(seatRows(SeatStep::FoundationPlace), (QStringList{"TopElev 0 true", "BottomElev 0 true"}));
-    EXPECT_EQ(seatRows(SeatStep::PileKind), (QStringList{"Type1 1 false", "TopElev 0 false"}));
-    EXPECT_EQ(seatRows(SeatStep::PileWidth), QStringList{"SectionWidth 1 false"});
-    EXPECT_EQ(seatRows(SeatStep::PileDepth), QStringList{"SectionHeight 1 false"});
-    EXPECT_EQ(seatRows(SeatStep::PileHeight), QStringList{"Height 1 false"});
-    EXPECT_EQ(seatRows(SeatStep::PilePlace), QStringList{"TopElev 0 true"});
-    EXPECT_EQ(seatRows(SeatStep::TieBeamSection), kSizes);
-    EXPECT_EQ(seatRows(SeatStep::TieBeamPlace),
-              QStringList({"StartPtTopElev 0 true", "EndPtTopElev 0 true"}) + kOffsets);
-}
-
-// --- the embedded host has all of them
-
-bool isKnown(qint64 type, const std::wstring &name)
-{
-    return hbx::embedded::HBXPropertyCatalogue::instance().find(type, std::wstring_view(name), true) != nullptr;
-}
-
 TEST(BeamPropertiesTest, hostKnowsAllThatAreReadAndWritten)
 {
     for (const qint64 type : {15, 17, 47}) {
@@ -151,33 +113,5 @@ TEST(BeamPropertiesTest, hostKnowsAllThatAreReadAndWritten)
     }
     EXPECT_TRUE(isKnown(15, L"SpanCount") && isKnown(47, L"SpanCount"));
 }
-
-struct SeatCase
-{
-    qint64 type;
-    std::vector<SeatStep> steps;
-    bool hasOutline;
-};
-class SeatCatalogueTest : public ::testing::TestWithParam<SeatCase>
-{};
-
-TEST_P(SeatCatalogueTest, hostKnowsAllThatAreWritten)
-{
-    for (const SeatStep step : GetParam().steps)
-        for (const PropertyText &text : beam::seatPropertyTexts(ORVBeamSDCSeatInfoModel(), step))
-            EXPECT_TRUE(isKnown(GetParam().type, text.name)) << QString::fromStdWString(text.name).toStdString();
-    for (const wchar_t *name : {L"SectionTypeID", L"SectionPoly", L"InsertPt"})
-        EXPECT_TRUE(!GetParam().hasOutline || isKnown(GetParam().type, name));
-}
-INSTANTIATE_TEST_SUITE_P(Types, SeatCatalogueTest,
-                         ::testing::Values(SeatCase{52, {SeatStep::FoundationHeight, SeatStep::FoundationPlace}, false},
-                                           SeatCase{53, {SeatStep::FoundationHeight, SeatStep::FoundationPlace}, false},
-                                           SeatCase{82, {SeatStep::FoundationHeight}, true},
-                                           SeatCase{83, {SeatStep::FoundationHeight}, true},
-                                           SeatCase{54,
-                                                    {SeatStep::PileKind, SeatStep::PileWidth, SeatStep::PileDepth,
-                                                     SeatStep::PileHeight, SeatStep::PilePlace},
-                                                    true},
-                                           SeatCase{18, {SeatStep::TieBeamSection, SeatStep::TieBeamPlace}, true}));
 
 } // namespace

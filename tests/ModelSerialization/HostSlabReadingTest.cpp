@@ -2,9 +2,8 @@
 
 #include "ModelSerialization/SlabReaderFixture.h"
 #include "beam/SeatHost.h"
-#include "embedded/ExchangeDocuments.h"
-#include "platform/embedded/HBXProject.h"
 #include "platform/host/IHBXCustomPointSolidShape.h"
+#include "support/BuildingHost.h"
 
 namespace {
 
@@ -202,12 +201,8 @@ TEST_F(HostSlabReadingTest, beamWithoutAnAxisComesInWithoutALine)
 
 TEST_F(HostSlabReadingTest, netTakesOutlineAxesAndRemark)
 {
-    hbx::embedded::ProjectError problem;
-    const auto project =
-        hbx::embedded::HBXProject::fromJson(exchangetest::building("made-building"), "made-building.json", problem);
-    ASSERT_TRUE(project);
-    ASSERT_TRUE(
-        Service::hbx2local(project->service()->model(), "主楼", "第1层", topElev, btmElev, &local, Service::AxisNets));
+    const BuildingHost host("made-building");
+    ASSERT_TRUE(Service::hbx2local(&host.model(), "主楼", "第1层", topElev, btmElev, &local, Service::AxisNets));
     const Model::AxisNet &net = only(local.axisNet());
     EXPECT_EQ(net.name, "ZW-1");
     EXPECT_EQ(net.stateDescript, "主轴网");
@@ -230,12 +225,8 @@ TEST_F(HostSlabReadingTest, netTakesOutlineAxesAndRemark)
 
 TEST_F(HostSlabReadingTest, secondGroupCountsWhereTheFirstIsEmptyAndFramesTurnAxes)
 {
-    hbx::embedded::ProjectError problem;
-    const auto project =
-        hbx::embedded::HBXProject::fromJson(exchangetest::building("made-building"), "made-building.json", problem);
-    ASSERT_TRUE(project);
-    ASSERT_TRUE(Service::hbx2local(project->service()->model(), "附楼 Annex", "Ground", topElev, btmElev, &local,
-                                   Service::AxisNets));
+    const BuildingHost host("made-building");
+    ASSERT_TRUE(Service::hbx2local(&host.model(), "附楼 Annex", "Ground", topElev, btmElev, &local, Service::AxisNets));
     const Model::AxisNet &net = only(local.axisNet());
     expectBox(net.surface->Box(), 19000, -1000, 21000, 7000);
     const AxisGridHalf &u = net.axisGrid->gridU;

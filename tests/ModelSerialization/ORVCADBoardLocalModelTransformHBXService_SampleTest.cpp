@@ -1,9 +1,7 @@
 #include "ModelSerialization/ORVCADBoardLocalModelTransformHBXService_Sample.h"
 
 #include "ModelSerialization/SlabWriterFixture.h"
-#include "platform/embedded/HBXProject.h"
-
-#include <QFile>
+#include "support/BuildingHost.h"
 
 #include <set>
 
@@ -165,17 +163,9 @@ protected:
     using Model = ORVCADBoardLocalModel_Sample;
     using Access = ORVCADBoardLocalModelTestAccess;
 
-    void SetUp() override
-    {
-        QFile file(QStringLiteral(ORVCAD_TEST_DATA "/buildings/%1.json").arg(GetParam().building));
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        hbx::embedded::ProjectError error;
-        project = hbx::embedded::HBXProject::fromJson(file.readAll(), file.fileName(), error);
-        ASSERT_TRUE(project) << error.text().toStdString();
-    }
     QList<IHBXElementDrawObj *> objects(const char *floorName, qint64 type)
     {
-        IHBXRegion *region = project->service()->model()->regions()->find(QString::fromUtf8(GetParam().region));
+        IHBXRegion *region = host.model().regions()->find(QString::fromUtf8(GetParam().region));
         QList<IHBXElementDrawObj *> out;
         region->floors()->find(QString::fromUtf8(floorName))->drawObjsOfTypes(out, {type}, true);
         return out;
@@ -209,7 +199,7 @@ protected:
         }
     }
 
-    std::unique_ptr<hbx::embedded::HBXProject> project;
+    BuildingHost host{GetParam().building};
     Model local;
 };
 
@@ -220,14 +210,14 @@ TEST_P(SlabFloorCopyTest, everySlabArrivesAsItWas)
     ASSERT_TRUE(objects(GetParam().to, GetParam().type).isEmpty());
     for (IHBXElementDrawObj *original : originals)
         addCopyOf(original);
-    const auto ids = Service::local2hbx(&local, project->service(), nullptr, QString::fromUtf8(GetParam().region),
+    const auto ids = Service::local2hbx(&local, host.service(), nullptr, QString::fromUtf8(GetParam().region),
                                         QString::fromUtf8(GetParam().to));
     ASSERT_EQ(ids.size(), static_cast<std::size_t>(originals.size()));
     for (const Model::Object *object : local.findObjects(Model::Object::BoardKind | Model::Object::RaftKind)) {
         const auto told = std::find_if(ids.begin(), ids.end(),
                                        [object](const auto &entry) { return entry.second == object->recongnizedID; });
         ASSERT_NE(told, ids.end());
-        IHBXElementDrawObj *copy = project->service()->model()->drawObjects()->drawObjById(told->first);
+        IHBXElementDrawObj *copy = host.model().drawObjects()->drawObjById(told->first);
         const auto all = local.objects();
         const auto place = std::find(all.begin(), all.end(), object) - all.begin();
         IHBXElementDrawObj *original = originals[static_cast<int>(place)];
@@ -248,12 +238,8 @@ INSTANTIATE_TEST_SUITE_P(Buildings, SlabFloorCopyTest,
 TEST(SlabHolesOfBuildingTest, holesOfAllKindsArriveInTheirSlabs)
 {
     using Model = ORVCADBoardLocalModel_Sample;
-    QFile file(QStringLiteral(ORVCAD_TEST_DATA "/buildings/made-building.json"));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    hbx::embedded::ProjectError error;
-    const auto project = hbx::embedded::HBXProject::fromJson(file.readAll(), file.fileName(), error);
-    ASSERT_TRUE(project) << error.text().toStdString();
-    IHBXModel &model = *project->service()->model();
+    const BuildingHost host("made-building");
+    IHBXModel &model = host.model();
     const QString region = QStringLiteral("主楼");
     QList<IHBXElementDrawObj *> originals;
     model.regions()->find(region)->floors()->find(QStringLiteral("第1层"))->drawObjsOfTypes(originals, {19, 24}, true);
@@ -273,7 +259,7 @@ TEST(SlabHolesOfBuildingTest, holesOfAllKindsArriveInTheirSlabs)
         holeCount += original->type() == 24 ? 1 : 0;
     }
     EXPECT_EQ(holeCount, 5);
-    const auto ids = Service::local2hbx(&local, project->service(), nullptr, region, QStringLiteral("第2层"));
+    const auto ids = Service::local2hbx(&local, host.service(), nullptr, region, QStringLiteral("第2层"));
     EXPECT_EQ(ids.size(), 8U);
     for (const auto &[id, uuid] : ids) {
         IHBXElementDrawObj *copy = model.drawObjects()->drawObjById(id);
@@ -298,19 +284,15 @@ protected:
 
     SlabBarsOfBuildingTest()
     {
-        QFile file(QStringLiteral(ORVCAD_TEST_DATA "/buildings/precast-hall.json"));
-        file.open(QIODevice::ReadOnly);
-        hbx::embedded::ProjectError error;
-        project = hbx::embedded::HBXProject::fromJson(file.readAll(), file.fileName(), error);
-        project->setCurrent("Hall", "Ground floor");
-        project->service()->curState()->floor()->drawObjsOfTypes(hostSlabs, {19}, true);
+        host.setCurrent("Hall", "Ground floor");
+        host.service()->curState()->floor()->drawObjsOfTypes(hostSlabs, {19}, true);
         for (IHBXElementDrawObj *slab : qAsConst(hostSlabs)) {
             vks::CBox2<double> box;
             boxTree->add(slab->shape()->box(box, true), slab);
         }
     }
 
-    std::unique_ptr<hbx::embedded::HBXProject> project;
+    BuildingHost host{"precast-hall"};
     QList<IHBXElementDrawObj *> hostSlabs;
     std::unique_ptr<dwgx::DWGXBaseBoxTree> boxTree{dwgx::DWGXBaseBoxTree::createObject()};
     Model local;
@@ -324,12 +306,12 @@ TEST_F(SlabBarsOfBuildingTest, barInEachSlabIsLinkedWithIt)
         bar->direction = {1, 0};
         bar->barInfo = "C10@150";
     }
-    const auto ids = Service::local2hbx(&local, project->service(), boxTree.get(), "Hall", "Ground floor");
+    const auto ids = Service::local2hbx(&local, host.service(), boxTree.get(), "Hall", "Ground floor");
     ASSERT_EQ(ids.size(), 29U);
     auto bar = ids.begin(); // ids count up
     for (IHBXElementDrawObj *slab : qAsConst(hostSlabs)) {
         QString links;
-        IHBXElementDrawObj *object = project->service()->model()->drawObjects()->drawObjById((bar++)->first);
+        IHBXElementDrawObj *object = host.model().drawObjects()->drawObjById((bar++)->first);
         object->properties()->asString(links, std::wstring(L"ReinforcementInfo"));
         EXPECT_TRUE((';' + links).contains(QStringLiteral(";%1,1;").arg(slab->id()))) << links.toStdString();
         slab->properties()->asString(links, std::wstring(L"ReinforcementInfo"));
@@ -349,11 +331,11 @@ TEST_F(SlabBarsOfBuildingTest, negativeBarDependsOnTheSlabUnderIt)
         bar->rightStretchLength = 300;
         bar->barInfo = "C8@200";
     }
-    const auto ids = Service::local2hbx(&local, project->service(), boxTree.get(), "Hall", "Ground floor");
+    const auto ids = Service::local2hbx(&local, host.service(), boxTree.get(), "Hall", "Ground floor");
     ASSERT_EQ(ids.size(), 29U);
     auto bar = ids.begin();
     for (IHBXElementDrawObj *slab : qAsConst(hostSlabs)) {
-        IHBXElementDrawObj *object = project->service()->model()->drawObjects()->drawObjById((bar++)->first);
+        IHBXElementDrawObj *object = host.model().drawObjects()->drawObjById((bar++)->first);
         EXPECT_EQ(object->properties()->asInt(std::wstring(L"DependSlabID")), slab->id());
     }
 }

@@ -4,21 +4,10 @@
 #include "beam/BeamEntInfo.h"
 #include "beam/BeamModelDataInfo.h"
 #include "beam/LinkBeamEntInfo.h"
-#include "platform/embedded/HBXProject.h"
 #include "platform/host/HBXModelException.h"
 #include "platform/host/IHBXCustomLineSolidShape.h"
 #include "platform/host/IHBXCustomPointSolidShape.h"
-#include "platform/host/IHBXDrawObjs.h"
-#include "platform/host/IHBXElement.h"
-#include "platform/host/IHBXElementDrawObj.h"
-#include "platform/host/IHBXElements.h"
-#include "platform/host/IHBXFloor.h"
-#include "platform/host/IHBXFloors.h"
-#include "platform/host/IHBXModel.h"
-#include "platform/host/IHBXProperties.h"
-#include "platform/host/IHBXRegion.h"
-#include "platform/host/IHBXRegions.h"
-#include "platform/host/IHBXService.h"
+#include "support/HouseFixture.h"
 #include "support/RecordingHost.h"
 
 #include <gmock/gmock.h>
@@ -26,10 +15,8 @@
 #include <memory>
 #include <stdexcept>
 
-inline void PrintTo(const QString &text, std::ostream *out) { *out << '"' << text.toStdString() << '"'; }
-
-/** A recorded host with the region "House", the floor "Level 1" of code "1" and what a test puts onto it. */
-class ReconstructionFixture : public ::testing::Test
+/** A recorded house, and beams of the local model to be made in it. */
+class ReconstructionFixture : public HouseFixture
 {
 protected:
     ReconstructionFixture() { load(QByteArray()); }
@@ -37,13 +24,7 @@ protected:
     /** Starts anew with some elements. */
     void load(const QByteArray &elements)
     {
-        const QByteArray building =
-            R"({"format": "hbx-project", "version": 1, "name": "test", "regions": [{"name": "House",
-                "floors": [{"name": "Level 1", "code": "1", "bottomElev": 0, "height": 3, "elements": [)" +
-            elements + "]}]}]}";
-        hbx::embedded::ProjectError error;
-        project = hbx::embedded::HBXProject::fromJson(building, "test.json", error);
-        ASSERT_TRUE(project) << error.text().toStdString();
+        HouseFixture::load(elements);
         host = std::make_unique<RecordingHost>(*project->service());
         service = std::make_unique<ORVCADBeamLocalModel2HBXService>(host->service());
     }
@@ -116,12 +97,7 @@ protected:
         return beam;
     }
 
-    IHBXModel &model() const { return *project->service()->model(); }
-    IHBXFloor *floor() const { return model().regions()->find("House")->floors()->findByCode("1"); }
-    IHBXElement *find(const QString &name = "KL1") const
-    {
-        return model().elements()->findElement(name, floor()->id(), -1, true, 0);
-    }
+    IHBXElement *find(const QString &name = "KL1") const { return HouseFixture::find(name); }
     /** All draw objects but those of units, in the order in which they were made. */
     QList<IHBXElementDrawObj *> placed() const
     {
@@ -169,7 +145,6 @@ protected:
     /** Calls without the look-ups that stand in front of every reconstruction. */
     QStringList writes() const { return host->calls().filter(QRegExp("^(set|refresh|create|add|link)")); }
 
-    std::unique_ptr<hbx::embedded::HBXProject> project;
     std::unique_ptr<RecordingHost> host;
     std::unique_ptr<ORVCADBeamLocalModel2HBXService> service;
 };

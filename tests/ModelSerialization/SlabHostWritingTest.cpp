@@ -1,54 +1,10 @@
 #include "ModelSerialization/SlabHostWriting.h"
 
 #include "ModelSerialization/SlabWriterFixture.h"
-#include "platform/geometry/KernelTolerance.h"
-
-#include <limits>
 
 namespace {
 
 using slabhost::buildOneHBXElement;
-
-TEST(SlabHostTruncatedTest, fractionIsCutTowardsZero)
-{
-    EXPECT_EQ(slabhost::truncated(120.9), 120);
-    EXPECT_EQ(slabhost::truncated(-120.9), -120);
-    EXPECT_EQ(slabhost::truncated(0.0), 0);
-}
-
-TEST(SlabHostTruncatedTest, numberBeyondTheRangeIsItsEndAndNoNumberIsZero)
-{
-    EXPECT_EQ(slabhost::truncated(1e300), std::numeric_limits<int>::max());
-    EXPECT_EQ(slabhost::truncated(-1e300), std::numeric_limits<int>::min());
-    EXPECT_EQ(slabhost::truncated(std::numeric_limits<double>::quiet_NaN()), 0);
-}
-
-/** Sets the kernel's tolerance for one test. */
-class ToleranceScope
-{
-public:
-    explicit ToleranceScope(double tolerance) : m_before(vks::g_DistEpsilon) { vks::g_DistEpsilon = tolerance; }
-    ~ToleranceScope() { vks::g_DistEpsilon = m_before; }
-    ToleranceScope(const ToleranceScope &) = delete;
-    ToleranceScope &operator=(const ToleranceScope &) = delete;
-
-private:
-    double m_before;
-};
-
-TEST(SlabHostLengthToleranceTest, kernelTellsTheTolerance)
-{
-    const ToleranceScope scope(0.002);
-    EXPECT_EQ(slabhost::lengthTolerance(5e12), 0.002);
-}
-
-TEST(SlabHostLengthToleranceTest, withoutOneTheSizeTellsIt)
-{
-    const ToleranceScope scope(0.0);
-    EXPECT_EQ(slabhost::lengthTolerance(0.5), 1e-12);
-    EXPECT_DOUBLE_EQ(slabhost::lengthTolerance(3000.0), 3e-9);
-    EXPECT_EQ(slabhost::lengthTolerance(-3000.0), 1e-12);
-}
 
 class BuildOneHBXElementTest : public SlabWriterFixture
 {

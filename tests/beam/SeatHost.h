@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/geometry/CLine2d.h"
+#include "geometry/KernelShapes.h"
 #include "platform/host/HBXModelException.h"
 #include "platform/host/IHBXCustomLineSolidShape.h"
 #include "platform/host/IHBXCustomPointSolidShape.h"
@@ -29,12 +29,7 @@ namespace seathost {
 using Curve = vks::CRefPtr<vks::CCurve2d>;
 using Polygon = vks::CRefPtr<vks::CPolygon>;
 
-inline Polygon rectangle(double x, double y, double width, double height)
-{
-    const auto text =
-        QStringLiteral("POLYGON((%1 %2, %3 %2, %3 %4, %1 %4, %1 %2))").arg(x).arg(y).arg(x + width).arg(y + height);
-    return vks::CPolygon::LoadFromString(text.toLatin1().constData());
-}
+using shapes::rectangle;
 
 /** Properties that are there are those that have a value; each question is written down. */
 class Properties : public IHBXProperties

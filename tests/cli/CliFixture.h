@@ -1,15 +1,22 @@
 #pragma once
 
+#include "JsonTexts.h"
+#include "OpeningReplies.h"
+
 #include <QDir>
-#include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+
+#include <functional>
+#include <vector>
+
+using clitest::with;
+using clitest::without;
+using openingtest::elementMember;
+using openingtest::placedMember;
 
 /** Runs the command in a directory of its own. */
 class CliFixture : public ::testing::Test
@@ -46,12 +53,7 @@ protected:
 
     QString path(const QString &name) const { return QDir(m_directory.path()).filePath(name); }
     bool exists(const QString &name) const { return QFile::exists(path(name)); }
-    QByteArray read(const QString &name) const
-    {
-        QFile file(path(name));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
-        return file.readAll();
-    }
+    QByteArray read(const QString &name) const { return clitest::fileContent(path(name)); }
     QJsonDocument readJson(const QString &name) const { return QJsonDocument::fromJson(read(name)); }
     void write(const QString &name, const QByteArray &bytes) const
     {
@@ -72,16 +74,32 @@ protected:
         EXPECT_TRUE(result.error()["message"].toString().startsWith(file)) << result.err.toStdString();
         return result.error();
     }
-    /** An object with a member set, or without it. */
-    static QJsonObject with(QJsonObject object, const QString &key, const QJsonValue &value)
+    /** What a file holds, and how a command refuses it. */
+    struct Refused
     {
-        object[key] = value;
-        return object;
+        QByteArray content;
+        const char *place;
+        const char *reason;
+    };
+    /** Each of the contents is refused by the command, which gets the file as its last argument. */
+    void expectRefusals(const QStringList &command, const QString &file, const std::vector<Refused> &contents) const
+    {
+        for (const Refused &refused : contents) {
+            write(file, refused.content);
+            const QJsonObject error = refusal(command + QStringList{file}, file);
+            EXPECT_EQ(error["place"].toString().toStdString(), refused.place) << refused.content.toStdString();
+            EXPECT_EQ(error["reason"].toString().toStdString(), refused.reason) << refused.content.toStdString();
+        }
     }
-    static QJsonObject without(QJsonObject object, const QString &key)
+    /** A JSON file is refused with line and column wherever it is cut.
+     *  @param step  from one cut to the next, bytes */
+    void expectRefusalOfCuts(const QStringList &command, const QByteArray &whole, int step) const
     {
-        object.remove(key);
-        return object;
+        for (int length = 1; length < whole.trimmed().size(); length += step) {
+            write("cut.json", whole.left(length));
+            const QJsonObject error = refusal(command + QStringList{"cut.json"}, "cut.json");
+            EXPECT_TRUE(error["place"].toString().startsWith("line ")) << length;
+        }
     }
     /** The members of an object, sorted and with commas between them. */
     static std::string keys(const QJsonValue &object) { return object.toObject().keys().join(',').toStdString(); }
@@ -96,6 +114,18 @@ protected:
         const Result result = run({"project", "import", sample(building), "-o", "house.hbxdb"});
         ASSERT_EQ(result.exitCode, 0) << result.err.toStdString();
     }
+    using TakeFloor = std::function<void(const QString &region, const QJsonObject &floor)>;
+    /** Imports the sample buildings one by one as house.hbxdb, and gives their floors as project info tells them. */
+    void forEachFloorOfSamples(const TakeFloor &take)
+    {
+        for (const char *building : {"duplex-apartment", "masonry-block", "precast-hall", "made-building"}) {
+            importSample(building);
+            const QJsonObject info = run({"project", "info", "house.hbxdb", "--json"}).json();
+            for (const QJsonValue region : info["regions"].toArray())
+                for (const QJsonValue floor : region["floors"].toArray())
+                    take(region["name"].toString(), floor.toObject());
+        }
+    }
     /** Imports a small building: region "House", floor "Level 1" of code "1", one brick wall along the x axis. */
     void importSmallHouse()
     {
@@ -106,21 +136,7 @@ protected:
         ASSERT_EQ(run({"project", "import", "house.json", "-o", "house.hbxdb"}).exitCode, 0);
     }
 
-    static QJsonObject elementMember(const QString &name, int type = 4)
-    {
-        return {{"elementID", 1},        {"name", name},     {"nElementType", type},
-                {"nSubElementType", 0},  {"nHeight", 2100},  {"nWidth", 900},
-                {"nHeightFromFloor", 0}, {"floorName", "1"}, {"regionName", "House"}};
-    }
-    static QJsonObject placedMember(const QString &name, double x, double y)
-    {
-        return {{"elementName", name},   {"X", x},           {"Y", y},
-                {"nHeightFromFloor", 0}, {"floorName", "1"}, {"regionName", "House"}};
-    }
-    void writeReply(const QJsonArray &members) const
-    {
-        write("reply.json", QJsonObject{{"eDoorWin", QJsonObject{{"ElementsAndEdos", members}}}});
-    }
+    void writeReply(const QJsonArray &members) const { write("reply.json", openingtest::replyOf(members)); }
 
 private:
     QTemporaryDir m_directory;

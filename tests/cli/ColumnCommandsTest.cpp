@@ -82,25 +82,12 @@ TEST_F(ColumnCommandsTest, soundValueThatIsWrittenOtherwiseIsToldAndNoFault)
 
 TEST_F(ColumnCommandsTest, fileThatIsNoColumnRecordIsRefused)
 {
-    struct Case
-    {
-        QByteArray document;
-        QString place;
-        QString reason;
-    };
-    const Case cases[] = {
-        {"", "", "the file is empty"},
-        {"[]", "", "no column record: its top is no object"},
-        {"{}", "", "no column record: it has none of the keys of one"},
-        {R"({"AreaName": "A", "Floors": []})", "", "no column record: it has none of the keys of one"},
-        {"{\n  \"drawing\" \"A\"\n}", "line 2, column 14", "not JSON: missing name separator"},
-    };
-    for (const Case &broken : cases) {
-        write("columns.json", broken.document);
-        const QJsonObject error = refusal({"column", "check", "columns.json"}, "columns.json");
-        EXPECT_EQ(error["place"].toString().toStdString(), broken.place.toStdString()) << broken.document.toStdString();
-        EXPECT_EQ(error["reason"].toString().toStdString(), broken.reason.toStdString());
-    }
+    expectRefusals({"column", "check"}, "columns.json",
+                   {{"", "", "the file is empty"},
+                    {"[]", "", "no column record: its top is no object"},
+                    {"{}", "", "no column record: it has none of the keys of one"},
+                    {R"({"AreaName": "A", "Floors": []})", "", "no column record: it has none of the keys of one"},
+                    {"{\n  \"drawing\" \"A\"\n}", "line 2, column 14", "not JSON: missing name separator"}});
     refusal({"column", "check", "nowhere.json"}, "nowhere.json");
     EXPECT_EQ(refusal({"column", "check", "."}, ".")["reason"], "is a directory");
 }
@@ -108,12 +95,7 @@ TEST_F(ColumnCommandsTest, fileThatIsNoColumnRecordIsRefused)
 TEST_F(ColumnCommandsTest, truncatedDocumentIsRefusedWhereverItIsCut)
 {
     copySample("results");
-    const QByteArray whole = read("results.json").trimmed();
-    for (int length = 1; length < whole.size(); length += 211) {
-        write("cut.json", whole.left(length));
-        const QJsonObject error = refusal({"column", "check", "cut.json"}, "cut.json");
-        EXPECT_TRUE(error["place"].toString().startsWith("line ")) << length;
-    }
+    expectRefusalOfCuts({"column", "check"}, read("results.json"), 211);
 }
 
 TEST_F(ColumnCommandsTest, quietCheckTellsByItsExitCodeAlone)

@@ -1,42 +1,22 @@
 #include "cli/ColumnDocumentCheck.h"
 
-#include <QFile>
-#include <QJsonDocument>
+#include "JsonTexts.h"
 
-#include <gtest/gtest.h>
-
+using clitest::objectOf;
+using clitest::textOf;
 using orvcad::ColumnDocumentCheck;
 
 namespace {
 
-QJsonObject object(const QByteArray &text)
-{
-    QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(text, &error);
-    EXPECT_EQ(error.error, QJsonParseError::NoError) << text.toStdString();
-    return document.object();
-}
-
 QJsonObject sample(const QString &name)
 {
-    QFile file(QStringLiteral(ORVCAD_TEST_DATA "/columns/%1.json").arg(name));
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
-    return object(file.readAll());
-}
-
-/** "place: reason" of each. */
-std::string textOf(const std::vector<orvcad::JsonFault> &faults)
-{
-    QStringList lines;
-    for (const auto &fault : faults)
-        lines.append(fault.place + ": " + fault.reason);
-    return lines.join('\n').toStdString();
+    return clitest::fileObject(QStringLiteral(ORVCAD_TEST_DATA "/columns/%1.json").arg(name));
 }
 
 std::string findings(const QJsonObject &document) { return textOf(ColumnDocumentCheck(document).findings()); }
-std::string notKept(const QByteArray &document) { return textOf(ColumnDocumentCheck(object(document)).notKept()); }
+std::string notKept(const QByteArray &document) { return textOf(ColumnDocumentCheck(objectOf(document)).notKept()); }
 
-std::string findings(const QByteArray &document) { return findings(object(document)); }
+std::string findings(const QByteArray &document) { return findings(objectOf(document)); }
 
 TEST(ColumnDocumentCheckTest, kindIsToldFromTheKeys)
 {
@@ -50,18 +30,19 @@ TEST(ColumnDocumentCheckTest, kindIsToldFromTheKeys)
 
 TEST(ColumnDocumentCheckTest, recordThatKnowsMostKeysIsTaken)
 {
-    EXPECT_EQ(ColumnDocumentCheck(object(R"({"columnOptions": {}, "axisLineList": []})")).content()["kind"],
+    EXPECT_EQ(ColumnDocumentCheck(objectOf(R"({"columnOptions": {}, "axisLineList": []})")).content()["kind"],
               "check-input");
-    EXPECT_EQ(ColumnDocumentCheck(object(R"({"columnOptions": {}, "axisLineList": [], "eType": 1})")).content()["kind"],
-              "identify-input");
-    EXPECT_EQ(ColumnDocumentCheck(object(R"({"drawing": "", "eType": 1, "elements": []})")).content()["kind"],
+    EXPECT_EQ(
+        ColumnDocumentCheck(objectOf(R"({"columnOptions": {}, "axisLineList": [], "eType": 1})")).content()["kind"],
+        "identify-input");
+    EXPECT_EQ(ColumnDocumentCheck(objectOf(R"({"drawing": "", "eType": 1, "elements": []})")).content()["kind"],
               "identify-input");
 }
 
 TEST(ColumnDocumentCheckTest, objectWithoutAKeyOfARecordIsNone)
 {
     EXPECT_FALSE(ColumnDocumentCheck(QJsonObject()).isColumnRecord());
-    const ColumnDocumentCheck check(object(R"({"regions": [], "name": "House"})"));
+    const ColumnDocumentCheck check(objectOf(R"({"regions": [], "name": "House"})"));
     EXPECT_FALSE(check.isColumnRecord());
     EXPECT_TRUE(check.findings().empty());
     EXPECT_TRUE(check.title().isEmpty());
@@ -78,23 +59,23 @@ TEST(ColumnDocumentCheckTest, soundDocumentsHaveNoFindings)
 TEST(ColumnDocumentCheckTest, contentTellsWhatARecordHolds)
 {
     EXPECT_EQ(ColumnDocumentCheck(sample("results")).content(),
-              object(R"({"kind": "results", "drawing": "柱平法图-01", "floorCode": "2", "columns": 1, "toCreate": 1,
+              objectOf(R"({"kind": "results", "drawing": "柱平法图-01", "floorCode": "2", "columns": 1, "toCreate": 1,
                          "cadLines": 2, "cadTexts": 1})"));
     EXPECT_EQ(ColumnDocumentCheck(sample("check-input")).content(),
-              object(R"({"kind": "check-input", "floorCode": "-1", "axisLines": 2})"));
+              objectOf(R"({"kind": "check-input", "floorCode": "-1", "axisLines": 2})"));
     EXPECT_EQ(ColumnDocumentCheck(sample("identify-input")).content(),
-              object(R"({"kind": "identify-input", "type": 7, "columnCodes": 2, "borderLayers": 2, "labelLayers": 1,
+              objectOf(R"({"kind": "identify-input", "type": 7, "columnCodes": 2, "borderLayers": 2, "labelLayers": 1,
                          "axisLines": 2, "elements": 1, "floorWords": 2, "hoopPictures": 2, "hoopSettings": 1})"));
     const QJsonObject input = sample("identify-input");
     EXPECT_EQ(ColumnDocumentCheck(input["oHoopBarSettingPar"].toObject()).content(),
-              object(R"({"kind": "hoop-bar-settings", "hoopPictures": 2, "hoopSettings": 1})"));
+              objectOf(R"({"kind": "hoop-bar-settings", "hoopPictures": 2, "hoopSettings": 1})"));
     EXPECT_EQ(ColumnDocumentCheck(input["oSemnTicParsePar"].toObject()).content(),
-              object(R"({"kind": "semantic-parameters", "floorWords": 2})"));
+              objectOf(R"({"kind": "semantic-parameters", "floorWords": 2})"));
 }
 
 TEST(ColumnDocumentCheckTest, missingKeysAreCountedAndNoFault)
 {
-    const ColumnDocumentCheck check(object(R"({"resultData": [{"columnName": "KZ"}]})"));
+    const ColumnDocumentCheck check(objectOf(R"({"resultData": [{"columnName": "KZ"}]})"));
     EXPECT_TRUE(check.findings().empty());
     EXPECT_EQ(check.missingKeys(), 2 + 9);
 }

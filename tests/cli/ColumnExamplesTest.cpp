@@ -3,6 +3,9 @@
 #include "column/ORVCADAIIdentifyColumnResultModel.h"
 #include "column/ORVCADColumnCloudIdentifyInputModel.h"
 
+using clitest::fileContent;
+using clitest::fileObject;
+
 namespace {
 
 const QString kInput = QStringLiteral(ORVCAD_EXAMPLES "/precast-hall.column-input.json");
@@ -13,24 +16,17 @@ constexpr int kGrid = 74;
 class ColumnExamplesTest : public CliFixture
 {
 protected:
-    static QByteArray bytesOf(const QString &path)
-    {
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
-        return file.readAll();
-    }
-    static QJsonObject objectOf(const QString &path) { return QJsonDocument::fromJson(bytesOf(path)).object(); }
     template <typename Model> static Model modelOf(const QString &path)
     {
         Model model;
-        model.fromJson(&model, objectOf(path));
+        model.fromJson(&model, fileObject(path));
         return model;
     }
     /** Elements of a type on the ground floor of the hall. */
     static QList<QJsonObject> elementsOf(int type)
     {
         QList<QJsonObject> elements;
-        const QJsonObject region = objectOf(sample("precast-hall"))["regions"].toArray()[0].toObject();
+        const QJsonObject region = fileObject(sample("precast-hall"))["regions"].toArray()[0].toObject();
         for (const QJsonValue element : region["floors"].toArray()[1].toObject()["elements"].toArray())
             if (element.toObject()["type"] == type)
                 elements.append(element.toObject());
@@ -56,8 +52,10 @@ TEST_F(ColumnExamplesTest, examplesAreSoundAndTheSameWhenWrittenAgain)
 
 TEST_F(ColumnExamplesTest, recordsWriteTheExamplesByteForByte)
 {
-    EXPECT_EQ(QJsonDocument(modelOf<ORVCADColumnCloudIdentifyInputModel>(kInput).toJson()).toJson(), bytesOf(kInput));
-    EXPECT_EQ(QJsonDocument(modelOf<ORVCADAIIdentifyColumnResultModel>(kResults).toJson()).toJson(), bytesOf(kResults));
+    EXPECT_EQ(QJsonDocument(modelOf<ORVCADColumnCloudIdentifyInputModel>(kInput).toJson()).toJson(),
+              fileContent(kInput));
+    EXPECT_EQ(QJsonDocument(modelOf<ORVCADAIIdentifyColumnResultModel>(kResults).toJson()).toJson(),
+              fileContent(kResults));
 }
 
 TEST_F(ColumnExamplesTest, resultsAreTheColumnsOfTheBuildingAtTheirPlaces)

@@ -63,12 +63,7 @@ QJsonValue otherType(const QJsonValue &leaf) { return leaf.isString() ? QJsonVal
 class DamagedExamplesTest : public CliFixture, public ::testing::WithParamInterface<Example>
 {
 protected:
-    QByteArray whole() const
-    {
-        QFile file(QStringLiteral(ORVCAD_EXAMPLES "/") + GetParam().name);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << GetParam().name;
-        return file.readAll();
-    }
+    QByteArray whole() const { return clitest::fileContent(QStringLiteral(ORVCAD_EXAMPLES "/") + GetParam().name); }
     /** Runs the verb on the copy and holds what it answers to what is expected. */
     void expectAnswer(const QJsonValue &copy, const Example::Answer &expected) const
     {

@@ -62,20 +62,15 @@ TEST_F(DrawingCommandsTest, bothTellPeopleWhatTheDrawingHolds)
 
 TEST_F(DrawingCommandsTest, everyFloorOfEverySampleCanBeDrawnAndRead)
 {
-    for (const char *building : {"duplex-apartment", "masonry-block", "precast-hall", "made-building"}) {
-        importSample(building);
-        const QJsonObject info = run({"project", "info", "house.hbxdb", "--json"}).json();
-        for (const QJsonValue region : info["regions"].toArray())
-            for (const QJsonValue floor : region.toObject()["floors"].toArray()) {
-                const QString name = floor.toObject()["name"].toString();
-                const Result made = run({"drawing", "make", "house.hbxdb", "--region",
-                                         region.toObject()["name"].toString(), "--floor", name, "-o", "a.cadi2"});
-                ASSERT_EQ(made.exitCode, 0) << name.toStdString() << made.err.toStdString();
-                const QJsonObject shown = run({"drawing", "show", "a.cadi2", "--json"}).json();
-                EXPECT_GT(shown["lines"].toInt(), 0) << building << ' ' << name.toStdString();
-                EXPECT_GT(shown["texts"].toInt(), 0) << building << ' ' << name.toStdString();
-            }
-    }
+    forEachFloorOfSamples([this](const QString &region, const QJsonObject &floor) {
+        const QString name = floor["name"].toString();
+        const Result made =
+            run({"drawing", "make", "house.hbxdb", "--region", region, "--floor", name, "-o", "a.cadi2"});
+        ASSERT_EQ(made.exitCode, 0) << name.toStdString() << made.err.toStdString();
+        const QJsonObject shown = run({"drawing", "show", "a.cadi2", "--json"}).json();
+        EXPECT_GT(shown["lines"].toInt(), 0) << region.toStdString() << ' ' << name.toStdString();
+        EXPECT_GT(shown["texts"].toInt(), 0) << region.toStdString() << ' ' << name.toStdString();
+    });
 }
 
 TEST_F(DrawingCommandsTest, drawingThatIsNoneIsRefused)

@@ -1,9 +1,8 @@
 #include "CliFixture.h"
+#include "DrawingSets.h"
 
-#include "cli/DrawingSetShape.h"
-#include "cli/FloorExchange.h"
-
-#include <functional>
+using clitest::emptySet;
+using clitest::fileContent;
 
 namespace {
 
@@ -13,13 +12,6 @@ const QString kExchange = QStringLiteral(ORVCAD_EXAMPLES "/masonry-block.floor-s
 class DrawingsCommandsTest : public CliFixture
 {
 protected:
-    static QByteArray bytesOf(const QString &file)
-    {
-        QFile opened(file);
-        EXPECT_TRUE(opened.open(QIODevice::ReadOnly)) << file.toStdString();
-        return opened.readAll();
-    }
-    static QJsonObject objectOf(const QString &file) { return QJsonDocument::fromJson(bytesOf(file)).object(); }
     /** The floors of a sample building as "name code bottom height", lowest first. */
     QStringList floorsOfSample(const QString &building)
     {
@@ -38,30 +30,12 @@ protected:
             .arg(floor[QLatin1String(bottom)].toDouble())
             .arg(floor["height"].toDouble());
     }
-    /** A sound set in which nothing has run. */
-    static QJsonObject emptySet()
-    {
-        return {{"splitDrawing", QJsonObject()},  {"parseDrawing", QJsonObject()},    {"floorInfos", QJsonObject()},
-                {"matchFloorInfo", QJsonValue()}, {"matchElementInfo", QJsonValue()}, {"classifyLayer", QJsonValue()},
-                {"reviseScale", QJsonValue()},    {"locateDrawing", QJsonValue()}};
-    }
-    static QJsonObject setWith(const char *key, const QByteArray &value)
-    {
-        QJsonObject set = emptySet();
-        set[QLatin1String(key)] = QJsonDocument::fromJson('[' + value + ']').array().at(0);
-        return set;
-    }
     static QJsonObject rowOf(const QJsonValue &rows, const QString &name, const char *key = "name")
     {
         for (const QJsonValue row : rows.toArray())
             if (row.toObject()[QLatin1String(key)] == name)
                 return row.toObject();
         return {};
-    }
-    static std::string placeOfFault(const QJsonObject &set)
-    {
-        const auto fault = orvcad::drawingSetFault(set);
-        return fault ? (fault->place + QStringLiteral(": ") + fault->reason).toStdString() : "sound";
     }
 };
 
@@ -143,140 +117,25 @@ TEST_F(DrawingsCommandsTest, stagesThatHaveNotRunAreToldFromThoseWithoutEntries)
     EXPECT_TRUE(text.contains("reviseScale       0 drawings\n")) << text.toStdString();
 }
 
-TEST_F(DrawingsCommandsTest, floorThatOnlyAMappingNamesStandsBehindThoseOfTheFloorsDocument)
-{
-    QJsonObject set = setWith("matchFloorInfo", R"([{"regionID": 5000000000, "FloorName": "Attic",
-                                                     "DrawingNames": ["plan"]}])");
-    set["floorInfos"] = QJsonObject{
-        {"AreaName", "A"},
-        {"Floors",
-         QJsonArray{QJsonObject{{"Name", "F1"}, {"BottomElev", 0}, {"Height", 3}, {"StdCount", 2}, {"Remark", ""}}}}};
-    write("set.json", set);
-    const QJsonObject shown = run({"drawings", "show", "set.json", "--json"}).json();
-    ASSERT_EQ(shown["floors"].toArray().size(), 2);
-    EXPECT_TRUE(shown["floors"].toArray()[0].toObject()["code"].isNull());
-    EXPECT_EQ(shown["floors"].toArray()[0].toObject()["standardCount"], 2);
-    EXPECT_EQ(shown["floors"].toArray()[1].toObject(), (QJsonObject{{"name", "Attic"},
-                                                                    {"code", QJsonValue()},
-                                                                    {"bottomElev", QJsonValue()},
-                                                                    {"height", QJsonValue()},
-                                                                    {"standardCount", QJsonValue()},
-                                                                    {"drawings", QJsonArray{"plan"}}}));
-    EXPECT_EQ(rowOf(shown["drawings"], "plan")["floors"].toArray()[0].toObject()["regionID"].toDouble(), 5e9);
-}
-
-TEST_F(DrawingsCommandsTest, emptyNamesUnknownTypesAndScalesThatWereNoNumbersAreShown)
-{
-    QJsonObject set = setWith("reviseScale", R"([{"drawingName": "", "originScale": null, "newScale": 1}])");
-    set["classifyLayer"] =
-        QJsonArray{QJsonObject{{"DrawingName", ""}, {"ElementType", "castle"}, {"Layers", QJsonArray()}}};
-    write("set.json", set);
-    const QJsonObject shown = run({"drawings", "show", "set.json", "--json"}).json();
-    ASSERT_EQ(shown["drawings"].toArray().size(), 1);
-    EXPECT_TRUE(shown["drawings"].toArray()[0].toObject()["originScale"].isNull());
-    EXPECT_EQ(shown["layers"].toArray()[0].toObject()["number"], -1);
-    EXPECT_TRUE(run({"drawings", "show", "set.json"}).out.contains("\n\"\"       -  "));
-}
-
-TEST_F(DrawingsCommandsTest, thousandFloorsOfOneNameAreAllShown)
-{
-    QJsonArray floors;
-    for (int i = 0; i < 1000; ++i)
-        floors.append(
-            QJsonObject{{"Name", "F"}, {"BottomElev", -1e9 * i}, {"Height", 1e300}, {"StdCount", -i}, {"Remark", ""}});
-    QJsonObject set = emptySet();
-    set["floorInfos"] = QJsonObject{{"AreaName", ""}, {"Floors", floors}};
-    write("set.json", set);
-    const QJsonArray shown = run({"drawings", "show", "set.json", "--json"}).json()["floors"].toArray();
-    ASSERT_EQ(shown.size(), 1000);
-    EXPECT_EQ(shown[999].toObject()["standardCount"], -999);
-}
-
 TEST_F(DrawingsCommandsTest, setThatIsNoneIsRefusedWithItsPlace)
 {
-    struct Case
-    {
-        QByteArray document;
-        const char *place;
-        const char *reason;
-    };
     const char *const foreign = "no drawing-set file: none of its stages is there";
-    const Case cases[] = {
-        {"", "", "the file is empty"},
-        {"[]", "", "no drawing-set file: its top is no object"},
-        {"{}", "", foreign},
-        {R"({"format": "hbx-project", "version": 1})", "", foreign},
-        {R"({"SPLITDRAWING": {}})", "", foreign},
-        {R"({"splitDrawing": {}})", "parseDrawing", "is missing"},
-        {"{\n  \"splitDrawing\" {}\n}", "line 2, column 19", "not JSON: missing name separator"},
-    };
-    for (const Case &broken : cases) {
-        write("set.json", broken.document);
-        const QJsonObject error = refusal({"drawings", "show", "set.json"}, "set.json");
-        EXPECT_EQ(error["place"].toString().toStdString(), broken.place) << broken.document.toStdString();
-        EXPECT_EQ(error["reason"].toString().toStdString(), broken.reason) << broken.document.toStdString();
-    }
+    expectRefusals({"drawings", "show"}, "set.json",
+                   {{"", "", "the file is empty"},
+                    {"[]", "", "no drawing-set file: its top is no object"},
+                    {"{}", "", foreign},
+                    {R"({"format": "hbx-project", "version": 1})", "", foreign},
+                    {R"({"SPLITDRAWING": {}})", "", foreign},
+                    {R"({"splitDrawing": {}})", "parseDrawing", "is missing"},
+                    {"{\n  \"splitDrawing\" {}\n}", "line 2, column 19", "not JSON: missing name separator"}});
     EXPECT_EQ(refusal({"drawings", "show", kExchange}, kExchange)["reason"], foreign);
     EXPECT_EQ(refusal({"drawings", "show", "."}, ".")["reason"], "is a directory");
     refusal({"drawings", "show", "nowhere.json"}, "nowhere.json");
 }
 
-TEST_F(DrawingsCommandsTest, faultInAStageIsToldWithItsKeyPath)
-{
-    const struct
-    {
-        const char *key;
-        QByteArray value;
-        const char *fault;
-    } cases[] = {
-        {"splitDrawing", "null", "splitDrawing: is no object"},
-        {"splitDrawing", R"({"savePath": ""})", "splitDrawing.drawingInfo: is missing"},
-        {"splitDrawing",
-         R"({"savePath": "", "drawingInfo": [{"parenDrawing": "a", "subDrawing": ["b", 7], "count": 2}]})",
-         "splitDrawing.drawingInfo[0].subDrawing[1]: is no text"},
-        {"parseDrawing", R"({"table0": 7})", "parseDrawing.table0: is no object"},
-        {"parseDrawing",
-         R"({"table0": {"type": "", "drawingName": "", "range": [1, 2, 3], "data": {}, "concrete": {}}})",
-         "parseDrawing.table0.range: is no array of 4 entries"},
-        {"parseDrawing",
-         R"({"t": {"type": "", "drawingName": "", "range": [1, 2, 3, 4.5], "data": {"0": [1]}, "concrete": {}}})",
-         "parseDrawing.t.range[3]: is no whole number from -2147483647 to 2147483647"},
-        {"parseDrawing",
-         R"({"t": {"type": "", "drawingName": "", "range": [1, 2, 3, 4], "data": {"0": ["a", 1]}, "concrete": {}}})",
-         "parseDrawing.t.data.0[1]: is no text"},
-        {"floorInfos", R"({"AreaName": "A", "Floors": [{"Name": "F1", "BottomElev": 0, "Height": "3"}]})",
-         "floorInfos.Floors[0].Height: is no number"},
-        {"matchFloorInfo", "{}", "matchFloorInfo: is no array"},
-        {"matchFloorInfo", R"([{"regionID": 0.5, "FloorName": "", "DrawingNames": []}])",
-         "matchFloorInfo[0].regionID: is no whole number"},
-        {"matchElementInfo", R"([{"DrawingName": "a", "elementTypes": []}])",
-         "matchElementInfo[0].ElementTypes: is missing"},
-        {"classifyLayer", R"([{"DrawingName": "a", "ElementType": 15, "Layers": []}])",
-         "classifyLayer[0].ElementType: is no text"},
-        {"classifyLayer",
-         R"([{"DrawingName": "a", "ElementType": "", "Layers": [{"LayerName": "l", "CADEdoIds": [1, "2"]}]}])",
-         "classifyLayer[0].Layers[0].CADEdoIds[1]: is no whole number"},
-        {"reviseScale", R"([{"drawingName": "a", "originScale": "1:100", "newScale": 1}])",
-         "reviseScale[0].originScale: is neither a number nor null"},
-        {"locateDrawing",
-         R"([{"drawingName": "a", "axisInfo": [{"bayNum": "1", "depthNum": "A", "point": [1, null]}, 7]}])",
-         "locateDrawing[0].axisInfo[1]: is no object"},
-        {"stage", "7", "stage: is no member of this format"},
-    };
-    for (const auto &broken : cases)
-        EXPECT_EQ(placeOfFault(setWith(broken.key, broken.value)), broken.fault) << broken.value.toStdString();
-    EXPECT_EQ(placeOfFault(emptySet()), "sound");
-    EXPECT_EQ(placeOfFault(objectOf(kSet)), "sound");
-}
-
 TEST_F(DrawingsCommandsTest, truncatedSetIsRefusedWhereverItIsCut)
 {
-    const QByteArray whole = bytesOf(kSet).trimmed();
-    for (int length = 1; length < whole.size(); length += 977) {
-        write("cut.json", whole.left(length));
-        const QJsonObject error = refusal({"drawings", "show", "cut.json"}, "cut.json");
-        EXPECT_TRUE(error["place"].toString().startsWith("line ")) << length;
-    }
+    expectRefusalOfCuts({"drawings", "show"}, fileContent(kSet), 977);
 }
 
 // drawings floors
@@ -297,7 +156,7 @@ TEST_F(DrawingsCommandsTest, exampleExchangeIsTheSameDocumentWhenWrittenAgain)
                                                                             {"regionID", 1},
                                                                             {"region", "Block"},
                                                                             {"settings", 2}}));
-    EXPECT_EQ(read("again.json"), bytesOf(kExchange));
+    EXPECT_EQ(read("again.json"), fileContent(kExchange));
 }
 
 TEST_F(DrawingsCommandsTest, exampleExchangeHasTheFloorsOfItsBuilding)
@@ -311,7 +170,7 @@ TEST_F(DrawingsCommandsTest, exampleExchangeHasTheFloorsOfItsBuilding)
 TEST_F(DrawingsCommandsTest, exchangeGoesToStandardOutputAndTheSummaryBesideIt)
 {
     const Result result = run({"drawings", "floors", kExchange, "-o", "-"});
-    EXPECT_EQ(result.out, bytesOf(kExchange));
+    EXPECT_EQ(result.out, fileContent(kExchange));
     EXPECT_TRUE(result.err.startsWith("Floor exchange of 6 floors: written again, it is the same document\n"));
 }
 
@@ -335,82 +194,17 @@ TEST_F(DrawingsCommandsTest, exchangeThatIsRefusedWritesNoFile)
     EXPECT_FALSE(exists("again.json"));
 }
 
-TEST_F(DrawingsCommandsTest, verdictOfEveryListedExchangeHasItsPlaceAndReason)
-{
-    const QJsonObject verdicts = objectOf(QStringLiteral(ORVCAD_TEST_DATA "/drawing/floor-sdc-verdicts.json"));
-    const QJsonObject accepted = verdicts["accepted"].toObject();
-    for (const QString &name : accepted.keys())
-        EXPECT_FALSE(orvcad::firstRefusal(accepted[name].toObject())) << name.toStdString();
-    const QJsonObject tolerated = verdicts["tolerated"].toObject();
-    for (const QString &name : tolerated.keys()) {
-        write("floors.json", tolerated[name].toObject()["document"].toObject());
-        QJsonArray places;
-        for (const orvcad::JsonFault &fault : orvcad::readFloorExchange(path("floors.json")).notKept)
-            places.append(fault.place);
-        EXPECT_EQ(places, tolerated[name].toObject()["notKept"].toArray()) << name.toStdString();
-    }
-    const QJsonObject refused = verdicts["refused"].toObject();
-    for (const QString &name : refused.keys()) {
-        const QJsonObject test = refused[name].toObject();
-        const auto fault = orvcad::firstRefusal(test["document"].toObject());
-        ASSERT_TRUE(fault) << name.toStdString();
-        EXPECT_EQ(fault->place, test["place"].toString()) << name.toStdString();
-        EXPECT_EQ(fault->reason, test["reason"].toString()) << name.toStdString();
-    }
-}
-
-/** Gives the value once for every value in it and every odd one put in its place. */
-void forEachOddCopy(const QJsonValue &value, const std::function<void(const QJsonValue &)> &take)
-{
-    const QJsonArray oddValues{QJsonValue(), 1.5, -2147483648.0, "7", QJsonArray{7}, QJsonObject{{"a", 1}}};
-    for (const QJsonValue odd : oddValues)
-        take(odd);
-    const QJsonArray array = value.toArray();
-    for (int i = 0; i < array.size(); ++i)
-        forEachOddCopy(array.at(i), [&](const QJsonValue &odd) {
-            QJsonArray changed = array;
-            changed.replace(i, odd);
-            take(changed);
-        });
-    const QJsonObject object = value.toObject();
-    for (const QString &key : object.keys())
-        forEachOddCopy(object[key], [&](const QJsonValue &odd) {
-            QJsonObject changed = object;
-            changed[key] = odd;
-            take(changed);
-        });
-}
-
-TEST_F(DrawingsCommandsTest, placeOfARefusalIsToldForExactlyThoseExchangesThatTheReaderRefuses)
-{
-    int refused = 0;
-    forEachOddCopy(objectOf(kExchange), [&](const QJsonValue &odd) {
-        bool ok = false;
-        const auto floors = ORVCADFloorSDCData().unserialize(odd.toObject(), ok);
-        const auto fault = orvcad::firstRefusal(odd.toObject());
-        ASSERT_EQ(fault.has_value(), !ok) << QJsonDocument(odd.toObject()).toJson().toStdString();
-        if (ok || !fault->place.startsWith("FloorSDCData["))
-            return;
-        ++refused;
-        EXPECT_TRUE(fault->place.startsWith(QStringLiteral("FloorSDCData[%1]").arg(floors.size())));
-    });
-    EXPECT_GT(refused, 300);
-}
-
 TEST_F(DrawingsCommandsTest, exchangeThatIsNoneIsRefused)
 {
     EXPECT_EQ(refusal({"drawings", "floors", kSet}, kSet)["reason"], "no floor exchange: FloorSDCData is missing");
-    write("floors.json", QByteArray("[]"));
-    EXPECT_EQ(refusal({"drawings", "floors", "floors.json"}, "floors.json")["reason"],
-              "no floor exchange: its top is no object");
-    write("floors.json", QByteArray());
-    EXPECT_EQ(refusal({"drawings", "floors", "floors.json"}, "floors.json")["reason"], "the file is empty");
+    expectRefusals({"drawings", "floors"}, "floors.json",
+                   {{"[]", "", "no floor exchange: its top is no object"}, {"", "", "the file is empty"}});
     EXPECT_EQ(refusal({"drawings", "floors", "."}, ".")["reason"], "is a directory");
-    const QByteArray whole = bytesOf(kExchange).trimmed();
-    for (int length = 1; length < whole.size(); length += 1013) {
-        write("cut.json", whole.left(length));
-        EXPECT_TRUE(refusal({"drawings", "floors", "cut.json"}, "cut.json")["place"].toString().startsWith("line "));
-    }
+}
+
+TEST_F(DrawingsCommandsTest, truncatedExchangeIsRefusedWhereverItIsCut)
+{
+    expectRefusalOfCuts({"drawings", "floors"}, fileContent(kExchange), 1013);
 }
 
 // drawings words

@@ -1,49 +1,44 @@
 #include "cli/ExpectedValue.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
+#include "JsonTexts.h"
 
-#include <gtest/gtest.h>
-
+using clitest::valueOf;
 using namespace orvcad;
 
 namespace {
 
-/** Parsed, so that numbers are what they are in a file. */
-QJsonValue value(const QByteArray &text) { return QJsonDocument::fromJson('[' + text + ']').array()[0]; }
-
 TEST(ExpectedValueTest, eachKindTakesItsOwnValues)
 {
-    EXPECT_TRUE(fits(value("\"\""), Expected::Text));
-    EXPECT_TRUE(fits(value("-2147483648"), Expected::Integer));
-    EXPECT_TRUE(fits(value("2147483647"), Expected::Integer));
-    EXPECT_TRUE(fits(value("3.0"), Expected::Integer));
-    EXPECT_TRUE(fits(value("1e300"), Expected::Number));
-    EXPECT_TRUE(fits(value("false"), Expected::Truth));
-    EXPECT_TRUE(fits(value("9223372036854775807"), Expected::Id));
-    EXPECT_TRUE(fits(value("5e9"), Expected::Id));
-    EXPECT_TRUE(fits(value("\"42\""), Expected::Id));
+    EXPECT_TRUE(fits(valueOf("\"\""), Expected::Text));
+    EXPECT_TRUE(fits(valueOf("-2147483648"), Expected::Integer));
+    EXPECT_TRUE(fits(valueOf("2147483647"), Expected::Integer));
+    EXPECT_TRUE(fits(valueOf("3.0"), Expected::Integer));
+    EXPECT_TRUE(fits(valueOf("1e300"), Expected::Number));
+    EXPECT_TRUE(fits(valueOf("false"), Expected::Truth));
+    EXPECT_TRUE(fits(valueOf("9223372036854775807"), Expected::Id));
+    EXPECT_TRUE(fits(valueOf("5e9"), Expected::Id));
+    EXPECT_TRUE(fits(valueOf("\"42\""), Expected::Id));
 }
 
 TEST(ExpectedValueTest, numberThatDoesNotFitIsRefused)
 {
-    EXPECT_FALSE(fits(value("2147483648"), Expected::Integer));
-    EXPECT_FALSE(fits(value("0.5"), Expected::Integer));
-    EXPECT_FALSE(fits(value("9223372036854775808"), Expected::Id));
-    EXPECT_FALSE(fits(value("0.5"), Expected::Id));
-    EXPECT_FALSE(fits(value("1e300"), Expected::Id));
+    EXPECT_FALSE(fits(valueOf("2147483648"), Expected::Integer));
+    EXPECT_FALSE(fits(valueOf("0.5"), Expected::Integer));
+    EXPECT_FALSE(fits(valueOf("9223372036854775808"), Expected::Id));
+    EXPECT_FALSE(fits(valueOf("0.5"), Expected::Id));
+    EXPECT_FALSE(fits(valueOf("1e300"), Expected::Id));
 }
 
 TEST(ExpectedValueTest, otherTypesAreRefused)
 {
     for (const char *other : {"null", "[]", "{}", "\"x\""})
         for (const Expected kind : {Expected::Integer, Expected::Number, Expected::Truth, Expected::Id})
-            EXPECT_FALSE(fits(value(other), kind)) << other << ' ' << static_cast<int>(kind);
+            EXPECT_FALSE(fits(valueOf(other), kind)) << other << ' ' << static_cast<int>(kind);
     for (const char *other : {"null", "[]", "{}", "1", "true"})
-        EXPECT_FALSE(fits(value(other), Expected::Text)) << other;
-    EXPECT_FALSE(fits(value("1"), Expected::Truth));
-    EXPECT_FALSE(fits(value("true"), Expected::Integer));
-    EXPECT_FALSE(fits(value("true"), Expected::Id));
+        EXPECT_FALSE(fits(valueOf(other), Expected::Text)) << other;
+    EXPECT_FALSE(fits(valueOf("1"), Expected::Truth));
+    EXPECT_FALSE(fits(valueOf("true"), Expected::Integer));
+    EXPECT_FALSE(fits(valueOf("true"), Expected::Id));
 }
 
 TEST(ExpectedValueTest, eachKindHasItsWords)

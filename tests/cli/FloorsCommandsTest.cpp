@@ -5,10 +5,10 @@ namespace {
 class FloorsCommandsTest : public CliFixture
 {
 protected:
-    static QJsonObject floor(const QString &name, double bottom, double height, int storeys = 1)
+    static QJsonObject floor(const QString &name, double bottom, double height, int standardCount = 1)
     {
-        return {{"Name", name},     {"Code", ""},          {"BottomElev", bottom},
-                {"Height", height}, {"StdCount", storeys}, {"Remark", ""}};
+        return {{"Name", name}, {"Code", ""}, {"BottomElev", bottom}, {"Height", height}, {"StdCount", standardCount},
+                {"Remark", ""}};
     }
     void writeFloors(const QJsonArray &floors) const
     {
@@ -100,7 +100,7 @@ TEST_F(FloorsCommandsTest, showKeepsTheOrderOfTheDocumentAndTellsOfAGap)
                                                                             "Ground 0 4.2 | - | -");
 }
 
-TEST_F(FloorsCommandsTest, wayUpCountsTheStandardStoreysAndTheWayDownDoesNot)
+TEST_F(FloorsCommandsTest, wayUpCountsWhatAStandardFloorStandsForAndTheWayDownDoesNot)
 {
     writeFloors({floor("F1", 0, 3), floor("F2", 3, 3, 4), floor("F6", 15, 3)});
     EXPECT_EQ(rows(run({"floors", "show", "floors.json", "--json"}).json()), "F1 0 3 | F2 | -\n"
@@ -163,40 +163,24 @@ TEST_F(FloorsCommandsTest, floorWithoutACodeIsNotLeftOutSinceCodesAreNeverRead)
 
 TEST_F(FloorsCommandsTest, documentThatIsNoFloorsDocumentIsRefusedWithItsPlace)
 {
-    struct Case
-    {
-        QByteArray document;
-        QString place;
-        QString reason;
-    };
-    const Case cases[] = {
-        {"", "", "the file is empty"},
-        {" \n\t", "", "the file is empty"},
-        {"[]", "", "no floors document: its top is no object"},
-        {"{}", "", "no floors document: AreaName or Floors is missing"},
-        {R"({"AreaName": "A"})", "", "no floors document: AreaName or Floors is missing"},
-        {R"({"Floors": []})", "", "no floors document: AreaName or Floors is missing"},
-        {R"({"AreaName": "A", "Floors": {}})", "Floors", "is no array"},
-        {"{\n  \"AreaName\" \"A\"\n}", "line 2, column 15", "not JSON: missing name separator"},
-        {"{\n  \"AreaName\": \"A\",\n  \"Floors\": [x]\n}", "line 3, column 14", "not JSON: illegal number"},
-    };
-    for (const Case &broken : cases) {
-        write("floors.json", broken.document);
-        const QJsonObject error = refusal({"floors", "show", "floors.json"}, "floors.json");
-        EXPECT_EQ(error["place"].toString().toStdString(), broken.place.toStdString()) << broken.document.toStdString();
-        EXPECT_EQ(error["reason"].toString().toStdString(), broken.reason.toStdString());
-    }
+    const char *const lacking = "no floors document: AreaName or Floors is missing";
+    expectRefusals(
+        {"floors", "show"}, "floors.json",
+        {{"", "", "the file is empty"},
+         {" \n\t", "", "the file is empty"},
+         {"[]", "", "no floors document: its top is no object"},
+         {"{}", "", lacking},
+         {R"({"AreaName": "A"})", "", lacking},
+         {R"({"Floors": []})", "", lacking},
+         {R"({"AreaName": "A", "Floors": {}})", "Floors", "is no array"},
+         {"{\n  \"AreaName\" \"A\"\n}", "line 2, column 15", "not JSON: missing name separator"},
+         {"{\n  \"AreaName\": \"A\",\n  \"Floors\": [x]\n}", "line 3, column 14", "not JSON: illegal number"}});
 }
 
 TEST_F(FloorsCommandsTest, truncatedDocumentIsRefusedWhereverItIsCut)
 {
     writeFloors({floor("F1", 0, 3), floor("F2", 3, 3)});
-    const QByteArray whole = read("floors.json").trimmed();
-    for (int length = 1; length < whole.size(); length += 17) {
-        write("cut.json", whole.left(length));
-        const QJsonObject error = refusal({"floors", "show", "cut.json"}, "cut.json");
-        EXPECT_TRUE(error["place"].toString().startsWith("line ")) << length;
-    }
+    expectRefusalOfCuts({"floors", "show"}, read("floors.json"), 17);
 }
 
 TEST_F(FloorsCommandsTest, missingDocumentAndADirectoryAreRefused)

@@ -1,22 +1,17 @@
 #include "cli/JsonDifference.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
+#include "JsonTexts.h"
 
-#include <gtest/gtest.h>
-
+using clitest::valueOf;
 using namespace orvcad;
 
 namespace {
-
-QJsonValue value(const QByteArray &text) { return QJsonDocument::fromJson('[' + text + ']').array()[0]; }
 
 /** The places, with commas between them. */
 std::string places(const QByteArray &before, const QByteArray &after)
 {
     QStringList found;
-    for (const JsonDifference &difference : differencesBetween(value(before), value(after)))
+    for (const JsonDifference &difference : differencesBetween(valueOf(before), valueOf(after)))
         found.append(difference.place);
     return found.join(',').toStdString();
 }
@@ -36,7 +31,7 @@ TEST(JsonDifferenceTest, placeIsThePathOfKeysAndIndexes)
 
 TEST(JsonDifferenceTest, keysOfTheWayAreToldWithoutIndexes)
 {
-    const auto found = differencesBetween(value(R"({"a": [{"b.c": 1}]})"), value(R"({"a": [{"b.c": 2}]})"));
+    const auto found = differencesBetween(valueOf(R"({"a": [{"b.c": 1}]})"), valueOf(R"({"a": [{"b.c": 2}]})"));
     ASSERT_EQ(found.size(), 1U);
     EXPECT_EQ(found[0].keys, (QStringList{"a", "b.c"}));
     EXPECT_EQ(found[0].before, 1);
@@ -45,7 +40,7 @@ TEST(JsonDifferenceTest, keysOfTheWayAreToldWithoutIndexes)
 
 TEST(JsonDifferenceTest, keyOfOneSideAloneIsUndefinedOnTheOther)
 {
-    const auto found = differencesBetween(value(R"({"a": null})"), value(R"({"b": {"c": 1}})"));
+    const auto found = differencesBetween(valueOf(R"({"a": null})"), valueOf(R"({"b": {"c": 1}})"));
     ASSERT_EQ(found.size(), 2U);
     EXPECT_EQ(found[0].place, "a");
     EXPECT_TRUE(found[0].before.isNull());

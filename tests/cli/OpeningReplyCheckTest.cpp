@@ -1,5 +1,6 @@
 #include "cli/OpeningReplyCheck.h"
 
+#include "OpeningReplies.h"
 #include "platform/embedded/HBXProject.h"
 #include "platform/host/IHBXDrawObjs.h"
 #include "platform/host/IHBXElements.h"
@@ -34,14 +35,11 @@ protected:
 
     static QJsonObject element(const QString &region, const QString &name)
     {
-        return {{"elementID", 1},        {"name", name},     {"nElementType", 4},
-                {"nSubElementType", 14}, {"nHeight", 2100},  {"nWidth", 900},
-                {"nHeightFromFloor", 0}, {"floorName", "1"}, {"regionName", region}};
+        return openingtest::elementMember(name, 4, region);
     }
     static QJsonObject placed(const QString &region, const QString &name)
     {
-        return {{"elementName", name},   {"X", 1.5},         {"Y", -2},
-                {"nHeightFromFloor", 0}, {"floorName", "1"}, {"regionName", region}};
+        return openingtest::placedMember(name, 1.5, -2, region);
     }
     /** "index: reason" of each member left out. */
     std::string reasons(const QJsonArray &members)

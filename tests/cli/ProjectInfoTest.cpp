@@ -1,34 +1,14 @@
 #include "cli/ProjectInfo.h"
 
-#include "platform/services/HBXElementTypeTable.h"
+#include "platform/embedded/HBXProject.h"
 
 #include <QJsonArray>
 
 #include <gtest/gtest.h>
 
-#include <set>
-
 using namespace orvcad;
 
 namespace {
-
-TEST(ProjectInfoTest, countedPutsTheWordIntoThePlural)
-{
-    EXPECT_EQ(counted(0, "door"), "0 doors");
-    EXPECT_EQ(counted(1, "door"), "1 door");
-    EXPECT_EQ(counted(2, "door"), "2 doors");
-}
-
-TEST(ProjectInfoTest, everyElementTypeHasATitleOfItsOwn)
-{
-    std::set<QString> titles;
-    for (const hbx::ElementTypeInfo &type : hbx::kElementTypes)
-        titles.insert(typeTitle(type.number));
-    EXPECT_EQ(titles.size(), std::size(hbx::kElementTypes));
-    EXPECT_EQ(titles.count("type"), 0U);
-}
-
-TEST(ProjectInfoTest, unknownTypeIsCalledType) { EXPECT_EQ(typeTitle(12345), "type"); }
 
 TEST(ProjectInfoTest, totalsAddUpOverRegionsFloorsAndTypes)
 {

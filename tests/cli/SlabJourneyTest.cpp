@@ -1,4 +1,4 @@
-#include "cli/Files.h"
+#include "cli/FloorLookup.h"
 #include "cli/SlabComparison.h"
 #include "cli/SlabExport.h"
 #include "cli/SlabNewIdentities.h"

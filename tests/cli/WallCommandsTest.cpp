@@ -1,8 +1,11 @@
 #include "CliFixture.h"
-#include "IdentifyInputModel/Wall/WallReplyText.h"
+#include "WallReplies.h"
 #include "embedded/ExchangeDocuments.h"
 
 #include <algorithm>
+
+using walltest::element;
+using walltest::piece;
 
 namespace {
 
@@ -11,15 +14,6 @@ class WallCommandsTest : public CliFixture
 {
 protected:
     using Wall = walltest::WallText;
-    static QJsonObject element(const QString &name, const QString &type = "1003")
-    {
-        return {{"edoId", "7"},   {"entName", name}, {"elementType", type}, {"elementSubType", "316"},
-                {"width", "120"}, {"material", "3"}, {"floorCode", "1"},    {"region", "House"}};
-    }
-    static QJsonObject piece(const QString &axis = "0,3000,5000,3000")
-    {
-        return {{"sWorldLine", axis}, {"sPfnStartPtTopElev", "2.8"}, {"sPfnEndPtTopElev", "2.8"}};
-    }
     void writeReply(const QJsonObject &map) const
     {
         const QJsonObject document{{"BrickWallIdentifyData", map}};
@@ -195,89 +189,6 @@ TEST_F(WallCommandsTest, kindMustBeBrickOrForce)
     EXPECT_EQ(run({"wall", "apply", "house.hbxdb", "--kind", "glass", "walls.json"}).exitCode, 1);
     EXPECT_EQ(run({"wall", "reply", "house.hbxdb"}).exitCode, 1);
 }
-
-/** An element or a piece that is not as it should be, and what is said of it. */
-struct Damage
-{
-    const char *name;
-    QJsonValue element;
-    QJsonValue pieces;
-    const char *leftOut;
-    int madeWalls;
-};
-
-class DamagedWallTest : public WallCommandsTest, public ::testing::WithParamInterface<int>
-{
-protected:
-    static std::vector<Damage> damages()
-    {
-        const QJsonObject q2 = element("Q2");
-        const QJsonArray one{piece()};
-        const auto odd = [](const QString &key, const QJsonValue &value) {
-            return QJsonArray{with(piece(), key, value)};
-        };
-        return {
-            {"element no object", 17, one, "key_0: is no object", 0},
-            {"element missing", QJsonValue(QJsonValue::Undefined), one, "key_0: is missing", 0},
-            {"pieces no array", q2, "text", "key_0: its pieces are no array", 0},
-            {"no name key", without(q2, "entName"), one, "key_0: entName is missing", 0},
-            {"empty name", with(q2, "entName", ""), one, "key_0: has no name", 0},
-            {"name no text", with(q2, "entName", 2), one, "key_0: entName is not text", 0},
-            {"name with a slash", with(q2, "entName", "Q/2"), one, "key_0: entName holds \"/\" or \":\", which cuts it",
-             0},
-            {"name with a colon", with(q2, "entName", "Q:2"), one, "key_0: entName holds \"/\" or \":\", which cuts it",
-             0},
-            {"no type", without(q2, "elementType"), one, "key_0: elementType is missing", 0},
-            {"type a number", with(q2, "elementType", 1003), one, "key_0: elementType is not text", 0},
-            {"type a word", with(q2, "elementType", "brick"), one,
-             "key_0: elementType is not the text of a whole number", 0},
-            {"other type", with(q2, "elementType", "0"), one, "key_0: type 0 is no brick wall (1003)", 0},
-            {"sub-type a word", with(q2, "elementSubType", "x"), one,
-             "key_0: elementSubType is not the text of a whole number", 0},
-            {"no width", without(q2, "width"), one, "key_0: width is missing", 0},
-            {"width 0", with(q2, "width", "0"), one, "key_0: width is not above 0", 0},
-            {"width below 0", with(q2, "width", "-200"), one, "key_0: width is not above 0", 0},
-            {"width with a fraction", with(q2, "width", "120.5"), one, "key_0: width is not the text of a whole number",
-             0},
-            {"width too large", with(q2, "width", "3000000000"), one, "key_0: width is not the text of a whole number",
-             0},
-            {"material a word", with(q2, "material", "brick"), one, "key_0: material is not the text of a whole number",
-             0},
-            {"unknown region", with(q2, "region", "Barn"), one, "key_0: unknown region \"Barn\"", 0},
-            {"no region", without(q2, "region"), one, "key_0: region is missing", 0},
-            {"unknown floor", with(q2, "floorCode", "9"), one, "key_0: unknown floor code \"9\" in region \"House\"",
-             0},
-            {"bar no text", with(q2, "throughBar", 6), one, "key_0: throughBar is not text", 0},
-            {"piece no object", q2, QJsonArray{QJsonArray{}}, "value_0[0]: is no object", 1},
-            {"piece without axis", q2, QJsonArray{without(piece(), "sWorldLine")}, "value_0[0]: sWorldLine is missing",
-             1},
-            {"axis no text", q2, odd("sWorldLine", 5), "value_0[0]: sWorldLine is not text", 1},
-            {"axis no curve", q2, odd("sWorldLine", "0,0"), "value_0[0]: sWorldLine is no curve", 1},
-            {"axis words", q2, odd("sWorldLine", "a,b,c,d"), "value_0[0]: sWorldLine is no curve", 1},
-            {"axis of no length", q2, odd("sWorldLine", "5,5,5,5"), "value_0[0]: sWorldLine has no length", 1},
-            {"elevation no text", q2, odd("sPfnEndPtTopElev", 2.8), "value_0[0]: sPfnEndPtTopElev is not text", 1},
-            {"elevation with a colon", q2, odd("sPfnEndPtTopElev", "top:2"),
-             "value_0[0]: sPfnEndPtTopElev holds \"/\" or \":\", which cuts it", 1},
-        };
-    }
-};
-
-TEST_P(DamagedWallTest, isLeftOutWithItsPlaceAndTheOtherWallIsPlaced)
-{
-    const Damage damage = damages()[static_cast<std::size_t>(GetParam())];
-    importSmallHouse();
-    QJsonObject map = walltest::mapOf({{damage.element, damage.pieces}, {element("Q5"), QJsonArray{piece()}}});
-    if (damage.element.isUndefined())
-        map["other"] = 1; // keeps the number of entries
-    writeReply(map);
-    const Result result = applyFile();
-    EXPECT_EQ(result.exitCode, 3) << damage.name << '\n' << result.err.toStdString();
-    EXPECT_EQ(leftOut(result).value(0).toStdString(), (kPlace + damage.leftOut).toStdString()) << damage.name;
-    EXPECT_EQ(result.json()["walls"].toArray().size(), damage.madeWalls + 1) << damage.name;
-    EXPECT_TRUE(made(result).contains("Q5: Q5, 1")) << damage.name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Damages, DamagedWallTest, ::testing::Range(0, 31));
 
 TEST_F(WallCommandsTest, documentThatIsNoReplyIsRefusedWithItsPlaceAndTheProjectStaysAsItWas)
 {

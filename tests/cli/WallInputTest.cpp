@@ -1,6 +1,7 @@
 #include "cli/WallInput.h"
 
-#include "cli/Files.h"
+#include "cli/FloorLookup.h"
+#include "cli/WallKind.h"
 #include "embedded/ExchangeDocuments.h"
 #include "encoding/LocaleCodec.h"
 #include "platform/dwgx/DWGXModel.h"
@@ -14,23 +15,24 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
-using orvcad::WallInput;
+using namespace orvcad;
 
 namespace {
 
 const char *const kBuildings[] = {"made-building", "masonry-block", "duplex-apartment", "precast-hall"};
-constexpr WallInput::Kind kKinds[] = {WallInput::kBrick, WallInput::kForce};
+const WallKind &kBrick = wallKindOf("brick");
+const WallKind &kForce = wallKindOf("force");
 
-template <typename Visit> void withModel(WallInput::Kind kind, Visit &&visit)
+template <typename Visit> void withModel(const WallKind &kind, Visit &&visit)
 {
-    if (kind == WallInput::kBrick)
-        visit(ORVCADWallBrickDataInputModel(EORVCADIdentifyType(kind)));
+    if (kind.isBrick())
+        visit(ORVCADWallBrickDataInputModel(kind.identifyType));
     else
-        visit(ORVCADWallForceDataInputModel(EORVCADIdentifyType(kind)));
+        visit(ORVCADWallForceDataInputModel(kind.identifyType));
 }
 
 /** The document that a model gives which has loaded one. */
-QByteArray savedAgain(const QByteArray &json, WallInput::Kind kind)
+QByteArray savedAgain(const QByteArray &json, const WallKind &kind)
 {
     std::wstring text;
     withModel(kind, [&](auto model) {
@@ -41,7 +43,7 @@ QByteArray savedAgain(const QByteArray &json, WallInput::Kind kind)
 }
 
 /** The same for an XML document in the local encoding. */
-QJsonObject fromXml(const QByteArray &xml, WallInput::Kind kind)
+QJsonObject fromXml(const QByteArray &xml, const WallKind &kind)
 {
     QJsonObject object;
     withModel(kind, [&](auto model) {
@@ -96,7 +98,7 @@ protected:
             const auto floors = orvcad::pickFloors(*project, {}, {});
             ASSERT_FALSE(floors.empty());
             for (IHBXFloor *floor : floors)
-                for (const WallInput::Kind kind : kKinds) {
+                for (const WallKind &kind : wallKinds()) {
                     SCOPED_TRACE(floor->name().toStdString());
                     WallInput input(*project, *floor, kind);
                     const auto drawing = hbx::embedded::makeFloorDrawing(project->service()->model(), floor);
@@ -111,7 +113,7 @@ TEST_F(WallInputTest, jsonOfEveryFloorIsTheSameAfterLoadingAndSaving)
 {
     int lines = 0;
     int walls = 0;
-    forEachInput([&](const WallInput &input, WallInput::Kind kind) {
+    forEachInput([&](const WallInput &input, const WallKind &kind) {
         const QByteArray again = savedAgain(input.json(), kind);
         EXPECT_TRUE(again == QJsonDocument(readablePart(input.json())).toJson());
         EXPECT_TRUE(savedAgain(again, kind) == again);
@@ -126,7 +128,7 @@ TEST_F(WallInputTest, xmlOfEveryFloorComesBackButForItsLists)
 {
     const LocaleCodec local("GB18030");
     int readable = 0;
-    forEachInput([&](const WallInput &input, WallInput::Kind kind) {
+    forEachInput([&](const WallInput &input, const WallKind &kind) {
         const QByteArray xml = input.xml();
         if (!input.unreadable(xml).isEmpty())
             return;
@@ -156,7 +158,7 @@ protected:
         entity.color = 5;
         ASSERT_TRUE(drawing->addText(name, std::move(entity)));
     }
-    QStringList unreadable(WallInput::Kind kind = WallInput::kForce)
+    QStringList unreadable(const WallKind &kind = kForce)
     {
         WallInput input(*host.project, *host.floor, kind);
         input.addDrawing(*drawing, "D.cadi2");
@@ -181,7 +183,7 @@ TEST_F(WallInputOfADrawingTest, linesAndTextsStandByLayer)
 {
     addLayer("WALL");
     ASSERT_TRUE(drawing->addLayer("EMPTY", 1));
-    WallInput input(*host.project, *host.floor, WallInput::kForce);
+    WallInput input(*host.project, *host.floor, kForce);
     input.addDrawing(*drawing, "D.cadi2");
     const QJsonObject document = QJsonDocument::fromJson(input.json()).object();
     const QJsonObject lines = document["CadLineEdoDataInfo"].toObject();
@@ -221,7 +223,7 @@ TEST_F(WallInputOfADrawingTest, textThatIsNoNameBehindItsSlashIsTold)
 TEST_F(WallInputOfADrawingTest, xmlIsInTheEncodingThatItDeclares)
 {
     addLayer("WALL", "墙ð");
-    WallInput input(*host.project, *host.floor, WallInput::kForce);
+    WallInput input(*host.project, *host.floor, kForce);
     input.addDrawing(*drawing, "D.cadi2");
     const QByteArray xml = input.xml();
     EXPECT_TRUE(xml.startsWith("<?xml version=\"1.0\" encoding=\"GB2312\"?>\n"));
@@ -230,12 +232,12 @@ TEST_F(WallInputOfADrawingTest, xmlIsInTheEncodingThatItDeclares)
 
 TEST_F(WallInputOfADrawingTest, cloudDocumentIsOfBrickWallsAlone)
 {
-    WallInput brick(*host.project, *host.floor, WallInput::kBrick);
+    WallInput brick(*host.project, *host.floor, kBrick);
     brick.addDrawing(*drawing, "D.cadi2");
     const QJsonObject cloud = QJsonDocument::fromJson(brick.cloud()).object();
     EXPECT_EQ(cloud["drawingName"]["drawingName"], "D.cadi2");
     EXPECT_EQ(cloud["floorName"]["floorName"], host.floor->name());
-    EXPECT_EQ(WallInput(*host.project, *host.floor, WallInput::kForce).cloud(), QByteArray());
+    EXPECT_EQ(WallInput(*host.project, *host.floor, kForce).cloud(), QByteArray());
 }
 
 } // namespace

@@ -1,8 +1,7 @@
 #include "column/ORVCADColumnCloudCheckInputModel.h"
 
 #include "ColumnDocuments.h"
-#include "platform/geometry/CArc2d.h"
-#include "platform/geometry/CLine2d.h"
+#include "ColumnInputs.h"
 
 namespace {
 
@@ -11,18 +10,9 @@ using Model = ORVCADColumnCloudCheckInputModel;
 Model sample()
 {
     Model model;
-    model.columnOptions.KJZMark = "KJZ";
-    model.columnOptions.AZMark = "AZ";
-    model.columnOptions.DZMark = "D";
-    model.columnOptions.KZZMark = "KZ";
-    model.columnOptions.ZHZMark = "ZHZ1";
-    model.columnOptions.GZZMark = "GZZ";
-    model.columnOptions.bSideBarAverageDistribution = true;
-    model.columnOptions.MaxSearchExtent = 3000;
+    model.columnOptions = columninputs::options();
     model.strCurFloorCode = "-1";
-    for (vks::CCurve2d *curve : {static_cast<vks::CCurve2d *>(new vks::CLine2d({0, 0}, {10000, 0})),
-                                 static_cast<vks::CCurve2d *>(new vks::CArc2d({0, 0}, {6000, 0}, 0.5))})
-        model.axisLineList.push_back(std::make_shared<ORVCADAxisLine>(ORVCADAxisLine{curve}));
+    model.axisLineList = columninputs::axisLines();
     return model;
 }
 

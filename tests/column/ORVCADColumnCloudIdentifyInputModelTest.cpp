@@ -1,19 +1,15 @@
 #include "column/ORVCADColumnCloudIdentifyInputModel.h"
 
 #include "ColumnDocuments.h"
+#include "ColumnInputs.h"
 #include "encoding/GeometryInfo.h"
 #include "encoding/ORVCADJsonCGeometryObjOper.h"
-#include "platform/geometry/CArc2d.h"
-#include "platform/geometry/CLine2d.h"
 
 namespace {
 
 using Model = ORVCADColumnCloudIdentifyInputModel;
 
-std::shared_ptr<ORVCADAxisLine> axisLine(vks::CCurve2d *curve)
-{
-    return std::make_shared<ORVCADAxisLine>(ORVCADAxisLine{curve});
-}
+using columninputs::axisLine;
 
 std::shared_ptr<ColumnElementInfo> sampleElement()
 {
@@ -34,19 +30,11 @@ Model sample()
 {
     Model model;
     model.eType = 7;
-    model.columnOptions.KJZMark = "KJZ";
-    model.columnOptions.AZMark = "AZ";
-    model.columnOptions.DZMark = "D";
-    model.columnOptions.KZZMark = "KZ";
-    model.columnOptions.ZHZMark = "ZHZ1";
-    model.columnOptions.GZZMark = "GZZ";
-    model.columnOptions.bSideBarAverageDistribution = true;
-    model.columnOptions.MaxSearchExtent = 3000;
+    model.columnOptions = columninputs::options();
     model.columnCodes = QStringList{"ZHZ1", "GZZ"};
     model.borderLayerNames = {"COLU", QStringLiteral("柱边线")};
     model.labelLayerNames = {"COLU_TEXT"};
-    model.axisLineList = {axisLine(new vks::CLine2d({0, 0}, {10000, 0})),
-                          axisLine(new vks::CArc2d({0, 0}, {6000, 0}, 0.5))};
+    model.axisLineList = columninputs::axisLines();
     model.elements = {sampleElement()};
     model.oSemnTicParsePar.floorWordSetPar = {{QStringLiteral("首层"), "3.600", "-0.050"},
                                               {QStringLiteral("第2层"), "7.2", "3.6"}};

@@ -23,10 +23,10 @@ protected:
 
 TEST_F(ORVCADColumnSampleContextDataModelTest, floorAndRegionAreThoseThatAreSelected)
 {
-    ASSERT_TRUE(project->setCurrent("House", "Level 2"));
+    ASSERT_TRUE(project->setCurrent("House", "Level 1"));
     const Context context(service());
     EXPECT_EQ(context.floorID(), floor()->id());
-    EXPECT_EQ(context.floorName(), "Level 2");
+    EXPECT_EQ(context.floorName(), "Level 1");
     EXPECT_EQ(context.regionID(), region()->id());
     EXPECT_EQ(context.regionName(), "House");
     EXPECT_TRUE(context.getCADOption().isEmpty());

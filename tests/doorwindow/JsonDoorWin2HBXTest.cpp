@@ -25,7 +25,7 @@ TEST_F(JsonDoorWin2HBXTest, emptyArrayReturnsFalseAndCreatesNothing)
 {
     load();
     EXPECT_FALSE(jsonDoorWin2HBX(service(), reply({})));
-    EXPECT_EQ(service()->model()->elements()->count(), 0);
+    EXPECT_EQ(model().elements()->count(), 0);
 }
 
 TEST_F(JsonDoorWin2HBXTest, objectWithoutThePathCreatesNothing)
@@ -34,7 +34,7 @@ TEST_F(JsonDoorWin2HBXTest, objectWithoutThePathCreatesNothing)
     EXPECT_FALSE(jsonDoorWin2HBX(service(), {}));
     EXPECT_FALSE(jsonDoorWin2HBX(service(), {{"eDoorWin", 3}}));
     EXPECT_FALSE(jsonDoorWin2HBX(service(), {{"eDoorWin", QJsonObject{{"ElementsAndEdos", "text"}}}}));
-    EXPECT_EQ(service()->model()->elements()->count(), 0);
+    EXPECT_EQ(model().elements()->count(), 0);
 }
 
 TEST_F(JsonDoorWin2HBXTest, nullServiceReturnsFalse)
@@ -141,7 +141,7 @@ TEST_F(JsonDoorWin2HBXTest, elementOfAnUnknownFloorIsLeftToTheHostWhichMakesNone
     QJsonObject lost = elementMember(4, "M1");
     lost["floorName"] = "99";
     jsonDoorWin2HBX(service(), reply({lost, elementMember(4, "M2")}));
-    EXPECT_EQ(service()->model()->elements()->count(), 1);
+    EXPECT_EQ(model().elements()->count(), 1);
     EXPECT_TRUE(find("M2"));
 }
 
@@ -151,7 +151,7 @@ TEST_F(JsonDoorWin2HBXTest, floorIsFoundByItsCodeAndNotByItsName)
     QJsonObject byName = elementMember(4, "M1");
     byName["floorName"] = "Level 1";
     jsonDoorWin2HBX(service(), reply({byName}));
-    EXPECT_EQ(service()->model()->elements()->count(), 0);
+    EXPECT_EQ(model().elements()->count(), 0);
 }
 
 TEST_F(JsonDoorWin2HBXTest, refusedNameEndsThatMemberOnlyAndWhatWasMadeStays)
@@ -159,7 +159,7 @@ TEST_F(JsonDoorWin2HBXTest, refusedNameEndsThatMemberOnlyAndWhatWasMadeStays)
     load();
     jsonDoorWin2HBX(service(),
                     reply({elementMember(4, "M1", 900), elementMember(4, "M1", 700), elementMember(4, "M2")}));
-    EXPECT_EQ(service()->model()->elements()->count(), 3); // the second one has the name that the host gave it
+    EXPECT_EQ(model().elements()->count(), 3); // the second one has the name that the host gave it
     EXPECT_EQ(find("M1")->properties()->asInt(L"OpeningWidth"), 900);
     EXPECT_TRUE(find("M2"));
 }
@@ -189,8 +189,8 @@ TEST_F(JsonDoorWin2HBXTest, memberThatIsNoObjectIsAPlacedObjectWithoutARegionAnd
 {
     load();
     jsonDoorWin2HBX(service(), reply({17, "text", QJsonArray{}, QJsonValue::Null, elementMember(4, "M1")}));
-    EXPECT_EQ(service()->model()->elements()->count(), 1);
-    EXPECT_EQ(service()->model()->drawObjects()->count(), 0);
+    EXPECT_EQ(model().elements()->count(), 1);
+    EXPECT_EQ(model().drawObjects()->count(), 0);
 }
 
 TEST_F(JsonDoorWin2HBXTest, placedObjectAheadOfItsElementIsSkipped)

@@ -1,6 +1,7 @@
 #include "drawing/ORVCADSubDrawingDataSet.h"
 
 #include "DrawingJson.h"
+#include "SubDrawingPart.h"
 #include "drawing/ORVCADSubDrawingSplitInfo.h"
 #include "drawing/SplitMapInfo.h"
 
@@ -12,42 +13,9 @@ using namespace drawing_test;
 
 namespace {
 
-ORVCADSubDrawingInfo part(const char *path, const char *secondText = "", qint64 number = -1)
-{
-    ORVCADSubDrawingInfo info;
-    info.drawingPath = QString::fromUtf8(path);
-    info.secondText = QString::fromUtf8(secondText);
-    info.number = number;
-    return info;
-}
-
 const QString kParent = QStringLiteral("/in/structure.v2.dwg");
 
 } // namespace
-
-TEST(ORVCADSubDrawingDataSetTest, freshPartHasNoNumberAndTheEmptyBox)
-{
-    const ORVCADSubDrawingInfo info;
-    EXPECT_EQ(info.drawingPath, "");
-    EXPECT_EQ(info.secondText, "");
-    EXPECT_EQ(info.number, -1);
-    EXPECT_TRUE(std::isinf(info.xMin) && info.xMin > 0);
-    EXPECT_TRUE(std::isinf(info.yMin) && info.yMin > 0);
-    EXPECT_TRUE(std::isinf(info.xMax) && info.xMax < 0);
-    EXPECT_TRUE(std::isinf(info.yMax) && info.yMax < 0);
-}
-
-TEST(ORVCADSubDrawingDataSetTest, partsAreToldApartByPathSecondTextAndNumber)
-{
-    EXPECT_TRUE(part("a", "b", 1) == part("a", "b", 1));
-    EXPECT_TRUE(part("a", "b", 1) != part("x", "b", 1));
-    EXPECT_TRUE(part("a", "b", 1) != part("a", "x", 1));
-    EXPECT_TRUE(part("a", "b", 1) != part("a", "b", 2));
-    ORVCADSubDrawingInfo other = part("a", "b", 1);
-    other.xMin = 0.0;
-    other.reserved = 7;
-    EXPECT_TRUE(part("a", "b", 1) == other);
-}
 
 TEST(ORVCADSubDrawingDataSetTest, emptySetHasNothing)
 {

@@ -1,4 +1,4 @@
-#include "platform/dwgx/HBXCADIOperator.h"
+#include "platform/dwgx/Cadi2Operator.h"
 
 #include "platform/dwgx/DWGXModel.h"
 #include "platform/dwgx/HBXCADFileHelper.h"
@@ -197,25 +197,6 @@ TEST_F(Cadi2OperatorTest, readingReplacesWhatTheModelHeld)
     ASSERT_TRUE(read());
     ASSERT_EQ(m_model->layers().size(), 1U);
     EXPECT_EQ(m_model->layers()[0].name, "NEW");
-}
-
-TEST_F(Cadi2OperatorTest, documentHasTheDocumentedForm)
-{
-    m_model->addLayer("WALL", 3);
-    addLine(new vks::CLine2d({0, 0}, {1000, 0.5}));
-    dwgx::DWGXText text;
-    text.content = "Q1";
-    text.point = {10, 20};
-    text.height = 250.0;
-    m_model->addText("WALL", std::move(text));
-    ASSERT_TRUE(write());
-    const QByteArray expected = R"json({
-        "format": "cadi2", "version": 1,
-        "viewer": {"orientation": [0, 0, -1, 0], "zoom": 1, "turn": 0, "flags": 0},
-        "layers": [{"name": "WALL", "color": 3,
-            "lines": [{"id": 1, "curve": "LINESTRING(0 0, 1000 0.5)"}],
-            "texts": [{"id": 2, "text": "Q1", "point": [10, 20], "height": 250}]}]})json";
-    EXPECT_EQ(json(), QJsonDocument::fromJson(expected).object()) << content().constData();
 }
 
 TEST_F(Cadi2OperatorTest, writingTheSameDrawingTwiceGivesTheSameBytes)

@@ -1,8 +1,10 @@
 #include "platform/dwgx/DWGXColumnInfo.h"
 
+#include "host/Lifetime.h"
+
 #include <gtest/gtest.h>
 
-#include <type_traits>
+#include <memory>
 
 namespace {
 
@@ -24,9 +26,22 @@ TEST(DWGXColumnInfoTest, newInfoKnowsNothing)
     EXPECT_EQ(info.m_type, 0);
 }
 
-TEST(DWGXColumnInfoTest, isDeletedThroughItsBase)
+/** What a recognition may know beyond it. */
+class RicherInfo : public dwgx::DWGXColumnInfo
 {
-    static_assert(std::has_virtual_destructor_v<dwgx::DWGXColumnInfo>);
+public:
+    explicit RicherInfo(bool &isGone) : m_lifetime(isGone) {}
+
+private:
+    Lifetime m_lifetime;
+};
+
+TEST(DWGXColumnInfoTest, richerInfoIsDestroyedWholeThroughItsBase)
+{
+    bool isGone = false;
+    std::unique_ptr<dwgx::DWGXColumnInfo> info = std::make_unique<RicherInfo>(isGone);
+    info.reset();
+    EXPECT_TRUE(isGone);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "platform/dwgx/DWGXEntity.h"
 
+#include "geometry/ExpectPoints.h"
 #include "platform/geometry/CArc2d.h"
 #include "platform/geometry/CLine2d.h"
 
@@ -11,7 +12,7 @@ namespace {
 
 using dwgx::DWGXLine;
 using dwgx::DWGXText;
-using Vec = vks::CVec2<double>;
+using shapes::expectNear;
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
@@ -30,12 +31,6 @@ DWGXText textOf(const QString &content)
     text.content = content;
     text.height = 100.0;
     return text;
-}
-
-void expectNear(const Vec &point, const Vec &expected)
-{
-    EXPECT_NEAR(point.x, expected.x, 1e-9);
-    EXPECT_NEAR(point.y, expected.y, 1e-9);
 }
 
 TEST(DWGXLineTest, linesAndArcsAreSound)

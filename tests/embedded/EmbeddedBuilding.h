@@ -27,12 +27,9 @@
 #include "platform/host/IHBXSectionHolder.h"
 #include "platform/host/IHBXSectionPointSolidShape.h"
 #include "platform/host/IHBXService.h"
+#include "support/QStringPrinter.h"
 
 #include <gtest/gtest.h>
-
-#include <ostream>
-
-inline void PrintTo(const QString &text, std::ostream *out) { *out << '"' << text.toStdString() << '"'; }
 
 namespace hbx::embedded {
 
@@ -66,6 +63,17 @@ inline vks::CRefPtr<vks::CPolygon> polygonOf(const char *text) { return vks::CPo
 inline vks::CRefPtr<vks::CCurve2d> curveOf(const char *text)
 {
     return dynamic_cast<vks::CCurve2d *>(vks::CGeometry::LoadFromStr(text).get());
+}
+
+/** A grid with an outline, an axis in group 0 and one in group 2. */
+inline ShapeRecord gridShape()
+{
+    ShapeRecord shape;
+    shape.kind = IHBXShape::kGrid;
+    shape.outline = polygonOf("POLYGON((0 0, 8000 0, 8000 6000, 0 6000, 0 0))");
+    shape.axes[0] = {{QStringLiteral("1"), {curveOf("LINESTRING(0 0, 0 6000)")}}};
+    shape.axes[2] = {{QStringLiteral("A"), {curveOf("LINESTRING(0 0, 8000 0)")}}};
+    return shape;
 }
 
 /** A house with nothing in it, and short words for putting something there. */
@@ -110,6 +118,31 @@ protected:
         IHBXElementDrawObj *object = placed(element(19, name));
         as<IHBXFaceSolidShape>(object)->setPolygon(polygonOf(outline));
         return object;
+    }
+    IHBXElementDrawObj *lineBar(const char *line, qint64 type = 23)
+    {
+        IHBXElementDrawObj *bar = placed(element(type));
+        as<IHBXLineShape2D>(bar)->setLine(curveOf(line));
+        return bar;
+    }
+    /** Loads a house with one element (4) and its draw object (5) of that shape alone. */
+    IHBXElementDrawObj *loaded(qint64 type, const ShapeRecord &shape)
+    {
+        ProjectRecord record = emptyHouse();
+        ElementRecord loadedElement;
+        loadedElement.id = 4;
+        loadedElement.floorId = 2;
+        loadedElement.type = type;
+        loadedElement.name = QStringLiteral("E");
+        DrawObjRecord object;
+        object.id = 5;
+        object.elementId = 4;
+        object.type = type;
+        object.shape = shape;
+        record.elements = {loadedElement};
+        record.drawObjs = {object};
+        store.load(record);
+        return drawObjs().drawObjById(5);
     }
     template <typename Shape> static Shape *as(IHBXElementDrawObj *object)
     {

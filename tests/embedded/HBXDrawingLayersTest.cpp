@@ -1,5 +1,7 @@
 #include "platform/embedded/HBXDrawingLayers.h"
 
+#include "platform/services/HBXElementTypeTable.h"
+
 #include <gtest/gtest.h>
 
 namespace {

@@ -30,18 +30,6 @@ TEST_F(HBXElementsTest, idsCountUpAndAreNeverUsedAgain)
     EXPECT_EQ(elements().elementById(4711), nullptr);
 }
 
-TEST_F(HBXElementsTest, anElementTellsWhatItWasMadeOf)
-{
-    IHBXElement *beam = element(15, "KL1", "F2", 11);
-    EXPECT_EQ(beam->objectKind(), IHBXEObject::kElement);
-    EXPECT_EQ(beam->type(), 15);
-    EXPECT_EQ(beam->subType(), 11);
-    EXPECT_EQ(nameOf(beam), QStringLiteral("KL1"));
-    EXPECT_EQ(beam->floor(), floor("F2"));
-    EXPECT_EQ(beam->region(), model().regions()->at(0));
-    EXPECT_EQ(beam->parent(), nullptr);
-}
-
 TEST_F(HBXElementsTest, nothingIsMadeWithoutAFloorForAnUnknownTypeOrForAUnitWithoutParent)
 {
     EXPECT_EQ(elements().createElement(19, 0, nullptr, QString()), nullptr);
@@ -120,18 +108,6 @@ TEST_F(HBXElementsTest, unitsMayShareNames)
     EXPECT_NO_THROW(second->setName(QStringLiteral("J1-1")));
     EXPECT_EQ(elements().findElement(QStringLiteral("J1-1"), floor()->id(), 82, true, 0), first);
     EXPECT_THROW(second->setName(QString()), HBXModelException);
-}
-
-TEST_F(HBXElementsTest, orderNumbersOfUnitsCountUpFromOne)
-{
-    IHBXElement *foundation = element(53);
-    EXPECT_EQ(unit(foundation, 83)->orderNumber(), 1);
-    IHBXElement *second = unit(foundation, 83);
-    EXPECT_EQ(second->orderNumber(), 2);
-    EXPECT_EQ(second->parent(), foundation);
-    second->remove();
-    EXPECT_EQ(unit(foundation, 83)->orderNumber(), 3);
-    EXPECT_EQ(unit(element(53), 83)->orderNumber(), 1);
 }
 
 TEST_F(HBXElementsTest, aUnitCannotHaveUnits)

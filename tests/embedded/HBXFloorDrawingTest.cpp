@@ -1,21 +1,11 @@
 #include "platform/embedded/HBXFloorDrawing.h"
 
+#include "embedded/EmbeddedBuilding.h"
 #include "platform/dwgx/HBXCADFileHelper.h"
 #include "platform/dwgx/HBXCADIOperator.h"
 #include "platform/embedded/HBXProject.h"
 #include "platform/geometry/CArc2d.h"
-#include "platform/host/IHBXElement.h"
-#include "platform/host/IHBXElementDrawObj.h"
-#include "platform/host/IHBXFloor.h"
-#include "platform/host/IHBXFloors.h"
-#include "platform/host/IHBXModel.h"
-#include "platform/host/IHBXRegion.h"
-#include "platform/host/IHBXRegions.h"
-#include "platform/host/IHBXService.h"
-#include "platform/host/IHBXShape.h"
 #include "support/BuildingHost.h"
-
-#include <gtest/gtest.h>
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -25,6 +15,7 @@ namespace {
 using dwgx::DWGXLayer;
 using dwgx::DWGXModel;
 using dwgx::DWGXText;
+using hbx::embedded::expectBox;
 using hbx::embedded::HBXProject;
 using Vec = vks::CVec2<double>;
 
@@ -72,13 +63,6 @@ protected:
         for (const dwgx::DWGXLine &line : layer.lines)
             box.Add(line.curve->Box());
         return box;
-    }
-    static void expectBox(const vks::CBox2<double> &box, double x0, double y0, double x1, double y1)
-    {
-        EXPECT_NEAR(box.minPt.x, x0, kNear);
-        EXPECT_NEAR(box.minPt.y, y0, kNear);
-        EXPECT_NEAR(box.maxPt.x, x1, kNear);
-        EXPECT_NEAR(box.maxPt.y, y1, kNear);
     }
     static void expectText(const DWGXText &text, const QString &content, const Vec &middle, double angle)
     {

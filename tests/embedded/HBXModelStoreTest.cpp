@@ -21,46 +21,6 @@ TEST_F(HBXModelStoreTest, aNewStoreIsAnEmptyBuilding)
     EXPECT_EQ(empty.snapshot().nextId, 1);
 }
 
-TEST_F(HBXModelStoreTest, regionsAndFloorsAreFoundByNameAndCode)
-{
-    IHBXRegions *regions = model().regions();
-    ASSERT_EQ(regions->count(), 1);
-    EXPECT_EQ(regions->at(1), nullptr);
-    EXPECT_EQ(regions->find(QStringLiteral("house")), nullptr);
-    IHBXRegion *house = regions->find(QStringLiteral("House"));
-    ASSERT_NE(house, nullptr);
-    EXPECT_EQ(house->id(), 1);
-    EXPECT_EQ(house->name(), QStringLiteral("House"));
-    EXPECT_EQ(house->floors()->count(), 2);
-    EXPECT_EQ(house->floors()->at(2), nullptr);
-    EXPECT_EQ(house->floors()->at(-1), nullptr);
-    EXPECT_EQ(house->floors()->find(QStringLiteral("F2")), house->floors()->at(1));
-    EXPECT_EQ(house->floors()->findByCode(QStringLiteral("2")), house->floors()->at(1));
-    EXPECT_EQ(house->floors()->find(QStringLiteral("2")), nullptr);
-    EXPECT_EQ(house->floors()->findByCode(QString()), nullptr);
-}
-
-TEST_F(HBXModelStoreTest, aFloorTellsItsRecord)
-{
-    ProjectRecord record = emptyHouse();
-    record.floors[1].standardFloorCount = 4;
-    record.floors[1].foundation = true;
-    record.floors[1].remark = QStringLiteral("typical");
-    store.load(record);
-    QString code;
-    IHBXFloor *second = floor("F2");
-    EXPECT_EQ(second->id(), 3);
-    EXPECT_EQ(second->code(code), QStringLiteral("2"));
-    EXPECT_EQ(second->name(), QStringLiteral("F2"));
-    EXPECT_EQ(second->bottomElev(), 3.0);
-    EXPECT_EQ(second->height(), 3.5);
-    EXPECT_EQ(second->topElev(), 6.5);
-    EXPECT_EQ(second->standardFloorCount(), 4);
-    EXPECT_TRUE(second->flag());
-    EXPECT_EQ(second->remark(), QStringLiteral("typical"));
-    EXPECT_EQ(second->region(), model().regions()->at(0));
-}
-
 TEST_F(HBXModelStoreTest, theCurrentStateIsWhatWasSelected)
 {
     IHBXCurState *state = store.service()->curState();
@@ -75,32 +35,6 @@ TEST_F(HBXModelStoreTest, theCurrentStateIsWhatWasSelected)
     store.setCurrentLayer(2);
     EXPECT_EQ(state->layer(), 2);
     EXPECT_EQ(state->currentLayer(-1), 2);
-}
-
-TEST_F(HBXModelStoreTest, bracketsNestByKey)
-{
-    model().beginBatch("outer", true);
-    model().beginBatch("inner", true);
-    model().beginBatch("outer", true);
-    model().endBatch("unknown");
-    EXPECT_EQ(store.openBatches(), (std::vector<std::string>{"outer", "inner", "outer"}));
-    model().endBatch("outer");
-    EXPECT_EQ(store.openBatches(), (std::vector<std::string>{"outer", "inner"}));
-    model().endBatch("inner");
-    model().endBatch("outer");
-    EXPECT_TRUE(store.openBatches().empty());
-    const auto &entries = store.journal().entries();
-    ASSERT_EQ(entries.size(), 6u);
-    EXPECT_EQ(entries[0].kind, JournalEntry::kBracketOpened);
-    EXPECT_EQ(entries[0].name, QStringLiteral("outer"));
-    EXPECT_EQ(entries[5].kind, JournalEntry::kBracketClosed);
-}
-
-TEST_F(HBXModelStoreTest, changesOutsideABracketAreTaken)
-{
-    EXPECT_NE(element(19), nullptr);
-    model().refresh(0);
-    EXPECT_EQ(elements().count(), 1);
 }
 
 TEST_F(HBXModelStoreTest, newObjectsAreChangesOnceTheyAreEntered)

@@ -32,7 +32,7 @@ bool fits(const QJsonValue &value, const PropertyEntry &entry)
 {
     switch (entry.kind) {
     case PropertyKind::Integer:
-        return isWhole(value) || (entry.role == PropertyRole::DrawObjIds && value.isString());
+        return isWhole(value) || (entry.namesDrawObjs() && value.isString());
     case PropertyKind::Double:
         return value.isDouble();
     case PropertyKind::Text:
@@ -96,7 +96,7 @@ const std::map<PropertyKind, const char *> kSchemaForms{
 /** Form of a property in the schema: whole numbers that are ids stand there as keys. */
 QString schemaForm(const PropertyEntry &entry)
 {
-    const bool isId = entry.kind == PropertyKind::Integer && entry.role == PropertyRole::DrawObjIds;
+    const bool isId = entry.kind == PropertyKind::Integer && entry.namesDrawObjs();
     return QStringLiteral("#/$defs/") + QLatin1String(isId ? "keyProperty" : kSchemaForms.at(entry.kind));
 }
 

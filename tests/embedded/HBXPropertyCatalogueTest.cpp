@@ -349,7 +349,7 @@ TEST(HBXPropertyCatalogueTest, propertiesThatHoldIdsOfDrawObjectsAreMarked)
     std::set<QString> marked;
     for (const qint64 type : catalogue().types()) {
         for (const PropertyEntry &entry : catalogue().entries(type)) {
-            if (entry.role == PropertyRole::DrawObjIds) {
+            if (entry.namesDrawObjs()) {
                 marked.insert(entry.name);
             }
         }

@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include <ostream>
 #include <string>
 
 /** Project files for tests, and other programs that have their hands on them. */
@@ -105,6 +106,52 @@ protected:
     }
 
     QTemporaryDir m_folder;
+};
+
+/** What another program does to a file, and what is told of it then. */
+struct Damage
+{
+    const char *sql;
+    const char *told;
+};
+
+inline void PrintTo(const Damage &damage, std::ostream *out) { *out << damage.sql; }
+
+class DamagedFileTest : public ProjectFileTest, public ::testing::WithParamInterface<Damage>
+{
+protected:
+    void expectTold()
+    {
+        makeFile();
+        changeFile(GetParam().sql);
+        EXPECT_EQ(refusal(), GetParam().told);
+    }
+};
+
+/** An update without changes of a project. */
+inline hbx::embedded::ProjectUpdate updateOf(const hbx::embedded::ProjectRecord &project)
+{
+    hbx::embedded::ProjectUpdate update;
+    static_cast<hbx::embedded::ProjectSettings &>(update.content) = project;
+    update.content.nextId = project.nextId;
+    return update;
+}
+
+/** The small building in a file that was read, and an update that changes nothing in it yet. */
+class SavedFileTest : public ProjectFileTest
+{
+protected:
+    SavedFileTest() : project(makeFile()), file(path()), update(updateOf(project))
+    {
+        EXPECT_TRUE(file.read(error)) << error.text().toStdString();
+    }
+    void save() { EXPECT_TRUE(file.save(update, error)) << error.text().toStdString(); }
+    std::string value(const char *sql) { return OtherProgram(path()).value(sql); }
+
+    hbx::embedded::ProjectRecord project;
+    hbx::embedded::HBXDatabaseFile file;
+    hbx::embedded::ProjectUpdate update;
+    hbx::embedded::ProjectError error;
 };
 
 } // namespace projecttest

@@ -1,6 +1,6 @@
 #include "encoding/FlatRecordFields.h"
 
-#include "encoding/KeyLiteral.h"
+#include "encoding/RecordKey.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "encoding/GeometryFields.h"
 
-#include "encoding/KeyLiteral.h"
+#include "encoding/RecordKey.h"
 #include "platform/geometry/CLine2d.h"
 
 #include <gtest/gtest.h>
@@ -37,7 +37,7 @@ Shape read(const QJsonObject &json)
     Shape shape;
     shape.axis = new vks::CLine2d({0, 0}, {1, 1});
     shape.exactAxis = shape.axis;
-    shape.outline = ORVCADJsonCGeometryObjOper().getPolyInfo(QStringLiteral("0,0;1,0;1,1;"));
+    shape.outline = GeometryTextReader::polygonOf(QStringLiteral("0,0;1,0;1,1;"));
     shape.exactOutline = shape.outline;
     readFields(json, Shape::table(), shape);
     return shape;
@@ -51,16 +51,13 @@ TEST(GeometryFieldsTest, bothTextFormsAreReadAndWritten)
     EXPECT_EQ(shape.outline->Area(), 5000.0);
     EXPECT_EQ(shape.exactAxis->Length(), 1.23456789);
     EXPECT_EQ(shape.exactOutline->Area(), 5000.0);
-    QJsonObject written;
-    writeFields(shape, Shape::table(), written);
-    EXPECT_EQ(written, kFilled);
+    EXPECT_EQ(writtenFields(shape, Shape::table()), kFilled);
 }
 
 TEST(GeometryFieldsTest, nullGeometryIsTheEmptyText)
 {
-    QJsonObject written;
-    writeFields(Shape(), Shape::table(), written);
-    EXPECT_EQ(written, (QJsonObject{{"axis", ""}, {"outline", ""}, {"exactAxis", ""}, {"exactOutline", ""}}));
+    EXPECT_EQ(writtenFields(Shape(), Shape::table()),
+              (QJsonObject{{"axis", ""}, {"outline", ""}, {"exactAxis", ""}, {"exactOutline", ""}}));
 }
 
 TEST(GeometryFieldsTest, badEmptyMissingAndMistypedTextsReadAsNull)
@@ -93,8 +90,7 @@ struct Place
 TEST(GeometryFieldsTest, pointIsItsTextAndABadOneIsTheOrigin)
 {
     Place place;
-    QJsonObject json;
-    writeFields(place, Place::table(), json);
+    const QJsonObject json = writtenFields(place, Place::table());
     EXPECT_EQ(json["point"], "1,2");
     readFields({{"point", "3.5,-4"}}, Place::table(), place);
     EXPECT_EQ(place.point, vks::CVec2<double>(3.5, -4));

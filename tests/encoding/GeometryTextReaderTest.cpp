@@ -325,3 +325,18 @@ TEST(GeometryTextReaderTest, whatTheKernelDoesNotKnowEitherIsNoPolygon)
     Reader::Polygon polygon;
     EXPECT_FALSE(Reader::reconstructPoly_WithAsString(QStringLiteral("0,0;100,0;100,100;"), polygon));
 }
+
+TEST(GeometryTextReaderTest, byValueACurveIsNullForABadText)
+{
+    EXPECT_EQ(Reader::curveOf(u"0,0,30,40")->Length(), 50.0);
+    EXPECT_EQ(Reader::curveOf(u"0,0,1E3,0"), nullptr);
+    EXPECT_EQ(Reader::curveOf(u""), nullptr);
+}
+
+TEST(GeometryTextReaderTest, byValueAPolygonThatIsNotValidIsGivenLikeAnyOther)
+{
+    EXPECT_EQ(Reader::polygonOf(QStringLiteral("0,0;10,0;10,10;"))->Area(), 50.0);
+    EXPECT_NE(Reader::polygonOf(QStringLiteral("0,0;100,100;100,0;0,100;")), nullptr);
+    EXPECT_EQ(Reader::polygonOf(QStringLiteral("0,0;")), nullptr);
+    EXPECT_EQ(Reader::polygonOf(QString()), nullptr);
+}

@@ -1,6 +1,6 @@
 #include "encoding/RecordFields.h"
 
-#include "encoding/KeyLiteral.h"
+#include "encoding/RecordKey.h"
 
 #include <QJsonDocument>
 
@@ -72,18 +72,26 @@ constexpr auto kTable = std::make_tuple(
     field("read"_key, &Slab::read, Flow::ReadOnly), fieldAs<NumberInText>("angle"_key, &Slab::angle),
     field("numbers"_key, &Slab::numbers), field("bar"_key, &Slab::bar), field("bars"_key, &Slab::bars));
 
-QJsonObject written(const Slab &slab)
-{
-    QJsonObject json;
-    writeFields(slab, kTable, json);
-    return json;
-}
+QJsonObject written(const Slab &slab) { return writtenFields(slab, kTable); }
 
 Slab readFrom(const char *json)
 {
     Slab slab;
     EXPECT_TRUE(readFields(QJsonDocument::fromJson(json).object(), kTable, slab));
     return slab;
+}
+
+/** That the fields which no row sets otherwise are as the declaration says. */
+void expectDefaults(const Slab &slab)
+{
+    EXPECT_EQ(slab.name, "unnamed");
+    EXPECT_EQ(slab.count, 1);
+    EXPECT_EQ(slab.id, -1);
+    EXPECT_EQ(slab.elev, 3.5);
+    EXPECT_TRUE(slab.visible);
+    EXPECT_EQ(slab.angle, 90);
+    EXPECT_EQ(slab.numbers, (QList<int>{1, 2}));
+    EXPECT_EQ(slab.bar.text, "default");
 }
 
 } // namespace
@@ -131,28 +139,14 @@ TEST(RecordFieldsTest, numberBeyondALongIntegerIsMistyped)
 TEST(RecordFieldsTest, missingKeyKeepsTheDefaultOfTheDeclaration)
 {
     const Slab slab = readFrom("{}");
-    EXPECT_EQ(slab.name, "unnamed");
-    EXPECT_EQ(slab.count, 1);
-    EXPECT_EQ(slab.id, -1);
-    EXPECT_EQ(slab.elev, 3.5);
-    EXPECT_TRUE(slab.visible);
-    EXPECT_EQ(slab.angle, 90);
-    EXPECT_EQ(slab.numbers, (QList<int>{1, 2}));
-    EXPECT_EQ(slab.bar.text, "default");
+    expectDefaults(slab);
 }
 
 TEST(RecordFieldsTest, mistypedValueKeepsTheDefaultOfTheDeclaration)
 {
     const Slab slab = readFrom(R"({"name": 1, "count": "2", "id": "3", "elev": "4", "visible": 1, "angle": 45,
         "numbers": {}, "bar": [], "bars": "x"})");
-    EXPECT_EQ(slab.name, "unnamed");
-    EXPECT_EQ(slab.count, 1);
-    EXPECT_EQ(slab.id, -1);
-    EXPECT_EQ(slab.elev, 3.5);
-    EXPECT_TRUE(slab.visible);
-    EXPECT_EQ(slab.angle, 90);
-    EXPECT_EQ(slab.numbers, (QList<int>{1, 2}));
-    EXPECT_EQ(slab.bar.text, "default");
+    expectDefaults(slab);
     EXPECT_TRUE(slab.bars.isEmpty());
 }
 
@@ -228,6 +222,30 @@ TEST(RecordFieldsTest, keysOfOthersStayInTheObject)
     QJsonObject json{{"other", 1}, {"count", 99}};
     writeFields(Slab(), std::make_tuple(field("count"_key, &Slab::count)), json);
     EXPECT_EQ(json, (QJsonObject{{"other", 1}, {"count", 1}}));
+}
+
+TEST(RecordFieldsTest, writtenFieldsStandInAnObjectOfTheirOwn)
+{
+    EXPECT_EQ(writtenFields(Slab(), std::make_tuple(field("count"_key, &Slab::count))), (QJsonObject{{"count", 1}}));
+}
+
+TEST(RecordFieldsTest, readingIntoNoRecordDoesNothing)
+{
+    constexpr auto table = std::make_tuple(field("count"_key, &Slab::count));
+    Slab slab;
+    readFieldsInto(&slab, table, {{"count", 7}});
+    EXPECT_EQ(slab.count, 7);
+    readFieldsInto(static_cast<Slab *>(nullptr), table, {{"count", 8}});
+    EXPECT_EQ(slab.count, 7);
+}
+
+TEST(RecordFieldsTest, freshRecordKeepsItsDefaultsBehindAMissingRequiredKey)
+{
+    const auto table = std::make_tuple(field("count"_key, &Slab::count), fieldRequired("name"_key, &Slab::name),
+                                       field("elev"_key, &Slab::elev));
+    const auto slab = readRecord<Slab>({{"count", 7}, {"elev", 1.0}}, table);
+    EXPECT_EQ(slab.count, 7);
+    EXPECT_EQ(slab.elev, 3.5);
 }
 
 TEST(RecordFieldsTest, ownedRecordsAreNewAndRefusedOnesAreLeftOut)

@@ -1,6 +1,6 @@
 #include "encoding/RecordKinds.h"
 
-#include "encoding/KeyLiteral.h"
+#include "encoding/RecordKey.h"
 
 #include <QJsonDocument>
 
@@ -58,12 +58,7 @@ class RecordKindsTest : public ::testing::Test
 {
 protected:
     void read(const QJsonObject &json) { readFields(json, Slab::table(), m_slab); }
-    QJsonObject written() const
-    {
-        QJsonObject json;
-        writeFields(m_slab, Slab::table(), json);
-        return json;
-    }
+    QJsonObject written() const { return writtenFields(m_slab, Slab::table()); }
     Slab m_slab;
 };
 
@@ -204,8 +199,7 @@ TEST(NestedRecordKindsTest, recordsAreWrittenAsObjectsOfTheirOwn)
     beam.seats = {{"a", 1}};
     beam.shared = {nullptr, std::make_shared<Seat>(Seat{"b", 2})};
     beam.ids = {3};
-    QJsonObject json;
-    writeFields(beam, Beam::table(), json);
+    const QJsonObject json = writtenFields(beam, Beam::table());
     EXPECT_EQ(json,
               QJsonDocument::fromJson(R"({"seat": {"name": "own", "width": 7}, "seats": [{"name": "a", "width": 1}],
         "shared": [{"name": "b", "width": 2}], "ids": [3]})")

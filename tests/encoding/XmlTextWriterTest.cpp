@@ -4,7 +4,9 @@
 
 #include <QDomDocument>
 
+#include <initializer_list>
 #include <random>
+#include <utility>
 
 using encoding::XmlTextWriter;
 
@@ -50,25 +52,25 @@ TEST(XmlTextWriterTest, elementsAreIndentedByOneBlankForEachLevel)
     EXPECT_EQ(writer.text(), " <a>\n  <b x=\"1\"/>\n  <c>\n   <d/>\n  </c>\n </a>\n");
 }
 
-TEST(XmlTextWriterTest, attributesStandInTheOrderOfSetting)
+/** The text of an element "a" whose attributes are set one by one. */
+QString elementWith(std::initializer_list<std::pair<QStringView, QStringView>> attributes)
 {
     XmlTextWriter writer("GB2312");
     writer.startElement(u"a");
-    for (const QStringView name : {u"z", u"a", u"m"})
-        writer.attribute(name, u"");
+    for (const auto &[name, value] : attributes)
+        writer.attribute(name, value);
     writer.endElement();
-    EXPECT_EQ(writer.text(), "<a z=\"\" a=\"\" m=\"\"/>\n");
+    return writer.text();
+}
+
+TEST(XmlTextWriterTest, attributesStandInTheOrderOfSetting)
+{
+    EXPECT_EQ(elementWith({{u"z", u""}, {u"a", u""}, {u"m", u""}}), "<a z=\"\" a=\"\" m=\"\"/>\n");
 }
 
 TEST(XmlTextWriterTest, attributeSetTwiceKeepsItsPlaceAndTakesTheNewValue)
 {
-    XmlTextWriter writer("GB2312");
-    writer.startElement(u"a");
-    writer.attribute(u"x", u"1");
-    writer.attribute(u"y", u"2");
-    writer.attribute(u"x", u"3");
-    writer.endElement();
-    EXPECT_EQ(writer.text(), "<a x=\"3\" y=\"2\"/>\n");
+    EXPECT_EQ(elementWith({{u"x", u"1"}, {u"y", u"2"}, {u"x", u"3"}}), "<a x=\"3\" y=\"2\"/>\n");
 }
 
 TEST(XmlTextWriterTest, attributeSetTwiceAmongManyIsFound)
@@ -86,23 +88,11 @@ TEST(XmlTextWriterTest, attributeSetTwiceAmongManyIsFound)
     EXPECT_TRUE(writer.text().contains(" a70=\"2\" a71=\"1\""));
 }
 
-TEST(XmlTextWriterTest, attributeWithoutANameIsNotWritten)
-{
-    XmlTextWriter writer("GB2312");
-    writer.startElement(u"a");
-    writer.attribute(u"", u"1");
-    writer.endElement();
-    EXPECT_EQ(writer.text(), "<a/>\n");
-}
+TEST(XmlTextWriterTest, attributeWithoutANameIsNotWritten) { EXPECT_EQ(elementWith({{u"", u"1"}}), "<a/>\n"); }
 
 TEST(XmlTextWriterTest, namesGoOutAsTheyAre)
 {
-    XmlTextWriter writer("GB2312");
-    writer.startElement(u"a");
-    writer.attribute(u"3,", u"");
-    writer.attribute(u"b <c", u"");
-    writer.endElement();
-    EXPECT_EQ(writer.text(), "<a 3,=\"\" b <c=\"\"/>\n");
+    EXPECT_EQ(elementWith({{u"3,", u""}, {u"b <c", u""}}), "<a 3,=\"\" b <c=\"\"/>\n");
 }
 
 TEST(XmlTextWriterTest, markupAndLineBreaksAreEscapedInValues)

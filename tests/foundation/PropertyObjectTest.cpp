@@ -36,15 +36,15 @@ std::vector<QString> namesOf(const std::vector<cv::Object_AI *> &objects)
     return names;
 }
 
-/** "storey" with the children "slab" (with "hole" and "beam") and "beam". */
+/** "floor" with the children "slab" (with "hole" and "beam") and "beam". */
 class PropertyObjectTest : public testing::Test
 {
 protected:
-    cv::Object_AI storey{QString("storey")};
-    cv::Object_AI *slab = new cv::Object_AI("slab", &storey);
+    cv::Object_AI floor{QString("floor")};
+    cv::Object_AI *slab = new cv::Object_AI("slab", &floor);
     cv::Object_AI *hole = new cv::Object_AI("hole", slab);
     cv::Object_AI *deepBeam = new cv::Object_AI("beam", slab);
-    cv::Object_AI *beam = new cv::Object_AI("beam", &storey);
+    cv::Object_AI *beam = new cv::Object_AI("beam", &floor);
     double field = 1.0;
 };
 
@@ -52,10 +52,10 @@ protected:
 
 TEST_F(PropertyObjectTest, objectWithAParentIsItsLastChild)
 {
-    EXPECT_THAT(storey.children(), ElementsAre(slab, beam));
-    EXPECT_EQ(beam->parent(), &storey);
-    EXPECT_EQ(deepBeam->root(), &storey);
-    EXPECT_EQ(storey.parent(), nullptr);
+    EXPECT_THAT(floor.children(), ElementsAre(slab, beam));
+    EXPECT_EQ(beam->parent(), &floor);
+    EXPECT_EQ(deepBeam->root(), &floor);
+    EXPECT_EQ(floor.parent(), nullptr);
     EXPECT_EQ(slab->data(), slab);
 }
 
@@ -71,7 +71,7 @@ TEST_F(PropertyObjectTest, nameIsEmptyUnlessGiven)
 TEST_F(PropertyObjectTest, setParentToNullDetachesWithoutDeleting)
 {
     slab->setParent(nullptr);
-    EXPECT_THAT(storey.children(), ElementsAre(beam));
+    EXPECT_THAT(floor.children(), ElementsAre(beam));
     EXPECT_EQ(slab->root(), slab);
     EXPECT_EQ(slab->childCount(), 2U);
     delete slab;
@@ -185,7 +185,7 @@ TEST_F(PropertyObjectTest, exceptionsOfGettersAndSettersPassThrough)
 
 TEST_F(PropertyObjectTest, inheritedPropertyIsFoundInAGrandparent)
 {
-    storey.setProperty("concrete", QString("C30"));
+    floor.setProperty("concrete", QString("C30"));
     EXPECT_EQ(hole->inherited_property("concrete").to<QString>(), "C30");
     EXPECT_FALSE(hole->hasProperty("concrete"));
     EXPECT_TRUE(hole->property("concrete").isEmpty());
@@ -193,7 +193,7 @@ TEST_F(PropertyObjectTest, inheritedPropertyIsFoundInAGrandparent)
 
 TEST_F(PropertyObjectTest, valueInTheNearerObjectWins)
 {
-    storey.setProperty("concrete", QString("C30"));
+    floor.setProperty("concrete", QString("C30"));
     slab->setProperty("concrete", QString("C40"));
     EXPECT_EQ(hole->inherited_property("concrete").to<QString>(), "C40");
     hole->setProperty("concrete", QString("C50"));
@@ -203,12 +203,12 @@ TEST_F(PropertyObjectTest, valueInTheNearerObjectWins)
 TEST_F(PropertyObjectTest, inheritedPropertyThatNobodyHasGivesTheDefault)
 {
     EXPECT_EQ(hole->inherited_property("concrete", 5).cast<int>(), 5);
-    EXPECT_TRUE(storey.inherited_property("concrete").isEmpty());
+    EXPECT_TRUE(floor.inherited_property("concrete").isEmpty());
 }
 
 TEST_F(PropertyObjectTest, parentWithoutDataInheritsNothing)
 {
-    storey.setProperty("concrete", QString("C30"));
+    floor.setProperty("concrete", QString("C30"));
     slab->setData(nullptr);
     EXPECT_EQ(hole->inherited_property("concrete", 5).cast<int>(), 5);
     slab->setData(slab);
@@ -258,8 +258,8 @@ TEST_F(PropertyObjectTest, proxyOfAConstObjectReads)
 
 TEST_F(PropertyObjectTest, positionAndNameAreToldApart)
 {
-    EXPECT_EQ(storey[0], slab);
-    EXPECT_EQ(storey[1], beam);
+    EXPECT_EQ(floor[0], slab);
+    EXPECT_EQ(floor[1], beam);
 }
 
 // ---- Methods
@@ -321,31 +321,31 @@ TEST_F(PropertyObjectTest, exceptionsOfMethodsPassThrough)
 
 TEST_F(PropertyObjectTest, childIsFoundByNameDirectOnesFirst)
 {
-    EXPECT_EQ(storey.findChild("beam", FindWholeSubtree), beam);
-    EXPECT_EQ(storey.findChild("hole", FindWholeSubtree), hole);
-    EXPECT_EQ(storey.findChild("hole"), nullptr);
-    EXPECT_EQ(storey.findChild("raft", FindWholeSubtree), nullptr);
-    EXPECT_THAT(storey.findChildren("beam", FindWholeSubtree), ElementsAre(beam, deepBeam));
-    EXPECT_THAT(storey.findChildren("beam"), ElementsAre(beam));
+    EXPECT_EQ(floor.findChild("beam", FindWholeSubtree), beam);
+    EXPECT_EQ(floor.findChild("hole", FindWholeSubtree), hole);
+    EXPECT_EQ(floor.findChild("hole"), nullptr);
+    EXPECT_EQ(floor.findChild("raft", FindWholeSubtree), nullptr);
+    EXPECT_THAT(floor.findChildren("beam", FindWholeSubtree), ElementsAre(beam, deepBeam));
+    EXPECT_THAT(floor.findChildren("beam"), ElementsAre(beam));
 }
 
 TEST_F(PropertyObjectTest, predicateGetsObjects)
 {
     hole->setProperty("round", true);
     const auto isRound = [](const Base *object) { return object->hasProperty("round"); };
-    EXPECT_EQ(storey.findChild_if(isRound, FindWholeSubtree), hole);
-    EXPECT_EQ(storey.findChild_if(isRound), nullptr);
-    EXPECT_THAT(storey.findChildren_if(isRound, FindWholeSubtree), ElementsAre(hole));
+    EXPECT_EQ(floor.findChild_if(isRound, FindWholeSubtree), hole);
+    EXPECT_EQ(floor.findChild_if(isRound), nullptr);
+    EXPECT_THAT(floor.findChildren_if(isRound, FindWholeSubtree), ElementsAre(hole));
 }
 
 TEST_F(PropertyObjectTest, childIsMadeOnlyIfThereIsNone)
 {
-    EXPECT_EQ(storey.createIfNotExists("slab"), slab);
-    EXPECT_EQ(storey.createIfNotExists("hole", FindWholeSubtree), hole);
-    cv::Object_AI *fresh = storey.createIfNotExists("hole");
+    EXPECT_EQ(floor.createIfNotExists("slab"), slab);
+    EXPECT_EQ(floor.createIfNotExists("hole", FindWholeSubtree), hole);
+    cv::Object_AI *fresh = floor.createIfNotExists("hole");
     EXPECT_NE(fresh, hole);
     EXPECT_EQ(fresh->objectName(), "hole");
-    EXPECT_THAT(storey.children(), ElementsAre(slab, beam, fresh));
+    EXPECT_THAT(floor.children(), ElementsAre(slab, beam, fresh));
 }
 
 TEST_F(PropertyObjectTest, objectWithoutDataMakesNoChild)
@@ -389,7 +389,7 @@ TEST_F(PropertyObjectTest, movedObjectTakesThePlaceOfTheOther)
     slab->setProperty("thickness", 120.0);
     slab->setMethod("note", methodGiving(1));
     auto *moved = new cv::Object_AI(std::move(*slab));
-    EXPECT_THAT(storey.children(), ElementsAre(beam, moved));
+    EXPECT_THAT(floor.children(), ElementsAre(beam, moved));
     EXPECT_THAT(moved->children(), ElementsAre(hole, deepBeam));
     EXPECT_EQ(moved->objectName(), "slab");
     EXPECT_EQ(moved->property("thickness").cast<double>(), 120.0);
@@ -409,7 +409,7 @@ TEST_F(PropertyObjectTest, copyAssignmentTakesNameAndPropertiesOnly)
     EXPECT_EQ(beam->objectName(), "slab");
     EXPECT_THAT(beam->propertyNames(), ElementsAre("thickness"));
     EXPECT_EQ(beam->childCount(), 0U);
-    EXPECT_THAT(storey.children(), ElementsAre(slab, beam));
+    EXPECT_THAT(floor.children(), ElementsAre(slab, beam));
     const cv::Object_AI &itself = *slab;
     *slab = itself;
     EXPECT_EQ(slab->property("thickness").cast<double>(), 120.0);
@@ -428,18 +428,18 @@ TEST_F(PropertyObjectTest, moveAssignmentTakesChildrenAndPlaceAndExchangesThePro
     EXPECT_THAT(target.propertyNames(), ElementsAre("thickness"));
     EXPECT_THAT(slab->propertyNames(), ElementsAre("width"));
     EXPECT_THAT(target.children(), ElementsAre(hole, deepBeam));
-    EXPECT_THAT(storey.children(), ElementsAre(beam, &target));
+    EXPECT_THAT(floor.children(), ElementsAre(beam, &target));
     target.setParent(nullptr);
     delete slab;
 }
 
 TEST_F(PropertyObjectTest, moveFromWithinOrOntoItselfChangesNothing)
 {
-    storey = std::move(*hole);
-    cv::Object_AI &itself = storey;
-    storey = std::move(itself);
-    EXPECT_EQ(storey.objectName(), "storey");
-    EXPECT_THAT(namesOf(storey.children(FindWholeSubtree)), ElementsAre("slab", "hole", "beam", "beam"));
+    floor = std::move(*hole);
+    cv::Object_AI &itself = floor;
+    floor = std::move(itself);
+    EXPECT_EQ(floor.objectName(), "floor");
+    EXPECT_THAT(namesOf(floor.children(FindWholeSubtree)), ElementsAre("slab", "hole", "beam", "beam"));
 }
 
 // ---- End
@@ -455,12 +455,12 @@ TEST_F(PropertyObjectTest, callbackComesFirstOfAll)
         EXPECT_TRUE(slab->hasProperty("thickness"));
         EXPECT_EQ(slab->invokeMethod("note").cast<int>(), 1);
         EXPECT_EQ(slab->childCount(), 2U);
-        EXPECT_EQ(slab->parent(), &storey);
+        EXPECT_EQ(slab->parent(), &floor);
     });
     hole->setCallbackBeforeDestroyed([&] { order.emplace_back("hole"); });
     delete slab;
     EXPECT_THAT(order, ElementsAre("slab", "hole"));
-    EXPECT_THAT(storey.children(), ElementsAre(beam));
+    EXPECT_THAT(floor.children(), ElementsAre(beam));
 }
 
 TEST_F(PropertyObjectTest, laterCallbackReplacesTheEarlier)

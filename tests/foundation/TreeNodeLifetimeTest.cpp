@@ -90,63 +90,67 @@ TEST(TreeNodeLifetimeTest, treeDiesFromTheTopInOrder)
     EXPECT_THAT(trace.lines, ElementsAre("~r", "~a", "~b", "~c", "~d", "~e", "~f"));
 }
 
-TEST(TreeNodeLifetimeTest, nodeThatDiesSeesItsChildrenAndNoParent)
+/** A tree of counted nodes, which each test takes down. */
+class DyingNodeTest : public testing::Test
 {
+protected:
+    Counted *under(Counted &parent)
+    {
+        auto *node = new Counted(alive);
+        parent.appendChild(node);
+        return node;
+    }
+    void takeDown()
+    {
+        root.reset();
+        EXPECT_EQ(alive, 0);
+    }
+
     int alive = 0;
-    auto root = std::make_unique<Counted>(alive);
-    auto *child = new Counted(alive);
-    root->appendChild(child);
-    child->appendChild(new Counted(alive));
+    std::unique_ptr<Counted> root = std::make_unique<Counted>(alive);
+};
+
+TEST_F(DyingNodeTest, nodeThatDiesSeesItsChildrenAndNoParent)
+{
+    auto *child = under(*root);
+    under(*child);
     quint64 children = 0;
     child->dying = [&] { children = child->hasParent() ? 99 : child->childCount(); };
-    root.reset();
+    takeDown();
     EXPECT_EQ(children, 1U);
-    EXPECT_EQ(alive, 0);
 }
 
-TEST(TreeNodeLifetimeTest, dyingNodeMayDeleteItsSibling)
+TEST_F(DyingNodeTest, dyingNodeMayDeleteItsSibling)
 {
-    int alive = 0;
-    auto root = std::make_unique<Counted>(alive);
-    auto *first = new Counted(alive);
-    auto *second = new Counted(alive);
-    *root << first << second << new Counted(alive);
-    second->appendChild(new Counted(alive));
+    auto *first = under(*root);
+    auto *second = under(*root);
+    under(*root);
+    under(*second);
     first->dying = [&] { delete second; };
-    root.reset();
-    EXPECT_EQ(alive, 0);
+    takeDown();
 }
 
-TEST(TreeNodeLifetimeTest, dyingNodeMayDeleteANodeTwoLevelsBelowTheSameParent)
+TEST_F(DyingNodeTest, dyingNodeMayDeleteANodeTwoLevelsBelowTheSameParent)
 {
-    int alive = 0;
-    auto root = std::make_unique<Counted>(alive);
-    auto *middle = new Counted(alive);
-    auto *first = new Counted(alive);
-    auto *second = new Counted(alive);
-    root->appendChild(middle);
-    *middle << first << second;
+    auto *middle = under(*root);
+    auto *first = under(*middle);
+    auto *second = under(*middle);
     first->dying = [&] { delete second; };
-    root.reset();
-    EXPECT_EQ(alive, 0);
+    takeDown();
 }
 
-TEST(TreeNodeLifetimeTest, treeDeletedByADyingNodeIsGoneAtOnce)
+TEST_F(DyingNodeTest, treeDeletedByADyingNodeIsGoneAtOnce)
 {
-    int alive = 0;
-    auto root = std::make_unique<Counted>(alive);
-    auto *child = new Counted(alive);
-    root->appendChild(child);
+    auto *child = under(*root);
     auto other = std::make_unique<Counted>(alive);
-    other->appendChild(new Counted(alive));
+    under(*other);
     int left = 0;
     child->dying = [&] {
         other.reset();
         left = alive;
     };
-    root.reset();
+    takeDown();
     EXPECT_EQ(left, 0) << "root and child are counted out already";
-    EXPECT_EQ(alive, 0);
 }
 
 } // namespace

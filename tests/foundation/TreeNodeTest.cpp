@@ -1,39 +1,16 @@
 #include "foundation/TreeNode.h"
 
-#include "TracedNode.h"
+#include "TracedTree.h"
 
 #include <gmock/gmock.h>
-
-#include <memory>
 
 namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/** Root "r" with the children a, b, c; d and e under a, f under c. */
-class TreeNodeTest : public testing::Test
-{
-protected:
-    TreeNodeTest()
-    {
-        *root << a << b << c;
-        *a << d << e;
-        *c << f;
-        trace.take();
-    }
-    TracedNode *made(const char *name) { return new TracedNode(trace, name); }
-    Names children() const { return namesOf(root->children()); }
-
-    Trace trace;
-    std::unique_ptr<TracedNode> root{made("r")};
-    TracedNode *a = made("a");
-    TracedNode *b = made("b");
-    TracedNode *c = made("c");
-    TracedNode *d = made("d");
-    TracedNode *e = made("e");
-    TracedNode *f = made("f");
-};
+class TreeNodeTest : public TracedTree
+{};
 
 /** Payloads need not be nodes by type: this one is a node in private. */
 struct Hidden : protected gp::TreeNode<Hidden *>
@@ -102,48 +79,6 @@ TEST_F(TreeNodeTest, rootNodeOfARootIsTheNodeItself)
     EXPECT_EQ(root->parent(), nullptr);
     EXPECT_EQ(root->parentNode(), nullptr);
     EXPECT_FALSE(root->hasParent());
-}
-
-// ---- Searches
-
-TEST_F(TreeNodeTest, directChildIsFoundBeforeADeeperOneThatStandsEarlier)
-{
-    const auto isDOrC = [this](auto *node) { return node == d || node == c; };
-    EXPECT_EQ(root->findChild_if(isDOrC, FindWholeSubtree), c);
-    EXPECT_EQ(root->findChild_if(isDOrC), c);
-    EXPECT_THAT(namesOf(root->findChildren_if(isDOrC, FindWholeSubtree)), ElementsAre("c", "d"));
-}
-
-TEST_F(TreeNodeTest, searchGoesThroughOneSubtreeAfterTheOther)
-{
-    *d << made("g");
-    Names order;
-    root->findChild_if(
-        [&](auto *node) {
-            order.push_back(node->data()->name());
-            return false;
-        },
-        FindWholeSubtree);
-    EXPECT_THAT(order, ElementsAre("a", "b", "c", "d", "e", "g", "f"));
-}
-
-TEST_F(TreeNodeTest, searchAmongDirectChildrenStaysThere)
-{
-    const auto any = [](auto *) { return true; };
-    EXPECT_THAT(namesOf(root->findChildren_if(any, FindDirectChildren)), ElementsAre("a", "b", "c"));
-    EXPECT_EQ(root->findChild_if([this](auto *node) { return node == d; }), nullptr);
-    EXPECT_EQ(b->findChild_if(any, FindWholeSubtree), nullptr);
-}
-
-TEST_F(TreeNodeTest, payloadIsFoundWithItsNodes)
-{
-    f->setData(b);
-    EXPECT_EQ(root->findChild(d), nullptr);
-    EXPECT_EQ(root->findChild(d, FindWholeSubtree), d);
-    EXPECT_EQ(root->find_child_node_from_data(b, FindWholeSubtree), b);
-    EXPECT_EQ(root->find_child_node_from_data(f, FindWholeSubtree), nullptr);
-    EXPECT_THAT(root->find_childs_node_from_data(b, FindWholeSubtree), ElementsAre(b, f));
-    EXPECT_THAT(root->find_childs_node_from_data(b), ElementsAre(b));
 }
 
 // ---- Insertion

@@ -14,7 +14,7 @@
 class Slab : public cv::Object_AI
 {
 public:
-    Slab(const QString &name, cv::Object_AI *storey) : cv::Object_AI(name, storey)
+    Slab(const QString &name, cv::Object_AI *floor) : cv::Object_AI(name, floor)
     {
         setProperty(
             "thickness", [this] { return Any(thickness); },
@@ -23,11 +23,11 @@ public:
     double thickness = 0.0; // mm
 };
 
-/** A storey that keeps count of what comes and goes anywhere below it. */
-class Storey : public cv::Object_AI
+/** A floor that keeps count of what comes and goes anywhere below it. */
+class Floor : public cv::Object_AI
 {
 public:
-    explicit Storey(const QString &name) : cv::Object_AI(name) {}
+    explicit Floor(const QString &name) : cv::Object_AI(name) {}
     int changes = 0;
 
 protected:
@@ -36,22 +36,22 @@ protected:
 
 int recognise()
 {
-    Storey storey("F2");                  // a root belongs to whoever made it
-    auto *slab = new Slab("S1", &storey); // a child to its parent
-    new Slab("S2", &storey);              // in order of making
-    new cv::Object_AI("opening", slab);   // storey.changes is 3 now
+    Floor floor("F2");                   // a root belongs to whoever made it
+    auto *slab = new Slab("S1", &floor); // a child to its parent
+    new Slab("S2", &floor);              // in order of making
+    new cv::Object_AI("opening", slab);  // floor.changes is 3 now
 
     (*slab)["thickness"] = 120; // reaches slab->thickness
-    storey.setProperty("concrete", QString("C30"));
-    const cv::Object_AI *opening = storey.findChild("opening", FindWholeSubtree);
-    const auto concrete = opening->inherited_property("concrete").to<QString>(); // that of the storey
+    floor.setProperty("concrete", QString("C30"));
+    const cv::Object_AI *opening = floor.findChild("opening", FindWholeSubtree);
+    const auto concrete = opening->inherited_property("concrete").to<QString>(); // that of the floor
 
     slab->log("thickness", "no text near the outline", 0.4)->setValue("assumed", 120)->setValue("concrete", concrete);
-    slab->raiseLog(); // the log stands under the storey now
-    delete slab;      // leaves the storey, and the opening dies with it
-    storey.saveLog(); // without this the storey would end the process
+    slab->raiseLog(); // the log stands under the floor now
+    delete slab;      // leaves the floor, and the opening dies with it
+    floor.saveLog();  // without this the floor would end the process
 
-    return storey.changes;
+    return floor.changes;
 }
 // ---- end
 
@@ -70,7 +70,7 @@ TEST(WorkedExampleTest, exampleDoesWhatItSays)
 {
     const QDir folder("E:/orv_2018_AI0529/build/bin/Win32/Release/BoardCheckLog");
     const int before = folder.entryList(QDir::Files).size();
-    // Three come; the log comes, leaves the slab and goes to the storey; the slab goes; the log goes.
+    // Three come; the log comes, leaves the slab and goes to the floor; the slab goes; the log goes.
     EXPECT_EQ(recognise(), 8);
     EXPECT_EQ(folder.entryList(QDir::Files).size(), before + 1);
 }

@@ -1,5 +1,8 @@
 #include "platform/geometry/CArc2d.h"
 
+#include "geometry/ExpectPoints.h"
+#include "geometry/KernelShapes.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -8,16 +11,10 @@
 
 namespace {
 
+using shapes::expectNear;
+using shapes::kPi;
 using vks::CArc2d;
 using Vec = vks::CVec2<double>;
-
-constexpr double kPi = 3.14159265358979323846;
-
-void expectNear(const Vec &found, const Vec &expected, double tolerance = 1e-9)
-{
-    EXPECT_NEAR(found.x, expected.x, tolerance);
-    EXPECT_NEAR(found.y, expected.y, tolerance);
-}
 
 TEST(CArc2dTest, bulgeOneIsHalfACircleToTheRightOfItsChord)
 {
@@ -160,6 +157,14 @@ TEST(CArc2dTest, bulgeZeroIsAFlatArc)
     EXPECT_EQ(arc.GetBulge(), 0);
     EXPECT_TRUE(std::isinf(arc.Radius()));
     EXPECT_FALSE(arc.CenterPt().IsFinite());
+}
+
+TEST(CArc2dTest, lineAndFlatArcAreNoRoundArcs)
+{
+    const CArc2d round({0, 0}, {300, 400}, 0.5);
+    EXPECT_EQ(CArc2d::RoundArc(round), &round);
+    EXPECT_EQ(CArc2d::RoundArc(CArc2d({0, 0}, {300, 400}, 0.0)), nullptr);
+    EXPECT_EQ(CArc2d::RoundArc(vks::CLine2d({0, 0}, {300, 400})), nullptr);
 }
 
 TEST(CArc2dTest, bulgeOfWhichNoFiniteCircleComesIsAFlatArc)

@@ -43,6 +43,16 @@ TEST(CBox2Test, touchingBoxesIntersect)
     EXPECT_TRUE(Box({0, 0}, {1, 1}).Intersects(Box({1.5, 0}, {2, 2}), 0.5));
 }
 
+TEST(CBox2Test, commonPartIsWhatBothHold)
+{
+    const Box common = Box({0, 0}, {10, 10}).Common(Box({4, -5}, {20, 6}));
+    EXPECT_EQ(common.minPt, vks::CVec2<double>(4, 0));
+    EXPECT_EQ(common.maxPt, vks::CVec2<double>(10, 6));
+    EXPECT_TRUE(Box({0, 0}, {1, 1}).Common(Box({1, 1}, {2, 2})).IsValid());
+    EXPECT_FALSE(Box({0, 0}, {1, 1}).Common(Box({3, 0}, {4, 1})).IsValid());
+    EXPECT_FALSE(Box({0, 0}, {1, 1}).Common(Box()).IsValid());
+}
+
 TEST(CBox2Test, boxInsideOutWithinTheToleranceIsValid)
 {
     const Box box({1e-13, 0}, {0, 1});

@@ -1,5 +1,6 @@
 #include "platform/geometry/CCurve2d.h"
 
+#include "geometry/ExpectPoints.h"
 #include "geometry/KernelShapes.h"
 
 #include <gtest/gtest.h>
@@ -9,6 +10,7 @@
 
 namespace {
 
+using shapes::expectNear;
 using vks::CCurve2d;
 using vks::CRefPtr;
 using Vec = vks::CVec2<double>;
@@ -19,12 +21,6 @@ class CCurve2dTest : public ::testing::TestWithParam<const char *>
 protected:
     CRefPtr<CCurve2d> curve{dynamic_cast<CCurve2d *>(vks::CGeometry::LoadFromStr(GetParam()).get())};
 };
-
-void expectNear(const Vec &found, const Vec &expected)
-{
-    EXPECT_NEAR(found.x, expected.x, 1e-9);
-    EXPECT_NEAR(found.y, expected.y, 1e-9);
-}
 
 TEST_P(CCurve2dTest, orderOfTrimmingMeansNothing)
 {

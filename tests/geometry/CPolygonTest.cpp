@@ -68,6 +68,8 @@ TEST(CPolygonTest, curvesAreCountedThroughAllLoops)
     EXPECT_EQ(holed->GetCurve(8), nullptr);
     EXPECT_EQ(holed->GetCurve(-1), nullptr);
     EXPECT_EQ(holed->GetLoop(2), nullptr);
+    ASSERT_EQ(holed->Loops().size(), 2U);
+    EXPECT_EQ(holed->Loops()[1].get(), holed->GetLoop(1));
     std::vector<vks::CCurve2d *> curves(1, nullptr);
     holed->GetCurves(curves);
     EXPECT_EQ(curves.size(), 8U);

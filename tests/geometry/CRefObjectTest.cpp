@@ -1,5 +1,6 @@
 #include "platform/geometry/CRefObject.h"
 
+#include "geometry/Counted.h"
 #include "platform/geometry/CRefPtr.h"
 
 #include <gtest/gtest.h>
@@ -7,18 +8,6 @@
 namespace {
 
 using vks::CRefPtr;
-
-/** Counts how many of its kind are alive. */
-class Counted : public vks::CRefObject
-{
-public:
-    Counted() { ++alive; }
-    Counted(const Counted &other) : vks::CRefObject(other) { ++alive; }
-    Counted &operator=(const Counted &) = default;
-    ~Counted() override { --alive; }
-    static int alive;
-};
-int Counted::alive = 0;
 
 TEST(CRefObjectTest, holdsAreCounted)
 {

@@ -1,5 +1,6 @@
 #include "platform/geometry/CRefPtr.h"
 
+#include "geometry/Counted.h"
 #include "platform/geometry/CLine2d.h"
 #include "platform/geometry/CLoop.h"
 
@@ -8,17 +9,6 @@
 namespace {
 
 using vks::CRefPtr;
-
-/** Counts how many of its kind are alive. */
-class Counted : public vks::CRefObject
-{
-public:
-    Counted() { ++alive; }
-    Counted(const Counted &other) : vks::CRefObject(other) { ++alive; }
-    ~Counted() override { --alive; }
-    static int alive;
-};
-int Counted::alive = 0;
 
 TEST(CRefPtrTest, lastHolderDestroysTheObject)
 {

@@ -32,6 +32,16 @@ TEST(CVec2Test, zeroHasNoDirection)
     EXPECT_EQ(Vec(0, -7).Normalized(), Vec(0, -1));
 }
 
+TEST(CVec2Test, anglesAreCounterClockwiseWithinHalfATurn)
+{
+    EXPECT_DOUBLE_EQ(Vec(0, 5).Angle(), 1.5707963267948966);
+    EXPECT_DOUBLE_EQ(Vec(-1, -1).Angle(), -2.356194490192345);
+    EXPECT_DOUBLE_EQ(Vec(2, 0).AngleTo(Vec(3, 3)), 0.7853981633974483);
+    EXPECT_DOUBLE_EQ(Vec(3, 3).AngleTo(Vec(2, 0)), -0.7853981633974483);
+    EXPECT_DOUBLE_EQ(std::fabs(Vec(0, 1).AngleTo(Vec(0, -7))), 3.141592653589793);
+    EXPECT_EQ(Vec().Angle(), 0.0);
+}
+
 TEST(CVec2Test, infiniteAndNanTermsAreNotFinite)
 {
     EXPECT_TRUE(Vec(1, 2).IsFinite());

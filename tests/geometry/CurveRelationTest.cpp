@@ -1,5 +1,6 @@
 #include "platform/geometry/CurveRelation.h"
 
+#include "geometry/ExpectPoints.h"
 #include "geometry/KernelShapes.h"
 
 #include <gtest/gtest.h>
@@ -12,13 +13,6 @@ using Arc = vks::CArc2d;
 using vks::CurveIntersections;
 
 namespace {
-
-void expectPoints(const Points &points, const Points &expected)
-{
-    ASSERT_EQ(points.size(), expected.size());
-    for (std::size_t i = 0; i < points.size(); ++i)
-        EXPECT_LT(points[i].DistanceTo(expected[i]), 1e-6) << "point " << i;
-}
 
 double distance(const vks::CCurve2d &a, const vks::CCurve2d &b)
 {

@@ -63,6 +63,19 @@ void outline(IHBXElementDrawObj &slab, double left, double bottom, double right,
 
 } // namespace
 
+template <typename Shape> HostCheckContract::Twins HostCheckContract::twins(qint64 type) const
+{
+    IHBXElement &element = makeElement(type);
+    const Twins twins{placed(element), makeDrawObj(element)};
+    for (IHBXElementDrawObj *drawObj : {&twins.there, &twins.again})
+        shapeOf<Shape>(*drawObj).setPolygon(rectangle(0, 0, 5000, 4000));
+    return twins;
+}
+
+HostCheckContract::Twins HostCheckContract::slabs() const { return twins<IHBXFaceSolidShape>(19); }
+
+HostCheckContract::Twins HostCheckContract::areaBars() const { return twins<IHBXFaceShape2D>(22); }
+
 TEST_P(HostCheckContract, nothingIsNotAcceptable) { EXPECT_TRUE(refusesAlone(model(), nullptr)); }
 
 TEST_P(HostCheckContract, objectWithGeometryIsAcceptableBeforeAndAfterItIsEntered)
@@ -108,11 +121,7 @@ TEST_P(HostCheckContract, curveOfNoLengthIsRefused)
 
 TEST_P(HostCheckContract, objectThatIsTheSameAsAnEnteredOneIsRefusedAndNamesIt)
 {
-    IHBXElement &element = makeElement(19);
-    IHBXElementDrawObj &there = placed(element);
-    outline(there, 0, 0, 5000, 4000);
-    IHBXElementDrawObj &again = makeDrawObj(element);
-    outline(again, 0, 0, 5000, 4000);
+    const auto &[there, again] = slabs();
     EXPECT_TRUE(refusesFor(model(), again, there));
     IHBXElementDrawObj &ofAnotherElement = makeDrawObj(makeElement(19));
     outline(ofAnotherElement, 0, 0, 5000, 4000);
@@ -188,11 +197,7 @@ TEST_P(HostCheckContract, lineBarsAreTheSameWhenTheyShareTheirWholeLength)
 
 TEST_P(HostCheckContract, barsOfOneAreaAreAcceptableWhenPositionOrBarsDiffer)
 {
-    IHBXElement &element = makeElement(22);
-    IHBXElementDrawObj &there = placed(element);
-    IHBXElementDrawObj &bar = makeDrawObj(element);
-    for (IHBXElementDrawObj *object : {&there, &bar})
-        shapeOf<IHBXFaceShape2D>(*object).setPolygon(rectangle(0, 0, 5000, 4000));
+    const auto &[there, bar] = areaBars();
     EXPECT_TRUE(refusesFor(model(), bar, there));
     propertiesOf(bar).setInt(L"Position", 1, true);
     EXPECT_TRUE(accepts(model(), bar));
@@ -204,11 +209,7 @@ TEST_P(HostCheckContract, barsOfOneAreaAreAcceptableWhenPositionOrBarsDiffer)
 
 TEST_P(HostCheckContract, barsOfOneAreaAreAcceptableWhenTypeOrCurveDiffer)
 {
-    IHBXElement &element = makeElement(22);
-    IHBXElementDrawObj &there = placed(element);
-    IHBXElementDrawObj &bar = makeDrawObj(element);
-    for (IHBXElementDrawObj *object : {&there, &bar})
-        shapeOf<IHBXFaceShape2D>(*object).setPolygon(rectangle(0, 0, 5000, 4000));
+    const auto &[there, bar] = areaBars();
     propertiesOf(bar).setInt(L"Type", 1, true);
     EXPECT_TRUE(accepts(model(), bar));
     propertiesOf(there).setInt(L"Type", 1, true);
@@ -221,16 +222,12 @@ TEST_P(HostCheckContract, barsOfOneAreaAreAcceptableWhenTypeOrCurveDiffer)
 
 TEST_P(HostCheckContract, checkChangesNothingInTheModel)
 {
-    IHBXElement &element = makeElement(19);
-    IHBXElementDrawObj &there = placed(element);
-    outline(there, 0, 0, 5000, 4000);
-    IHBXElementDrawObj &again = makeDrawObj(element);
-    outline(again, 0, 0, 5000, 4000);
+    const auto &[there, again] = slabs();
     const int before = drawObjs().count();
     EXPECT_FALSE(Verdict(model(), &again).isAcceptable);
     EXPECT_EQ(drawObjs().count(), before);
     EXPECT_EQ(drawObjs().drawObjById(again.id()), &again);
-    EXPECT_EQ(element.drawObjCount(), 1);
+    EXPECT_EQ(there.element()->drawObjCount(), 1);
     again.remove();
     EXPECT_TRUE(isBox(*there.shape(), 0, 0, 5000, 4000));
 }

@@ -1,4 +1,5 @@
 #include "HostContract.h"
+
 #include "HostContractGeometry.h"
 #include "platform/host/IHBXFaceSolidShape.h"
 
@@ -91,8 +92,7 @@ TEST_P(HostDrawObjQueryContract, queryInABoxAsksForObjectsOfATypeThatComeNearIt)
 {
     const auto slabAt = [this](double x) -> IHBXElementDrawObj & {
         IHBXElementDrawObj &slab = placed(19);
-        auto *shape = dynamic_cast<IHBXFaceSolidShape *>(slab.shape());
-        shape->setPolygon(rectangle(x, 0, x + 1000, 1000));
+        shapeOf<IHBXFaceSolidShape>(slab).setPolygon(rectangle(x, 0, x + 1000, 1000));
         return slab;
     };
     IHBXElementDrawObj &first = slabAt(0);
@@ -114,7 +114,7 @@ TEST_P(HostDrawObjQueryContract, queryInABoxAsksForObjectsOfATypeThatComeNearIt)
 TEST_P(HostDrawObjQueryContract, queryInABoxKnowsWhereObjectsAreByNow)
 {
     IHBXElementDrawObj &slab = placed(19);
-    auto *shape = dynamic_cast<IHBXFaceSolidShape *>(slab.shape());
+    auto &shape = shapeOf<IHBXFaceSolidShape>(slab);
     const vks::CBox2<double> box({0, 0}, {100, 100});
     const auto count = [&] {
         Found found;
@@ -122,11 +122,11 @@ TEST_P(HostDrawObjQueryContract, queryInABoxKnowsWhereObjectsAreByNow)
         return found.size();
     };
     EXPECT_EQ(count(), 0);
-    shape->setPolygon(rectangle(0, 0, 1000, 1000));
+    shape.setPolygon(rectangle(0, 0, 1000, 1000));
     EXPECT_EQ(count(), 1);
-    shape->setPolygon(rectangle(5000, 0, 6000, 1000));
+    shape.setPolygon(rectangle(5000, 0, 6000, 1000));
     EXPECT_EQ(count(), 0);
-    shape->setPolygon(rectangle(50, 50, 1000, 1000));
+    shape.setPolygon(rectangle(50, 50, 1000, 1000));
     EXPECT_EQ(count(), 1);
     slab.remove();
     EXPECT_EQ(count(), 0);
@@ -135,7 +135,7 @@ TEST_P(HostDrawObjQueryContract, queryInABoxKnowsWhereObjectsAreByNow)
 TEST_P(HostDrawObjQueryContract, emptyBoxMeetsNothing)
 {
     IHBXElementDrawObj &slab = placed(19);
-    dynamic_cast<IHBXFaceSolidShape *>(slab.shape())->setPolygon(rectangle(0, 0, 1000, 1000));
+    shapeOf<IHBXFaceSolidShape>(slab).setPolygon(rectangle(0, 0, 1000, 1000));
     Found found{&slab};
     drawObjs().queryDrawObjsInBox(found, level1().id(), 19, vks::CBox2<double>(), 1e9);
     EXPECT_TRUE(found.isEmpty());

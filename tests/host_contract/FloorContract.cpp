@@ -99,7 +99,7 @@ TEST_P(HostFloorContract, floorTellsItsRegionNameAndRemark)
     EXPECT_EQ(floor("2").remark(), QString());
 }
 
-TEST_P(HostFloorContract, standardFloorCountIsTheNumberOfStoreys)
+TEST_P(HostFloorContract, standardFloorCountTellsHowManyFloorsItStandsFor)
 {
     EXPECT_EQ(floor("1").standardFloorCount(), 1);
     EXPECT_EQ(floor("2").standardFloorCount(), 4);

@@ -17,7 +17,11 @@
 
 #include <QString>
 
+#include <array>
+#include <cstddef>
 #include <stdexcept>
+
+class IHBXCustomPointSolidShape;
 
 // The contract to which whatever implements the abstract host is held: a suite for each part of the interfaces, run on
 // the hosts of a HostContractFactory. A vendor runs it against a host of its own with one source file:
@@ -123,13 +127,34 @@ class HostElementContract : public HostContract
 class HostElementQueryContract : public HostContract
 {};
 class HostUnitContract : public HostContract
-{};
+{
+protected:
+    struct Foundation
+    {
+        IHBXElement &lower;          ///< unit
+        IHBXElement &upper;          ///< unit
+        IHBXElementDrawObj &drawObj; ///< of the foundation
+    };
+    /** A placed foundation with two units. */
+    Foundation placedFoundation() const;
+};
 class HostDrawObjContract : public HostContract
 {};
 class HostDrawObjQueryContract : public HostContract
 {};
 class HostLinkContract : public HostContract
-{};
+{
+protected:
+    /** So many draw objects of one new beam element, linked to nothing. */
+    template <std::size_t Count> std::array<IHBXElementDrawObj *, Count> beams() const
+    {
+        IHBXElement &beam = makeElement(15);
+        std::array<IHBXElementDrawObj *, Count> links{};
+        for (IHBXElementDrawObj *&link : links)
+            link = &placed(beam);
+        return links;
+    }
+};
 class HostPropertyContract : public HostContract
 {};
 class HostPropertyWriteContract : public HostContract
@@ -141,13 +166,29 @@ class HostShapeContract : public HostContract
 class HostLineShapeContract : public HostContract
 {};
 class HostPointShapeContract : public HostContract
-{};
+{
+protected:
+    /** The shape of a placed column whose outline is a right triangle, legs 400 and 200 along x and y, with its corner
+     *  at the insertion point, which lies at (1000, 500). */
+    IHBXCustomPointSolidShape &triangularColumn() const;
+};
 class HostAreaShapeContract : public HostContract
 {};
 class HostAxisGridContract : public HostContract
 {};
 class HostCheckContract : public HostContract
-{};
+{
+protected:
+    struct Twins
+    {
+        IHBXElementDrawObj &there; ///< entered
+        IHBXElementDrawObj &again; ///< not entered
+    };
+    /** Two draw objects of one element with the same outline. */
+    template <typename Shape> Twins twins(qint64 type) const;
+    Twins slabs() const;
+    Twins areaBars() const;
+};
 class HostBatchContract : public HostContract
 {};
 class HostDatabaseContract : public HostContract

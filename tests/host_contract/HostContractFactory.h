@@ -45,12 +45,12 @@ struct HostContractTerms
  *
  *  Each host stands on the same small building:
  *
- *  | region | floor      | code | bottom m | height m | storeys | foundation | remark |
- *  | ------ | ---------- | ---- | -------- | -------- | ------- | ---------- | ------ |
- *  | House  | Foundation | 0    | -1.5     | 1.5      | 1       | yes        |        |
- *  | House  | Level 1    | 1    | 0        | 3        | 1       | no         | ground |
- *  | House  | Level 2    | 2    | 3        | 2.8      | 4       | no         |        |
- *  | Annex  | Yard       | 1    | 0.5      | 4        | 1       | no         |        |
+ *  | region | floor      | code | bottom m | height m | stands for | foundation | remark |
+ *  | ------ | ---------- | ---- | -------- | -------- | ---------- | ---------- | ------ |
+ *  | House  | Foundation | 0    | -1.5     | 1.5      | 1 floor    | yes        |        |
+ *  | House  | Level 1    | 1    | 0        | 3        | 1 floor    | no         | ground |
+ *  | House  | Level 2    | 2    | 3        | 2.8      | 4 floors   | no         |        |
+ *  | Annex  | Yard       | 1    | 0.5      | 4        | 1 floor    | no         |        |
  *
  *  Region House and its floor Level 1 are selected. House is empty. Annex holds the two things that no interface makes:
  *  - a column element (25) "K1" with one draw object, whose section has number 7 and kind 2;

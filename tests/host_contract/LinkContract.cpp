@@ -20,87 +20,70 @@ TEST_P(HostLinkContract, otherTypesAndNewBeamsHaveNoHead)
 
 TEST_P(HostLinkContract, chainHasOneHeadAndIsWalkedLinkByLink)
 {
-    IHBXElement &beam = makeElement(15);
-    IHBXElementDrawObj &a = placed(beam);
-    IHBXElementDrawObj &b = placed(beam);
-    IHBXElementDrawObj &c = placed(beam);
-    b.linkNext(&c); // from the end of the chain to its start, as the writers do
-    a.linkNext(&b);
-    for (IHBXElementDrawObj *link : {&a, &b, &c})
-        EXPECT_EQ(link->chainHead(), &a);
-    EXPECT_EQ(a.nextInChain(), &b);
-    EXPECT_EQ(b.nextInChain(), &c);
-    EXPECT_EQ(c.nextInChain(), nullptr);
+    const auto [a, b, c] = beams<3>();
+    b->linkNext(c); // from the end of the chain to its start, as the writers do
+    a->linkNext(b);
+    for (IHBXElementDrawObj *link : {a, b, c})
+        EXPECT_EQ(link->chainHead(), a);
+    EXPECT_EQ(a->nextInChain(), b);
+    EXPECT_EQ(b->nextInChain(), c);
+    EXPECT_EQ(c->nextInChain(), nullptr);
 }
 
 TEST_P(HostLinkContract, linkToNullEndsTheChain)
 {
-    IHBXElement &beam = makeElement(15);
-    IHBXElementDrawObj &a = placed(beam);
-    IHBXElementDrawObj &b = placed(beam);
-    a.linkNext(&b);
-    a.linkNext(nullptr);
-    EXPECT_EQ(a.nextInChain(), nullptr);
-    EXPECT_EQ(a.chainHead(), &a);
-    EXPECT_EQ(b.chainHead(), &b);
+    const auto [a, b] = beams<2>();
+    a->linkNext(b);
+    a->linkNext(nullptr);
+    EXPECT_EQ(a->nextInChain(), nullptr);
+    EXPECT_EQ(a->chainHead(), a);
+    EXPECT_EQ(b->chainHead(), b);
 }
 
 TEST_P(HostLinkContract, newLinkTakesThePlaceOfTheOldOne)
 {
-    IHBXElement &beam = makeElement(15);
-    IHBXElementDrawObj &a = placed(beam);
-    IHBXElementDrawObj &b = placed(beam);
-    IHBXElementDrawObj &c = placed(beam);
-    a.linkNext(&b);
-    a.linkNext(&c);
-    EXPECT_EQ(a.nextInChain(), &c);
-    EXPECT_EQ(c.chainHead(), &a);
-    EXPECT_EQ(b.chainHead(), &b);
+    const auto [a, b, c] = beams<3>();
+    a->linkNext(b);
+    a->linkNext(c);
+    EXPECT_EQ(a->nextInChain(), c);
+    EXPECT_EQ(c->chainHead(), a);
+    EXPECT_EQ(b->chainHead(), b);
 }
 
 TEST_P(HostLinkContract, linkThatWouldCloseARingChangesNothing)
 {
-    IHBXElement &beam = makeElement(15);
-    IHBXElementDrawObj &a = placed(beam);
-    IHBXElementDrawObj &b = placed(beam);
-    IHBXElementDrawObj &c = placed(beam);
-    a.linkNext(&a);
-    EXPECT_EQ(a.nextInChain(), nullptr);
-    a.linkNext(&b);
-    b.linkNext(&c);
-    c.linkNext(&a);
-    b.linkNext(&a);
-    EXPECT_EQ(c.nextInChain(), nullptr);
-    EXPECT_EQ(b.nextInChain(), &c);
-    EXPECT_EQ(c.chainHead(), &a);
+    const auto [a, b, c] = beams<3>();
+    a->linkNext(a);
+    EXPECT_EQ(a->nextInChain(), nullptr);
+    a->linkNext(b);
+    b->linkNext(c);
+    c->linkNext(a);
+    b->linkNext(a);
+    EXPECT_EQ(c->nextInChain(), nullptr);
+    EXPECT_EQ(b->nextInChain(), c);
+    EXPECT_EQ(c->chainHead(), a);
 }
 
 TEST_P(HostLinkContract, removedLinkIsOutOfItsChain)
 {
-    IHBXElement &beam = makeElement(15);
-    IHBXElementDrawObj &a = placed(beam);
-    IHBXElementDrawObj &b = placed(beam);
-    IHBXElementDrawObj &c = placed(beam);
-    a.linkNext(&b);
-    b.linkNext(&c);
-    c.remove();
-    EXPECT_EQ(b.nextInChain(), nullptr);
-    b.remove();
-    EXPECT_EQ(a.nextInChain(), nullptr);
-    EXPECT_EQ(a.chainHead(), &a);
+    const auto [a, b, c] = beams<3>();
+    a->linkNext(b);
+    b->linkNext(c);
+    c->remove();
+    EXPECT_EQ(b->nextInChain(), nullptr);
+    b->remove();
+    EXPECT_EQ(a->nextInChain(), nullptr);
+    EXPECT_EQ(a->chainHead(), a);
 }
 
 TEST_P(HostLinkContract, removedHeadLeavesTheRestAChain)
 {
-    IHBXElement &beam = makeElement(15);
-    IHBXElementDrawObj &a = placed(beam);
-    IHBXElementDrawObj &b = placed(beam);
-    IHBXElementDrawObj &c = placed(beam);
-    a.linkNext(&b);
-    b.linkNext(&c);
-    a.remove();
-    EXPECT_EQ(b.chainHead(), &b);
-    EXPECT_EQ(c.chainHead(), &b);
+    const auto [a, b, c] = beams<3>();
+    a->linkNext(b);
+    b->linkNext(c);
+    a->remove();
+    EXPECT_EQ(b->chainHead(), b);
+    EXPECT_EQ(c->chainHead(), b);
 }
 
 TEST_P(HostLinkContract, openingTellsTheWallThatItIsAttachedTo)

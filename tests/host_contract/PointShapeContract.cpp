@@ -24,12 +24,6 @@ void moveTo(IHBXCustomPointSolidShape &shape, double x, double y)
     shape.setInsertPoint(&point);
 }
 
-/** Gives an element a right triangle, legs 400 and 200 along x and y, with its corner at the insertion point. */
-void giveTriangle(IHBXElement &element)
-{
-    propertiesOf(element).setPolygon(L"SectionPoly", polygonOf(kTriangle), false);
-}
-
 /** Whether the corner with the right angle, and no other, lies at this corner of the outline's box. */
 void expectCornerAt(const IHBXShape &shape, const CVec2<double> &corner)
 {
@@ -44,6 +38,15 @@ void expectCornerAt(const IHBXShape &shape, const CVec2<double> &corner)
 }
 
 } // namespace
+
+IHBXCustomPointSolidShape &HostPointShapeContract::triangularColumn() const
+{
+    IHBXElement &element = makeElement(25);
+    propertiesOf(element).setPolygon(L"SectionPoly", polygonOf(kTriangle), false);
+    auto &column = shapeOf<IHBXCustomPointSolidShape>(placed(element));
+    moveTo(column, 1000, 500);
+    return column;
+}
 
 TEST_P(HostPointShapeContract, placeAngleAndMirrorStartAtNothing)
 {
@@ -87,10 +90,7 @@ TEST_P(HostPointShapeContract, insertPointIsToldInTheShapesOwnCoordinates)
 
 TEST_P(HostPointShapeContract, outlineAboutTheInsertPointKnowsNothingOfThePlace)
 {
-    IHBXElement &element = makeElement(25);
-    giveTriangle(element);
-    auto &column = shapeOf<IHBXCustomPointSolidShape>(placed(element));
-    moveTo(column, 1000, 500);
+    IHBXCustomPointSolidShape &column = triangularColumn();
     column.setAngle(kQuarter);
     column.setMirror(true);
     const auto outline = polygonIn(column, IHBXModel::g_bDefaultAutoCalc);
@@ -100,20 +100,14 @@ TEST_P(HostPointShapeContract, outlineAboutTheInsertPointKnowsNothingOfThePlace)
 
 TEST_P(HostPointShapeContract, worldOutlineIsMovedToTheInsertPoint)
 {
-    IHBXElement &element = makeElement(25);
-    giveTriangle(element);
-    auto &column = shapeOf<IHBXCustomPointSolidShape>(placed(element));
-    moveTo(column, 1000, 500);
+    IHBXCustomPointSolidShape &column = triangularColumn();
     EXPECT_TRUE(isBox(column, 1000, 500, 1400, 700));
     expectCornerAt(column, {1000, 500});
 }
 
 TEST_P(HostPointShapeContract, mirrorTurnsXAround)
 {
-    IHBXElement &element = makeElement(25);
-    giveTriangle(element);
-    auto &column = shapeOf<IHBXCustomPointSolidShape>(placed(element));
-    moveTo(column, 1000, 500);
+    IHBXCustomPointSolidShape &column = triangularColumn();
     column.setMirror(true);
     EXPECT_TRUE(isBox(column, 600, 500, 1000, 700));
     expectCornerAt(column, {1000, 500});
@@ -121,10 +115,7 @@ TEST_P(HostPointShapeContract, mirrorTurnsXAround)
 
 TEST_P(HostPointShapeContract, angleTurnsCounterClockwiseAboutTheInsertPoint)
 {
-    IHBXElement &element = makeElement(25);
-    giveTriangle(element);
-    auto &column = shapeOf<IHBXCustomPointSolidShape>(placed(element));
-    moveTo(column, 1000, 500);
+    IHBXCustomPointSolidShape &column = triangularColumn();
     column.setAngle(kQuarter);
     EXPECT_TRUE(isBox(column, 800, 500, 1000, 900));
     expectCornerAt(column, {1000, 500});
@@ -132,10 +123,7 @@ TEST_P(HostPointShapeContract, angleTurnsCounterClockwiseAboutTheInsertPoint)
 
 TEST_P(HostPointShapeContract, outlineIsMirroredThenTurnedThenMovedThenTakenThroughTheFrame)
 {
-    IHBXElement &element = makeElement(25);
-    giveTriangle(element);
-    auto &column = shapeOf<IHBXCustomPointSolidShape>(placed(element));
-    moveTo(column, 1000, 500);
+    IHBXCustomPointSolidShape &column = triangularColumn();
     column.setMirror(true);
     column.setAngle(kQuarter);
     EXPECT_TRUE(isBox(column, 800, 100, 1000, 500)); // mirrored first: the long leg points down, not up

@@ -11,6 +11,14 @@ constexpr qint64 kUnit = 82;
 
 } // namespace
 
+HostUnitContract::Foundation HostUnitContract::placedFoundation() const
+{
+    IHBXElement &foundation = makeElement(kFoundation);
+    IHBXElement &lower = makeUnit(kUnit, foundation);
+    IHBXElement &upper = makeUnit(kUnit, foundation);
+    return {lower, upper, placed(foundation)};
+}
+
 TEST_P(HostUnitContract, unitWithoutAParentIsNotMade)
 {
     for (const qint64 type : {82, 83}) {
@@ -68,10 +76,7 @@ TEST_P(HostUnitContract, removedFoundationTakesItsUnitsWithIt)
 
 TEST_P(HostUnitContract, drawObjectOfAFoundationHasOneChildForEachUnit)
 {
-    IHBXElement &foundation = makeElement(kFoundation);
-    IHBXElement &lower = makeUnit(kUnit, foundation);
-    IHBXElement &upper = makeUnit(kUnit, foundation);
-    IHBXElementDrawObj &drawObj = placed(foundation);
+    const auto &[lower, upper, drawObj] = placedFoundation();
     ASSERT_EQ(drawObj.childCount(), 2);
     ASSERT_TRUE(drawObj.child(0) && drawObj.child(1));
     EXPECT_EQ(drawObj.child(0)->element(), &lower);
@@ -103,10 +108,7 @@ TEST_P(HostUnitContract, childOutOfRangeIsNull)
 
 TEST_P(HostUnitContract, removedUnitTakesItsChildrenWithIt)
 {
-    IHBXElement &foundation = makeElement(kFoundation);
-    IHBXElement &lower = makeUnit(kUnit, foundation);
-    IHBXElement &upper = makeUnit(kUnit, foundation);
-    IHBXElementDrawObj &drawObj = placed(foundation);
+    const auto &[lower, upper, drawObj] = placedFoundation();
     lower.remove();
     ASSERT_EQ(drawObj.childCount(), 1);
     EXPECT_EQ(drawObj.child(0)->element(), &upper);

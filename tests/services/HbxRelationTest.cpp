@@ -1,5 +1,6 @@
 #include "platform/services/HbxRelation.h"
 
+#include "geometry/ExpectPoints.h"
 #include "geometry/KernelShapes.h"
 
 #include <gtest/gtest.h>
@@ -7,17 +8,6 @@
 using namespace shapes;
 using Line = vks::CLine2d;
 using Arc = vks::CArc2d;
-
-namespace {
-
-void expectPoints(const Points &points, const Points &expected)
-{
-    ASSERT_EQ(points.size(), expected.size());
-    for (std::size_t i = 0; i < points.size(); ++i)
-        EXPECT_LT(points[i].DistanceTo(expected[i]), 1e-6) << "point " << i;
-}
-
-} // namespace
 
 TEST(HbxRelationTest, relationsArePassedOn)
 {

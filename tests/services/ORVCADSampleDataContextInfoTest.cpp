@@ -1,7 +1,7 @@
 #include "platform/services/ORVCADSampleDataContextInfo.h"
 
+#include "host/PlainFloor.h"
 #include "platform/host/IHBXCurState.h"
-#include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXRegion.h"
 #include "platform/host/IHBXService.h"
 
@@ -12,29 +12,7 @@
 
 namespace {
 
-/** A floor whose six numbers and texts all differ. */
-class Level : public IHBXFloor
-{
-public:
-    int id() const override { return 12; }
-    QString &code(QString &out) const override { return out = "2"; }
-    QString name() const override { return floorName; }
-    double bottomElev() const override { return 3.25; }
-    double height() const override { return 3.0; }
-    int standardFloorCount() const override { return 4; }
-    double topElev() const override { return 6.25; }
-    bool flag() const override { return false; }
-    void drawObjsOfTypes(QList<IHBXElementDrawObj *> &out, const QSet<qint64> & /*types*/, bool /*on*/) override
-    {
-        out.clear();
-    }
-    IHBXRegion *region() const override { return nullptr; }
-    QString remark() const override { return "remark"; }
-
-    QString floorName = "Level 2";
-};
-
-class House : public IHBXRegion
+class PlainRegion : public IHBXRegion
 {
 public:
     qint64 id() const override { return regionId; }
@@ -66,8 +44,8 @@ class ORVCADSampleDataContextInfoTest : public ::testing::Test
 protected:
     void selectBoth()
     {
-        host.selectedFloor = &level;
-        host.selectedRegion = &house;
+        host.selectedFloor = &floor;
+        host.selectedRegion = &region;
     }
     ORVCADSampleDataContextInfo info() { return ORVCADSampleDataContextInfo(&host); }
 
@@ -97,8 +75,8 @@ protected:
     }
 
     Selection host;
-    Level level;
-    House house;
+    PlainFloor floor;
+    PlainRegion region;
 };
 
 TEST_F(ORVCADSampleDataContextInfoTest, floorAndRegionAreThoseThatAreSelected)
@@ -131,14 +109,14 @@ TEST_F(ORVCADSampleDataContextInfoTest, hostWithoutAStateLeavesTheDefaults)
 
 TEST_F(ORVCADSampleDataContextInfoTest, regionWithoutAFloorIsReadAlone)
 {
-    host.selectedRegion = &house;
+    host.selectedRegion = &region;
     expectNoFloor(info());
     expectRegion(info());
 }
 
 TEST_F(ORVCADSampleDataContextInfoTest, floorWithoutARegionIsReadAlone)
 {
-    host.selectedFloor = &level;
+    host.selectedFloor = &floor;
     expectFloor(info());
     expectNoRegion(info());
 }
@@ -147,7 +125,7 @@ TEST_F(ORVCADSampleDataContextInfoTest, regionIdsOf32BitsAreTakenAsTheyAre)
 {
     selectBoth();
     for (const int id : {0, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {
-        house.regionId = id;
+        region.regionId = id;
         EXPECT_EQ(info().regionID(), id);
     }
 }
@@ -156,7 +134,7 @@ TEST_F(ORVCADSampleDataContextInfoTest, regionIdBeyond32BitsReadsAsNone)
 {
     selectBoth();
     for (const qint64 id : {Q_INT64_C(2147483648), Q_INT64_C(-2147483649), Q_INT64_C(4294967301)}) {
-        house.regionId = id;
+        region.regionId = id;
         EXPECT_EQ(info().regionID(), -1) << id;
         EXPECT_EQ(info().regionName(), "House");
     }
@@ -166,7 +144,7 @@ TEST_F(ORVCADSampleDataContextInfoTest, recordStaysAsItWasWhenAnotherFloorIsSele
 {
     selectBoth();
     const ORVCADSampleDataContextInfo before = info();
-    level.floorName = "Renamed";
+    floor.floorName = "Renamed";
     host.selectedFloor = nullptr;
     host.selectedRegion = nullptr;
     expectFloor(before);

@@ -1,6 +1,6 @@
 #include "platform/services/OptionGroupReader.h"
 
-#include "platform/host/IHBXModel.h"
+#include "host/PlainModel.h"
 #include "platform/services/CDatabase.h"
 #include "platform/services/HBXOptionNames.h"
 #include "platform/services/ORVCADCommonUtils.h"
@@ -47,19 +47,12 @@ public:
     RecordingTable table;
 };
 
-class ModelWithDatabase : public IHBXModel
+class ModelWithDatabase : public PlainModel
 {
 public:
-    vks::CDatabase *database() override { return m_database; }
-    IHBXRegions *regions() override { return nullptr; }
-    IHBXElements *elements() override { return nullptr; }
-    IHBXDrawObjs *drawObjects() override { return nullptr; }
-    IHBXCheck *checker() override { return nullptr; }
-    void beginBatch(const std::string & /*key*/, bool /*on*/) override {}
-    void endBatch(const std::string & /*key*/) override {}
-    void refresh(int /*mode*/) override {}
-
     explicit ModelWithDatabase(vks::CDatabase *database) : m_database(database) {}
+
+    vks::CDatabase *database() override { return m_database; }
 
 private:
     vks::CDatabase *m_database;

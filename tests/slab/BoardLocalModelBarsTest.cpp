@@ -51,14 +51,27 @@ protected:
         EXPECT_THAT(bar.propertyNames(), UnorderedElementsAre("名称", "方位", "钢筋规格", "钢筋排数"));
         expectNoBox(bar.shape().box());
     }
+    /** A bar of one slab or raft. */
+    template <typename MainBar> static void expectNewMainBar(int type)
+    {
+        const MainBar bar;
+        expectNewAreaBar(bar, type);
+        EXPECT_EQ(bar.forcedType, 0);
+        EXPECT_EQ(bar.supportPoly.get(), nullptr);
+    }
+    /** A bar with a label. */
+    template <typename Bar> static void expectNewLabel(const Bar &bar)
+    {
+        EXPECT_EQ(bar.labelPosition, 2);
+        EXPECT_EQ(bar.leftStretchLength, 0.0);
+        EXPECT_EQ(bar.rightStretchLength, 0.0);
+    }
     template <typename TopBar> static void expectNewTopBar(const TopBar &bar, int type)
     {
         EXPECT_EQ(bar.type(), type);
         EXPECT_EQ(bar.line.get(), nullptr);
         EXPECT_EQ(bar.barInfo, QString());
-        EXPECT_EQ(bar.labelPosition, 2);
-        EXPECT_EQ(bar.leftStretchLength, 0.0);
-        EXPECT_EQ(bar.rightStretchLength, 0.0);
+        expectNewLabel(bar);
         EXPECT_EQ(bar.leftHookLength, 0);
         EXPECT_EQ(bar.rightHookLength, 0);
         EXPECT_EQ(bar.rowNumber, 0);
@@ -130,41 +143,25 @@ protected:
 
 // ---- Bars of an area
 
-TEST_F(BoardLocalModelBarsTest, newForcedBar)
-{
-    const Model::ForcedBar bar;
-    expectNewAreaBar(bar, 16);
-    EXPECT_EQ(bar.forcedType, 0);
-    EXPECT_EQ(bar.supportPoly.get(), nullptr);
-}
+TEST_F(BoardLocalModelBarsTest, newForcedBar) { expectNewMainBar<Model::ForcedBar>(16); }
 
 TEST_F(BoardLocalModelBarsTest, newStraddleForcedBarIsLabelledAtPositionTwo)
 {
     const Model::StraddleForcedBar bar;
     expectNewAreaBar(bar, 32);
     EXPECT_THAT(bar.supportPolys, IsEmpty());
-    EXPECT_EQ(bar.labelPosition, 2);
-    EXPECT_EQ(bar.leftStretchLength, 0.0);
-    EXPECT_EQ(bar.rightStretchLength, 0.0);
+    expectNewLabel(bar);
     EXPECT_EQ(bar.distributeBarInfo, QString());
     EXPECT_EQ(bar.saddleBarlineCount, QString());
 }
 
-TEST_F(BoardLocalModelBarsTest, newRaftMainForcedBar)
-{
-    const Model::RaftMainForcedBar bar;
-    expectNewAreaBar(bar, 1024);
-    EXPECT_EQ(bar.forcedType, 0);
-    EXPECT_EQ(bar.supportPoly.get(), nullptr);
-}
+TEST_F(BoardLocalModelBarsTest, newRaftMainForcedBar) { expectNewMainBar<Model::RaftMainForcedBar>(1024); }
 
 TEST_F(BoardLocalModelBarsTest, newRaftMainStraddleForcedBarIsLabelledAtPositionTwo)
 {
     const Model::RaftMainStraddleForcedBar bar;
     expectNewAreaBar(bar, 2048);
-    EXPECT_EQ(bar.labelPosition, 2);
-    EXPECT_EQ(bar.leftStretchLength, 0.0);
-    EXPECT_EQ(bar.rightStretchLength, 0.0);
+    expectNewLabel(bar);
 }
 
 TEST_F(BoardLocalModelBarsTest, propertiesOfAnAreaBarReachItsFields)

@@ -7,6 +7,7 @@
 
 #include <QUuid>
 
+#include <tuple>
 #include <type_traits>
 
 /** What the model lets the services do alone: the tests fill models with it.
@@ -26,32 +27,14 @@ public:
 
 template <typename Element> Element *ORVCADBoardLocalModelTestAccess::add(Model &model, const QUuid &id)
 {
-    if constexpr (std::is_same_v<Element, Model::Beam>)
-        return model.addBeam(id);
-    else if constexpr (std::is_same_v<Element, Model::Wall>)
-        return model.addWall(id);
-    else if constexpr (std::is_same_v<Element, Model::Column>)
-        return model.addColumn(id);
-    else if constexpr (std::is_same_v<Element, Model::Board>)
-        return model.addBoard(id);
-    else if constexpr (std::is_same_v<Element, Model::BoardHole>)
-        return model.addBoardHole(id);
-    else if constexpr (std::is_same_v<Element, Model::Raft>)
-        return model.addRaft(id);
-    else if constexpr (std::is_same_v<Element, Model::ForcedBar>)
-        return model.addForcedBar(id);
-    else if constexpr (std::is_same_v<Element, Model::StraddleForcedBar>)
-        return model.addStraddleForcedBar(id);
-    else if constexpr (std::is_same_v<Element, Model::NegativeForcedBar>)
-        return model.addNegativeForcedBar(id);
-    else if constexpr (std::is_same_v<Element, Model::RaftMainForcedBar>)
-        return model.addRaftMainForcedBar(id);
-    else if constexpr (std::is_same_v<Element, Model::RaftMainStraddleForcedBar>)
-        return model.addRaftMainStraddleForcedBar(id);
-    else if constexpr (std::is_same_v<Element, Model::RaftNegativeForcedBar>)
-        return model.addRaftNegativeForcedBar(id);
-    else
+    constexpr auto creators = std::make_tuple(
+        &Model::addBeam, &Model::addWall, &Model::addColumn, &Model::addBoard, &Model::addBoardHole, &Model::addRaft,
+        &Model::addForcedBar, &Model::addStraddleForcedBar, &Model::addNegativeForcedBar, &Model::addRaftMainForcedBar,
+        &Model::addRaftMainStraddleForcedBar, &Model::addRaftNegativeForcedBar);
+    if constexpr (std::is_same_v<Element, Model::AxisNet>)
         return model.addAixsNet();
+    else
+        return (model.*std::get<Element *(Model::*)(const QUuid &)>(creators))(id);
 }
 
 /** An empty model, ways to fill it, and geometry to fill it with; mm. */

@@ -231,17 +231,24 @@ public:
     IHBXRegion *at(int position) override { return wrap(m_state, m_real.at(position)); }
 };
 
-class RecordingElement : public Recording<IHBXElement>
+/** What elements and draw objects have in common. */
+template <typename Interface> class RecordingObject : public Recording<Interface>
 {
 public:
-    using Recording::Recording;
-    int objectKind() const override { return m_real.objectKind(); }
-    qint64 id() const override { return m_real.id(); }
-    qint64 type() const override { return m_real.type(); }
-    qint64 subType() const override { return m_real.subType(); }
-    IHBXRegion *region() const override { return wrap(m_state, m_real.region()); }
-    IHBXFloor *floor() const override { return wrap(m_state, m_real.floor()); }
-    IHBXProperties *properties() override { return wrap(m_state, m_real.properties()); }
+    using Recording<Interface>::Recording;
+    int objectKind() const override { return this->m_real.objectKind(); }
+    qint64 id() const override { return this->m_real.id(); }
+    qint64 type() const override { return this->m_real.type(); }
+    qint64 subType() const override { return this->m_real.subType(); }
+    IHBXRegion *region() const override { return wrap(this->m_state, this->m_real.region()); }
+    IHBXFloor *floor() const override { return wrap(this->m_state, this->m_real.floor()); }
+    IHBXProperties *properties() override { return wrap(this->m_state, this->m_real.properties()); }
+};
+
+class RecordingElement : public RecordingObject<IHBXElement>
+{
+public:
+    using RecordingObject::RecordingObject;
     int orderNumber() const override { return m_real.orderNumber(); }
     QString &name(QString &out) const override { return m_real.name(out); }
     void setName(const QString &name) override
@@ -325,17 +332,10 @@ public:
     int state() const override { return m_real.state(); }
 };
 
-class RecordingDrawObj : public Recording<IHBXElementDrawObj>
+class RecordingDrawObj : public RecordingObject<IHBXElementDrawObj>
 {
 public:
-    using Recording::Recording;
-    int objectKind() const override { return m_real.objectKind(); }
-    qint64 id() const override { return m_real.id(); }
-    qint64 type() const override { return m_real.type(); }
-    qint64 subType() const override { return m_real.subType(); }
-    IHBXRegion *region() const override { return wrap(m_state, m_real.region()); }
-    IHBXFloor *floor() const override { return wrap(m_state, m_real.floor()); }
-    IHBXProperties *properties() override { return wrap(m_state, m_real.properties()); }
+    using RecordingObject::RecordingObject;
     IHBXElementDrawObj *cloneDrawObj(int mode, int flag, int depth) override
     {
         called("cloneDrawObj", mode, flag, depth);

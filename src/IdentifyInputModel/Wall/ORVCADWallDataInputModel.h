@@ -5,6 +5,7 @@
 #include <list>
 #include <map>
 #include <string>
+#include <utility>
 
 /** Everything that one run of the wall identification is given: what stands on the floor in the host, the drawing's
  *  lines and texts by layer, the options, and the names of project, floor and drawing. The brick and the force model

@@ -2,7 +2,7 @@
 
 #include "IdentifyInputModel/Wall/ORVCADWallBrickDataOutputModel.h"
 #include "IdentifyInputModel/Wall/ORVCADWallForceDataOutputModel.h"
-#include "IdentifyInputModel/Wall/WallHostKeys.h"
+#include "IdentifyInputModel/Wall/WallTextRows.h"
 #include "platform/geometry/KernelTolerance.h"
 #include "platform/host/HBXBatch.h"
 #include "platform/host/HBXModelException.h"
@@ -69,39 +69,25 @@ void writeText(IHBXProperties &properties, const std::wstring &name, const std::
         writeProperty(properties, name, write);
 }
 
+template <typename Record, std::size_t count>
+void writeTexts(IHBXProperties &properties, const TextRow<Record> (&texts)[count], const Record &record)
+{
+    for (const TextRow<Record> &row : texts)
+        writeText(properties, row.name, record.*row.member);
+}
+
 void writeBrickProperties(IHBXProperties &properties, const ORVCADCloudEntBrickWallStruct &record)
 {
     if (!record.material.empty())
         writeInt(properties, property::material, QString::fromStdWString(record.material).toInt());
-    writeText(properties, property::vertDistributionBar, record.throughBar);
-    writeText(properties, property::horiDistributionBar, record.transverseBar);
+    writeTexts(properties, kBrickBarsOfReplies, record);
     writeInt(properties, property::thickness, record.width);
 }
 
 void writeForceProperties(IHBXProperties &properties, const ORVCADCloudEntForceWallStruct &record)
 {
-    writeText(properties, property::tieBar, record.tieBar);
-    writeText(properties, property::vertDistributionBar, record.vreBar);
-    writeText(properties, property::horiDistributionBar, record.hreBar);
+    writeTexts(properties, kForceBars, record);
     writeInt(properties, property::thickness, record.width);
-}
-
-struct Elevation
-{
-    const std::wstring &name;
-    std::wstring IdentifyResultData::*value;
-};
-const Elevation kElevations[] = {{property::startBottomElev, &IdentifyResultData::sPfnStartPtBottomElev},
-                                 {property::endBottomElev, &IdentifyResultData::sPfnEndPtBottomElev},
-                                 {property::startTopElev, &IdentifyResultData::sPfnStartPtTopElev},
-                                 {property::endTopElev, &IdentifyResultData::sPfnEndPtTopElev}};
-
-void writeElevations(IHBXProperties *properties, const IdentifyResultData &piece)
-{
-    if (!properties)
-        return;
-    for (const Elevation &elevation : kElevations)
-        writeText(*properties, elevation.name, piece.*elevation.value);
 }
 
 // ---- Elements
@@ -187,7 +173,8 @@ IHBXElementDrawObj *createDrawObj(IHBXModel &model, IHBXElement &element, const 
         return nullptr;
     }
     shape->setLine(piece.sWorldLine.get());
-    writeElevations(object->properties(), piece);
+    if (IHBXProperties *properties = object->properties())
+        writeTexts(*properties, kElevations, piece);
     return object;
 }
 

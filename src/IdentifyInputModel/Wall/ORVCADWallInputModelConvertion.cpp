@@ -2,6 +2,7 @@
 
 #include "IdentifyInputModel/Wall/ORVCADColumnSectionValue.h"
 #include "IdentifyInputModel/Wall/WallElementReading.h"
+#include "IdentifyInputModel/Wall/WallTextRows.h"
 #include "platform/dwgx/DWGXBaseOptions.h"
 #include "platform/host/IHBXAxisGrid.h"
 #include "platform/host/IHBXCustomLineSolidShape.h"
@@ -18,7 +19,6 @@
 
 #include <QCoreApplication>
 
-#include <array>
 #include <memory>
 
 using namespace wall;
@@ -35,13 +35,6 @@ constexpr int kAllSubTypes = 65535;        // of 16 bits: all of them set
 constexpr double kAxisWidth = 1.0;         // mm; meant: an axis has none
 constexpr qint64 kNoId = -1;
 constexpr qint64 kCustomSection = 3; // sub-type of columns whose section type is told
-
-// The names under which walls are kept; those under which replies are written are others, which is meant.
-const std::array<TextRow<Brick>, 2> kBrickTexts{
-    {{property::throughBar, &Brick::throughBar}, {property::transverseBar, &Brick::transverseBar}}};
-const std::array<TextRow<Force>, 3> kForceTexts{{{property::tieBar, &Force::tieBar},
-                                                 {property::horiDistributionBar, &Force::hreBar},
-                                                 {property::vertDistributionBar, &Force::vreBar}}};
 
 /** Layer kinds in the order in which the host is asked for their names. Meant: two kinds share a label. */
 struct LayerLabel
@@ -85,8 +78,8 @@ template <typename Visit> void forEachWall(IHBXModel *model, qint64 floorId, qin
 
 /** What the records of both kinds of walls have in common. */
 template <typename Record, std::size_t count>
-void readWall(const IHBXElement &element, const IHBXProperties &properties,
-              const std::array<TextRow<Record>, count> &texts, Record &record)
+void readWall(const IHBXElement &element, const IHBXProperties &properties, const TextRow<Record> (&texts)[count],
+              Record &record)
 {
     readHead(element, record);
     for (const TextRow<Record> &row : texts)
@@ -178,7 +171,7 @@ void ORVCADWallInputModelConvertion::getCadEntBrickWallDataInfo(std::list<Brick>
     forEachWall(m_model, m_floorId, type::brickWall,
                 [&walls](const IHBXElement &element, const IHBXProperties &properties, const Property &type) {
                     Brick &record = walls.emplace_back();
-                    readWall(element, properties, kBrickTexts, record);
+                    readWall(element, properties, kBrickBars, record);
                     record.material = materialName(properties);
                     record.typePropertyValue = type ? type->intValue() : 0;
                 });
@@ -188,7 +181,7 @@ void ORVCADWallInputModelConvertion::getCadEntForceWallDataInfo(std::list<Force>
 {
     forEachWall(m_model, m_floorId, type::forceWall,
                 [&walls](const IHBXElement &element, const IHBXProperties &properties, const Property & /*type*/) {
-                    readWall(element, properties, kForceTexts, walls.emplace_back());
+                    readWall(element, properties, kForceBars, walls.emplace_back());
                 });
 }
 

@@ -1,23 +1,14 @@
 #pragma once
 
-#include "IdentifyInputModel/Wall/WallHostKeys.h"
 #include "platform/host/IHBXElement.h"
 #include "platform/host/IHBXProperties.h"
 
 #include <QString>
 
-#include <array>
 #include <string>
 
 /** What every reading of wall elements does alike. */
 namespace wall {
-
-/** A text property and the field that it goes into. */
-template <typename Record> struct TextRow
-{
-    const std::wstring &name;
-    std::wstring Record::*member;
-};
 
 inline std::wstring textOf(const IHBXProperties &properties, const std::wstring &name)
 {

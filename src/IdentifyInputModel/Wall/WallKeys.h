@@ -1,6 +1,6 @@
 #pragma once
 
-#include "encoding/KeyLiteral.h"
+#include "encoding/RecordKey.h"
 
 /** Names that walls have in the documents of the identification. */
 namespace wall {

@@ -1,6 +1,7 @@
 #include "IdentifyInputModel/Wall/WallKindInputModel.h"
 
 #include "IdentifyInputModel/Wall/WallDocument.h"
+#include "IdentifyInputModel/Wall/WallKind.h"
 #include "encoding/ORVCADJsonFileSerialization.h"
 #include "encoding/ORVCADXmlFileSerialization.h"
 
@@ -12,21 +13,6 @@ using Json = ORVCADJsonFileSerialization;
 using Xml = ORVCADXmlFileSerialization;
 using Records = ORVCADInputModelSerialization;
 
-/** The save and the load of each kind's list. */
-template <typename Wall> struct Kind;
-
-template <> struct Kind<ORVCADCloudEntBrickWallStruct>
-{
-    static constexpr auto save = &Records::saveCadEntBrickWallDataInfo;
-    static constexpr auto load = &Records::loadCadEntBrickWallDataInfo;
-};
-
-template <> struct Kind<ORVCADCloudEntForceWallStruct>
-{
-    static constexpr auto save = &Records::saveCadEntForceWallDataInfo;
-    static constexpr auto load = &Records::loadCadEntForceWallDataInfo;
-};
-
 } // namespace
 
 template <typename Wall>
@@ -37,7 +23,7 @@ template <typename Wall> WallKindInputModel<Wall>::~WallKindInputModel() = defau
 
 template <typename Wall> void WallKindInputModel<Wall>::saveWalls(Records &archive) const
 {
-    (archive.*Kind<Wall>::save)(m_walls);
+    (archive.*WallKind<Wall>::saveInput)(m_walls);
 }
 
 template <typename Wall> void WallKindInputModel<Wall>::saveAll(Records &archive) const
@@ -49,7 +35,7 @@ template <typename Wall> void WallKindInputModel<Wall>::saveAll(Records &archive
 template <typename Wall> void WallKindInputModel<Wall>::loadAll(Records &archive)
 {
     loadFromJson(archive); // meant: for XML, too, so that floor and drawing are read from it
-    (archive.*Kind<Wall>::load)(m_walls);
+    (archive.*WallKind<Wall>::loadInput)(m_walls);
 }
 
 template <typename Wall> void WallKindInputModel<Wall>::saveToJson(std::wstring &text) const

@@ -1,7 +1,7 @@
 #include "IdentifyInputModel/Wall/WallKindOutputModel.h"
 
-#include "IdentifyInputModel/Wall/ORVCADOutputModelSerialization.h"
 #include "IdentifyInputModel/Wall/WallDocument.h"
+#include "IdentifyInputModel/Wall/WallKind.h"
 #include "encoding/ORVCADJsonFileSerialization.h"
 #include "encoding/ORVCADXmlFileSerialization.h"
 
@@ -12,21 +12,6 @@ namespace {
 using Json = ORVCADJsonFileSerialization;
 using Xml = ORVCADXmlFileSerialization;
 using Records = ORVCADOutputModelSerialization;
-
-/** The save and the load of each kind's map. */
-template <typename Wall> struct Kind;
-
-template <> struct Kind<ORVCADCloudEntBrickWallStruct>
-{
-    static constexpr auto save = &Records::saveBrickWallIdentifyData;
-    static constexpr auto load = &Records::loadBrickWallIdentifyData;
-};
-
-template <> struct Kind<ORVCADCloudEntForceWallStruct>
-{
-    static constexpr auto save = &Records::saveForceWallIdentifyData;
-    static constexpr auto load = &Records::loadForceWallIdentifyData;
-};
 
 } // namespace
 
@@ -46,30 +31,30 @@ template <typename Wall> void WallKindOutputModel<Wall>::copyInto(Walls &walls) 
 
 template <typename Wall> void WallKindOutputModel<Wall>::saveToJson(std::wstring &text) const
 {
-    text = documentText<Json, Records>([this](Records &records) { (records.*Kind<Wall>::save)(m_walls); });
+    text = documentText<Json, Records>([this](Records &records) { (records.*WallKind<Wall>::saveReply)(m_walls); });
 }
 
 template <typename Wall> void WallKindOutputModel<Wall>::saveToJson(const QString &key, QJsonObject *json) const
 {
     Json archive{QString()};
     Records records(&archive);
-    (records.*Kind<Wall>::save)(m_walls);
+    (records.*WallKind<Wall>::saveReply)(m_walls);
     archive.insertRootInto(key, json);
 }
 
 template <typename Wall> void WallKindOutputModel<Wall>::saveToXml(std::wstring &text) const
 {
-    text = documentText<Xml, Records>([this](Records &records) { (records.*Kind<Wall>::save)(m_walls); });
+    text = documentText<Xml, Records>([this](Records &records) { (records.*WallKind<Wall>::saveReply)(m_walls); });
 }
 
 template <typename Wall> void WallKindOutputModel<Wall>::loadFromJson(const std::wstring &text)
 {
-    loadDocument<Json, Records>(text, [this](Records &records) { (records.*Kind<Wall>::load)(m_walls); });
+    loadDocument<Json, Records>(text, [this](Records &records) { (records.*WallKind<Wall>::loadReply)(m_walls); });
 }
 
 template <typename Wall> void WallKindOutputModel<Wall>::loadFromXml(const std::wstring &text)
 {
-    loadDocument<Xml, Records>(text, [this](Records &records) { (records.*Kind<Wall>::load)(m_walls); });
+    loadDocument<Xml, Records>(text, [this](Records &records) { (records.*WallKind<Wall>::loadReply)(m_walls); });
 }
 
 template class WallKindOutputModel<ORVCADCloudEntBrickWallStruct>;

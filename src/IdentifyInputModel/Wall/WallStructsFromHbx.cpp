@@ -1,6 +1,7 @@
 #include "IdentifyInputModel/Wall/WallStructsFromHbx.h"
 
 #include "IdentifyInputModel/Wall/WallElementReading.h"
+#include "IdentifyInputModel/Wall/WallTextRows.h"
 #include "platform/geometry/OrientProjectCurve2d.h"
 #include "platform/host/IHBXCustomLineSolidShape.h"
 #include "platform/host/IHBXElementDrawObj.h"
@@ -11,21 +12,6 @@
 using namespace wall;
 
 namespace {
-
-using Brick = ORVCADCloudEntBrickWallStruct;
-using Force = ORVCADCloudEntForceWallStruct;
-using Piece = IdentifyResultData;
-
-// The names that replies are written to; those under which walls are kept are others for brick walls, which is meant.
-const std::array<TextRow<Brick>, 2> kBrickTexts{
-    {{property::vertDistributionBar, &Brick::throughBar}, {property::horiDistributionBar, &Brick::transverseBar}}};
-const std::array<TextRow<Force>, 3> kForceTexts{{{property::tieBar, &Force::tieBar},
-                                                 {property::vertDistributionBar, &Force::vreBar},
-                                                 {property::horiDistributionBar, &Force::hreBar}}};
-const std::array<TextRow<Piece>, 4> kElevations{{{property::startTopElev, &Piece::sPfnStartPtTopElev},
-                                                 {property::endTopElev, &Piece::sPfnEndPtTopElev},
-                                                 {property::startBottomElev, &Piece::sPfnStartPtBottomElev},
-                                                 {property::endBottomElev, &Piece::sPfnEndPtBottomElev}}};
 
 /** Sub-types that are told as another one of their kind. */
 struct SubTypeRow
@@ -58,8 +44,8 @@ template <typename Object, typename Record> void readPlace(const Object &object,
 /** @return the element's properties, null if it has none
  *  @param wallType  kind of the record, whatever the element's type is */
 template <typename Record, std::size_t count>
-const IHBXProperties *readElement(IHBXElement &element, qint64 wallType,
-                                  const std::array<TextRow<Record>, count> &texts, Record &record)
+const IHBXProperties *readElement(IHBXElement &element, qint64 wallType, const TextRow<Record> (&texts)[count],
+                                  Record &record)
 {
     readHead(element, record);
     record.elementSubType = toldSubType(wallType, record.elementSubType);
@@ -90,7 +76,7 @@ void loadORVCADCloudEntBrickWallStructFromHbx(IHBXElement *element, ORVCADCloudE
 {
     if (!element || !wall)
         return;
-    if (const IHBXProperties *properties = readElement(*element, type::brickWall, kBrickTexts, *wall)) {
+    if (const IHBXProperties *properties = readElement(*element, type::brickWall, kBrickBarsOfReplies, *wall)) {
         wall->material = textOf(*properties, property::material); // meant: a number, no name
         wall->typePropertyValue = properties->asInt(property::type);
     }
@@ -99,7 +85,7 @@ void loadORVCADCloudEntBrickWallStructFromHbx(IHBXElement *element, ORVCADCloudE
 void loadORVCADCloudEntForceWallStructFromHbx(IHBXElement *element, ORVCADCloudEntForceWallStruct *wall)
 {
     if (element && wall)
-        readElement(*element, type::forceWall, kForceTexts, *wall);
+        readElement(*element, type::forceWall, kForceBars, *wall);
 }
 
 bool loadORVCADWallEdoIdentifyResStructFromHbx(double width, const std::wstring &name, IHBXElementDrawObj *object,
@@ -114,7 +100,7 @@ bool loadORVCADWallEdoIdentifyResStructFromHbx(double width, const std::wstring 
     if (!shape || !properties)
         return false;
     result->sWorldLine = projectedLine(*shape);
-    for (const TextRow<Piece> &row : kElevations)
+    for (const TextRow<IdentifyResultData> &row : kElevations)
         result->*row.member = textOf(*properties, row.name);
     readPlace(*object, *result);
     return true;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ORVCADPlatformExport.h"
 #include "platform/geometry/CBox2.h"
 
 #include <cstddef>
@@ -12,7 +13,7 @@ namespace dwgx {
  *
  *  Few boxes are looked through one by one. Many go into an R-tree at the first query, packed; boxes that come later are
  *  put into it before the next query. A query brings the index up to date, so one index serves one thread. */
-class BoxIndex
+class ORVCADPLATFORM_EXPORT BoxIndex
 {
 public:
     using Box = vks::CBox2<double>;

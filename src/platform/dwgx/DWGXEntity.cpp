@@ -1,6 +1,7 @@
 #include "platform/dwgx/DWGXEntity.h"
 
 #include <cmath>
+
 namespace dwgx {
 namespace {
 

@@ -59,22 +59,24 @@ bool DWGXModel::addLayer(const QString &name, int color)
     return true;
 }
 
-bool DWGXModel::addLine(const QString &layerName, DWGXLine line)
+template <typename Entity>
+bool DWGXModel::add(const QString &layerName, Entity entity, std::vector<Entity> DWGXLayer::*entities)
 {
     DWGXLayer *target = findLayer(layerName);
-    if (!target || !line.isSound() || !takeId(line))
+    if (!target || !entity.isSound() || !takeId(entity))
         return false;
-    target->lines.push_back(std::move(line));
+    (target->*entities).push_back(std::move(entity));
     return true;
+}
+
+bool DWGXModel::addLine(const QString &layerName, DWGXLine line)
+{
+    return add(layerName, std::move(line), &DWGXLayer::lines);
 }
 
 bool DWGXModel::addText(const QString &layerName, DWGXText text)
 {
-    DWGXLayer *target = findLayer(layerName);
-    if (!target || !text.isSound() || !takeId(text))
-        return false;
-    target->texts.push_back(std::move(text));
-    return true;
+    return add(layerName, std::move(text), &DWGXLayer::texts);
 }
 
 bool DWGXModel::takeId(DWGXEntity &entity)

@@ -62,6 +62,9 @@ protected:
 
 private:
     DWGXLayer *findLayer(const QString &name);
+    /** @param entities  where a layer keeps entities of the kind */
+    template <typename Entity>
+    bool add(const QString &layerName, Entity entity, std::vector<Entity> DWGXLayer::*entities);
     bool takeId(DWGXEntity &entity);
 
     QString m_filePath;

@@ -15,6 +15,7 @@
  *  the reader of the file catches. */
 namespace dwgx {
 
+/** Why a file is refused. */
 struct JsonRefusal
 {
     QString place; ///< such as layers[0].lines[3].curve; empty for the document
@@ -38,8 +39,10 @@ private:
     int m_index = -1; // in an array; -1: a member of an object
 };
 
-/** An object whose members are all known. Members that are asked for must be there unless has() is asked first. */
-class StrictObject
+/** An object whose members are all known: a value that is no object, and any other member, is refused at once. A member
+ *  that is asked for and is missing, or of another kind, is refused likewise; has() tells of one that may be missing.
+ *  The place must live as long. */
+class ORVCADPLATFORM_EXPORT StrictObject
 {
 public:
     StrictObject(const QJsonValue &value, const JsonPlace &place, std::initializer_list<QLatin1String> knownKeys);

@@ -1,8 +1,9 @@
 #include "platform/embedded/DatabaseLinks.h"
 
-#include "platform/embedded/HBXDatabaseSchema.h"
+#include "platform/embedded/ChainRing.h"
+#include "platform/embedded/DatabaseRefusal.h"
+#include "platform/embedded/HBXProjectRecords.h"
 
-#include <QHash>
 #include <QSet>
 
 #include <algorithm>
@@ -90,19 +91,19 @@ private:
         m_followed.insert(drawObj.next);
     }
 
-    /** With one next and one predecessor at most, what no head leads to is a ring. */
     void checkChains() const
     {
-        QSet<qint64> reached;
-        for (const DrawObjRecord &drawObj : m_project.drawObjs) {
-            if (drawObj.next == 0 || m_followed.contains(drawObj.id))
-                continue;
-            for (const DrawObjRecord *at = &drawObj; at; at = at->next ? find(m_project.drawObjs, at->next) : nullptr)
-                reached.insert(at->id);
-        }
+        std::vector<int> next;
         for (const DrawObjRecord &drawObj : m_project.drawObjs)
-            if (drawObj.next != 0 && !reached.contains(drawObj.id))
-                refuse("draw_object", drawObj.id, "next_id", QStringLiteral("closes the chain to a ring"));
+            next.push_back(drawObj.next == 0 ? -1 : placeOf(drawObj.next));
+        if (const auto place = firstInRing(next))
+            refuse("draw_object", m_project.drawObjs[*place].id, "next_id", QLatin1String(kClosesRing));
+    }
+
+    /** Place of an object that is known to be there. */
+    int placeOf(qint64 drawObjId) const
+    {
+        return static_cast<int>(find(m_project.drawObjs, drawObjId) - m_project.drawObjs.data());
     }
 
     const ProjectRecord &m_project;

@@ -1,11 +1,13 @@
 #pragma once
 
-#include "platform/embedded/HBXProjectRecords.h"
+#include "ORVCADPlatformExport.h"
 
 namespace hbx::embedded {
 
+struct ProjectRecord;
+
 /** Throws DatabaseRefusal when an id stands twice, was never given out or names nothing, and when units, children or
  *  chains do not hang together as a project makes them. */
-void checkLinks(const ProjectRecord &project);
+ORVCADPLATFORM_EXPORT void checkLinks(const ProjectRecord &project);
 
 } // namespace hbx::embedded

@@ -1,5 +1,7 @@
 #include "platform/embedded/DatabaseRows.h"
 
+#include "platform/embedded/DatabaseRefusal.h"
+
 #include <QStringList>
 
 #include <cmath>
@@ -9,44 +11,48 @@ namespace {
 
 QByteArray query(const char *table, const char *key, const char *columns)
 {
-    return QByteArray("SELECT ") + columns + " FROM " + table + " ORDER BY " + key;
+    return QByteArray("SELECT ") + key + ", " + columns + " FROM " + table + " ORDER BY " + key;
 }
+
+QStringList namesIn(const char *columns) { return QString::fromLatin1(columns).split(QLatin1String(", ")); }
 
 } // namespace
 
 DatabaseRows::DatabaseRows(SqliteConnection &connection, const char *table, const char *key, const char *columns)
-    : m_rows(connection, query(table, key, columns).constData()), m_table(table), m_key(key)
+    : m_rows(connection, query(table, key, columns).constData()), m_table(table), m_key(key), m_columns(columns)
 {}
 
-int DatabaseRows::integer32(int column, const char *name) const
+int DatabaseRows::integer32(int column) const
 {
     const qint64 found = m_rows.integer(column);
     if (found < std::numeric_limits<int>::min() || found > std::numeric_limits<int>::max())
-        refuse(name, QStringLiteral("is out of range"));
+        refuse(column, QStringLiteral("is out of range"));
     return static_cast<int>(found);
 }
 
-double DatabaseRows::number(int column, const char *name) const
+double DatabaseRows::number(int column) const
 {
     const double found = m_rows.number(column);
     if (!std::isfinite(found))
-        refuse(name, QStringLiteral("is not finite"));
+        refuse(column, QStringLiteral("is not finite"));
     return found;
 }
 
-void DatabaseRows::refuse(const char *column, const QString &reason) const
+void DatabaseRows::refuse(int column, const QString &reason) const
 {
-    QStringList terms;
-    const QStringList keys = QString::fromLatin1(m_key).split(QLatin1String(", "));
-    for (int i = 0; i < keys.size(); ++i)
-        terms.append(QStringLiteral("%1=%2").arg(keys[i]).arg(m_rows.integer(i)));
-    const QString row = QStringLiteral("%1[%2]").arg(QLatin1String(m_table), terms.join(QLatin1String(", ")));
-    throw DatabaseRefusal{column ? row + QLatin1Char('.') + QLatin1String(column) : row, reason};
+    throw DatabaseRefusal{place() + QLatin1Char('.') + (namesIn(m_key) + namesIn(m_columns)).at(column), reason};
 }
 
-void OwnedRows::refuseOrphan() const
+void DatabaseRows::refuseRow(const QString &reason) const { throw DatabaseRefusal{place(), reason}; }
+
+QString DatabaseRows::place() const
 {
-    m_rows.refuse(nullptr, QStringLiteral("belongs to nothing that is in the file"));
+    QStringList terms;
+    for (const QString &name : namesIn(m_key))
+        terms.append(QStringLiteral("%1=%2").arg(name).arg(m_rows.integer(terms.size())));
+    return QStringLiteral("%1[%2]").arg(QLatin1String(m_table), terms.join(QLatin1String(", ")));
 }
+
+void OwnedRows::refuseOrphan() const { m_rows.refuseRow(QStringLiteral("belongs to nothing that is in the file")); }
 
 } // namespace hbx::embedded

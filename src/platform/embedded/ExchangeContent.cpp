@@ -10,21 +10,14 @@ namespace hbx::embedded {
 namespace {
 
 /** Calls visit with the decimal text of each id that a property holds. */
-void forEachReference(const QString &name, const PropertyValue &value,
-                      const std::function<void(const QString &)> &visit)
+template <typename Visit> void forEachReference(PropertyRole role, const PropertyValue &value, Visit visit)
 {
     if (std::holds_alternative<int>(value))
         return visit(textOf(value));
-    ExchangeReferenceText(name, textOf(value)).mapped([&](const QString &id) {
+    ExchangeReferenceText(role, textOf(value)).mapped([&](const QString &id) {
         visit(id);
         return std::optional(id);
     });
-}
-
-bool namesDrawObjs(const DrawObjRecord &user, const QString &property)
-{
-    const PropertyEntry *entry = HBXPropertyCatalogue::instance().find(user.type, property, true);
-    return entry && entry->role == PropertyRole::DrawObjIds;
 }
 
 } // namespace
@@ -80,9 +73,11 @@ void ExchangeContent::giveKeysTo(const DrawObjRecord &user, QHash<QString, qint6
         taken.insert(key, named->id);
         m_keys.insert(named->id, key);
     };
-    for (const auto &[name, value] : user.properties)
-        if (namesDrawObjs(user, name))
-            forEachReference(name, value, giveKey);
+    for (const auto &[name, value] : user.properties) {
+        const PropertyEntry *entry = HBXPropertyCatalogue::instance().find(user.type, name, true);
+        if (entry && entry->namesDrawObjs())
+            forEachReference(entry->role, value, giveKey);
+    }
 }
 
 std::vector<const FloorRecord *> ExchangeContent::floorsOf(qint64 regionId) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ORVCADPlatformExport.h"
 #include "platform/embedded/HBXProjectRecords.h"
 
 #include <QHash>
@@ -11,7 +12,7 @@ namespace hbx::embedded {
 
 /** Which records of a project stand under which, in id order, and what objects are called in the exchange form. The
  *  project must outlive it. */
-class ExchangeContent
+class ORVCADPLATFORM_EXPORT ExchangeContent
 {
 public:
     using Elements = std::vector<const ElementRecord *>;

@@ -1,5 +1,6 @@
 #include "platform/embedded/ExchangeFloorReader.h"
 
+#include "platform/embedded/ChainRing.h"
 #include "platform/embedded/ExchangeFormat.h"
 #include "platform/embedded/ExchangeShape.h"
 #include "platform/embedded/ExchangeSpan.h"
@@ -64,8 +65,7 @@ PropertyRecords readProperties(const ExchangeObject &json, qint64 type, bool for
 SectionRecord readSection(const QJsonValue &value, const JsonPlace &place)
 {
     const ExchangeObject json(value, place, {key::number, key::kind});
-    const int kind =
-        static_cast<int>(json.integer(key::kind, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
+    const int kind = json.integer32(key::kind);
     return {json.wide(key::number), kind};
 }
 
@@ -128,7 +128,7 @@ qint64 ExchangeFloorReader::addElement(const ExchangeObject &json, qint64 type, 
     record.name = json.name(key::name);
     record.type = type;
     record.subType = json.wideOr(key::subType, 0);
-    record.orderNumber = json.intOr(key::orderNumber, 0);
+    record.orderNumber = json.integer32Or(key::orderNumber, 0);
     record.properties = readProperties(json, type, false, none);
     record.id = m_reading.takeId();
     m_reading.project.elements.push_back(std::move(record));
@@ -148,6 +148,14 @@ void ExchangeFloorReader::readUnit(const QJsonValue &value, const JsonPlace &pla
     owner.units.push_back({id, type, m_reading.project.elements.back().subType});
 }
 
+ExchangeFloorReader::Attachment ExchangeFloorReader::readAttachment(const ExchangeObject &json)
+{
+    const QJsonArray terms = json.array(key::attachedTo);
+    if (terms.size() != 3 || !terms.at(0).isDouble() || !terms.at(1).isString() || terms.at(2).toInt(-1) < 0)
+        json.placeOf(key::attachedTo).refuse(QStringLiteral("is not [type, element name, position]"));
+    return {terms.at(0).toInt(-1), terms.at(1).toString(), terms.at(2).toInt()};
+}
+
 void ExchangeFloorReader::readDrawObject(const QJsonValue &value, const JsonPlace &place, std::size_t elementIndex)
 {
     const ExchangeObject json(value, place,
@@ -158,19 +166,15 @@ void ExchangeFloorReader::readDrawObject(const QJsonValue &value, const JsonPlac
     Placed object;
     object.element = elementIndex;
     object.position = static_cast<int>(element.placed.size());
-    object.order = json.intOr(key::order, static_cast<int>(m_placed.size()));
+    object.order = json.integer32Or(key::order, static_cast<int>(m_placed.size()));
     readCommon(json, object, {element.id, element.type, element.subType});
     if (json.has(key::next))
         object.next = position(json.value(key::next), json.placeOf(key::next));
     json.each(key::spans, [&](const QJsonValue &span, const JsonPlace &spanPlace, int) {
         object.record.spans.push_back(spanFromJson(span, spanPlace));
     });
-    if (json.has(key::attachedTo)) {
-        const QJsonArray terms = json.array(key::attachedTo);
-        if (terms.size() != 3 || !terms.at(0).isDouble() || !terms.at(1).isString() || terms.at(2).toInt(-1) < 0)
-            json.placeOf(key::attachedTo).refuse(QStringLiteral("is not [type, element name, position]"));
-        object.attachment = {terms.at(0).toInt(-1), terms.at(1).toString(), terms.at(2).toInt()};
-    }
+    if (json.has(key::attachedTo))
+        object.attachment = readAttachment(json);
     const std::size_t index = m_placed.size();
     element.placed.push_back(index);
     m_placed.push_back(std::move(object));
@@ -196,7 +200,7 @@ void ExchangeFloorReader::readChild(const QJsonValue &value, const JsonPlace &pl
     child.element = m_placed[ownerIndex].element;
     child.owner = ownerIndex;
     // A child is made with its owner, behind it.
-    child.order = json.has(key::order) ? json.intOr(key::order, 0) : m_placed[ownerIndex].order;
+    child.order = json.has(key::order) ? json.integer32Or(key::order, 0) : m_placed[ownerIndex].order;
     readCommon(json, child, m_elements[child.element].units[unit]);
     m_placed.push_back(std::move(child));
 }
@@ -211,8 +215,8 @@ void ExchangeFloorReader::readCommon(const ExchangeObject &json, Placed &object,
     record.properties = readProperties(json, record.type, true, object.keyUses);
     if (json.has(key::section))
         record.section = readSection(json.value(key::section), json.placeOf(key::section));
-    record.layer = json.intOr(key::layer, 0);
-    record.state = json.intOr(key::state, 0);
+    record.layer = json.integer32Or(key::layer, 0);
+    record.state = json.integer32Or(key::state, 0);
     readKey(json, record);
 }
 
@@ -280,17 +284,13 @@ void ExchangeFloorReader::checkChain(const Placed &object) const
         refuse(object, key::spans, QStringLiteral("belongs to the head of the chain"));
 }
 
-/** With one next and one predecessor at most, what no head leads to is a ring. */
-void ExchangeFloorReader::checkRings(const Element &element)
+void ExchangeFloorReader::checkRings(const Element &element) const
 {
-    std::vector<bool> reached(element.placed.size());
-    const auto placedAt = [&](int place) -> const Placed & { return m_placed[element.placed[std::size_t(place)]]; };
+    std::vector<int> next;
     for (const std::size_t index : element.placed)
-        for (int at = m_placed[index].isFollowed ? -1 : m_placed[index].position; at >= 0; at = placedAt(at).next)
-            reached[static_cast<std::size_t>(at)] = true;
-    for (const std::size_t index : element.placed)
-        if (!reached[static_cast<std::size_t>(m_placed[index].position)])
-            refuse(m_placed[index], key::next, QStringLiteral("closes the chain to a ring"));
+        next.push_back(m_placed[index].next);
+    if (const auto position = firstInRing(next))
+        refuse(m_placed[element.placed[*position]], key::next, QLatin1String(kClosesRing));
 }
 
 void ExchangeFloorReader::attach(Placed &object)

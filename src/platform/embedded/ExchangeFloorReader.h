@@ -76,6 +76,7 @@ private:
     void checkName(const ExchangeObject &json, const Element &element);
     void readUnit(const QJsonValue &value, const JsonPlace &place, Element &owner);
 
+    static Attachment readAttachment(const ExchangeObject &json);
     void readDrawObject(const QJsonValue &value, const JsonPlace &place, std::size_t elementIndex);
     void readChild(const QJsonValue &value, const JsonPlace &place, std::size_t ownerIndex, std::vector<bool> &taken);
     void readCommon(const ExchangeObject &json, Placed &object, const Unit &definition);
@@ -85,7 +86,7 @@ private:
     void link();
     void linkNext(Placed &object);
     void checkChain(const Placed &object) const;
-    void checkRings(const Element &element);
+    void checkRings(const Element &element) const;
     void attach(Placed &object);
     void storeDrawObjs();
     [[noreturn]] void refuse(const Placed &object, QLatin1String member, const QString &reason) const;

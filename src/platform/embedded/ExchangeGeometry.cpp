@@ -1,5 +1,6 @@
 #include "platform/embedded/ExchangeGeometry.h"
 
+#include "platform/embedded/StoredGeometry.h"
 #include "platform/geometry/KernelTolerance.h"
 
 namespace hbx::embedded {
@@ -25,19 +26,10 @@ constexpr PolygonRule kPolygonRules[] = {
     {CPolygon::kHolesInside, "has a hole that is not inside or meets another"},
 };
 
-/** The geometry of a text; null for other text. */
-template <typename Geometry> CRefPtr<Geometry> fromText(const QString &text)
-{
-    // A zero inside would end the text for the kernel, and what stands behind it would go unread.
-    if (text.contains(QChar(0)))
-        return nullptr;
-    const CRefPtr<CGeometry> geometry = CGeometry::LoadFromStr(text.toUtf8().constData());
-    return dynamic_cast<Geometry *>(geometry.get());
-}
-
 template <typename Geometry> CRefPtr<Geometry> read(const QJsonValue &value, const JsonPlace &place, const char *what)
 {
-    CRefPtr<Geometry> geometry = value.isString() ? fromText<Geometry>(value.toString()) : nullptr;
+    const QByteArray text = value.toString().toUtf8();
+    CRefPtr<Geometry> geometry = storedGeometry<Geometry>({text.constData(), static_cast<std::size_t>(text.size())});
     if (!geometry)
         place.refuse(QStringLiteral("is not the text of a %1").arg(QLatin1String(what)));
     return geometry;

@@ -29,9 +29,9 @@ bool ExchangeObject::flagOr(QLatin1String key, bool absent) const
     return found.toBool();
 }
 
-int ExchangeObject::intFrom(QLatin1String key, int low, int absent) const
+int ExchangeObject::integer32(QLatin1String key, int low) const
 {
-    return has(key) ? static_cast<int>(integer(key, low, std::numeric_limits<int>::max())) : absent;
+    return static_cast<int>(integer(key, low, std::numeric_limits<int>::max()));
 }
 
 qint64 ExchangeObject::wide(QLatin1String key) const { return integer(key, -kExactInDouble, kExactInDouble); }

@@ -10,7 +10,7 @@ using dwgx::JsonPlace;
 
 /** An object of the exchange form: all its members are known, and those asked for with a start value may be absent.
  *  Everything here throws dwgx::JsonRefusal with place and reason. */
-class ExchangeObject : public dwgx::StrictObject
+class ORVCADPLATFORM_EXPORT ExchangeObject : public dwgx::StrictObject
 {
 public:
     using StrictObject::StrictObject;
@@ -22,9 +22,9 @@ public:
     QString textOr(QLatin1String key, const QString &absent) const;
     double numberOr(QLatin1String key, double absent) const;
     bool flagOr(QLatin1String key, bool absent) const;
-    int intOr(QLatin1String key, int absent) const { return intFrom(key, std::numeric_limits<int>::min(), absent); }
     /** An integer of 32 bits that is not below a limit. */
-    int intFrom(QLatin1String key, int low, int absent) const;
+    int integer32(QLatin1String key, int low = std::numeric_limits<int>::min()) const;
+    int integer32Or(QLatin1String key, int absent) const { return has(key) ? integer32(key) : absent; }
     /** A whole number that a double holds exactly. */
     qint64 wide(QLatin1String key) const;
     qint64 wideOr(QLatin1String key, qint64 absent) const { return has(key) ? wide(key) : absent; }

@@ -66,10 +66,13 @@ using ReadValue = PropertyValue (*)(const QJsonValue &value, const JsonPlace &pl
 constexpr std::array<ReadValue, 7> kReaders{readInteger, readDouble, readText,   readElevation,
                                             readPoint,   readCurve,  readPolygon};
 
+/** Whether a property that names draw objects is one id and nothing else. */
+bool isOneId(const PropertyEntry &entry) { return entry.kind == PropertyKind::Integer; }
+
 /** A key, or a list of keys; an integer in front of the import's ids can only say that there is none. */
 PropertyValue readReference(const QJsonValue &value, const JsonPlace &place, const PropertyEntry &entry)
 {
-    const bool isSingle = entry.kind == PropertyKind::Integer;
+    const bool isSingle = isOneId(entry);
     if (isSingle && wholeInt(value) == kNoDrawObject)
         return kNoDrawObject;
     if (!value.isString())
@@ -92,10 +95,10 @@ struct ValueToJson
     }
 };
 
-QJsonValue referenceToJson(const QString &name, const PropertyValue &value, const ReferenceMap &keyOfId)
+QJsonValue referenceToJson(PropertyRole role, const PropertyValue &value, const ReferenceMap &keyOfId)
 {
     if (const QString *text = std::get_if<QString>(&value))
-        return ExchangeReferenceText(name, *text).mapped(keyOfId);
+        return ExchangeReferenceText(role, *text).mapped(keyOfId);
     const int *id = std::get_if<int>(&value);
     if (!id)
         return QJsonValue(QJsonValue::Null);
@@ -103,11 +106,10 @@ QJsonValue referenceToJson(const QString &name, const PropertyValue &value, cons
     return key ? QJsonValue(*key) : QJsonValue(kNoDrawObject);
 }
 
-QJsonValue valueToJson(const QString &name, const PropertyValue &value, const PropertyEntry *entry,
-                       const ReferenceMap &keyOfId)
+QJsonValue valueToJson(const PropertyValue &value, const PropertyEntry *entry, const ReferenceMap &keyOfId)
 {
-    if (entry && entry->role == PropertyRole::DrawObjIds)
-        return referenceToJson(name, value, keyOfId);
+    if (entry && entry->namesDrawObjs())
+        return referenceToJson(entry->role, value, keyOfId);
     return std::visit(ValueToJson(), value);
 }
 
@@ -135,12 +137,11 @@ private:
     {
         if (value.isNull())
             return {};
-        if (entry.role != PropertyRole::DrawObjIds)
+        if (!entry.namesDrawObjs())
             return kReaders[static_cast<std::size_t>(entry.kind)](value, place);
         PropertyValue reference = readReference(value, place, entry);
         if (std::holds_alternative<QString>(reference))
-            m_keyUses.push_back(
-                {static_cast<int>(m_records.size()), entry.kind == PropertyKind::Integer, place.text()});
+            m_keyUses.push_back({static_cast<int>(m_records.size()), &entry, place.text()});
         return reference;
     }
 
@@ -149,14 +150,25 @@ private:
     PropertyRecords m_records;
 };
 
-PropertyValue resolved(const QString &name, const QString &text, const KeyUse &use, const ReferenceMap &map)
+[[noreturn]] void refuseUnknown(const KeyUse &use, const QString &key)
 {
-    const ExchangeReferenceText references(name, text);
-    const std::optional<QString> id = use.isSingle ? map(text) : std::nullopt;
-    const std::optional<QString> unknown = id ? std::nullopt : use.isSingle ? text : references.firstUnknown(map);
-    if (unknown)
-        throw dwgx::JsonRefusal{use.place, QStringLiteral("names the unknown draw object \"%1\"").arg(*unknown)};
-    return id ? PropertyValue(id->toInt()) : PropertyValue(references.mapped(map));
+    throw dwgx::JsonRefusal{use.place, QStringLiteral("names the unknown draw object \"%1\"").arg(key)};
+}
+
+PropertyValue resolvedId(const QString &key, const KeyUse &use, const ReferenceMap &map)
+{
+    const std::optional<QString> id = map(key);
+    if (!id)
+        refuseUnknown(use, key);
+    return id->toInt();
+}
+
+PropertyValue resolvedText(const QString &text, const KeyUse &use, const ReferenceMap &map)
+{
+    const ExchangeReferenceText references(use.entry->role, text);
+    if (const std::optional<QString> unknown = references.firstUnknown(map))
+        refuseUnknown(use, *unknown);
+    return references.mapped(map);
 }
 
 } // namespace
@@ -178,8 +190,9 @@ PropertyRecords propertiesFromJson(const QJsonValue &value, const JsonPlace &pla
 void resolveKeys(PropertyRecords &properties, const std::vector<KeyUse> &keyUses, const ReferenceMap &map)
 {
     for (const KeyUse &use : keyUses) {
-        auto &[name, value] = properties[static_cast<std::size_t>(use.property)];
-        value = resolved(name, std::get<QString>(value), use, map);
+        PropertyValue &value = properties[static_cast<std::size_t>(use.property)].second;
+        const QString text = std::get<QString>(value);
+        value = isOneId(*use.entry) ? resolvedId(text, use, map) : resolvedText(text, use, map);
     }
 }
 
@@ -187,7 +200,7 @@ QJsonObject propertiesToJson(const PropertyRecords &properties, const TypeProper
 {
     QJsonObject json;
     for (const auto &[name, value] : properties)
-        json.insert(name, valueToJson(name, value, type ? type->find(name, true) : nullptr, keyOfId));
+        json.insert(name, valueToJson(value, type ? type->find(name, true) : nullptr, keyOfId));
     return json;
 }
 

@@ -2,6 +2,8 @@
 
 #include <QStringList>
 
+#include <utility>
+
 namespace hbx::embedded {
 namespace {
 
@@ -12,13 +14,11 @@ constexpr QLatin1Char kBracketClose(']');
 
 } // namespace
 
-ExchangeReferenceText::ExchangeReferenceText(const QString &property, const QString &text)
-    : m_isBracket(property == QLatin1String("Catalog")), m_text(text)
-{}
+ExchangeReferenceText::ExchangeReferenceText(PropertyRole role, QString text) : m_role(role), m_text(std::move(text)) {}
 
 QString ExchangeReferenceText::mapped(const ReferenceMap &map) const
 {
-    return m_isBracket ? mappedBracket(map) : mappedList(map);
+    return m_role == PropertyRole::DrawObjIdInBrackets ? mappedBracket(map) : mappedList(map);
 }
 
 std::optional<QString> ExchangeReferenceText::firstUnknown(const ReferenceMap &map) const

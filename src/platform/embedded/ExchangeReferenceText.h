@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/embedded/HBXPropertyCatalogue.h"
+
 #include <QString>
 
 #include <functional>
@@ -10,14 +12,13 @@ namespace hbx::embedded {
 /** What a name of a draw object becomes; nothing for an unknown one. */
 using ReferenceMap = std::function<std::optional<QString>(const QString &name)>;
 
-/** How properties hold references to draw objects as text (PropertyRole::DrawObjIds): ids in the project, keys in the
- *  exchange form.
+/** How text properties hold references to draw objects: ids in the project, keys in the exchange form.
  *
- *  "Catalog" is `name[object]`; all others are lists of `object,flag;`. */
-class ExchangeReferenceText
+ *  PropertyRole::DrawObjIdInBrackets is `name[object]`; PropertyRole::DrawObjIds is a list of `object,flag;`. */
+class ORVCADPLATFORM_EXPORT ExchangeReferenceText
 {
 public:
-    ExchangeReferenceText(const QString &property, const QString &text);
+    ExchangeReferenceText(PropertyRole role, QString text);
 
     /** The text with each reference mapped; one that maps to nothing is taken out. */
     QString mapped(const ReferenceMap &map) const;
@@ -28,7 +29,7 @@ private:
     QString mappedBracket(const ReferenceMap &map) const;
     QString mappedList(const ReferenceMap &map) const;
 
-    bool m_isBracket;
+    PropertyRole m_role;
     QString m_text;
 };
 

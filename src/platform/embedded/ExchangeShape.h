@@ -6,9 +6,9 @@
 namespace hbx::embedded {
 
 /** The shape object of the exchange form. Throws dwgx::JsonRefusal. */
-ShapeRecord shapeFromJson(const QJsonValue &value, const JsonPlace &place);
+ORVCADPLATFORM_EXPORT ShapeRecord shapeFromJson(const QJsonValue &value, const JsonPlace &place);
 /** Geometry that was never set is null; members that stand at their start value are left out, but for sizes and the
  *  insertion point. */
-QJsonObject shapeToJson(const ShapeRecord &shape);
+ORVCADPLATFORM_EXPORT QJsonObject shapeToJson(const ShapeRecord &shape);
 
 } // namespace hbx::embedded

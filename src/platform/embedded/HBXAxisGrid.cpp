@@ -1,13 +1,10 @@
 #include "platform/embedded/HBXAxisGrid.h"
 
+#include "platform/embedded/HBXElementTypes.h"
+#include "platform/embedded/HBXGridShape.h"
 #include "platform/host/IHBXElementDrawObj.h"
 
 namespace hbx::embedded {
-namespace {
-
-constexpr qint64 kGridType = 74;
-
-} // namespace
 
 void HBXAxisGrid::axes(std::vector<HBXAxis> &out, int group) const
 {
@@ -22,7 +19,7 @@ void HBXAxisGrid::axes(std::vector<HBXAxis> &out, int group) const
 IHBXAxisGrid *IHBXAxisGrid::createFromObj(IHBXElementDrawObj *object)
 {
     using namespace hbx::embedded;
-    const bool isGrid = object && object->type() == kGridType;
+    const bool isGrid = object && object->type() == type::axisGrid;
     const auto *shape = isGrid ? dynamic_cast<HBXGridShape *>(object->shape()) : nullptr;
     return shape ? new HBXAxisGrid(shape->axes()) : nullptr;
 }

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "platform/embedded/HBXGridShape.h"
 #include "platform/host/IHBXAxisGrid.h"
+
+#include <array>
 
 namespace hbx::embedded {
 
@@ -9,14 +10,16 @@ namespace hbx::embedded {
 class HBXAxisGrid final : public IHBXAxisGrid
 {
 public:
-    explicit HBXAxisGrid(const HBXGridShape::Axes &axes) : m_axes(axes) {}
+    using Axes = std::array<std::vector<HBXAxis>, kGroupCount>;
+
+    explicit HBXAxisGrid(const Axes &axes) : m_axes(axes) {}
 
     void axes(std::vector<HBXAxis> &out, int group) const override;
     /** Nothing to do: the copy was made of the grid as it stands. */
     void prepare() override {}
 
 private:
-    HBXGridShape::Axes m_axes;
+    Axes m_axes;
 };
 
 } // namespace hbx::embedded

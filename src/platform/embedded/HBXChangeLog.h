@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ORVCADPlatformExport.h"
+
 #include <QtGlobal>
 
 #include <unordered_set>
@@ -8,7 +10,7 @@
 namespace hbx::embedded {
 
 /** Which objects of one kind differ from what the store holds. */
-class HBXChangedIds
+class ORVCADPLATFORM_EXPORT HBXChangedIds
 {
 public:
     void changed(qint64 id) { m_changed.insert(id); }

@@ -1,6 +1,7 @@
 #include "platform/embedded/HBXCheck.h"
 
 #include "platform/embedded/HBXModel.h"
+#include "platform/embedded/HBXPlacedShape.h"
 #include "platform/embedded/HBXSameObject.h"
 #include "platform/geometry/KernelTolerance.h"
 

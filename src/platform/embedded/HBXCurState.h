@@ -11,10 +11,14 @@ public:
     IHBXRegion *region() override { return m_region; }
     IHBXFloor *floor() override { return m_floor; }
     /** One layer serves all kinds. */
-    int currentLayer(int kind) override;
+    int currentLayer(int) override { return m_layer; }
     int layer() override { return m_layer; }
 
-    void select(IHBXRegion *region, IHBXFloor *floor);
+    void select(IHBXRegion *region, IHBXFloor *floor)
+    {
+        m_region = region;
+        m_floor = floor;
+    }
     void setLayer(int layer) { m_layer = layer; }
 
 private:

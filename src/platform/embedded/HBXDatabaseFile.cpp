@@ -1,7 +1,11 @@
 #include "platform/embedded/HBXDatabaseFile.h"
 
+#include "platform/embedded/DatabaseRefusal.h"
 #include "platform/embedded/HBXDatabaseReader.h"
+#include "platform/embedded/HBXDatabaseSchema.h"
 #include "platform/embedded/HBXDatabaseWriter.h"
+#include "platform/embedded/HBXProject.h"
+#include "platform/embedded/SqliteStatement.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -13,11 +17,17 @@
 namespace hbx::embedded {
 namespace {
 
+constexpr char kBusy[] = "is being written by another program";
+
 constexpr const char *kSideFiles[] = {"-journal", "-wal", "-shm"};
 
 [[noreturn]] void refuse(const QString &reason) { throw DatabaseRefusal{QString(), reason}; }
 
-[[noreturn]] void refuseBusy() { refuse(QStringLiteral("is being written by another program")); }
+/** The failure with what the system said of it. */
+QString failed(const char *failure, const QString &message)
+{
+    return QStringLiteral("%1: %2").arg(QLatin1String(failure), message);
+}
 
 /** Runs work, and turns whatever it throws into an error of the file. */
 template <typename Work> bool guarded(const QString &path, const char *failure, ProjectError &error, Work work)
@@ -29,12 +39,9 @@ template <typename Work> bool guarded(const QString &path, const char *failure, 
     } catch (const DatabaseRefusal &refusal) {
         error = {path, refusal.place, refusal.reason};
     } catch (const SqliteError &problem) {
-        error = {path, QString(),
-                 problem.isBusy() ? QStringLiteral("is being written by another program")
-                                  : QLatin1String(failure) + QLatin1String(": ") + problem.message};
+        error = {path, QString(), problem.isBusy() ? QString(QLatin1String(kBusy)) : failed(failure, problem.message)};
     } catch (const std::filesystem::filesystem_error &problem) {
-        error = {path, QString(),
-                 QLatin1String(failure) + QLatin1String(": ") + QString::fromStdString(problem.code().message())};
+        error = {path, QString(), failed(failure, QString::fromStdString(problem.code().message()))};
     }
     return false;
 }
@@ -72,11 +79,18 @@ void beginReading(SqliteConnection &connection)
 void checkContent(SqliteConnection &connection)
 {
     if (connection.isWrittenByOthers())
-        refuseBusy();
+        refuse(QLatin1String(kBusy));
     schema::check(connection);
     SqliteStatement check(connection, "PRAGMA quick_check(1)");
     if (check.next() && check.bytes(0) != "ok")
         refuse(QStringLiteral("is damaged: ") + check.text(0));
+}
+
+/** What the last save left; nothing in a file that has lost it. */
+std::optional<qint64> saveMarkIn(SqliteConnection &connection)
+{
+    SqliteStatement project(connection, "SELECT save_mark FROM project");
+    return project.next() ? std::optional(project.integer(0)) : std::nullopt;
 }
 
 void checkForeignKeys(SqliteConnection &connection)
@@ -103,10 +117,10 @@ void refuseIfWritten(const QString &path)
         SqliteConnection connection(path, SqliteConnection::kRead);
         connection.run("BEGIN; SELECT count(*) FROM sqlite_schema");
         if (connection.isWrittenByOthers())
-            refuseBusy();
+            refuse(QLatin1String(kBusy));
     } catch (const SqliteError &problem) {
         if (problem.isBusy())
-            refuseBusy(); // anything else is to be replaced anyway
+            refuse(QLatin1String(kBusy)); // anything else is to be replaced anyway
     }
 }
 
@@ -214,11 +228,8 @@ void HBXDatabaseFile::update(const ProjectUpdate &changes)
     SqliteConnection connection(m_path, SqliteConnection::kWrite);
     SqliteTransaction transaction(connection, "BEGIN IMMEDIATE");
     schema::check(connection);
-    SqliteStatement current(connection, "SELECT save_mark FROM project");
-    if (!current.next() || current.integer(0) != m_saveMark)
+    if (saveMarkIn(connection) != m_saveMark)
         refuse(QStringLiteral("was changed by another program since it was opened"));
-    while (current.next())
-        ;
     const qint64 mark = freshMark();
     HBXDatabaseWriter(connection).writeUpdate(changes, mark);
     if (!changes.removedDrawObjs.empty() || !changes.removedElements.empty())

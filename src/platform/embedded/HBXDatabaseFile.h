@@ -1,26 +1,13 @@
 #pragma once
 
 #include "ORVCADPlatformExport.h"
-#include "platform/embedded/HBXProject.h"
 #include "platform/embedded/HBXProjectRecords.h"
 
-#include <QString>
-
 #include <optional>
-#include <vector>
 
 namespace hbx::embedded {
 
-/** What a save writes: of content, the name, source, plane rule and next id, and the elements and draw objects that are
- *  new or changed; its other members only where they are said to stand in it. */
-struct ProjectUpdate
-{
-    ProjectRecord content;
-    bool hasOptions = false;
-    bool hasMaterials = false;
-    std::vector<qint64> removedElements;
-    std::vector<qint64> removedDrawObjs;
-};
+struct ProjectError;
 
 /** A project file (`.hbxdb`), an SQLite database (docs/formats/hbxdb.md). No connection is kept between the calls, so
  *  that others can read and write the file. */

@@ -1,86 +1,185 @@
 #include "platform/embedded/HBXDatabaseReader.h"
 
 #include "platform/embedded/DatabaseLinks.h"
-#include "platform/embedded/DatabaseProperty.h"
+#include "platform/embedded/DatabasePropertyReader.h"
+#include "platform/embedded/DatabaseRefusal.h"
 #include "platform/embedded/DatabaseRows.h"
 #include "platform/embedded/HBXPropertyCatalogue.h"
+#include "platform/embedded/StoredGeometry.h"
 
 #include <QJsonDocument>
 
 namespace hbx::embedded {
 namespace {
 
-const TypeProperties &catalogueOf(const DatabaseRows &rows, qint64 type)
+// The columns of each table that are read behind those of its key, and below them their numbers, key included.
+
+const TypeProperties &catalogueOf(const DatabaseRows &rows, int typeColumn)
 {
+    const qint64 type = rows.row().integer(typeColumn);
     const TypeProperties *properties = HBXPropertyCatalogue::instance().properties(type);
     if (!properties)
-        rows.refuse("type", QStringLiteral("is no type that the host knows: %1").arg(type));
+        rows.refuse(typeColumn, QStringLiteral("is no type that the host knows: %1").arg(type));
     return *properties;
 }
 
 /** The geometry of a text column; null for NULL. */
-template <typename Geometry> vks::CRefPtr<Geometry> readGeometry(const DatabaseRows &rows, int column, const char *name)
+template <typename Geometry> vks::CRefPtr<Geometry> readGeometry(const DatabaseRows &rows, int column)
 {
     if (rows.row().isNull(column))
         return nullptr;
-    const std::string_view text = rows.row().bytes(column);
-    const bool isWhole = text.find('\0') == std::string_view::npos;
-    const auto geometry = vks::CGeometry::LoadFromStr(isWhole ? text.data() : nullptr);
-    vks::CRefPtr<Geometry> wanted = dynamic_cast<Geometry *>(geometry.get());
-    if (!wanted)
-        rows.refuse(name, QStringLiteral("is not the text of its geometry"));
-    return wanted;
+    vks::CRefPtr<Geometry> geometry = storedGeometry<Geometry>(rows.row().bytes(column));
+    if (!geometry)
+        rows.refuse(column, QStringLiteral("is not the text of its geometry"));
+    return geometry;
 }
 
-namespace shapeColumn {
-enum { kId, kKind, kOutline, kCurve, kWidth, kDistanceToLeft, kHeight, kInsertX, kInsertY, kAngle, kMirror, kFrame };
+namespace floorTable {
+constexpr char kColumns[] = "region_id, name, code, bottom_elev, height, standard_floor_count, foundation, remark";
+enum { kId, kRegion, kName, kCode, kBottomElev, kHeight, kStandardFloorCount, kFoundation, kRemark };
+} // namespace floorTable
+
+FloorRecord readFloor(const DatabaseRows &rows)
+{
+    using namespace floorTable;
+    FloorRecord floor;
+    floor.id = rows.integer32(kId);
+    floor.regionId = rows.link(kRegion);
+    floor.name = rows.row().text(kName);
+    floor.code = rows.row().text(kCode);
+    floor.bottomElev = rows.number(kBottomElev);
+    floor.height = rows.number(kHeight);
+    floor.standardFloorCount = rows.integer32(kStandardFloorCount);
+    floor.foundation = rows.row().integer(kFoundation) != 0;
+    floor.remark = rows.row().text(kRemark);
+    return floor;
 }
 
-constexpr const char *kFrameNames[] = {"origin_x", "origin_y", "origin_z", "u_x", "u_y", "u_z", "v_x", "v_y", "v_z"};
+constexpr char kPropertyColumns[] = "name, value";
 
-vks::CVec3<double> readVector(const DatabaseRows &rows, int term)
+namespace elementTable {
+constexpr char kColumns[] = "floor_id, parent_id, name, type, sub_type, order_number";
+enum { kId, kFloor, kParent, kName, kType, kSubType, kOrderNumber };
+} // namespace elementTable
+
+/** All but the properties. */
+void readElement(const DatabaseRows &rows, ElementRecord &element)
+{
+    using namespace elementTable;
+    element.id = rows.id();
+    element.floorId = rows.integer32(kFloor);
+    element.parentId = rows.link(kParent);
+    element.name = rows.row().text(kName);
+    element.type = rows.row().integer(kType);
+    element.subType = rows.row().integer(kSubType);
+    element.orderNumber = rows.integer32(kOrderNumber);
+}
+
+namespace drawObjTable {
+constexpr char kColumns[] = "element_id, type, sub_type, next_id, owner_id, attached_to, section_number, section_kind,"
+                            " layer, state, exchange_key";
+enum { kId, kElement, kType, kSubType, kNext, kOwner, kAttachedTo, kSectionNumber, kSectionKind, kLayer, kState, kKey };
+} // namespace drawObjTable
+
+/** What stands in the row of a draw object itself. */
+void readDrawObj(const DatabaseRows &rows, DrawObjRecord &drawObj)
+{
+    using namespace drawObjTable;
+    drawObj.id = rows.id();
+    drawObj.elementId = rows.link(kElement);
+    drawObj.type = rows.row().integer(kType);
+    drawObj.subType = rows.row().integer(kSubType);
+    drawObj.next = rows.link(kNext);
+    drawObj.owner = rows.link(kOwner);
+    drawObj.attachedTo = rows.link(kAttachedTo);
+    if (!rows.row().isNull(kSectionNumber))
+        drawObj.section = SectionRecord{rows.row().integer(kSectionNumber), rows.integer32(kSectionKind)};
+    drawObj.layer = rows.integer32(kLayer);
+    drawObj.state = rows.integer32(kState);
+    drawObj.key = rows.row().text(kKey);
+}
+
+namespace shapeTable {
+constexpr char kColumns[] = "kind, outline, curve, width, distance_to_left, height, insert_x, insert_y, angle, mirror,"
+                            " origin_x, origin_y, origin_z, u_x, u_y, u_z, v_x, v_y, v_z";
+enum {
+    kId,
+    kKind,
+    kOutline,
+    kCurve,
+    kWidth,
+    kDistanceToLeft,
+    kHeight,
+    kInsertX,
+    kInsertY,
+    kAngle,
+    kMirror,
+    kOrigin,
+    kU = kOrigin + 3,
+    kV = kU + 3
+};
+} // namespace shapeTable
+
+vks::CVec3<double> readVector(const DatabaseRows &rows, int firstColumn)
 {
     double terms[3];
     for (int i = 0; i < 3; ++i) {
-        if (rows.row().isNull(shapeColumn::kFrame + term + i))
-            rows.refuse(kFrameNames[term + i], QStringLiteral("is missing"));
-        terms[i] = rows.number(shapeColumn::kFrame + term + i, kFrameNames[term + i]);
+        if (rows.row().isNull(firstColumn + i))
+            rows.refuse(firstColumn + i, QStringLiteral("is missing"));
+        terms[i] = rows.number(firstColumn + i);
     }
     return {terms[0], terms[1], terms[2]};
 }
 
 void readShape(const DatabaseRows &rows, ShapeRecord &shape)
 {
-    using namespace shapeColumn;
-    const int kind = rows.integer32(kKind, "kind");
+    using namespace shapeTable;
+    const int kind = rows.integer32(kKind);
     if (kind < IHBXShape::kPoint || kind > IHBXShape::kGrid)
-        rows.refuse("kind", QStringLiteral("is no kind of shape"));
+        rows.refuse(kKind, QStringLiteral("is no kind of shape"));
     shape.kind = static_cast<IHBXShape::Kind>(kind);
-    shape.outline = readGeometry<vks::CPolygon>(rows, kOutline, "outline");
-    shape.curve = readGeometry<vks::CCurve2d>(rows, kCurve, "curve");
-    shape.width = rows.number(kWidth, "width");
+    shape.outline = readGeometry<vks::CPolygon>(rows, kOutline);
+    shape.curve = readGeometry<vks::CCurve2d>(rows, kCurve);
+    shape.width = rows.number(kWidth);
     if (!rows.row().isNull(kDistanceToLeft))
-        shape.distanceToLeft = rows.number(kDistanceToLeft, "distance_to_left");
-    shape.height = rows.number(kHeight, "height");
-    shape.insertPoint = {rows.number(kInsertX, "insert_x"), rows.number(kInsertY, "insert_y")};
-    shape.angle = rows.number(kAngle, "angle");
+        shape.distanceToLeft = rows.number(kDistanceToLeft);
+    shape.height = rows.number(kHeight);
+    shape.insertPoint = {rows.number(kInsertX), rows.number(kInsertY)};
+    shape.angle = rows.number(kAngle);
     shape.mirror = rows.row().integer(kMirror) != 0;
-    if (!rows.row().isNull(kFrame))
-        shape.coordinates = {readVector(rows, 0), readVector(rows, 3), readVector(rows, 6)};
+    if (!rows.row().isNull(kOrigin))
+        shape.coordinates = {readVector(rows, kOrigin), readVector(rows, kU), readVector(rows, kV)};
 }
+
+namespace axisTable {
+constexpr char kKey[] = "draw_object_id, axis_group, position, curve_position";
+constexpr char kColumns[] = "label, curve";
+enum { kId, kGroup, kPosition, kCurvePosition, kLabel, kCurve };
+} // namespace axisTable
 
 void readAxis(const DatabaseRows &rows, ShapeRecord &shape)
 {
-    const qint64 group = rows.row().integer(1);
+    using namespace axisTable;
+    const qint64 group = rows.row().integer(kGroup);
     if (group < 0 || group >= IHBXAxisGrid::kGroupCount)
-        rows.refuse("axis_group", QStringLiteral("is no group of axes"));
+        rows.refuse(kGroup, QStringLiteral("is no group of axes"));
     std::vector<HBXAxis> &axes = shape.axes[static_cast<std::size_t>(group)];
-    const bool isFurtherCurve = rows.row().integer(3) != 0;
+    const bool isFurtherCurve = rows.row().integer(kCurvePosition) != 0;
     if (!isFurtherCurve)
-        axes.push_back({rows.row().text(4), {}});
+        axes.push_back({rows.row().text(kLabel), {}});
     if (axes.empty())
-        rows.refuse("curve_position", QStringLiteral("has no axis in front of it"));
-    axes.back().curves.push_back(readGeometry<vks::CCurve2d>(rows, 5, "curve"));
+        rows.refuse(kCurvePosition, QStringLiteral("has no axis in front of it"));
+    axes.back().curves.push_back(readGeometry<vks::CCurve2d>(rows, kCurve));
+}
+
+QJsonObject readSpan(const DatabaseRows &rows)
+{
+    enum { kId, kPosition, kRecord };
+    const std::string_view text = rows.row().bytes(kRecord);
+    const auto document = QJsonDocument::fromJson({text.data(), static_cast<int>(text.size())});
+    if (!document.isObject())
+        rows.refuse(kRecord, QStringLiteral("is no JSON object"));
+    return document.object();
 }
 
 /** Rows that a table really has, so that nothing is allocated by a number that merely stands in the file. */
@@ -109,68 +208,51 @@ ProjectRecord HBXDatabaseReader::read()
 
 void HBXDatabaseReader::readProject()
 {
-    DatabaseRows rows(m_connection, "project", "id", "id, name, source, plane_rule, next_id, save_mark");
+    enum { kId, kName, kSource, kPlaneRule, kNextId, kSaveMark };
+    DatabaseRows rows(m_connection, "project", "id", "name, source, plane_rule, next_id, save_mark");
     if (!rows.next())
         throw DatabaseRefusal{QStringLiteral("project"), QStringLiteral("has no row")};
     const SqliteStatement &row = rows.row();
-    m_project.name = row.text(1);
-    m_project.source = row.text(2);
-    m_project.planeRule = row.text(3);
-    m_project.nextId = row.integer(4);
-    m_saveMark = row.integer(5);
+    m_project.name = row.text(kName);
+    m_project.source = row.text(kSource);
+    m_project.planeRule = row.text(kPlaneRule);
+    m_project.nextId = row.integer(kNextId);
+    m_saveMark = row.integer(kSaveMark);
 }
 
 void HBXDatabaseReader::readTables()
 {
-    DatabaseRows options(m_connection, "identify_option", "position", "position, group_name, name, value");
+    DatabaseRows options(m_connection, "identify_option", "position", "group_name, name, value");
     while (options.next())
         m_project.options.push_back({options.row().text(1), options.row().text(2), options.row().text(3)});
-    DatabaseRows materials(m_connection, "material", "number", "number, name");
+    DatabaseRows materials(m_connection, "material", "number", "name");
     while (materials.next())
-        m_project.materials.push_back({materials.integer32(0, "number"), materials.row().text(1)});
+        m_project.materials.push_back({materials.integer32(0), materials.row().text(1)});
 }
 
 void HBXDatabaseReader::readRegions()
 {
-    DatabaseRows rows(m_connection, "region", "id", "id, name");
+    DatabaseRows rows(m_connection, "region", "id", "name");
     while (rows.next())
         m_project.regions.push_back({rows.id(), rows.row().text(1)});
 }
 
 void HBXDatabaseReader::readFloors()
 {
-    DatabaseRows rows(m_connection, "floor", "id",
-                      "id, region_id, name, code, bottom_elev, height, standard_floor_count, foundation, remark");
-    while (rows.next()) {
-        FloorRecord floor;
-        floor.id = rows.integer32(0, "id");
-        floor.regionId = rows.link(1);
-        floor.name = rows.row().text(2);
-        floor.code = rows.row().text(3);
-        floor.bottomElev = rows.number(4, "bottom_elev");
-        floor.height = rows.number(5, "height");
-        floor.standardFloorCount = rows.integer32(6, "standard_floor_count");
-        floor.foundation = rows.row().integer(7) != 0;
-        floor.remark = rows.row().text(8);
-        m_project.floors.push_back(floor);
-    }
+    DatabaseRows rows(m_connection, "floor", "id", floorTable::kColumns);
+    while (rows.next())
+        m_project.floors.push_back(readFloor(rows));
 }
 
 void HBXDatabaseReader::readElements()
 {
-    DatabaseRows rows(m_connection, "element", "id", "id, floor_id, parent_id, name, type, sub_type, order_number");
-    DatabaseProperty propertyReader(false);
-    OwnedRows properties(m_connection, "element_property", "element_id, position", "element_id, position, name, value");
+    DatabaseRows rows(m_connection, "element", "id", elementTable::kColumns);
+    DatabasePropertyReader propertyReader(false);
+    OwnedRows properties(m_connection, "element_property", "element_id, position", kPropertyColumns);
     while (rows.next()) {
         ElementRecord element;
-        element.id = rows.id();
-        element.floorId = rows.integer32(1, "floor_id");
-        element.parentId = rows.link(2);
-        element.name = rows.row().text(3);
-        element.type = rows.row().integer(4);
-        element.subType = rows.row().integer(5);
-        element.orderNumber = rows.integer32(6, "order_number");
-        const TypeProperties &type = catalogueOf(rows, element.type);
+        readElement(rows, element);
+        const TypeProperties &type = catalogueOf(rows, elementTable::kType);
         properties.forOwner(
             element.id, [&](const DatabaseRows &property) { propertyReader.read(property, type, element.properties); });
         m_project.elements.push_back(std::move(element));
@@ -181,27 +263,13 @@ void HBXDatabaseReader::readElements()
 void HBXDatabaseReader::readDrawObjs()
 {
     m_project.drawObjs.reserve(rowCount(m_connection, "SELECT count(*) FROM draw_object"));
-    DatabaseRows rows(m_connection, "draw_object", "id",
-                      "id, element_id, type, sub_type, next_id, owner_id, attached_to, section_number, section_kind,"
-                      " layer, state, exchange_key");
-    DatabaseProperty propertyReader(true);
-    OwnedRows properties(m_connection, "draw_object_property", "draw_object_id, position",
-                         "draw_object_id, position, name, value");
+    DatabaseRows rows(m_connection, "draw_object", "id", drawObjTable::kColumns);
+    DatabasePropertyReader propertyReader(true);
+    OwnedRows properties(m_connection, "draw_object_property", "draw_object_id, position", kPropertyColumns);
     while (rows.next()) {
         DrawObjRecord &drawObj = m_project.drawObjs.emplace_back();
-        drawObj.id = rows.id();
-        drawObj.elementId = rows.link(1);
-        drawObj.type = rows.row().integer(2);
-        drawObj.subType = rows.row().integer(3);
-        drawObj.next = rows.link(4);
-        drawObj.owner = rows.link(5);
-        drawObj.attachedTo = rows.link(6);
-        if (!rows.row().isNull(7))
-            drawObj.section = SectionRecord{rows.row().integer(7), rows.integer32(8, "section_kind")};
-        drawObj.layer = rows.integer32(9, "layer");
-        drawObj.state = rows.integer32(10, "state");
-        drawObj.key = rows.row().text(11);
-        const TypeProperties &type = catalogueOf(rows, drawObj.type);
+        readDrawObj(rows, drawObj);
+        const TypeProperties &type = catalogueOf(rows, drawObjTable::kType);
         properties.forOwner(
             drawObj.id, [&](const DatabaseRows &property) { propertyReader.read(property, type, drawObj.properties); });
     }
@@ -210,9 +278,7 @@ void HBXDatabaseReader::readDrawObjs()
 
 void HBXDatabaseReader::readShapes()
 {
-    OwnedRows rows(m_connection, "shape", "draw_object_id",
-                   "draw_object_id, kind, outline, curve, width, distance_to_left, height, insert_x, insert_y, angle,"
-                   " mirror, origin_x, origin_y, origin_z, u_x, u_y, u_z, v_x, v_y, v_z");
+    OwnedRows rows(m_connection, "shape", "draw_object_id", shapeTable::kColumns);
     for (DrawObjRecord &drawObj : m_project.drawObjs) {
         bool isThere = false;
         rows.forOwner(drawObj.id, [&](const DatabaseRows &shape) {
@@ -227,8 +293,7 @@ void HBXDatabaseReader::readShapes()
 
 void HBXDatabaseReader::readAxes()
 {
-    OwnedRows rows(m_connection, "shape_axis", "draw_object_id, axis_group, position, curve_position",
-                   "draw_object_id, axis_group, position, curve_position, label, curve");
+    OwnedRows rows(m_connection, "shape_axis", axisTable::kKey, axisTable::kColumns);
     for (DrawObjRecord &drawObj : m_project.drawObjs)
         rows.forOwner(drawObj.id, [&](const DatabaseRows &axis) { readAxis(axis, drawObj.shape); });
     rows.finish();
@@ -236,15 +301,9 @@ void HBXDatabaseReader::readAxes()
 
 void HBXDatabaseReader::readSpans()
 {
-    OwnedRows rows(m_connection, "span", "draw_object_id, position", "draw_object_id, position, record");
+    OwnedRows rows(m_connection, "span", "draw_object_id, position", "record");
     for (DrawObjRecord &drawObj : m_project.drawObjs)
-        rows.forOwner(drawObj.id, [&](const DatabaseRows &span) {
-            const std::string_view text = span.row().bytes(2);
-            const auto document = QJsonDocument::fromJson({text.data(), static_cast<int>(text.size())});
-            if (!document.isObject())
-                span.refuse("record", QStringLiteral("is no JSON object"));
-            drawObj.spans.push_back(document.object());
-        });
+        rows.forOwner(drawObj.id, [&](const DatabaseRows &span) { drawObj.spans.push_back(readSpan(span)); });
     rows.finish();
 }
 

@@ -1,14 +1,15 @@
 #pragma once
 
-#include "platform/embedded/HBXDatabaseSchema.h"
+#include "ORVCADPlatformExport.h"
 #include "platform/embedded/HBXProjectRecords.h"
-#include "platform/embedded/SqliteStatement.h"
 
 namespace hbx::embedded {
 
+class SqliteConnection;
+
 /** Reads all tables of a project file whose schema is known to be sound. Throws DatabaseRefusal for content that no
  *  project writes, SqliteError for what SQLite itself refuses. */
-class HBXDatabaseReader
+class ORVCADPLATFORM_EXPORT HBXDatabaseReader
 {
 public:
     explicit HBXDatabaseReader(SqliteConnection &connection) : m_connection(connection) {}

@@ -1,5 +1,6 @@
 #include "platform/embedded/HBXDatabaseSchema.h"
 
+#include "platform/embedded/DatabaseRefusal.h"
 #include "platform/embedded/SqliteStatement.h"
 
 #include <QtEndian>

@@ -1,17 +1,12 @@
 #pragma once
 
-#include "platform/embedded/SqliteConnection.h"
+#include "ORVCADPlatformExport.h"
 
 #include <QByteArray>
 
 namespace hbx::embedded {
 
-/** Why a project file was refused: where in it, and the reason. Thrown by what reads and writes project files. */
-struct DatabaseRefusal
-{
-    QString place; ///< such as shape[draw_object_id=17].outline; empty for the file
-    QString reason;
-};
+class SqliteConnection;
 
 /** Tables of a project file (docs/formats/hbxdb.md). */
 namespace schema {
@@ -23,11 +18,11 @@ constexpr quint32 kVersion = 1;
 constexpr int kHeaderSize = 100;
 
 /** Throws DatabaseRefusal when the first bytes of a file are not those of a project file of this form. */
-void checkHeader(const QByteArray &header);
+ORVCADPLATFORM_EXPORT void checkHeader(const QByteArray &header);
 /** Makes the tables of an empty database. */
-void create(SqliteConnection &connection);
+ORVCADPLATFORM_EXPORT void create(SqliteConnection &connection);
 /** Throws DatabaseRefusal when the database holds anything else than these tables, or one of them in another shape. */
-void check(SqliteConnection &connection);
+ORVCADPLATFORM_EXPORT void check(SqliteConnection &connection);
 
 } // namespace schema
 

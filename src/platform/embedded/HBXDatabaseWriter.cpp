@@ -1,6 +1,6 @@
 #include "platform/embedded/HBXDatabaseWriter.h"
 
-#include "platform/embedded/DatabaseProperty.h"
+#include "platform/embedded/StoredGeometry.h"
 
 #include <QJsonDocument>
 

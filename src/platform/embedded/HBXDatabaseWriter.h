@@ -1,13 +1,13 @@
 #pragma once
 
-#include "platform/embedded/HBXDatabaseFile.h"
+#include "platform/embedded/HBXProjectRecords.h"
 #include "platform/embedded/SqliteStatement.h"
 
 namespace hbx::embedded {
 
 /** Writes records into the tables of a project file, each table by one kept statement. The caller holds the transaction.
  *  Throws SqliteError. */
-class HBXDatabaseWriter
+class ORVCADPLATFORM_EXPORT HBXDatabaseWriter
 {
 public:
     explicit HBXDatabaseWriter(SqliteConnection &connection);

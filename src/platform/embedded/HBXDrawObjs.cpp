@@ -1,6 +1,9 @@
 #include "platform/embedded/HBXDrawObjs.h"
 
+#include "platform/embedded/HBXElementTypes.h"
+#include "platform/embedded/HBXFloorQuery.h"
 #include "platform/embedded/HBXModel.h"
+#include "platform/embedded/HBXPlacedShape.h"
 #include "platform/embedded/HBXShapeKinds.h"
 
 #include <algorithm>
@@ -9,7 +12,7 @@ namespace hbx::embedded {
 namespace {
 
 /** Two ways of asking for any sub-type. */
-constexpr int kAnySubTypes[] = {-1, 65535};
+constexpr qint64 kAnySubTypes[] = {kAnySubType, 65535};
 
 } // namespace
 
@@ -32,9 +35,7 @@ HBXElementDrawObj *HBXDrawObjs::makeNew(HBXElement &element, qint64 type, qint64
 
 HBXElementDrawObj &HBXDrawObjs::make(HBXElement &element, IHBXShape::Kind kind, qint64 id, qint64 type, qint64 subType)
 {
-    auto object = std::make_unique<HBXElementDrawObj>(element, id, type, subType, kind);
-    HBXElementDrawObj &made = *object;
-    m_byId.emplace(id, std::move(object));
+    HBXElementDrawObj &made = m_byId.add(std::make_unique<HBXElementDrawObj>(element, id, type, subType, kind));
     element.allDrawObjs().insert(id, &made);
     return made;
 }
@@ -61,33 +62,17 @@ void HBXDrawObjs::enter(HBXElementDrawObj &object)
     object.setEntered();
 }
 
-HBXElementDrawObj *HBXDrawObjs::drawObjById(qint64 id)
-{
-    const auto found = m_byId.find(id);
-    return found == m_byId.end() ? nullptr : found->second.get();
-}
-
-HBXElementDrawObj *HBXDrawObjs::own(IHBXElementDrawObj *drawObj)
-{
-    auto *known = dynamic_cast<HBXElementDrawObj *>(drawObj);
-    return known && drawObjById(known->id()) == known ? known : nullptr;
-}
-
 void HBXDrawObjs::queryDrawObjs(QList<IHBXElementDrawObj *> &out, const QSet<qint64> &floorIds,
                                 const QSet<qint64> &elementTypes, bool)
 {
-    out.clear();
-    for (const qint64 floorId : floorIds)
-        if (HBXFloor *floor = m_model.regions()->floorById(floorId))
-            floor->contents().forTypes(elementTypes, [&out](HBXTypeContents &type) { addTo(out, type.drawObjs); });
-    sortById(out);
+    queryFloors(out, *m_model.regions(), floorIds, elementTypes, &HBXTypeContents::drawObjs);
 }
 
 void HBXDrawObjs::queryDrawObjsOfFloor(QList<IHBXElementDrawObj *> &out, int floorId, int elementType, int subType,
                                        bool on)
 {
     queryDrawObjs(out, {floorId}, {elementType}, on);
-    if (std::find(std::begin(kAnySubTypes), std::end(kAnySubTypes), subType) != std::end(kAnySubTypes))
+    if (isOneOf(subType, kAnySubTypes))
         return;
     const auto isOther = [subType](const IHBXElementDrawObj *object) { return object->subType() != subType; };
     out.erase(std::remove_if(out.begin(), out.end(), isOther), out.end());
@@ -124,7 +109,7 @@ void HBXDrawObjs::remove(HBXElementDrawObj &object)
     object.ownElement().allDrawObjs().remove(object.id());
     if (object.isEntered())
         leave(object);
-    m_byId.erase(object.id());
+    m_byId.destroy(object.id());
 }
 
 void HBXDrawObjs::leave(HBXElementDrawObj &object)

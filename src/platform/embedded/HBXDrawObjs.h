@@ -1,11 +1,9 @@
 #pragma once
 
 #include "platform/embedded/HBXElementDrawObj.h"
-#include "platform/embedded/HBXFloorContents.h"
+#include "platform/embedded/HBXIdList.h"
+#include "platform/embedded/HBXObjectsById.h"
 #include "platform/host/IHBXDrawObjs.h"
-
-#include <memory>
-#include <unordered_map>
 
 namespace hbx::embedded {
 
@@ -18,7 +16,7 @@ public:
     /** A draw object stands on its element's floor: null for any other floor. It gets a child for each unit. */
     IHBXElementDrawObj *createDrawObj(IHBXFloor *floor, IHBXElement *element, bool on) override;
     void addDrawObj(IHBXElementDrawObj *drawObj) override;
-    HBXElementDrawObj *drawObjById(qint64 id) override;
+    HBXElementDrawObj *drawObjById(qint64 id) override { return m_byId.find(id); }
     void queryDrawObjs(QList<IHBXElementDrawObj *> &out, const QSet<qint64> &floorIds, const QSet<qint64> &elementTypes,
                        bool on) override;
     void queryDrawObjsOfFloor(QList<IHBXElementDrawObj *> &out, int floorId, int elementType, int subType,
@@ -30,7 +28,7 @@ public:
 
     // For the objects of this folder.
     /** The object itself when it is one of this building, null for any other and for null. */
-    HBXElementDrawObj *own(IHBXElementDrawObj *drawObj);
+    HBXElementDrawObj *own(IHBXElementDrawObj *drawObj) const { return m_byId.own(drawObj); }
     HBXElementDrawObj *cloneOf(HBXElementDrawObj &original);
     /** Destroys an object with its children. */
     void remove(HBXElementDrawObj &object);
@@ -52,7 +50,7 @@ private:
     void tie(const DrawObjRecord &record);
 
     HBXModel &m_model;
-    std::unordered_map<qint64, std::unique_ptr<HBXElementDrawObj>> m_byId;
+    HBXObjectsById<HBXElementDrawObj> m_byId;
     HBXIdList<HBXElementDrawObj> m_inOrder; ///< entered ones
 };
 

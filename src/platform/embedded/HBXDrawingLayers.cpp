@@ -1,5 +1,7 @@
 #include "platform/embedded/HBXDrawingLayers.h"
 
+#include "platform/embedded/HBXElementTypes.h"
+#include "platform/services/HBXElementTypeTable.h"
 #include "platform/services/HBXOptionNames.h"
 #include "platform/services/OptionGroupReader.h"
 
@@ -20,21 +22,21 @@ struct LayerTitles
 };
 
 constexpr LayerTitles kTitles[] = {
-    {0, s_strConcreteWall, s_strWallLabel},
-    {1, nullptr, s_strWallLabel},
-    {4, s_strWindowsLine, s_strHoleLabel},
-    {5, s_strWindowsLine, s_strHoleLabel},
-    {6, s_strWindowsLine, s_strHoleLabel},
-    {7, s_strWindowsLine, s_strHoleLabel},
-    {15, nullptr, s_strBeamLabel},
-    {17, nullptr, s_strBeamLabel},
-    {18, nullptr, s_strBeamLabel},
-    {25, s_strColumn, nullptr},
-    {26, s_strColumn, nullptr},
-    {202, nullptr, s_strWallLabel},
-    {1001, nullptr, s_strWallLabel},
-    {1002, s_strColumn, nullptr},
-    {1003, s_strBrickWall, s_strWallLabel},
+    {type::forceWall, s_strConcreteWall, s_strWallLabel},
+    {type::partitionWall, nullptr, s_strWallLabel},
+    {type::door, s_strWindowsLine, s_strHoleLabel},
+    {type::window, s_strWindowsLine, s_strHoleLabel},
+    {type::doorWithWindow, s_strWindowsLine, s_strHoleLabel},
+    {type::wallOpening, s_strWindowsLine, s_strHoleLabel},
+    {type::beam, nullptr, s_strBeamLabel},
+    {type::linkBeam, nullptr, s_strBeamLabel},
+    {type::tieBeam, nullptr, s_strBeamLabel},
+    {type::column, s_strColumn, nullptr},
+    {type::tieColumn, s_strColumn, nullptr},
+    {type::retainingWall, nullptr, s_strWallLabel},
+    {type::curtainWall, nullptr, s_strWallLabel},
+    {type::masonryColumn, s_strColumn, nullptr},
+    {type::brickWall, s_strBrickWall, s_strWallLabel},
 };
 
 const LayerTitles *titlesOf(qint64 type)

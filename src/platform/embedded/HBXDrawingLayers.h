@@ -1,12 +1,15 @@
 #pragma once
 
 #include "ORVCADPlatformExport.h"
-#include "platform/services/HBXElementTypeTable.h"
 
 #include <QMap>
 #include <QString>
 
 class IHBXModel;
+
+namespace hbx {
+struct ElementTypeInfo;
+}
 
 namespace hbx::embedded {
 

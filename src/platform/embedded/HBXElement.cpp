@@ -1,6 +1,7 @@
 #include "platform/embedded/HBXElement.h"
 
 #include "platform/embedded/HBXModel.h"
+#include "platform/embedded/HBXPlacedShape.h"
 
 #include <algorithm>
 #include <limits>

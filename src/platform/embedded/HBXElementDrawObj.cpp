@@ -1,16 +1,17 @@
 #include "platform/embedded/HBXElementDrawObj.h"
 
+#include "platform/embedded/HBXElementTypes.h"
 #include "platform/embedded/HBXModel.h"
+#include "platform/embedded/HBXPlacedShape.h"
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
 
 namespace hbx::embedded {
 namespace {
 
 /** Types whose objects form chains of beam segments. */
-constexpr qint64 kChainTypes[] = {15, 17, 18, 47};
+constexpr qint64 kChainTypes[] = {type::beam, type::linkBeam, type::tieBeam, type::foundationBeam};
 
 void removeFrom(std::vector<HBXElementDrawObj *> &objects, const HBXElementDrawObj *object)
 {
@@ -39,6 +40,8 @@ HBXFloor &HBXElementDrawObj::ownFloor() const { return m_element.ownFloor(); }
 HBXModel &HBXElementDrawObj::model() const { return m_element.model(); }
 
 IHBXElement *HBXElementDrawObj::element() const { return &m_element; }
+
+IHBXShape *HBXElementDrawObj::shape() { return m_shape->asShape(); }
 
 IHBXElementDrawObj *HBXElementDrawObj::cloneDrawObj(int, int, int)
 {
@@ -98,8 +101,7 @@ void HBXElementDrawObj::setAttachedTo(HBXElementDrawObj *parent)
 
 IHBXElementDrawObj *HBXElementDrawObj::chainHead()
 {
-    const bool isLink = std::find(std::begin(kChainTypes), std::end(kChainTypes), m_type) != std::end(kChainTypes);
-    if (!isLink || !m_isEntered)
+    if (!isOneOf(m_type, kChainTypes) || !m_isEntered)
         return nullptr;
     HBXElementDrawObj *head = this;
     while (head->m_previous && head->m_previous->m_isEntered)

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "platform/embedded/HBXDrawObjStatus.h"
-#include "platform/embedded/HBXPlacedShape.h"
 #include "platform/embedded/HBXProperties.h"
 #include "platform/embedded/HBXSectionHolder.h"
 #include "platform/host/IHBXElementDrawObj.h"
@@ -15,6 +14,7 @@ namespace hbx::embedded {
 class HBXElement;
 class HBXFloor;
 class HBXModel;
+class HBXPlacedShape;
 
 /** One placed instance of an element, and its ties to others: the chain that it is a link of, what it is attached to and
  *  what is attached to it, its children. HBXDrawObjs makes and destroys it. */
@@ -36,7 +36,7 @@ public:
     IHBXElementDrawObj *cloneDrawObj(int mode, int flag, int depth) override;
     void remove() override;
     IHBXElement *element() const override;
-    IHBXShape *shape() override { return m_shape->asShape(); }
+    IHBXShape *shape() override;
     IHBXDrawObjStatus *status() override { return &m_status; }
     int childCount() const override { return static_cast<int>(m_children.size()); }
     IHBXElementDrawObj *child(int index) const override;

@@ -1,6 +1,9 @@
 #include "platform/embedded/HBXElements.h"
 
+#include "platform/embedded/HBXElementTypes.h"
+#include "platform/embedded/HBXFloorQuery.h"
 #include "platform/embedded/HBXModel.h"
+#include "platform/embedded/HBXPropertyNames.h"
 #include "platform/host/HBXModelException.h"
 #include "platform/services/HBXElementTypeTable.h"
 
@@ -9,8 +12,7 @@
 namespace hbx::embedded {
 namespace {
 
-constexpr qint64 kUnitTypes[] = {82, 83};
-constexpr qint64 kHoleType = 24;
+constexpr qint64 kUnitTypes[] = {type::isolatedFoundationUnit, type::pileCapUnit};
 
 /** Sub-types of holes and the "SectionTypeID" that a new one gets: rectangle, circle, any outline. */
 struct HoleSection
@@ -23,8 +25,8 @@ constexpr HoleSection kHoleSections[] = {{153, 0}, {154, 1}, {167, 2}};
 PropertyRecords firstProperties(qint64 type, qint64 subType)
 {
     for (const HoleSection &section : kHoleSections)
-        if (type == kHoleType && subType == section.subType)
-            return {{QStringLiteral("SectionTypeID"), section.sectionType}};
+        if (type == type::slabHole && subType == section.subType)
+            return {{QString::fromWCharArray(property::sectionTypeId), section.sectionType}};
     return {};
 }
 
@@ -47,10 +49,7 @@ QString typeName(qint64 type)
 
 } // namespace
 
-bool isUnitType(qint64 type)
-{
-    return std::find(std::begin(kUnitTypes), std::end(kUnitTypes), type) != std::end(kUnitTypes);
-}
+bool isUnitType(qint64 type) { return isOneOf(type, kUnitTypes); }
 
 IHBXElement *HBXElements::createElement(qint64 type, qint64 subType, IHBXElement *parent, IHBXFloor *floor, int,
                                         const QString &name, int)
@@ -80,18 +79,6 @@ IHBXElement *HBXElements::createElement(qint64 type, qint64 subType, IHBXFloor *
     return createElement(type, subType, nullptr, floor, 0, name, 0);
 }
 
-HBXElement *HBXElements::elementById(qint64 id)
-{
-    const auto found = m_byId.find(id);
-    return found == m_byId.end() ? nullptr : found->second.get();
-}
-
-HBXElement *HBXElements::own(IHBXElement *element)
-{
-    auto *known = dynamic_cast<HBXElement *>(element);
-    return known && elementById(known->id()) == known ? known : nullptr;
-}
-
 IHBXElement *HBXElements::findElement(const QString &name, int floorId, qint64 type, bool, int)
 {
     HBXElement *first = nullptr;
@@ -110,11 +97,7 @@ IHBXElement *HBXElements::findElement(const QString &name, int floorId, qint64 t
 void HBXElements::queryElements(QList<IHBXElement *> &out, const QSet<qint64> &floorIds,
                                 const QSet<qint64> &elementTypes, bool)
 {
-    out.clear();
-    for (const qint64 floorId : floorIds)
-        if (HBXFloor *floor = m_model.regions()->floorById(floorId))
-            floor->contents().forTypes(elementTypes, [&out](HBXTypeContents &type) { addTo(out, type.elements); });
-    sortById(out);
+    queryFloors(out, *m_model.regions(), floorIds, elementTypes, &HBXTypeContents::elements);
 }
 
 void HBXElements::queryElementsOnFloor(QList<IHBXElement *> &out, qint64 floorId, qint64 type, bool on)
@@ -175,9 +158,7 @@ void HBXElements::rename(HBXElement &element, const QString &name)
 
 HBXElement &HBXElements::add(HBXFloor &floor, HBXElement *parent, const ElementRecord &record)
 {
-    auto element = std::make_unique<HBXElement>(m_model, floor, parent, record);
-    HBXElement &added = *element;
-    m_byId.emplace(record.id, std::move(element));
+    HBXElement &added = m_byId.add(std::make_unique<HBXElement>(m_model, floor, parent, record));
     m_inOrder.insert(record.id, &added);
     floor.contents().ofType(record.type).elements.insert(record.id, &added);
     indexName(added);
@@ -213,7 +194,7 @@ void HBXElements::remove(HBXElement &element)
     forgetName(element);
     element.ownFloor().contents().ofType(element.type()).elements.remove(id);
     m_inOrder.remove(id);
-    m_byId.erase(id);
+    m_byId.destroy(id);
 }
 
 void HBXElements::clear()

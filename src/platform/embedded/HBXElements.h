@@ -1,11 +1,9 @@
 #pragma once
 
 #include "platform/embedded/HBXElement.h"
-#include "platform/embedded/HBXFloorContents.h"
+#include "platform/embedded/HBXIdList.h"
+#include "platform/embedded/HBXObjectsById.h"
 #include "platform/host/IHBXElements.h"
-
-#include <memory>
-#include <unordered_map>
 
 namespace hbx::embedded {
 
@@ -19,7 +17,7 @@ public:
     IHBXElement *createElement(qint64 type, qint64 subType, IHBXElement *parent, IHBXFloor *floor, int mode,
                                const QString &name, int flag) override;
     IHBXElement *createElement(qint64 type, qint64 subType, IHBXFloor *floor, const QString &name) override;
-    HBXElement *elementById(qint64 id) override;
+    HBXElement *elementById(qint64 id) override { return m_byId.find(id); }
     IHBXElement *findElement(const QString &name, int floorId, qint64 type, bool on, int flag) override;
     void queryElements(QList<IHBXElement *> &out, const QSet<qint64> &floorIds, const QSet<qint64> &elementTypes,
                        bool on) override;
@@ -30,7 +28,7 @@ public:
 
     // For the objects of this folder.
     /** The element itself when it is one of this building, null for any other and for null. */
-    HBXElement *own(IHBXElement *element);
+    HBXElement *own(IHBXElement *element) const { return m_byId.own(element); }
     void rename(HBXElement &element, const QString &name);
     /** Destroys an element with its draw objects and units. */
     void remove(HBXElement &element);
@@ -48,7 +46,7 @@ private:
     QString refusalOf(const HBXElement &element, const QString &name) const;
 
     HBXModel &m_model;
-    std::unordered_map<qint64, std::unique_ptr<HBXElement>> m_byId;
+    HBXObjectsById<HBXElement> m_byId;
     HBXIdList<HBXElement> m_inOrder;
 };
 

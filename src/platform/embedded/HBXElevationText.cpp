@@ -6,15 +6,13 @@
 namespace hbx::embedded {
 namespace {
 
-constexpr double kMillimetresPerMetre = 1000.0;
-
 struct BaseWord
 {
     const char *word; ///< UTF-8
     HBXElevationText::Base base;
 };
-constexpr BaseWord kBaseWords[] = {{"层顶标高", HBXElevationText::kFloorTop},
-                                   {"层底标高", HBXElevationText::kFloorBottom}};
+constexpr BaseWord kBaseWords[] = {{kFloorTopWord, HBXElevationText::kFloorTop},
+                                   {kFloorBottomWord, HBXElevationText::kFloorBottom}};
 
 /** Decimal numbers only: Qt's reader also knows words for what is not finite. */
 std::optional<double> metresOf(const QString &text)

@@ -8,6 +8,12 @@
 
 namespace hbx::embedded {
 
+/** The words for the elevations of a floor, UTF-8. */
+inline constexpr char kFloorTopWord[] = "层顶标高";
+inline constexpr char kFloorBottomWord[] = "层底标高";
+
+constexpr double kMillimetresPerMetre = 1000.0;
+
 /** An elevation as the host keeps it: a number of metres above the building's zero, or the top ("层顶标高") or bottom
  *  ("层底标高") of the object's floor, followed by nothing or by a sign and a number of metres. White space around the
  *  whole means nothing; a number may have an exponent. */

@@ -2,6 +2,7 @@
 
 #include "platform/embedded/ExchangeFloorReader.h"
 #include "platform/embedded/ExchangeFormat.h"
+#include "platform/embedded/HBXProject.h"
 
 #include <QJsonDocument>
 #include <QSet>
@@ -87,7 +88,7 @@ private:
     void readMaterial(const QJsonValue &value, const JsonPlace &place)
     {
         const ExchangeObject row(value, place, {key::number, key::name});
-        const int number = static_cast<int>(row.integer(key::number, 1, std::numeric_limits<int>::max()));
+        const int number = row.integer32(key::number, 1);
         if (m_materialNumbers.contains(number))
             row.placeOf(key::number).refuse(QStringLiteral("%1 stands twice in the file").arg(number));
         m_materialNumbers.insert(number);
@@ -121,7 +122,7 @@ private:
         refuseTwice(m_floorCodes, json, key::code, "region");
         floor.bottomElev = json.number(key::bottomElev);
         floor.height = json.number(key::height);
-        floor.standardFloorCount = json.intOr(key::standardFloorCount, 1);
+        floor.standardFloorCount = json.integer32Or(key::standardFloorCount, 1);
         floor.foundation = json.flagOr(key::foundation, false);
         floor.remark = json.textOr(key::remark, {});
         floor.id = static_cast<int>(m_reading.takeId());

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "ORVCADPlatformExport.h"
-#include "platform/embedded/HBXProject.h"
 #include "platform/embedded/HBXProjectRecords.h"
 
 #include <QByteArray>
@@ -9,6 +8,8 @@
 #include <optional>
 
 namespace hbx::embedded {
+
+struct ProjectError;
 
 /** Reads the exchange form `hbx-project`, version 1 (docs/formats/hbx-project.md), whole and strictly. */
 class ORVCADPLATFORM_EXPORT HBXExchangeReader

@@ -1,39 +1,27 @@
 #include "platform/embedded/HBXFaceSolidShape.h"
 
 #include "platform/embedded/HBXElementDrawObj.h"
+#include "platform/embedded/HBXPropertyNames.h"
 #include "platform/embedded/HBXShapeSizes.h"
 
 namespace hbx::embedded {
 
-void HBXFaceSolidShape::setPolygon(const vks::CPolygon *outline)
-{
-    m_outline = copyOf(outline);
-    changed();
-}
-
-vks::CRefPtr<vks::CPolygon> &HBXFaceSolidShape::polygon(vks::CRefPtr<vks::CPolygon> &out, bool) const
-{
-    return out = m_outline;
-}
-
 ShapeRecord HBXFaceSolidShape::record() const
 {
-    ShapeRecord record = HBXShapeOf::record();
-    record.outline = m_outline;
+    ShapeRecord record = HBXOutlineShapeOf::record();
     record.height = m_height;
     return record;
 }
 
 void HBXFaceSolidShape::restore(const ShapeRecord &record)
 {
-    m_outline = record.outline;
     m_height = record.height;
-    HBXShapeOf::restore(record);
+    HBXOutlineShapeOf::restore(record);
 }
 
 void HBXFaceSolidShape::followProperties(const PropertyEntry *)
 {
-    const auto thickness = sizeIn(owner().propertySet(), {L"Thickness"});
+    const auto thickness = sizeIn(owner().propertySet(), {property::thickness});
     if (!thickness)
         return;
     m_height = 0.0 - *thickness; // not -0.0

@@ -8,7 +8,7 @@ namespace hbx::embedded {
 
 class HBXRegion;
 
-/** A storey, with the index of what stands on it. */
+/** A floor, with the index of what stands on it. */
 class HBXFloor final : public IHBXFloor
 {
 public:

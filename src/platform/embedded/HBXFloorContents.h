@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/embedded/HBXElementTypes.h"
 #include "platform/embedded/HBXIdList.h"
 #include "platform/embedded/HBXPlaceIndex.h"
 
@@ -15,9 +16,6 @@ namespace hbx::embedded {
 
 class HBXElement;
 class HBXElementDrawObj;
-
-/** In type arguments: objects of any type. */
-constexpr qint64 kAnyType = -1;
 
 /** What stands on a floor of one type. */
 struct HBXTypeContents

@@ -1,6 +1,7 @@
 #include "platform/embedded/HBXFloorDrawing.h"
 
 #include "platform/embedded/HBXDrawingLayers.h"
+#include "platform/embedded/HBXElementTypes.h"
 #include "platform/geometry/CArc2d.h"
 #include "platform/geometry/OrientProjectCurve2d.h"
 #include "platform/host/IHBXAxisGrid.h"
@@ -192,7 +193,8 @@ std::unique_ptr<dwgx::DWGXModel> makeFloorDrawing(IHBXModel *model, IHBXFloor *f
     FloorDraughtsman draughtsman(*model, *drawing);
     for (const ElementTypeInfo &type : kElementTypes) {
         QList<IHBXElementDrawObj *> objects;
-        model->drawObjects()->queryDrawObjsOfFloor(objects, floor->id(), static_cast<int>(type.number), -1, true);
+        model->drawObjects()->queryDrawObjsOfFloor(objects, floor->id(), static_cast<int>(type.number), kAnySubType,
+                                                   true);
         for (IHBXElementDrawObj *object : objects)
             if (object->childCount() == 0) // an owner is the union of its children, which are drawn themselves
                 draughtsman.draw(*object, type);

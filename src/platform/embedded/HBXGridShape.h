@@ -1,19 +1,18 @@
 #pragma once
 
-#include "platform/embedded/HBXPlacedShape.h"
+#include "platform/embedded/HBXOutlineShape.h"
 #include "platform/host/IHBXGridShape.h"
 
 namespace hbx::embedded {
 
-/** Axis grid as a placed shape; its axes come with a record and do not change. */
-class HBXGridShape final : public HBXShapeOf<IHBXGridShape, IHBXShape::kGrid>
+/** Axis grid as a placed shape; its outline and axes come with a record and do not change. */
+class HBXGridShape final : public HBXOutlineShapeOf<IHBXGridShape, IHBXShape::kGrid>
 {
 public:
-    using HBXShapeOf::HBXShapeOf;
+    using HBXOutlineShapeOf::HBXOutlineShapeOf;
 
-    using Axes = std::array<std::vector<HBXAxis>, IHBXAxisGrid::kGroupCount>;
+    using Axes = decltype(ShapeRecord::axes);
 
-    vks::CRefPtr<vks::CPolygon> &polygon(vks::CRefPtr<vks::CPolygon> &out, bool autoCalc) const override;
     const Axes &axes() const { return m_axes; }
 
     ShapeRecord record() const override;
@@ -21,11 +20,7 @@ public:
     /** A grid may have axes and no outline. */
     bool hasGeometry() const override;
 
-protected:
-    vks::CRefPtr<vks::CPolygon> ownOutline() const override { return m_outline; }
-
 private:
-    vks::CRefPtr<vks::CPolygon> m_outline;
     Axes m_axes;
 };
 

@@ -38,7 +38,7 @@ public:
     HBXJournal &journal() { return m_journal; }
     const std::vector<std::string> &openBatches() const { return m_openBatches; }
 
-    /** Replaces the content by the regions, floors, elements and draw objects of a record. */
+    /** Replaces the content by that of a record, which gives its regions and floors away. */
     void load(ProjectRecord &record);
     /** Adds them to a record. */
     void save(ProjectRecord &record) const;

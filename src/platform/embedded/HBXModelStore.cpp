@@ -9,7 +9,7 @@ namespace hbx::embedded {
 
 struct HBXModelStore::State
 {
-    State() : database(options), service(database, journal) {}
+    State() : database(settings.options), service(database, journal) {}
 
     HBXModel &model() { return *service.model(); }
     HBXElementDrawObj *chainHeadOf(IHBXElementDrawObj *drawObj)
@@ -18,11 +18,7 @@ struct HBXModelStore::State
         return object ? static_cast<HBXElementDrawObj *>(object->chainHead()) : nullptr;
     }
 
-    QString name;
-    QString source;
-    QString planeRule;
-    std::vector<OptionRecord> options;
-    std::vector<MaterialRecord> materials;
+    ProjectSettings settings;
     bool isHeaderChanged = false;
     bool areOptionsChanged = false;
     bool areMaterialsChanged = false;
@@ -51,11 +47,7 @@ void HBXModelStore::load(ProjectRecord record)
     m_state->service.curState()->select(nullptr, nullptr);
     m_state->service.curState()->setLayer(0);
     m_state->journal.clear();
-    m_state->name = record.name;
-    m_state->source = record.source;
-    m_state->planeRule = record.planeRule;
-    m_state->options = std::move(record.options);
-    m_state->materials = std::move(record.materials);
+    m_state->settings = static_cast<ProjectSettings &>(record);
     m_state->isHeaderChanged = m_state->areOptionsChanged = m_state->areMaterialsChanged = false;
     m_state->model().load(record);
 }
@@ -63,11 +55,7 @@ void HBXModelStore::load(ProjectRecord record)
 ProjectRecord HBXModelStore::snapshot() const
 {
     ProjectRecord record;
-    record.name = m_state->name;
-    record.source = m_state->source;
-    record.planeRule = m_state->planeRule;
-    record.options = m_state->options;
-    record.materials = m_state->materials;
+    static_cast<ProjectSettings &>(record) = m_state->settings;
     m_state->model().save(record);
     return record;
 }
@@ -124,31 +112,39 @@ bool HBXModelStore::setCurrent(const QString &regionName, const QString &floorNa
 
 void HBXModelStore::setCurrentLayer(int layer) { m_state->service.curState()->setLayer(layer); }
 
-const QString &HBXModelStore::name() const { return m_state->name; }
+const ProjectSettings &HBXModelStore::settings() const { return m_state->settings; }
 
-void HBXModelStore::setName(const QString &name) { setMarked(m_state->name, name, m_state->isHeaderChanged); }
+const QString &HBXModelStore::name() const { return m_state->settings.name; }
 
-const QString &HBXModelStore::source() const { return m_state->source; }
+void HBXModelStore::setName(const QString &name) { setMarked(m_state->settings.name, name, m_state->isHeaderChanged); }
 
-void HBXModelStore::setSource(const QString &source) { setMarked(m_state->source, source, m_state->isHeaderChanged); }
+const QString &HBXModelStore::source() const { return m_state->settings.source; }
 
-const QString &HBXModelStore::planeRule() const { return m_state->planeRule; }
+void HBXModelStore::setSource(const QString &source)
+{
+    setMarked(m_state->settings.source, source, m_state->isHeaderChanged);
+}
 
-void HBXModelStore::setPlaneRule(const QString &rule) { setMarked(m_state->planeRule, rule, m_state->isHeaderChanged); }
+const QString &HBXModelStore::planeRule() const { return m_state->settings.planeRule; }
 
-const std::vector<OptionRecord> &HBXModelStore::options() const { return m_state->options; }
+void HBXModelStore::setPlaneRule(const QString &rule)
+{
+    setMarked(m_state->settings.planeRule, rule, m_state->isHeaderChanged);
+}
+
+const std::vector<OptionRecord> &HBXModelStore::options() const { return m_state->settings.options; }
 
 void HBXModelStore::setOptions(std::vector<OptionRecord> options)
 {
-    m_state->options = std::move(options);
+    m_state->settings.options = std::move(options);
     m_state->areOptionsChanged = true;
 }
 
-const std::vector<MaterialRecord> &HBXModelStore::materials() const { return m_state->materials; }
+const std::vector<MaterialRecord> &HBXModelStore::materials() const { return m_state->settings.materials; }
 
 void HBXModelStore::setMaterials(std::vector<MaterialRecord> materials)
 {
-    m_state->materials = std::move(materials);
+    m_state->settings.materials = std::move(materials);
     m_state->areMaterialsChanged = true;
 }
 

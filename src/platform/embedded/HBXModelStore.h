@@ -79,6 +79,7 @@ public:
     /** Layer that IHBXCurState tells; 0 at first. */
     void setCurrentLayer(int layer);
 
+    const ProjectSettings &settings() const;
     const QString &name() const;
     void setName(const QString &name);
     const QString &source() const;

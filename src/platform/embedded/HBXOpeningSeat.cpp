@@ -1,20 +1,19 @@
 #include "platform/embedded/HBXOpeningSeat.h"
 
 #include "platform/embedded/HBXElementDrawObj.h"
+#include "platform/embedded/HBXElementTypes.h"
 #include "platform/embedded/HBXLineSolidShape.h"
 #include "platform/embedded/HBXShapeSizes.h"
 
 namespace hbx::embedded {
 namespace {
 
-constexpr qint64 kFirstOpeningType = 4;
-constexpr qint64 kLastOpeningType = 7;
+constexpr qint64 kOpeningTypes[] = {type::door, type::window, type::doorWithWindow, type::wallOpening};
 constexpr double kLooseOpeningDepth = 200.0; // mm: a common wall, for as long as the opening stands in none
 
 const HBXLineSolidShape *wallOf(const HBXElementDrawObj &opening)
 {
-    const bool isOpening = opening.type() >= kFirstOpeningType && opening.type() <= kLastOpeningType;
-    const HBXElementDrawObj *wall = isOpening ? opening.attachedTo() : nullptr;
+    const HBXElementDrawObj *wall = isOneOf(opening.type(), kOpeningTypes) ? opening.attachedTo() : nullptr;
     return wall ? dynamic_cast<const HBXLineSolidShape *>(&wall->placedShape()) : nullptr;
 }
 

@@ -1,6 +1,7 @@
 #include "platform/embedded/HBXPlaceIndex.h"
 
 #include "platform/embedded/HBXElementDrawObj.h"
+#include "platform/embedded/HBXPlacedShape.h"
 
 #include <algorithm>
 #include <cmath>
@@ -82,10 +83,10 @@ void HBXPlaceIndex::fileAll()
 HBXPlaceIndex::Objects HBXPlaceIndex::meeting(const Box &box, double tolerance)
 {
     Objects found;
-    if (!isPlace(box))
+    const Box reach = box.Grown(tolerance);
+    if (!reach.IsValid()) // empty, or not a number
         return found;
     fileAll();
-    const Box reach = box.Grown(tolerance);
     for (int level = 0; level < kLevelCount; ++level)
         addMeeting(level, reach, found);
     return found;

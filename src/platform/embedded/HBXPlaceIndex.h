@@ -27,7 +27,7 @@ public:
     void remove(HBXElementDrawObj &object);
 
     /** Objects whose boxes share a point with this box or come within a tolerance of it (mm), in no particular order;
-     *  empty boxes meet none. */
+     *  an empty box meets none, one without bounds may meet all. */
     Objects meeting(const Box &box, double tolerance);
     /** Those of them whose boxes have their sides where this box has them, within the tolerance. */
     Objects sameBox(const Box &box, double tolerance);

@@ -2,6 +2,7 @@
 
 #include "platform/embedded/HBXElementDrawObj.h"
 #include "platform/embedded/HBXOpeningSeat.h"
+#include "platform/embedded/HBXPropertyNames.h"
 #include "platform/embedded/HBXShapeSizes.h"
 
 #include <cmath>
@@ -53,13 +54,12 @@ template <typename Interface, IHBXShape::Kind kKind>
 vks::CRefPtr<vks::CPolygon> &HBXPointShapeOf<Interface, kKind>::polygon(vks::CRefPtr<vks::CPolygon> &out, bool) const
 {
     const auto wall = seat();
-    return out = wall ? withDepth(m_outline, wall->depth) : m_outline;
+    return out = wall ? withDepth(this->outline(), wall->depth) : this->outline();
 }
 
 template <typename Interface, IHBXShape::Kind kKind> ShapeRecord HBXPointShapeOf<Interface, kKind>::record() const
 {
-    ShapeRecord record = HBXShapeOf<Interface, kKind>::record();
-    record.outline = m_outline;
+    ShapeRecord record = HBXOutlineShapeOf<Interface, kKind>::record();
     record.insertPoint = m_insertPoint;
     record.angle = m_angle;
     record.mirror = m_mirror;
@@ -69,11 +69,10 @@ template <typename Interface, IHBXShape::Kind kKind> ShapeRecord HBXPointShapeOf
 template <typename Interface, IHBXShape::Kind kKind>
 void HBXPointShapeOf<Interface, kKind>::restore(const ShapeRecord &record)
 {
-    m_outline = record.outline;
     m_insertPoint = record.insertPoint;
     m_angle = record.angle;
     m_mirror = record.mirror;
-    HBXShapeOf<Interface, kKind>::restore(record);
+    HBXOutlineShapeOf<Interface, kKind>::restore(record);
 }
 
 template <typename Interface, IHBXShape::Kind kKind>
@@ -81,18 +80,16 @@ void HBXPointShapeOf<Interface, kKind>::followProperties(const PropertyEntry *wr
 {
     const auto outline = outlineOfProperties();
     const bool isTakenAway = !outline && written && written->kind == PropertyKind::Polygon;
-    if (!outline && !isTakenAway)
-        return;
-    m_outline = outline;
-    this->changed();
+    if (outline || isTakenAway)
+        this->takeOutline(outline);
 }
 
 template <typename Interface, IHBXShape::Kind kKind>
 vks::CRefPtr<vks::CPolygon> HBXPointShapeOf<Interface, kKind>::outlineOfProperties() const
 {
     const HBXProperties &properties = this->owner().propertySet();
-    const auto openingWidth = sizeIn(properties, {L"OpeningWidth"});
-    return openingWidth ? openingOutline(*openingWidth, m_outline) : sectionOutline(properties);
+    const auto openingWidth = sizeIn(properties, {property::openingWidth});
+    return openingWidth ? openingOutline(*openingWidth, this->outline()) : sectionOutline(properties);
 }
 
 template <typename Interface, IHBXShape::Kind kKind>

@@ -1,19 +1,20 @@
 #pragma once
 
-#include "platform/embedded/HBXPlacedShape.h"
+#include "platform/embedded/HBXOutlineShape.h"
 #include "platform/host/IHBXSectionPointSolidShape.h"
 
 namespace hbx::embedded {
 
 struct OpeningSeat;
 
-/** Solid at a point: column, foundation, pile, door, window, and as a section solid the slab hole. Its outline follows
- *  the section properties or the width of an opening. The angle and depth of an opening that stands in a wall are the
- *  wall's, worked out when asked for; its own come back when it is detached. */
-template <typename Interface, IHBXShape::Kind kKind> class HBXPointShapeOf final : public HBXShapeOf<Interface, kKind>
+/** Solid at a point: column, foundation, pile, door, window, and as a section solid the slab hole. Its outline, about the
+ *  insertion point, follows the section properties or the width of an opening. The angle and depth of an opening that
+ *  stands in a wall are the wall's, worked out when asked for; its own come back when it is detached. */
+template <typename Interface, IHBXShape::Kind kKind>
+class HBXPointShapeOf final : public HBXOutlineShapeOf<Interface, kKind>
 {
 public:
-    using HBXShapeOf<Interface, kKind>::HBXShapeOf;
+    using HBXOutlineShapeOf<Interface, kKind>::HBXOutlineShapeOf;
 
     vks::CVec2<double> &insertPoint(vks::CVec2<double> &out) const override { return out = m_insertPoint; }
     void setInsertPoint(const vks::CVec2<double> *point) override;
@@ -35,9 +36,8 @@ private:
     std::optional<OpeningSeat> seat() const;
     vks::CRefPtr<vks::CPolygon> outlineOfProperties() const;
 
-    vks::CRefPtr<vks::CPolygon> m_outline; // about the insertion point
-    vks::CVec2<double> m_insertPoint;
-    double m_angle = 0.0; // rad
+    vks::CVec2<double> m_insertPoint; // in the frame
+    double m_angle = 0.0;             // rad
     bool m_mirror = false;
 };
 

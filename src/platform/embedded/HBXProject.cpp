@@ -18,14 +18,10 @@ HBXProject *s_current = nullptr;
 ProjectUpdate updateOf(const HBXModelStore &store, const ProjectChanges &changes)
 {
     ProjectUpdate update;
-    update.content.name = store.name();
-    update.content.source = store.source();
-    update.content.planeRule = store.planeRule();
+    static_cast<ProjectSettings &>(update.content) = store.settings();
     update.content.nextId = changes.nextId;
     update.hasOptions = changes.options;
-    update.content.options = store.options();
     update.hasMaterials = changes.materials;
-    update.content.materials = store.materials();
     update.removedElements = changes.removedElements;
     update.removedDrawObjs = changes.removedDrawObjs;
     for (const qint64 id : changes.changedElements)

@@ -108,18 +108,34 @@ struct OptionRecord
 
 using MaterialRecord = HBXMaterial;
 
-struct ProjectRecord
+/** What a project says of itself as a whole. */
+struct ProjectSettings
 {
     QString name;
     QString source; ///< where the building comes from, and its licence
     QString planeRule;
+    std::vector<OptionRecord> options; ///< in table order; a name may stand twice
+    std::vector<MaterialRecord> materials;
+};
+
+struct ProjectRecord : ProjectSettings
+{
     std::vector<RegionRecord> regions;
     std::vector<FloorRecord> floors;
     std::vector<ElementRecord> elements; ///< in id order
     std::vector<DrawObjRecord> drawObjs; ///< in id order
-    std::vector<OptionRecord> options;   ///< in table order; a name may stand twice
-    std::vector<MaterialRecord> materials;
-    qint64 nextId = 1; ///< first id that was never used
+    qint64 nextId = 1;                   ///< first id that was never used
+};
+
+/** What a save writes: of content, the name, source, plane rule and next id, and the elements and draw objects that are
+ *  new or changed; its other members only where they are said to stand in it. */
+struct ProjectUpdate
+{
+    ProjectRecord content;
+    bool hasOptions = false;
+    bool hasMaterials = false;
+    std::vector<qint64> removedElements;
+    std::vector<qint64> removedDrawObjs;
 };
 
 } // namespace hbx::embedded

@@ -36,42 +36,33 @@ bool HBXProperties::isNull(const std::wstring &name) const
     return !entry || isNoValue(valueOf(*entry));
 }
 
-int HBXProperties::asInt(const QString &key) const
-{
-    const PropertyEntry *entry = find(viewOf(key));
-    return entry ? intValue(*entry) : 0;
-}
-
-int HBXProperties::asInt(const std::wstring &name) const
+/** A value in the form of one of the reads by entry; that of nothing for a lacking name. */
+template <typename Result, typename Name>
+Result HBXProperties::readAs(Result (HBXProperties::*read)(const PropertyEntry &) const, const Name &name) const
 {
     const PropertyEntry *entry = find(viewOf(name));
-    return entry ? intValue(*entry) : 0;
+    return entry ? (this->*read)(*entry) : Result();
 }
 
-double HBXProperties::asDouble(const QString &key) const
-{
-    const PropertyEntry *entry = find(viewOf(key));
-    return entry ? doubleValue(*entry) : 0.0;
-}
+int HBXProperties::asInt(const QString &key) const { return readAs(&HBXProperties::intValue, key); }
 
-double HBXProperties::asDouble(const std::wstring &name) const
-{
-    const PropertyEntry *entry = find(viewOf(name));
-    return entry ? doubleValue(*entry) : 0.0;
-}
+int HBXProperties::asInt(const std::wstring &name) const { return readAs(&HBXProperties::intValue, name); }
+
+double HBXProperties::asDouble(const QString &key) const { return readAs(&HBXProperties::doubleValue, key); }
+
+double HBXProperties::asDouble(const std::wstring &name) const { return readAs(&HBXProperties::doubleValue, name); }
 
 QString &HBXProperties::asString(QString &out, const QString &key) const
 {
-    const PropertyEntry *entry = find(viewOf(key));
-    return out = entry ? textValue(*entry) : QString();
+    return out = readAs(&HBXProperties::textValue, key);
 }
 
 QString &HBXProperties::asString(QString &out, const std::wstring &name) const
 {
-    const PropertyEntry *entry = find(viewOf(name));
-    return out = entry ? textValue(*entry) : QString();
+    return out = readAs(&HBXProperties::textValue, name);
 }
 
+/** Point or geometry; the given nothing for a lacking name and for a value of another kind. */
 template <typename T, typename Name> T &HBXProperties::readOr(T &out, const Name &name, const T &nothing) const
 {
     const PropertyEntry *entry = find(viewOf(name));

@@ -84,6 +84,8 @@ private:
     void keep(const PropertyEntry &entry, PropertyValue value);
     const PropertyValue *givenValue(const PropertyEntry &entry) const;
     void writeNamed(const std::wstring &name, const PropertyValue &value);
+    template <typename Result, typename Name>
+    Result readAs(Result (HBXProperties::*read)(const PropertyEntry &) const, const Name &name) const;
     template <typename T, typename Name> T &readOr(T &out, const Name &name, const T &nothing) const;
 
     const TypeProperties *m_known;

@@ -6,29 +6,26 @@
 #include <iterator>
 
 namespace hbx::embedded {
-
 namespace {
 
 PropertyEntry entryOf(const rows::PropertyRow &row)
 {
     PropertyEntry entry;
-    entry.name = QString::fromLatin1(row.name);
-    entry.alias = QString::fromLatin1(row.alias);
+    entry.name = QString::fromWCharArray(row.name);
+    entry.alias = QString::fromWCharArray(row.alias);
     entry.kind = row.kind;
     entry.owner = row.owner;
     entry.role = row.role;
-    if (row.defaultText) {
+    if (row.defaultText)
         entry.defaultText = QString::fromUtf8(row.defaultText);
-    }
     return entry;
 }
 
 std::vector<PropertyEntry> entriesOf(const rows::TypeFamilies &type)
 {
     std::vector<PropertyEntry> entries;
-    for (const rows::PropertyFamily &family : type.families) {
+    for (const rows::PropertyFamily &family : type.families)
         std::transform(family.rows, family.rows + family.count, std::back_inserter(entries), entryOf);
-    }
     return entries;
 }
 
@@ -59,9 +56,8 @@ TypeProperties::TypeProperties(std::vector<PropertyEntry> entries) : m_entries(s
     for (PropertyEntry &entry : m_entries) {
         entry.index = index++;
         m_indexByName.emplace_back(entry.name, entry.index);
-        if (!entry.alias.isEmpty()) {
+        if (!entry.alias.isEmpty())
             m_indexByName.emplace_back(entry.alias, entry.index);
-        }
     }
     std::sort(m_indexByName.begin(), m_indexByName.end(),
               [](const auto &a, const auto &b) { return comesBefore(a.first, QStringView(b.first)); });
@@ -71,9 +67,8 @@ template <typename View> const PropertyEntry *TypeProperties::lookUp(View name, 
 {
     const auto place = std::lower_bound(m_indexByName.begin(), m_indexByName.end(), name,
                                         [](const auto &entry, View other) { return comesBefore(entry.first, other); });
-    if (place == m_indexByName.end() || !isSame(place->first, name)) {
+    if (place == m_indexByName.end() || !isSame(place->first, name))
         return nullptr;
-    }
     const bool isThere = forDrawObject || place->second < m_elementCount;
     return isThere ? &m_entries[static_cast<std::size_t>(place->second)] : nullptr;
 }
@@ -90,9 +85,8 @@ const PropertyEntry *TypeProperties::find(std::wstring_view name, bool forDrawOb
 
 HBXPropertyCatalogue::HBXPropertyCatalogue()
 {
-    for (const rows::TypeFamilies &type : rows::kTypeFamilies) {
+    for (const rows::TypeFamilies &type : rows::kTypeFamilies)
         m_types.emplace(type.type, TypeProperties(entriesOf(type)));
-    }
 }
 
 const HBXPropertyCatalogue &HBXPropertyCatalogue::instance()
@@ -104,9 +98,8 @@ const HBXPropertyCatalogue &HBXPropertyCatalogue::instance()
 std::vector<qint64> HBXPropertyCatalogue::types() const
 {
     std::vector<qint64> types;
-    for (const rows::TypeFamilies &type : rows::kTypeFamilies) {
+    for (const rows::TypeFamilies &type : rows::kTypeFamilies)
         types.push_back(type.type);
-    }
     return types;
 }
 

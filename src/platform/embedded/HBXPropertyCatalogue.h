@@ -23,9 +23,10 @@ enum class PropertyOwner { Element, DrawObject };
 
 /** What else the host does with a property. */
 enum class PropertyRole {
-    Plain,     ///< nothing
-    Shape,     ///< it decides the object's shape, which follows each write
-    DrawObjIds ///< it names draw objects by id, for which an exchange file has keys
+    Plain,              ///< nothing
+    Shape,              ///< it decides the object's shape, which follows each write
+    DrawObjIds,         ///< it names draw objects by id, for which an exchange file has keys
+    DrawObjIdInBrackets ///< a text that ends with one such id in brackets
 };
 
 struct PropertyEntry
@@ -37,6 +38,8 @@ struct PropertyEntry
     PropertyRole role = PropertyRole::Plain;
     std::optional<QString> defaultText; ///< value of an object that was given none; absent: it has no value then
     int index = 0;                      ///< place among the properties of its type, counted from 0
+
+    bool namesDrawObjs() const { return role == PropertyRole::DrawObjIds || role == PropertyRole::DrawObjIdInBrackets; }
 };
 
 /** The properties of one type. Those of the element come first, so that an element needs elementCount() places for its

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "platform/embedded/HBXElementTypes.h"
+#include "platform/embedded/HBXElevationText.h"
 #include "platform/embedded/HBXPropertyCatalogue.h"
+#include "platform/embedded/HBXPropertyNames.h"
 
 #include <cstddef>
 
@@ -13,12 +16,12 @@ namespace hbx::embedded::rows {
 
 struct PropertyRow
 {
-    const char *name;
+    const wchar_t *name;
     PropertyKind kind;
     PropertyOwner owner = PropertyOwner::Element;
     PropertyRole role = PropertyRole::Plain;
     const char *defaultText = nullptr;
-    const char *alias = nullptr;
+    const wchar_t *alias = nullptr;
 };
 
 /** One family of rows. */
@@ -49,188 +52,187 @@ inline constexpr PropertyOwner kDrawObj = PropertyOwner::DrawObject;
 inline constexpr PropertyRole kPlain = PropertyRole::Plain;
 inline constexpr PropertyRole kShape = PropertyRole::Shape;
 inline constexpr PropertyRole kIds = PropertyRole::DrawObjIds;
-inline constexpr char kFloorTop[] = "层顶标高";
-inline constexpr char kFloorBottom[] = "层底标高";
+inline constexpr PropertyRole kIdInBrackets = PropertyRole::DrawObjIdInBrackets;
 
 // clang-format off
 inline constexpr PropertyRow kWallRows[] = {
     // A wall fills its floor: a recognised piece without elevations leaves these as they are.
-    {"StartPtTopElev",    kElevation, kElement, kPlain, kFloorTop},
-    {"EndPtTopElev",      kElevation, kElement, kPlain, kFloorTop},
-    {"StartPtBottomElev", kElevation, kElement, kPlain, kFloorBottom},
-    {"EndPtBottomElev",   kElevation, kElement, kPlain, kFloorBottom},
-    {"Thickness",         kDouble,    kElement, kShape},
-    {"AxisOffset",        kDouble,    kElement, kShape, nullptr, "AxisOffset_JZBZ"},
+    {property::startPtTopElev,    kElevation, kElement, kPlain, kFloorTopWord},
+    {property::endPtTopElev,      kElevation, kElement, kPlain, kFloorTopWord},
+    {property::startPtBottomElev, kElevation, kElement, kPlain, kFloorBottomWord},
+    {property::endPtBottomElev,   kElevation, kElement, kPlain, kFloorBottomWord},
+    {property::thickness,         kDouble,    kElement, kShape},
+    {property::axisOffset,        kDouble,    kElement, kShape, nullptr, property::axisOffsetJzbz},
 };
 inline constexpr PropertyRow kRecognisedWallRows[] = {
-    {"Type",                kInteger}, // 255: left out of recognition
-    {"HoriDistributionBar", kText},
-    {"VertDistributionBar", kText},
+    {property::type,                kInteger}, // 255: left out of recognition
+    {property::horiDistributionBar, kText},
+    {property::vertDistributionBar, kText},
 };
 inline constexpr PropertyRow kForceWallRows[] = {
-    {"TieBar", kText},
+    {property::tieBar, kText},
 };
 inline constexpr PropertyRow kBrickWallRows[] = {
-    {"Material",          kText}, // a material's number; as text it can be empty, which stands for none
-    {"MasonryThroughBar", kText},
-    {"TransverseBar",     kText},
+    {property::material,          kText}, // a material's number; as text it can be empty, which stands for none
+    {property::masonryThroughBar, kText},
+    {property::transverseBar,     kText},
 };
 
 inline constexpr PropertyRow kBeamRows[] = {
-    {"SectionWidth",   kDouble,  kElement, kShape},
-    {"SectionHeight",  kDouble},
-    {"SectionTypeID",  kInteger},
-    {"SectionPoly",    kPolygon}, // across the axis: the plan does not follow it
-    {"InsertPt",       kPoint},
-    {"AxisOffset",     kDouble,  kElement, kShape, nullptr, "AxisOffset_JZBZ"},
-    {"StartPtTopElev", kElevation},
-    {"EndPtTopElev",   kElevation},
-    {"HoopBar",        kText},
-    {"Limb",           kText},
-    {"TieBar",         kText},
+    {property::sectionWidth,   kDouble,  kElement, kShape},
+    {property::sectionHeight,  kDouble},
+    {property::sectionTypeId,  kInteger},
+    {property::sectionPoly,    kPolygon}, // across the axis: the plan does not follow it
+    {property::insertPt,       kPoint},
+    {property::axisOffset,     kDouble,  kElement, kShape, nullptr, property::axisOffsetJzbz},
+    {property::startPtTopElev, kElevation},
+    {property::endPtTopElev,   kElevation},
+    {property::hoopBar,        kText},
+    {property::limb,           kText},
+    {property::tieBar,         kText},
 };
 inline constexpr PropertyRow kSpannedBeamRows[] = {
-    {"SpanCount",        kText}, // may carry cantilevers behind the number: 3A
-    {"TopThroughBar",    kText},
-    {"BottomThroughBar", kText},
-    {"SideBar",          kText},
+    {property::spanCount,        kText}, // may carry cantilevers behind the number: 3A
+    {property::topThroughBar,    kText},
+    {property::bottomThroughBar, kText},
+    {property::sideBar,          kText},
 };
 inline constexpr PropertyRow kFloorBeamRows[] = {
-    {"Type1", kInteger},
+    {property::type1, kInteger},
 };
 inline constexpr PropertyRow kLinkBeamRows[] = {
-    {"TopHoriBar",    kText},
-    {"BottomHoriBar", kText},
-    {"SideBarAL",     kText},
+    {property::topHoriBar,    kText},
+    {property::bottomHoriBar, kText},
+    {property::sideBarAl,     kText},
 };
 inline constexpr PropertyRow kFoundationBeamRows[] = {
-    {"Type", kInteger},
+    {property::type, kInteger},
 };
 inline constexpr PropertyRow kTieBeamRows[] = {
-    {"Type",   kInteger},
-    {"Type1",  kInteger}, // as of each seat of a beam
-    {"Height", kDouble},  // as of each seat of a beam
+    {property::type,   kInteger},
+    {property::type1,  kInteger}, // as of each seat of a beam
+    {property::height, kDouble},  // as of each seat of a beam
 };
 
 inline constexpr PropertyRow kPlateRows[] = {
-    {"Thickness",         kDouble,    kElement, kShape},
-    {"TopElev",           kElevation},
-    {"Remark",            kText},
-    {"ReinforcementInfo", kText,      kDrawObj, kIds}, // its bars
+    {property::thickness,         kDouble,    kElement, kShape},
+    {property::topElev,           kElevation},
+    {property::remark,            kText},
+    {property::reinforcementInfo, kText,      kDrawObj, kIds}, // its bars
 };
 inline constexpr PropertyRow kRaftRows[] = {
-    {"BottomElev", kElevation},
+    {property::bottomElev, kElevation},
 };
 inline constexpr PropertyRow kHoleRows[] = {
-    {"SectionTypeID",          kInteger}, // 0 rectangle, 1 circle, 2 any outline
-    {"Width",                  kDouble,  kElement, kShape},
-    {"Length",                 kDouble,  kElement, kShape},
-    {"Radius",                 kDouble,  kElement, kShape},
-    {"SectionPoly",            kPolygon, kElement, kShape},
-    {"InsertPt",               kPoint,   kElement, kShape},
-    {"SectionInfo",            kText},
-    {"Remark",                 kText},
-    {"LongSpanReinforcedBar",  kText},
-    {"ShortSpanReinforcedBar", kText},
-    {"ObliqueReinforcedBar",   kText},
+    {property::sectionTypeId,          kInteger}, // 0 rectangle, 1 circle, 2 any outline
+    {property::width,                  kDouble,  kElement, kShape},
+    {property::length,                 kDouble,  kElement, kShape},
+    {property::radius,                 kDouble,  kElement, kShape},
+    {property::sectionPoly,            kPolygon, kElement, kShape},
+    {property::insertPt,               kPoint,   kElement, kShape},
+    {property::sectionInfo,            kText},
+    {property::remark,                 kText},
+    {property::longSpanReinforcedBar,  kText},
+    {property::shortSpanReinforcedBar, kText},
+    {property::obliqueReinforcedBar,   kText},
 };
 
 inline constexpr PropertyRow kSectionRows[] = {
-    {"SectionTypeID", kInteger},
-    {"SectionWidth",  kDouble,  kElement, kShape},
-    {"SectionHeight", kDouble,  kElement, kShape},
-    {"Radius",        kDouble,  kElement, kShape},
-    {"SectionPoly",   kPolygon, kElement, kShape},
-    {"InsertPt",      kPoint,   kElement, kShape},
-    {"SectionInfo",   kText},
+    {property::sectionTypeId, kInteger},
+    {property::sectionWidth,  kDouble,  kElement, kShape},
+    {property::sectionHeight, kDouble,  kElement, kShape},
+    {property::radius,        kDouble,  kElement, kShape},
+    {property::sectionPoly,   kPolygon, kElement, kShape},
+    {property::insertPt,      kPoint,   kElement, kShape},
+    {property::sectionInfo,   kText},
 };
 inline constexpr PropertyRow kColumnRows[] = {
-    {"Type",       kInteger}, // 2: an A column to the beams that rest on it
-    {"TopElev",    kElevation},
-    {"BottomElev", kElevation},
+    {property::type,       kInteger}, // 2: an A column to the beams that rest on it
+    {property::topElev,    kElevation},
+    {property::bottomElev, kElevation},
 };
 inline constexpr PropertyRow kFoundationRows[] = {
-    {"Type1",      kInteger},
-    {"TopElev",    kElevation},
-    {"BottomElev", kElevation},
-    {"AxisOffset", kDouble, kElement, kPlain, nullptr, "AxisOffset_JZBZ"}, // as of each seat of a beam
+    {property::type1,      kInteger},
+    {property::topElev,    kElevation},
+    {property::bottomElev, kElevation},
+    {property::axisOffset, kDouble, kElement, kPlain, nullptr, property::axisOffsetJzbz}, // as of each seat of a beam
 };
 inline constexpr PropertyRow kUnitRows[] = { // and of whatever stands on units
-    {"Height", kDouble},
+    {property::height, kDouble},
 };
 
 inline constexpr PropertyRow kOpeningRows[] = {
-    {"OpeningWidth",     kInteger, kElement, kShape},
-    {"OpeningHeight",    kInteger},
-    {"AboveFloorHeight", kInteger},
+    {property::openingWidth,     kInteger, kElement, kShape},
+    {property::openingHeight,    kInteger},
+    {property::aboveFloorHeight, kInteger},
 };
 inline constexpr PropertyRow kDoorWithWindowRows[] = { // the divide between door and window
-    {"WinDoorWidth",        kInteger},
-    {"WindDoorFloorHeight", kInteger},
+    {property::winDoorWidth,        kInteger},
+    {property::windDoorFloorHeight, kInteger},
 };
 
 inline constexpr PropertyRow kBarRows[] = {
-    {"BarInfo",       kText},
-    {"Remark",        kText},
-    {"CurveData",     kCurve,   kDrawObj},
-    {"LeftHook",      kText,    kDrawObj}, // the decimal text of a length
-    {"RightHook",     kText,    kDrawObj},
-    {"LeftLabel",     kInteger, kDrawObj},
-    {"RightLabel",    kInteger, kDrawObj},
-    {"LabelPosition", kInteger, kDrawObj},
+    {property::barInfo,       kText},
+    {property::remark,        kText},
+    {property::curveData,     kCurve,   kDrawObj},
+    {property::leftHook,      kText,    kDrawObj}, // the decimal text of a length
+    {property::rightHook,     kText,    kDrawObj},
+    {property::leftLabel,     kInteger, kDrawObj},
+    {property::rightLabel,    kInteger, kDrawObj},
+    {property::labelPosition, kInteger, kDrawObj},
 };
 inline constexpr PropertyRow kAreaBarRows[] = {
-    {"Type",              kInteger}, // 1: straddles several slabs, which its element tells, too
-    {"Position",          kInteger, kDrawObj},
-    {"IsRadiate",         kInteger, kDrawObj},
-    {"ReferenceCurve",    kCurve,   kDrawObj},
-    {"ReinforcementInfo", kText,    kDrawObj, kIds}, // its slabs or rafts
-    {"Catalog",           kText,    kDrawObj, kIds}, // name[id] of its first slab
+    {property::type,              kInteger}, // 1: straddles several slabs, which its element tells, too
+    {property::position,          kInteger, kDrawObj},
+    {property::isRadiate,         kInteger, kDrawObj},
+    {property::referenceCurve,    kCurve,   kDrawObj},
+    {property::reinforcementInfo, kText,    kDrawObj, kIds}, // its slabs or rafts
+    {property::catalog,           kText,    kDrawObj, kIdInBrackets}, // name[id] of its first slab
 };
 inline constexpr PropertyRow kLineBarRows[] = {
-    {"IncludeSupport", kInteger, kDrawObj},
-    {"DependSlabID",   kInteger, kDrawObj, kIds}, // -1: none
+    {property::includeSupport, kInteger, kDrawObj},
+    {property::dependSlabId,   kInteger, kDrawObj, kIds}, // -1: none
 };
 inline constexpr PropertyRow kSlabBarRows[] = {
-    {"DistributedBar",     kText, kDrawObj},
-    {"SaddleBarLineCount", kText, kDrawObj},
+    {property::distributedBar,     kText, kDrawObj},
+    {property::saddleBarLineCount, kText, kDrawObj},
 };
 
 inline constexpr PropertyRow kAxisRows[] = {
-    {"Remark", kText},
+    {property::remark, kText},
 };
 
 inline constexpr TypeFamilies kTypeFamilies[] = {
-    {0,    {kWallRows, kRecognisedWallRows, kForceWallRows}},
-    {1,    {kWallRows}},
-    {4,    {kOpeningRows}},
-    {5,    {kOpeningRows}},
-    {6,    {kOpeningRows, kDoorWithWindowRows}},
-    {7,    {kOpeningRows}},
-    {15,   {kBeamRows, kSpannedBeamRows, kFloorBeamRows}},
-    {17,   {kBeamRows, kLinkBeamRows}},
-    {18,   {kBeamRows, kSpannedBeamRows, kTieBeamRows}},
-    {19,   {kPlateRows}},
-    {22,   {kBarRows, kAreaBarRows, kSlabBarRows}},
-    {23,   {kBarRows, kLineBarRows, kSlabBarRows}},
-    {24,   {kHoleRows}},
-    {25,   {kSectionRows, kColumnRows}},
-    {26,   {kSectionRows, kColumnRows}},
-    {47,   {kBeamRows, kSpannedBeamRows, kFoundationBeamRows}},
-    {48,   {kPlateRows, kRaftRows}},
-    {49,   {kBarRows, kAreaBarRows}},
-    {50,   {kBarRows, kLineBarRows}},
-    {52,   {kSectionRows, kFoundationRows, kUnitRows}},
-    {53,   {kSectionRows, kFoundationRows, kUnitRows}},
-    {54,   {kSectionRows, kFoundationRows, kUnitRows}},
-    {74,   {kAxisRows}},
-    {75,   {kAxisRows}},
-    {82,   {kSectionRows, kUnitRows}},
-    {83,   {kSectionRows, kUnitRows}},
-    {202,  {kWallRows}},
-    {1001, {kWallRows}},
-    {1002, {kSectionRows, kColumnRows}},
-    {1003, {kWallRows, kRecognisedWallRows, kBrickWallRows}},
+    {type::forceWall,              {kWallRows, kRecognisedWallRows, kForceWallRows}},
+    {type::partitionWall,          {kWallRows}},
+    {type::door,                   {kOpeningRows}},
+    {type::window,                 {kOpeningRows}},
+    {type::doorWithWindow,         {kOpeningRows, kDoorWithWindowRows}},
+    {type::wallOpening,            {kOpeningRows}},
+    {type::beam,                   {kBeamRows, kSpannedBeamRows, kFloorBeamRows}},
+    {type::linkBeam,               {kBeamRows, kLinkBeamRows}},
+    {type::tieBeam,                {kBeamRows, kSpannedBeamRows, kTieBeamRows}},
+    {type::slab,                   {kPlateRows}},
+    {type::slabBar,                {kBarRows, kAreaBarRows, kSlabBarRows}},
+    {type::slabNegativeBar,        {kBarRows, kLineBarRows, kSlabBarRows}},
+    {type::slabHole,               {kHoleRows}},
+    {type::column,                 {kSectionRows, kColumnRows}},
+    {type::tieColumn,              {kSectionRows, kColumnRows}},
+    {type::foundationBeam,         {kBeamRows, kSpannedBeamRows, kFoundationBeamRows}},
+    {type::raft,                   {kPlateRows, kRaftRows}},
+    {type::raftBar,                {kBarRows, kAreaBarRows}},
+    {type::raftNegativeBar,        {kBarRows, kLineBarRows}},
+    {type::isolatedFoundation,     {kSectionRows, kFoundationRows, kUnitRows}},
+    {type::pileCap,                {kSectionRows, kFoundationRows, kUnitRows}},
+    {type::pile,                   {kSectionRows, kFoundationRows, kUnitRows}},
+    {type::axisGrid,               {kAxisRows}},
+    {type::axisLine,               {kAxisRows}},
+    {type::isolatedFoundationUnit, {kSectionRows, kUnitRows}},
+    {type::pileCapUnit,            {kSectionRows, kUnitRows}},
+    {type::retainingWall,          {kWallRows}},
+    {type::curtainWall,            {kWallRows}},
+    {type::masonryColumn,          {kSectionRows, kColumnRows}},
+    {type::brickWall,              {kWallRows, kRecognisedWallRows, kBrickWallRows}},
 };
 // clang-format on
 

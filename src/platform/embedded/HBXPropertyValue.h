@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ORVCADPlatformExport.h"
 #include "platform/embedded/HBXProjectRecords.h"
 #include "platform/embedded/HBXPropertyCatalogue.h"
 
@@ -11,21 +12,21 @@ namespace hbx::embedded {
 /** A value as a property of a kind keeps it: as it is, or converted where nothing is lost. Nothing where that cannot be,
  *  for a number or point that is not finite, and for a text that is no elevation under an elevation. Null geometry is no
  *  value. A number becomes an elevation of as many metres. */
-std::optional<PropertyValue> keptAs(PropertyKind kind, const PropertyValue &value);
+ORVCADPLATFORM_EXPORT std::optional<PropertyValue> keptAs(PropertyKind kind, const PropertyValue &value);
 /** The value of a text in the catalogue. */
-PropertyValue valueOfText(PropertyKind kind, const QString &text);
+ORVCADPLATFORM_EXPORT PropertyValue valueOfText(PropertyKind kind, const QString &text);
 
-bool isNoValue(const PropertyValue &value);
+ORVCADPLATFORM_EXPORT bool isNoValue(const PropertyValue &value);
 /** Cut to whole and to the range of an int; 0 for what is no number. */
-int intOf(const PropertyValue &value);
+ORVCADPLATFORM_EXPORT int intOf(const PropertyValue &value);
 /** 0.0 for what is no number. */
-double doubleOf(const PropertyValue &value);
+ORVCADPLATFORM_EXPORT double doubleOf(const PropertyValue &value);
 /** Numbers in decimal with the fewest digits that read back; empty for a point and for geometry. */
-QString textOf(const PropertyValue &value);
+ORVCADPLATFORM_EXPORT QString textOf(const PropertyValue &value);
 /** A double cut to an int; what does not fit becomes the nearest, NaN 0. */
-int cutToInt(double number);
+ORVCADPLATFORM_EXPORT int cutToInt(double number);
 
 /** A kind's name in messages. */
-QString kindName(PropertyKind kind);
+ORVCADPLATFORM_EXPORT QString kindName(PropertyKind kind);
 
 } // namespace hbx::embedded

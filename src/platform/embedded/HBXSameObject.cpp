@@ -1,6 +1,9 @@
 #include "platform/embedded/HBXSameObject.h"
 
 #include "platform/embedded/HBXElementDrawObj.h"
+#include "platform/embedded/HBXElementTypes.h"
+#include "platform/embedded/HBXPlacedShape.h"
+#include "platform/embedded/HBXPropertyNames.h"
 #include "platform/embedded/HBXPropertyValue.h"
 #include "platform/geometry/PolygonRelation.h"
 
@@ -13,8 +16,8 @@ namespace hbx::embedded {
 namespace {
 
 constexpr double kElevationTolerance = 1e-6; // mm: the noise of metres and millimetres
-constexpr qint64 kBarTypes[] = {22, 23, 49, 50};
-constexpr const wchar_t *kBarNumbers[] = {L"Type", L"Position"}; // 0 where not set
+constexpr qint64 kBarTypes[] = {type::slabBar, type::slabNegativeBar, type::raftBar, type::raftNegativeBar};
+constexpr const wchar_t *kBarNumbers[] = {property::type, property::position}; // 0 where not set
 
 /** Points on a curve that tell a line or arc from any other; a full circle is told by four. */
 constexpr double kProbes[] = {0.0, 0.25, 0.5, 0.75, 1.0}; // parts of the length
@@ -74,10 +77,8 @@ bool areSameBars(const HBXElementDrawObj &a, const HBXElementDrawObj &b)
     QString textB;
     vks::CRefPtr<vks::CCurve2d> curveA;
     vks::CRefPtr<vks::CCurve2d> curveB;
-    const std::wstring barInfo = L"BarInfo";
-    const std::wstring curveData = L"CurveData";
-    return ofA.asString(textA, barInfo) == ofB.asString(textB, barInfo) &&
-           areSameCurves(ofA.asCurve(curveA, curveData), ofB.asCurve(curveB, curveData));
+    return ofA.asString(textA, property::barInfo) == ofB.asString(textB, property::barInfo) &&
+           areSameCurves(ofA.asCurve(curveA, property::curveData), ofB.asCurve(curveB, property::curveData));
 }
 
 } // namespace
@@ -89,8 +90,7 @@ bool shareWholeLength(const vks::CCurve2d *a, const vks::CCurve2d *b)
 
 bool areSame(const HBXElementDrawObj &a, const HBXElementDrawObj &b)
 {
-    const bool isBar = std::find(std::begin(kBarTypes), std::end(kBarTypes), a.type()) != std::end(kBarTypes);
-    return a.type() == b.type() && haveSameElevations(a, b) && (!isBar || areSameBars(a, b)) &&
+    return a.type() == b.type() && haveSameElevations(a, b) && (!isOneOf(a.type(), kBarTypes) || areSameBars(a, b)) &&
            haveSameGeometry(a.placedShape(), b.placedShape());
 }
 

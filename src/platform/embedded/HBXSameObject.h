@@ -1,6 +1,8 @@
 #pragma once
 
-#include "platform/geometry/CCurve2d.h"
+namespace vks {
+class CCurve2d;
+}
 
 namespace hbx::embedded {
 

@@ -1,5 +1,7 @@
 #include "platform/embedded/HBXShapeKinds.h"
 
+#include "platform/embedded/HBXElementTypes.h"
+
 #include <algorithm>
 #include <iterator>
 
@@ -14,16 +16,36 @@ struct TypeShape
 
 // clang-format off
 constexpr TypeShape kTypeShapes[] = {
-    {0,    IHBXShape::kLine},     {1,    IHBXShape::kLine},     {4,    IHBXShape::kPoint},
-    {5,    IHBXShape::kPoint},    {6,    IHBXShape::kPoint},    {7,    IHBXShape::kPoint},
-    {15,   IHBXShape::kLine},     {17,   IHBXShape::kLine},     {18,   IHBXShape::kLine},
-    {19,   IHBXShape::kFace},     {22,   IHBXShape::kPlanArea}, {23,   IHBXShape::kPlanLine},
-    {24,   IHBXShape::kSection},  {25,   IHBXShape::kPoint},    {26,   IHBXShape::kPoint},
-    {47,   IHBXShape::kLine},     {48,   IHBXShape::kFace},     {49,   IHBXShape::kPlanArea},
-    {50,   IHBXShape::kPlanLine}, {52,   IHBXShape::kPoint},    {53,   IHBXShape::kPoint},
-    {54,   IHBXShape::kPoint},    {74,   IHBXShape::kGrid},     {75,   IHBXShape::kPlanLine},
-    {82,   IHBXShape::kPoint},    {83,   IHBXShape::kPoint},    {202,  IHBXShape::kLine},
-    {1001, IHBXShape::kLine},     {1002, IHBXShape::kPoint},    {1003, IHBXShape::kLine},
+    {type::forceWall,              IHBXShape::kLine},
+    {type::partitionWall,          IHBXShape::kLine},
+    {type::door,                   IHBXShape::kPoint},
+    {type::window,                 IHBXShape::kPoint},
+    {type::doorWithWindow,         IHBXShape::kPoint},
+    {type::wallOpening,            IHBXShape::kPoint},
+    {type::beam,                   IHBXShape::kLine},
+    {type::linkBeam,               IHBXShape::kLine},
+    {type::tieBeam,                IHBXShape::kLine},
+    {type::slab,                   IHBXShape::kFace},
+    {type::slabBar,                IHBXShape::kPlanArea},
+    {type::slabNegativeBar,        IHBXShape::kPlanLine},
+    {type::slabHole,               IHBXShape::kSection},
+    {type::column,                 IHBXShape::kPoint},
+    {type::tieColumn,              IHBXShape::kPoint},
+    {type::foundationBeam,         IHBXShape::kLine},
+    {type::raft,                   IHBXShape::kFace},
+    {type::raftBar,                IHBXShape::kPlanArea},
+    {type::raftNegativeBar,        IHBXShape::kPlanLine},
+    {type::isolatedFoundation,     IHBXShape::kPoint},
+    {type::pileCap,                IHBXShape::kPoint},
+    {type::pile,                   IHBXShape::kPoint},
+    {type::axisGrid,               IHBXShape::kGrid},
+    {type::axisLine,               IHBXShape::kPlanLine},
+    {type::isolatedFoundationUnit, IHBXShape::kPoint},
+    {type::pileCapUnit,            IHBXShape::kPoint},
+    {type::retainingWall,          IHBXShape::kLine},
+    {type::curtainWall,            IHBXShape::kLine},
+    {type::masonryColumn,          IHBXShape::kPoint},
+    {type::brickWall,              IHBXShape::kLine},
 };
 // clang-format on
 

@@ -1,5 +1,7 @@
 #include "platform/embedded/HBXShapeSizes.h"
 
+#include "platform/embedded/HBXProperties.h"
+#include "platform/embedded/HBXPropertyNames.h"
 #include "platform/geometry/CArc2d.h"
 #include "platform/geometry/CLine2d.h"
 
@@ -31,10 +33,10 @@ vks::CRefPtr<vks::CPolygon> drawnSection(const HBXProperties &properties)
 {
     vks::CRefPtr<vks::CPolygon> section;
     Point insertPoint;
-    if (!properties.asPolygon(section, L"SectionPoly"))
+    if (!properties.asPolygon(section, property::sectionPoly))
         return nullptr;
     vks::CRefPtr<vks::CPolygon> outline = section->Clone();
-    outline->Translate(-properties.asPoint(insertPoint, L"InsertPt"));
+    outline->Translate(-properties.asPoint(insertPoint, property::insertPt));
     return outline;
 }
 
@@ -57,11 +59,11 @@ vks::CRefPtr<vks::CPolygon> sectionOutline(const HBXProperties &properties)
 {
     if (auto drawn = drawnSection(properties))
         return drawn;
-    const double width = sizeIn(properties, {L"Width", L"SectionWidth"}).value_or(0.0);
-    const double height = sizeIn(properties, {L"Length", L"SectionHeight"}).value_or(0.0);
+    const double width = sizeIn(properties, {property::width, property::sectionWidth}).value_or(0.0);
+    const double height = sizeIn(properties, {property::length, property::sectionHeight}).value_or(0.0);
     const auto box = rectangle(Point(), width, height);
-    const auto round = circle(sizeIn(properties, {L"Radius"}).value_or(0.0));
-    const bool isRound = !box || (round && properties.asInt(std::wstring(L"SectionTypeID")) == kCircularSection);
+    const auto round = circle(sizeIn(properties, {property::radius}).value_or(0.0));
+    const bool isRound = !box || (round && properties.asInt(property::sectionTypeId) == kCircularSection);
     return isRound ? round : box;
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/embedded/HBXProperties.h"
 #include "platform/geometry/CPolygon.h"
 
 #include <initializer_list>
@@ -8,6 +7,8 @@
 
 /** Sizes and outlines of solids as the properties of an object tell them. */
 namespace hbx::embedded {
+
+class HBXProperties;
 
 /** The first of the named properties that has a value, mm; nothing when none has. */
 std::optional<double> sizeIn(const HBXProperties &properties, std::initializer_list<const wchar_t *> names);

@@ -1,7 +1,9 @@
 #include "platform/embedded/HBXSpanCut.h"
 
-#include "platform/embedded/HBXElementDrawObj.h"
+#include "platform/embedded/HBXElementTypes.h"
+#include "platform/embedded/HBXElevationText.h"
 #include "platform/embedded/HBXFloor.h"
+#include "platform/embedded/HBXPropertyNames.h"
 #include "platform/embedded/HBXSpanKeys.h"
 #include "platform/geometry/CArc2d.h"
 #include "platform/geometry/CurveZone.h"
@@ -23,10 +25,11 @@ namespace {
 constexpr double kSeatGap = 5.0;                // mm: a beam rests on what it comes this near to
 constexpr double kMostSeatShare = 0.5;          // of the chain: what carries more of it is no support to span from
 constexpr double kFullTurn = 6.283185307179586; // rad
-constexpr double kMillimetres = 1000.0;         // of a metre
 
 /** Columns, walls and foundations; deeper beams come to them. */
-constexpr qint64 kSupportTypes[] = {25, 26, 1002, 0, 202, 1003, 52, 53, 54};
+constexpr qint64 kSupportTypes[] = {type::column,        type::tieColumn, type::masonryColumn,      type::forceWall,
+                                    type::retainingWall, type::brickWall, type::isolatedFoundation, type::pileCap,
+                                    type::pile};
 
 struct TextKey
 {
@@ -34,11 +37,11 @@ struct TextKey
     const wchar_t *property;
 };
 constexpr TextKey kBarTexts[] = {
-    {spankey::topThroughBar, L"TopThroughBar"},
-    {spankey::bottomThroughBar, L"BottomThroughBar"},
-    {spankey::sideBar, L"SideBar"},
-    {spankey::tieBar, L"TieBar"},
-    {spankey::hoopBar, L"HoopBar"},
+    {spankey::topThroughBar, property::topThroughBar},
+    {spankey::bottomThroughBar, property::bottomThroughBar},
+    {spankey::sideBar, property::sideBar},
+    {spankey::tieBar, property::tieBar},
+    {spankey::hoopBar, property::hoopBar},
 };
 
 double number(IHBXElementDrawObj &object, const wchar_t *name)
@@ -91,9 +94,9 @@ vks::CVec2<double> sectionSize(IHBXElementDrawObj &object)
 {
     vks::CRefPtr<vks::CPolygon> outline;
     const IHBXProperties *properties = object.properties();
-    if (properties && properties->asPolygon(outline, std::wstring(L"SectionPoly")))
+    if (properties && properties->asPolygon(outline, property::sectionPoly))
         return {outline->Box().Width(), outline->Box().Height()};
-    return {number(object, L"SectionWidth"), number(object, L"SectionHeight")};
+    return {number(object, property::sectionWidth), number(object, property::sectionHeight)};
 }
 
 QString sectionText(IHBXElementDrawObj &object)
@@ -198,10 +201,10 @@ const HBXSpanCut::Piece &HBXSpanCut::pieceAt(double position) const
 double HBXSpanCut::elevationAt(double position) const
 {
     const Piece &piece = pieceAt(position);
-    const double start = number(*piece.object, L"StartPtTopElev");
-    const double end = number(*piece.object, L"EndPtTopElev");
+    const double start = number(*piece.object, property::startPtTopElev);
+    const double end = number(*piece.object, property::endPtTopElev);
     const double share = (position - piece.start) / piece.axis->Length();
-    return (start + (end - start) * share) / kMillimetres;
+    return (start + (end - start) * share) / kMillimetresPerMetre;
 }
 
 QJsonObject HBXSpanCut::span(const Node &from, const Node &to) const
@@ -217,8 +220,8 @@ QJsonObject HBXSpanCut::span(const Node &from, const Node &to) const
                      {spankey::measures, measureTexts.join(QLatin1Char(','))},
                      {spankey::spanLength, to.position - from.position},
                      {spankey::section, sectionText(object)},
-                     {spankey::axisOffset, number(object, L"AxisOffset")},
-                     {spankey::hoopBarLimbCount, text(object, L"Limb").toInt()}};
+                     {spankey::axisOffset, number(object, property::axisOffset)},
+                     {spankey::hoopBarLimbCount, text(object, property::limb).toInt()}};
     for (const TextKey &bar : kBarTexts)
         span.insert(bar.key, text(object, bar.property));
     return span;

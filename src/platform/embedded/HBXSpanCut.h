@@ -1,13 +1,16 @@
 #pragma once
 
 #include "ORVCADPlatformExport.h"
-#include "platform/geometry/CPolygon.h"
+#include "platform/geometry/CCurve2d.h"
 
 #include <QJsonObject>
 #include <QSet>
 
 #include <vector>
 
+namespace vks {
+class CPolygon;
+}
 class IHBXElementDrawObj;
 
 namespace hbx::embedded {

@@ -1,5 +1,6 @@
 #include "platform/services/ORVFindSlabHoleParentUtils.h"
 
+#include "platform/embedded/HBXElementTypes.h"
 #include "platform/host/IHBXCurState.h"
 #include "platform/host/IHBXCustomPointSolidShape.h"
 #include "platform/host/IHBXElementDrawObj.h"
@@ -15,7 +16,9 @@ namespace {
 
 using Point = vks::CVec2<double>;
 
-constexpr qint64 kParentTypes[] = {19, 48}; // a slab goes before a raft
+namespace type = hbx::embedded::type;
+
+constexpr qint64 kParentTypes[] = {type::slab, type::raft}; // a slab goes before a raft
 
 Point worldInsertPoint(const IHBXCustomPointSolidShape &shape)
 {

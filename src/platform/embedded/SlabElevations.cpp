@@ -1,17 +1,15 @@
 #include "platform/services/SlabElevations.h"
 
+#include "platform/embedded/HBXElementTypes.h"
+#include "platform/embedded/HBXPropertyNames.h"
 #include "platform/host/IHBXElementDrawObj.h"
 #include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXProperties.h"
 
 #include <QSet>
 
-namespace {
-
-constexpr qint64 kSlabType = 19;
-constexpr qint64 kRaftType = 48;
-
-} // namespace
+namespace property = hbx::embedded::property;
+namespace type = hbx::embedded::type;
 
 double getSlabElev(IHBXElementDrawObj *slab, const QString &property)
 {
@@ -25,7 +23,6 @@ double getNegReinfElev(IHBXElementDrawObj *bar)
     IHBXFloor *floor = properties ? bar->floor() : nullptr;
     if (!floor)
         return 0.0;
-    IHBXElementDrawObj *slab =
-        floor->findDrawObj(properties->asInt(QStringLiteral("DependSlabID")), {kSlabType, kRaftType});
-    return getSlabElev(slab, QStringLiteral("TopElev"));
+    IHBXElementDrawObj *slab = floor->findDrawObj(properties->asInt(property::dependSlabId), {type::slab, type::raft});
+    return getSlabElev(slab, QString::fromWCharArray(property::topElev));
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ORVCADPlatformExport.h"
+
 #include <QString>
 
 #include <memory>
@@ -9,7 +11,7 @@ struct sqlite3;
 namespace hbx::embedded {
 
 /** A call of SQLite that failed. */
-struct SqliteError
+struct ORVCADPLATFORM_EXPORT SqliteError
 {
     int code = 0; ///< extended result code
     QString message;
@@ -22,7 +24,7 @@ struct SqliteError
 
 /** Connection to a database file that is not trusted: no extensions, no functions, views or triggers out of the file's
  *  schema, no writing to the schema by hand. Everything throws SqliteError. */
-class SqliteConnection
+class ORVCADPLATFORM_EXPORT SqliteConnection
 {
 public:
     enum Mode { kRead, kWrite, kCreate };
@@ -44,7 +46,7 @@ private:
 };
 
 /** A transaction that is rolled back unless it is committed. */
-class SqliteTransaction
+class ORVCADPLATFORM_EXPORT SqliteTransaction
 {
 public:
     /** @param begin  BEGIN statement of the kind that is wanted */

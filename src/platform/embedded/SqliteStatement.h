@@ -15,7 +15,7 @@ struct sqlite3_stmt;
 namespace hbx::embedded {
 
 /** A prepared statement that is kept and run many times. Columns count from 0. Everything throws SqliteError. */
-class SqliteStatement
+class ORVCADPLATFORM_EXPORT SqliteStatement
 {
 public:
     SqliteStatement(SqliteConnection &connection, const char *sql);

@@ -1,5 +1,6 @@
 #include "platform/services/WLRReinfInfoOperator.h"
 
+#include "platform/embedded/HBXPropertyNames.h"
 #include "platform/host/IHBXElementDrawObj.h"
 #include "platform/host/IHBXProperties.h"
 
@@ -9,7 +10,7 @@
 
 namespace {
 
-const std::wstring kReinforcementInfo = L"ReinforcementInfo";
+const std::wstring kReinforcementInfo = hbx::embedded::property::reinforcementInfo;
 
 /** Whether an item begins with an id. The text is searched as it stands: that of a large slab has thousands of items. */
 bool names(const QString &links, const QString &id)

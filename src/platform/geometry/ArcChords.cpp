@@ -1,5 +1,6 @@
 #include "platform/geometry/ArcChords.h"
 
+#include "platform/geometry/Angle.h"
 #include "platform/geometry/KernelTolerance.h"
 
 #include <algorithm>
@@ -8,7 +9,6 @@ namespace vks {
 
 namespace {
 
-constexpr double kPi = 3.14159265358979323846;
 /** Circles whose centres and radii differ by less are one, mm: the grid of overlay. */
 constexpr double kSameCircle = 1e-3;
 /** Corners nearer to the ends of an arc are left out, mm. */
@@ -26,21 +26,11 @@ int chordCount(double radius)
     return static_cast<int>(std::clamp(count, 8.0, static_cast<double>(ArcChords::kMostChords)));
 }
 
-bool isRound(const CCurve2d &curve)
+/** The curve as an arc that chords can stand in for; null for any other. */
+const CArc2d *soundArc(const CCurve2d &curve)
 {
-    if (curve.Type() != CCurve2d::kArc || curve.IsEmpty())
-        return false;
-    const auto &arc = static_cast<const CArc2d &>(curve);
-    return !arc.IsFlat() && std::isfinite(arc.Radius()) && arc.CenterPt().IsFinite() && arc.StartPoint().IsFinite();
-}
-
-double angleOf(const CVec2<double> &vector) { return std::atan2(vector.y, vector.x); }
-
-/** The way from a start angle to another one in the direction of a sweep, rad; within 0 and the full circle. */
-double wayTo(double angle, double start, double sweep)
-{
-    const double way = std::fmod(sweep > 0.0 ? angle - start : start - angle, 2 * kPi);
-    return way < 0.0 ? way + 2 * kPi : way;
+    const CArc2d *arc = curve.IsEmpty() ? nullptr : CArc2d::RoundArc(curve);
+    return arc && arc->CenterPt().IsFinite() && arc->StartPoint().IsFinite() ? arc : nullptr;
 }
 
 bool isSame(const CVec2<double> &centre, double radius, const CVec2<double> &otherCentre, double otherRadius)
@@ -51,19 +41,19 @@ bool isSame(const CVec2<double> &centre, double radius, const CVec2<double> &oth
 /** Angles of the corners strictly within a sweep, in its order. */
 std::vector<double> cornerAngles(double radius, const std::vector<double> &ends, double start, double sweep)
 {
-    const double step = 2 * kPi / chordCount(radius);
+    const double step = kFullTurn / chordCount(radius);
     const double way = std::fabs(sweep);
     const double margin = kLeastChord / radius;
     std::vector<std::pair<double, double>> corners; // way from the start, and angle
     const auto add = [&](double angle) {
-        const double at = wayTo(angle, start, sweep);
+        const double at = withinTurn(sweep > 0.0 ? angle - start : start - angle, kFullTurn);
         if (at > margin && at < way - margin)
             corners.emplace_back(at, angle);
     };
     std::for_each(ends.begin(), ends.end(), add);
     const double low = std::min(start, start + sweep);
     for (double k = std::ceil(low / step); k * step < low + way; ++k)
-        add(std::remainder(k * step, 2 * kPi));
+        add(std::remainder(k * step, kFullTurn));
     std::sort(corners.begin(), corners.end());
     std::vector<double> angles;
     angles.reserve(corners.size());
@@ -95,29 +85,29 @@ ArcChords::Circle ArcChords::circleOf(const CArc2d &arc) const
 
 void ArcChords::learn(const CCurve2d &curve)
 {
-    if (!isRound(curve))
+    const CArc2d *arc = soundArc(curve);
+    if (!arc)
         return;
-    const auto &arc = static_cast<const CArc2d &>(curve);
-    Circle own{arc.CenterPt() - m_origin, arc.Radius(), {}};
+    Circle own{arc->CenterPt() - m_origin, arc->Radius(), {}};
     std::vector<Circle> &cell = m_circles[keyOf(own)];
     auto circle = std::find_if(cell.begin(), cell.end(), [&own](const Circle &known) {
         return isSame(known.centre, known.radius, own.centre, own.radius);
     });
     if (circle == cell.end())
         circle = cell.insert(cell.end(), own);
-    for (const CVec2<double> &end : {arc.StartPoint(), arc.EndPoint()})
-        circle->endAngles.push_back(angleOf(end - m_origin - circle->centre));
+    for (const CVec2<double> &end : {arc->StartPoint(), arc->EndPoint()})
+        circle->endAngles.push_back((end - m_origin - circle->centre).Angle());
 }
 
 void ArcChords::appendCorners(const CCurve2d &curve, Ring &ring) const
 {
     ring.push_back(curve.StartPoint() - m_origin);
-    if (!isRound(curve))
+    const CArc2d *arc = soundArc(curve);
+    if (!arc)
         return;
-    const auto &arc = static_cast<const CArc2d &>(curve);
-    const Circle circle = circleOf(arc);
-    const double start = angleOf(arc.StartPoint() - m_origin - circle.centre);
-    for (const double angle : cornerAngles(circle.radius, circle.endAngles, start, arc.SweepAngle()))
+    const Circle circle = circleOf(*arc);
+    const double start = (arc->StartPoint() - m_origin - circle.centre).Angle();
+    for (const double angle : cornerAngles(circle.radius, circle.endAngles, start, arc->SweepAngle()))
         ring.push_back(circle.centre + CVec2<double>(std::cos(angle), std::sin(angle)) * circle.radius);
 }
 

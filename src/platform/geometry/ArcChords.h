@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/geometry/CArc2d.h"
-#include "platform/geometry/GeosContext.h"
+#include "platform/geometry/Ring.h"
 
 #include <array>
 #include <map>

@@ -1,5 +1,6 @@
 #include "platform/geometry/CArc2d.h"
 
+#include "platform/geometry/Angle.h"
 #include "platform/geometry/GeometryText.h"
 
 #include <algorithm>
@@ -10,8 +11,6 @@ namespace vks {
 
 namespace {
 
-constexpr double kPi = 3.14159265358979323846;
-constexpr double kFullTurn = 2 * kPi;
 constexpr double kFullTurnTolerance = 1e-9; // rad; a sweep this close to a full turn is one
 constexpr double kSmallSweep = 0.3;         // rad; below this sin needs its series to keep its digits
 constexpr double kSliverSweep = 1e-4;       // rad; below this a segment is a piece of a parabola
@@ -31,13 +30,6 @@ double reachOfCircle(double along, double across, double radius)
 {
     // The two terms would cancel each other when the centre lies far off to the other side.
     return along < 0 ? across * (across / (radius - along)) : along + radius;
-}
-
-/** A value brought into [0, turn). */
-double withinTurn(double value, double turn)
-{
-    const double rest = std::fmod(value, turn);
-    return rest < 0 ? rest + turn : rest;
 }
 
 } // namespace
@@ -82,6 +74,12 @@ CArc2d::CArc2d(const CVec2<double> &start, const CVec2<double> &middle, const CV
     setCircle(toCentre, std::copysign(kFullTurn - 2 * angleAtMiddle, cross));
 }
 
+const CArc2d *CArc2d::RoundArc(const CCurve2d &curve)
+{
+    const auto *arc = curve.Type() == kArc ? static_cast<const CArc2d *>(&curve) : nullptr;
+    return arc && !arc->IsFlat() ? arc : nullptr;
+}
+
 void CArc2d::setCircle(const CVec2<double> &toCentre, double sweep)
 {
     const double radius = toCentre.Length();
@@ -116,11 +114,7 @@ double CArc2d::GetBulge() const
     return IsClosed() ? std::copysign(std::numeric_limits<double>::infinity(), m_sweep) : std::tan(SweepAngle() / 4);
 }
 
-double CArc2d::StartAngle() const
-{
-    const CVec2<double> outwards = StartPoint() - m_start - m_toCentre;
-    return std::atan2(outwards.y, outwards.x);
-}
+double CArc2d::StartAngle() const { return (StartPoint() - m_start - m_toCentre).Angle(); }
 
 double CArc2d::SweepAngle() const { return m_length > 0.0 ? m_sweep * (Length() / m_length) : m_sweep; }
 

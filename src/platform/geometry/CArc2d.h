@@ -18,6 +18,9 @@ public:
      *  Points in a line give a flat arc. */
     CArc2d(const CVec2<double> &start, const CVec2<double> &middle, const CVec2<double> &end);
 
+    /** The curve itself when it is an arc of a circle; null for a line and for a flat arc. */
+    static const CArc2d *RoundArc(const CCurve2d &curve);
+
     /** Centre and radius; of a flat arc the centre is not finite and the radius is infinite. */
     CVec2<double> CenterPt() const { return m_start + m_toCentre; }
     double Radius() const { return m_radius; }

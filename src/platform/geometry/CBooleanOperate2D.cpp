@@ -44,26 +44,26 @@ using Rings = std::vector<Ring>;
 
 enum class Operation { Unite, Subtract, Intersect };
 
-template <typename Visit> void forEachCurve(const CPolygon &polygon, Visit visit)
+Ring ringOf(const CLoop &loop, const CVec2<double> &origin, const ArcChords &chords)
 {
-    for (int i = 0; i < polygon.LoopCount(); ++i)
-        for (const CRefPtr<CCurve2d> &curve : polygon.GetLoop(i)->Curves())
-            visit(*curve);
+    Ring ring;
+    const auto &curves = loop.Curves();
+    ring.reserve(curves.size());
+    for (std::size_t i = 0; i < curves.size(); ++i) {
+        chords.appendCorners(*curves[i], ring);
+        // A loop with a gap keeps both of its sides; welding makes one point of them where they agree.
+        if (curves[i]->EndPoint() != curves[(i + 1) % curves.size()]->StartPoint())
+            ring.push_back(curves[i]->EndPoint() - origin);
+    }
+    return ring;
 }
 
 Rings ringsOf(const CPolygon &polygon, const CVec2<double> &origin, const ArcChords &chords)
 {
-    Rings rings(polygon.LoopCount());
-    for (int i = 0; i < polygon.LoopCount(); ++i) {
-        const auto &curves = polygon.GetLoop(i)->Curves();
-        rings[i].reserve(curves.size());
-        for (std::size_t k = 0; k < curves.size(); ++k) {
-            chords.appendCorners(*curves[k], rings[i]);
-            // A loop with a gap keeps both of its sides; welding makes one point of them where they agree.
-            if (curves[k]->EndPoint() != curves[(k + 1) % curves.size()]->StartPoint())
-                rings[i].push_back(curves[k]->EndPoint() - origin);
-        }
-    }
+    Rings rings;
+    rings.reserve(polygon.Loops().size());
+    for (const auto &loop : polygon.Loops())
+        rings.push_back(ringOf(*loop, origin, chords));
     return rings;
 }
 
@@ -103,7 +103,9 @@ Overlay::Overlay(Operation operation, const Operands &operands) : m_operation(op
     m_origin = {std::nearbyint(centre.x), std::nearbyint(centre.y)}; // whole, so that the grid stays where it is
     ArcChords chords(m_origin);
     for (const Operand &operand : operands)
-        forEachCurve(*operand.polygon, [&chords](const CCurve2d &curve) { chords.learn(curve); });
+        for (const auto &loop : operand.polygon->Loops())
+            for (const auto &curve : loop->Curves())
+                chords.learn(*curve);
     m_hasArcs = chords.hasArcs();
     for (const Operand &operand : operands) {
         m_polygons.push_back(ringsOf(*operand.polygon, m_origin, chords));

@@ -38,6 +38,12 @@ template <typename T> struct CBox2
         Add(other.minPt);
         Add(other.maxPt);
     }
+    /** What both boxes hold; empty when they lie apart. */
+    constexpr CBox2 Common(const CBox2 &other) const
+    {
+        return {{std::max(minPt.x, other.minPt.x), std::max(minPt.y, other.minPt.y)},
+                {std::min(maxPt.x, other.maxPt.x), std::min(maxPt.y, other.maxPt.y)}};
+    }
     /** Grown by the margin on all four sides; an empty box stays empty. */
     CBox2 Grown(T margin) const
     {

@@ -1,13 +1,38 @@
 #include "platform/geometry/CPolygon.h"
 
-#include "platform/geometry/CArc2d.h"
 #include "platform/geometry/GeometryText.h"
 #include "platform/geometry/LoopNesting.h"
 #include "platform/geometry/PolygonValidity.h"
 
 #include <cmath>
+#include <numeric>
 
 namespace vks {
+
+namespace {
+
+/** Area of each loop, mm²; below zero for a hole. */
+std::vector<double> signedParts(const std::vector<CRefPtr<CLoop>> &loops)
+{
+    const std::vector<int> depths = loopDepths(loops);
+    std::vector<double> areas;
+    areas.reserve(loops.size());
+    for (std::size_t i = 0; i < loops.size(); ++i)
+        areas.push_back(depths[i] % 2 == 0 ? loops[i]->Area() : -loops[i]->Area());
+    return areas;
+}
+
+constexpr CVec2<double> kXAxis(1, 0);
+constexpr CVec2<double> kYAxis(0, 1);
+
+/** Whether a side is straight and runs along an axis, either way, within an angle, rad. */
+bool runsAlong(const CCurve2d &side, const CVec2<double> &axis, double angleTolerance)
+{
+    return side.Type() == CCurve2d::kLine && side.Length() > g_DistEpsilon &&
+           std::fabs(axis.Cross(side.StartVt())) <= std::sin(angleTolerance);
+}
+
+} // namespace
 
 void CPolygon::AddLoop(CLoop *loop, bool takeOver)
 {
@@ -51,11 +76,8 @@ CRefPtr<CPolygon> CPolygon::Clone() const
 
 double CPolygon::Area() const
 {
-    const std::vector<int> depths = loopDepths(m_loops);
-    double area = 0.0;
-    for (std::size_t i = 0; i < m_loops.size(); ++i)
-        area += depths[i] % 2 == 0 ? m_loops[i]->Area() : -m_loops[i]->Area();
-    return std::fmax(0.0, area);
+    const std::vector<double> parts = signedParts(m_loops);
+    return std::fmax(0.0, std::accumulate(parts.begin(), parts.end(), 0.0));
 }
 
 CVec2<double> CPolygon::Barycentre() const
@@ -63,14 +85,11 @@ CVec2<double> CPolygon::Barycentre() const
     if (m_loops.empty())
         return {};
     const CVec2<double> origin = Box().Center();
-    const std::vector<int> depths = loopDepths(m_loops);
-    double area = 0.0;
+    const std::vector<double> parts = signedParts(m_loops);
+    const double area = std::accumulate(parts.begin(), parts.end(), 0.0);
     CVec2<double> moment;
-    for (std::size_t i = 0; i < m_loops.size(); ++i) {
-        const double part = depths[i] % 2 == 0 ? m_loops[i]->Area() : -m_loops[i]->Area();
-        area += part;
-        moment += (m_loops[i]->Barycentre() - origin) * part;
-    }
+    for (std::size_t i = 0; i < m_loops.size(); ++i)
+        moment += (m_loops[i]->Barycentre() - origin) * parts[i];
     const CVec2<double> centre = moment / area;
     return area > 0.0 && centre.IsFinite() ? origin + centre : origin;
 }
@@ -104,23 +123,18 @@ bool CPolygon::IsRectangle(double angleTolerance) const
 {
     if (LoopCount() != 1 || m_loops[0]->CurveCount() != 4 || !m_loops[0]->IsClosed(g_DistEpsilon))
         return false;
-    for (int i = 0; i < 4; ++i) {
-        const CCurve2d &side = *m_loops[0]->GetCurve(i);
-        const CVec2<double> direction = side.StartVt();
-        // The first side tells which axis the odd and which the even sides follow.
-        const CVec2<double> axis = (i % 2 == 0) == (std::fabs(m_loops[0]->GetCurve(0)->StartVt().x) > 0.5)
-                                       ? CVec2<double>(1, 0)
-                                       : CVec2<double>(0, 1);
-        if (side.Type() != CCurve2d::kLine || !(side.Length() > g_DistEpsilon) ||
-            !(std::fabs(axis.Cross(direction)) <= std::sin(angleTolerance)))
+    const auto &sides = m_loops[0]->Curves();
+    // The first side tells which axis the odd and which the even sides follow.
+    const bool startsAlongX = std::fabs(sides[0]->StartVt().x) > 0.5;
+    for (std::size_t i = 0; i < sides.size(); ++i)
+        if (!runsAlong(*sides[i], (i % 2 == 0) == startsAlongX ? kXAxis : kYAxis, angleTolerance))
             return false;
-    }
     return true;
 }
 
 bool CPolygon::IsValid(unsigned mask, void * /*detail*/, void * /*position*/) const
 {
-    return PolygonValidity(m_loops).passes(mask);
+    return PolygonValidity(*this, mask).passes();
 }
 
 CBox2<double> CPolygon::Box() const

@@ -31,6 +31,7 @@ public:
     int LoopCount() const { return static_cast<int>(m_loops.size()); }
     /** Null for an index out of range. The polygon goes on holding it. */
     CLoop *GetLoop(int index) const;
+    const std::vector<CRefPtr<CLoop>> &Loops() const { return m_loops; }
     /** A curve counted through all loops in order; null out of range. The polygon goes on holding it. */
     CCurve2d *GetCurve(int index) const;
     /** Replaces the content of the vector by the curves of all loops in order; the polygon goes on holding them. */

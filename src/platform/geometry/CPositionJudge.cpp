@@ -11,9 +11,6 @@ namespace vks {
 
 namespace {
 
-/** Curves exactly the tolerance apart are within it, whatever double arithmetic makes of that, mm. */
-constexpr double kArithmeticNoise = 1e-8;
-
 struct Stretch
 {
     double start;
@@ -74,6 +71,7 @@ EnCurveCurvePosition CPositionJudge::GetCurveCurvePosition(const CCurve2d *a, co
 {
     if (!a || !b || !(a->Length() > 0.0) || !(b->Length() > 0.0))
         return kCurvesInvalid;
+    // Curves exactly the tolerance apart are within it.
     const double tolerance = m_distEpsilon + kArithmeticNoise;
     if (!a->Box().Intersects(b->Box(), tolerance))
         return kCurvesApart;

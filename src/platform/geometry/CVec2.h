@@ -52,6 +52,10 @@ template <typename T> struct CVec2
         const T s = std::sin(angle);
         return {x * c - y * s, x * s + y * c};
     }
+    /** Angle from the x axis, counter-clockwise, rad; from -pi to pi. */
+    T Angle() const { return std::atan2(y, x); }
+    /** Turn from this direction to another one, positive to the left, rad; from -pi to pi. */
+    T AngleTo(const CVec2 &other) const { return std::atan2(Cross(other), Dot(other)); }
     bool IsFinite() const { return std::isfinite(x) && std::isfinite(y); }
 };
 

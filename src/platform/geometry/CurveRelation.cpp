@@ -13,9 +13,6 @@ namespace vks {
 
 namespace {
 
-/** What double arithmetic leaves of a common point 10 km from the origin, mm. */
-constexpr double kArithmeticNoise = 1e-8;
-
 /** A point that may be common to two curves. */
 struct Candidate
 {

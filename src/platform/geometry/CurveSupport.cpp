@@ -1,5 +1,6 @@
 #include "platform/geometry/CurveSupport.h"
 
+#include "platform/geometry/Angle.h"
 #include "platform/geometry/CArc2d.h"
 
 #include <algorithm>
@@ -8,7 +9,6 @@ namespace vks {
 
 namespace {
 
-constexpr double kTwoPi = 2 * 3.14159265358979323846;
 /** Sine of the angle below which lines count as parallel: double arithmetic places no crossing beyond it. */
 constexpr double kLeastSine = 1e-12;
 
@@ -63,8 +63,7 @@ SupportPoints circleMeetsCircle(const CurveSupport &a, const CurveSupport &b, do
 
 CurveSupport::CurveSupport(const CCurve2d &curve) : m_start(curve.StartPoint())
 {
-    const auto *arc = curve.Type() == CCurve2d::kArc ? static_cast<const CArc2d *>(&curve) : nullptr;
-    if (arc && !arc->IsFlat()) {
+    if (const CArc2d *arc = CArc2d::RoundArc(curve)) {
         m_centre = arc->CenterPt();
         m_radius = arc->Radius();
         m_turn = arc->SweepAngle() < 0.0 ? -1.0 : 1.0;
@@ -89,11 +88,9 @@ double CurveSupport::positionOf(const CVec2<double> &point, double tolerance) co
 {
     if (isLine())
         return m_direction.Dot(point - m_start);
-    const CVec2<double> from = m_start - m_centre;
-    const CVec2<double> to = point - m_centre;
-    const double angle = m_turn * std::atan2(from.Cross(to), from.Dot(to));
-    const double position = (angle < 0.0 ? angle + kTwoPi : angle) * m_radius;
-    return position >= kTwoPi * m_radius - tolerance ? position - kTwoPi * m_radius : position;
+    const double angle = m_turn * (m_start - m_centre).AngleTo(point - m_centre);
+    const double position = (angle < 0.0 ? angle + kFullTurn : angle) * m_radius;
+    return position >= kFullTurn * m_radius - tolerance ? position - kFullTurn * m_radius : position;
 }
 
 CVec2<double> CurveSupport::pointAt(double position) const

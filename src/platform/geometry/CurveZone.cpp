@@ -1,5 +1,6 @@
 #include "platform/geometry/CurveZone.h"
 
+#include "platform/geometry/Angle.h"
 #include "platform/geometry/CArc2d.h"
 #include "platform/geometry/CurveRelation.h"
 #include "platform/geometry/CurveSupport.h"
@@ -10,7 +11,6 @@ namespace vks {
 
 namespace {
 
-constexpr double kTwoPi = 2 * 3.14159265358979323846;
 /** Corners that turn by less have no outside worth the name, rad. */
 constexpr double kLeastTurn = 1e-9;
 /** A meeting this far off a piece of border still cuts, mm: more cuts than needed do no harm. */
@@ -38,20 +38,19 @@ void CurveZone::addSides(const CCurve2d &curve, double distance)
 void CurveZone::addCorner(const CCurve2d &before, const CCurve2d &after, double distance)
 {
     const CVec2<double> in = before.EndVt();
-    const CVec2<double> out = after.StartVt();
-    const double turn = std::atan2(in.Cross(out), in.Dot(out));
+    const double turn = in.AngleTo(after.StartVt());
     if (std::fabs(turn) < kLeastTurn)
         return;
     const CVec2<double> normal = turn > 0.0 ? -in.Left() : in.Left();
-    const double start = std::atan2(normal.y, normal.x);
+    const double start = normal.Angle();
     add(new CArc2d(after.StartPoint(), distance, start, start + turn));
 }
 
 void CurveZone::addPolygon(const CPolygon &polygon, double distance)
 {
     const CBox2<double> near = m_range.Grown(distance);
-    for (int i = 0; i < polygon.LoopCount(); ++i) {
-        const auto &curves = polygon.GetLoop(i)->Curves();
+    for (const auto &loop : polygon.Loops()) {
+        const auto &curves = loop->Curves();
         for (std::size_t k = 0; k < curves.size(); ++k) {
             if (distance > 0.0 && near.Contains(curves[k]->StartPoint()))
                 addCorner(*curves[(k + curves.size() - 1) % curves.size()], *curves[k], distance);
@@ -69,7 +68,7 @@ void CurveZone::addCurve(const CCurve2d &curve, double distance)
     if (curve.IsClosed())
         return;
     for (const CVec2<double> &end : {curve.StartPoint(), curve.EndPoint()})
-        add(new CArc2d(end, distance, 0.0, kTwoPi));
+        add(new CArc2d(end, distance, 0.0, kFullTurn));
 }
 
 std::vector<double> CurveZone::cuts(const CCurve2d &curve) const

@@ -83,8 +83,8 @@ CRefPtr<CPolygon> GPolygonBuilder::CreatePolygon(const CCurve2d *curve, double l
     const Sides sides{std::min(-rightWidth, leftWidth), std::max(-rightWidth, leftWidth)};
     if (!(sides.left - sides.right > g_DistEpsilon))
         return nullptr;
-    const auto *arc = curve->Type() == CCurve2d::kArc ? static_cast<const CArc2d *>(curve) : nullptr;
-    return arc && !arc->IsFlat() ? stripAlongArc(*arc, sides) : stripAlongLine(*curve, sides);
+    const CArc2d *arc = CArc2d::RoundArc(*curve);
+    return arc ? stripAlongArc(*arc, sides) : stripAlongLine(*curve, sides);
 }
 
 } // namespace vks

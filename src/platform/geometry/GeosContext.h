@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ORVCADPlatformExport.h"
-#include "platform/geometry/CVec2.h"
+#include "platform/geometry/Ring.h"
 
 #include <memory>
 #include <vector>
@@ -9,14 +9,9 @@
 struct GEOSGeom_t;
 struct GEOSContextHandle_HS;
 
-namespace vks {
-
-/** Corners of a closed ring; the first is not repeated at the end. */
-using Ring = std::vector<CVec2<double>>;
-
 /** What the kernel needs of GEOS: a context and owned geometry. GEOS tells of exceptions by null, never by throwing,
  *  and its messages go nowhere. */
-namespace geos {
+namespace vks::geos {
 
 /** The context of the calling thread, made at its first use and gone with the thread. */
 ORVCADPLATFORM_EXPORT GEOSContextHandle_HS *context();
@@ -39,5 +34,4 @@ ORVCADPLATFORM_EXPORT std::vector<const GEOSGeom_t *> polygonsIn(const GEOSGeom_
 /** The rings of a polygon, shell first. */
 ORVCADPLATFORM_EXPORT std::vector<Ring> ringsOf(const GEOSGeom_t *polygon);
 
-} // namespace geos
-} // namespace vks
+} // namespace vks::geos

@@ -13,6 +13,8 @@ extern ORVCADPLATFORM_EXPORT double g_AngleEpsilon;
 /** Angle within which two lines are parallel, rad. */
 extern ORVCADPLATFORM_EXPORT double g_ParallelEpsilon;
 
+/** What double arithmetic leaves of a distance of curves 10 km from the origin, mm. */
+constexpr double kArithmeticNoise = 1e-8;
 /** Arcs go into overlay as chords that leave the arc by no more than this, mm. */
 constexpr double kChordSagitta = 0.01;
 /** Resolution of polygon overlay and least tolerance of polygon relations, mm. */

@@ -1,5 +1,6 @@
 #include "platform/geometry/LoopCleaning.h"
 
+#include "platform/geometry/Angle.h"
 #include "platform/geometry/CArc2d.h"
 #include "platform/geometry/CLine2d.h"
 #include "platform/geometry/EdgeCrossings.h"
@@ -12,29 +13,22 @@ namespace vks {
 
 namespace {
 
-constexpr double kTwoPi = 2 * 3.14159265358979323846;
 /** An arc this many times longer than the gap between its ends is a full circle once they are welded. */
 constexpr double kCirclePerGap = 3.0;
 
 using Point = CVec2<double>;
 using Curves = std::vector<CRefPtr<CCurve2d>>;
 
-const CArc2d *roundArc(const CCurve2d &curve)
-{
-    const auto *arc = curve.Type() == CCurve2d::kArc ? static_cast<const CArc2d *>(&curve) : nullptr;
-    return arc && !arc->IsFlat() ? arc : nullptr;
-}
-
 CRefPtr<CCurve2d> fullCircle(const CArc2d &arc)
 {
     const double start = arc.StartAngle();
-    return new CArc2d(arc.CenterPt(), arc.Radius(), start, start + std::copysign(kTwoPi, arc.SweepAngle()));
+    return new CArc2d(arc.CenterPt(), arc.Radius(), start, start + std::copysign(kFullTurn, arc.SweepAngle()));
 }
 
 /** The curve between welded ends; null when nothing is left of it. */
 CRefPtr<CCurve2d> between(const CCurve2d &curve, const Point &start, const Point &end, double tolerance)
 {
-    const CArc2d *arc = roundArc(curve);
+    const CArc2d *arc = CArc2d::RoundArc(curve);
     if (start == end) {
         const bool circle = arc && curve.Length() > kCirclePerGap * tolerance;
         return circle ? (arc->IsClosed() ? curve.Clone() : fullCircle(*arc)) : nullptr;
@@ -116,12 +110,10 @@ public:
     bool takes(const CCurve2d &next) const
     {
         const CCurve2d &last = *m_curves.back();
-        const Point in = last.EndVt();
-        const Point out = next.StartVt();
-        if (std::fabs(std::atan2(in.Cross(out), in.Dot(out))) > m_tolerance.angle)
+        if (std::fabs(last.EndVt().AngleTo(next.StartVt())) > m_tolerance.angle)
             return false;
-        const CArc2d *arc = roundArc(last);
-        const CArc2d *nextArc = roundArc(next);
+        const CArc2d *arc = CArc2d::RoundArc(last);
+        const CArc2d *nextArc = CArc2d::RoundArc(next);
         return arc && nextArc ? staysOnCircle(*arc, *nextArc) : !arc && !nextArc && staysOnLine(next);
     }
     void take(const CRefPtr<CCurve2d> &next)
@@ -140,7 +132,7 @@ public:
             return m_curves.front();
         const Point start = m_curves.front()->StartPoint();
         const Point end = m_curves.back()->EndPoint();
-        const CArc2d *arc = roundArc(*m_curves.front());
+        const CArc2d *arc = CArc2d::RoundArc(*m_curves.front());
         if (!arc)
             return new CLine2d(start, end);
         if (start.DistanceTo(end) <= g_DefaultDistEpsilon)
@@ -151,18 +143,14 @@ public:
 private:
     static double sweepOf(const CCurve2d &curve)
     {
-        const CArc2d *arc = roundArc(curve);
+        const CArc2d *arc = CArc2d::RoundArc(curve);
         return arc ? std::fabs(arc->SweepAngle()) : 0.0;
     }
     /** Angle from the run's first direction to a point seen from its start, rad. */
-    double turnTo(const Point &point) const
-    {
-        const Point way = point - m_start;
-        return std::atan2(m_along.Cross(way), m_along.Dot(way));
-    }
+    double turnTo(const Point &point) const { return m_along.AngleTo(point - m_start); }
     bool staysOnCircle(const CArc2d &arc, const CArc2d &next) const
     {
-        return arc.SweepAngle() * next.SweepAngle() > 0.0 && m_sweep + sweepOf(next) <= kTwoPi + m_tolerance.angle &&
+        return arc.SweepAngle() * next.SweepAngle() > 0.0 && m_sweep + sweepOf(next) <= kFullTurn + m_tolerance.angle &&
                arc.CenterPt().DistanceTo(next.CenterPt()) <= m_tolerance.distance &&
                std::fabs(arc.Radius() - next.Radius()) <= m_tolerance.distance;
     }
@@ -191,10 +179,10 @@ private:
     Curves m_curves;
     CleaningTolerance m_tolerance;
     Point m_start;
-    Point m_along;                // direction at the start
-    double m_sweep;               // of arcs so far, rad
-    double m_leastTurn = -kTwoPi; // directions of a line that passes near all vertices so far, from m_along, rad
-    double m_mostTurn = kTwoPi;
+    Point m_along;                   // direction at the start
+    double m_sweep;                  // of arcs so far, rad
+    double m_leastTurn = -kFullTurn; // directions of a line that passes near all vertices so far, from m_along, rad
+    double m_mostTurn = kFullTurn;
 };
 
 /** Joins what goes on, starting at a true corner, if there is one. */

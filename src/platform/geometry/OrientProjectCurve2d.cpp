@@ -104,9 +104,9 @@ CRefPtr<CPolygon> OrientProjectPolygon(const CCoord3<double> &from, const CPolyg
     if (!polygon || !map.isFinite())
         return nullptr;
     CRefPtr<CPolygon> result(new CPolygon);
-    for (int i = 0; i < polygon->LoopCount(); ++i) {
+    for (const auto &source : polygon->Loops()) {
         CRefPtr<CLoop> loop(new CLoop);
-        for (const auto &curve : polygon->GetLoop(i)->Curves()) {
+        for (const auto &curve : source->Curves()) {
             const CRefPtr<CCurve2d> mapped = mappedCurve(map, *curve, true);
             if (!mapped)
                 return nullptr;

@@ -5,6 +5,8 @@
 
 namespace vks {
 
+class CPolygon;
+
 /** Moves a curve from the plane of one frame into the plane of another, along a direction.
  *
  *  @param from       frame whose own plane the curve lies in; an absent frame counts as the world's
@@ -18,8 +20,7 @@ ORVCADPLATFORM_EXPORT CRefPtr<CCurve2d> OrientProjectCurve2d(const CCoord3<doubl
                                                              const CCoord3<double> &to, const CVec3<double> &direction,
                                                              bool wholeOnly);
 /** The same for a polygon, curve by curve; null when one of its curves gives null. */
-ORVCADPLATFORM_EXPORT CRefPtr<class CPolygon> OrientProjectPolygon(const CCoord3<double> &from, const CPolygon *polygon,
-                                                                   const CCoord3<double> &to,
-                                                                   const CVec3<double> &direction);
+ORVCADPLATFORM_EXPORT CRefPtr<CPolygon> OrientProjectPolygon(const CCoord3<double> &from, const CPolygon *polygon,
+                                                             const CCoord3<double> &to, const CVec3<double> &direction);
 
 } // namespace vks

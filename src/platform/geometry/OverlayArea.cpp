@@ -3,6 +3,7 @@
 #include "platform/geometry/RingCrossing.h"
 
 #include <algorithm>
+#include <functional>
 #include <geos_c.h>
 
 namespace vks {
@@ -26,9 +27,7 @@ std::vector<Ring> withoutDegenerate(const std::vector<Ring> &rings)
 {
     std::vector<Ring> result;
     for (Ring ring : rings) {
-        ring.erase(std::unique(ring.begin(), ring.end()), ring.end());
-        while (ring.size() > 1 && ring.front() == ring.back())
-            ring.pop_back();
+        dropRepeats(ring, std::equal_to<>());
         if (ring.size() > 2)
             result.push_back(std::move(ring));
     }

@@ -21,7 +21,7 @@ double perimeterOf(const Ring &ring)
 {
     double sum = 0.0;
     for (std::size_t i = 0; i < ring.size(); ++i)
-        sum += std::sqrt((ring[(i + 1) % ring.size()] - ring[i]).SqrLength());
+        sum += ring[i].DistanceTo(ring[(i + 1) % ring.size()]);
     return sum;
 }
 
@@ -37,12 +37,9 @@ constexpr double kLeastEdge = kOverlayGrid / 2;
 
 Ring withoutShortEdges(Ring ring)
 {
-    const auto near = [](const CVec2<double> &a, const CVec2<double> &b) {
+    dropRepeats(ring, [](const CVec2<double> &a, const CVec2<double> &b) {
         return (b - a).SqrLength() < kLeastEdge * kLeastEdge;
-    };
-    ring.erase(std::unique(ring.begin(), ring.end(), near), ring.end());
-    while (ring.size() > 1 && near(ring.front(), ring.back()))
-        ring.pop_back();
+    });
     return ring;
 }
 
@@ -54,8 +51,8 @@ Ring withoutFlatCorners(const Ring &ring)
         const CVec2<double> &before = result.empty() ? ring.back() : result.back();
         const CVec2<double> way = ring[(i + 1) % ring.size()] - before;
         const CVec2<double> step = ring[i] - before;
-        const bool flat = std::fabs(way.Cross(step)) <= g_DefaultDistEpsilon * std::sqrt(way.SqrLength()) &&
-                          way.Dot(step) > 0.0 && way.Dot(step) < way.SqrLength();
+        const bool flat = std::fabs(way.Cross(step)) <= g_DefaultDistEpsilon * way.Length() && way.Dot(step) > 0.0 &&
+                          way.Dot(step) < way.SqrLength();
         if (!flat)
             result.push_back(ring[i]);
     }

@@ -39,7 +39,7 @@ bool isConvex(const CPolygon &polygon)
 {
     if (polygon.LoopCount() != 1)
         return false;
-    const auto &curves = polygon.GetLoop(0)->Curves();
+    const auto &curves = polygon.Loops().front()->Curves();
     if (std::any_of(curves.begin(), curves.end(), [](const auto &curve) { return curve->Type() != CCurve2d::kLine; }))
         return false;
     bool turns[2] = {}; // right, left
@@ -64,11 +64,10 @@ bool crossesItself(const CPolygon &polygon)
 
 template <typename Test> bool anyCurve(const CPolygon &polygon, Test test)
 {
-    for (int i = 0; i < polygon.LoopCount(); ++i) {
-        const auto &curves = polygon.GetLoop(i)->Curves();
-        if (std::any_of(curves.begin(), curves.end(), [&test](const CRefPtr<CCurve2d> &curve) { return test(*curve); }))
-            return true;
-    }
+    for (const auto &loop : polygon.Loops())
+        for (const auto &curve : loop->Curves())
+            if (test(*curve))
+                return true;
     return false;
 }
 
@@ -136,13 +135,8 @@ private:
     /** Box of the points that can meet the demands. */
     static CBox2<double> rangeOf(const Demand &first, const Demand &second)
     {
-        CBox2<double> box = first.polygon.Box().Grown(-first.clearance);
-        if (second.inside) {
-            const CBox2<double> other = second.polygon.Box().Grown(-second.clearance);
-            box.minPt = {std::max(box.minPt.x, other.minPt.x), std::max(box.minPt.y, other.minPt.y)};
-            box.maxPt = {std::min(box.maxPt.x, other.maxPt.x), std::min(box.maxPt.y, other.maxPt.y)};
-        }
-        return box;
+        const CBox2<double> box = first.polygon.Box().Grown(-first.clearance);
+        return second.inside ? box.Common(second.polygon.Box().Grown(-second.clearance)) : box;
     }
 
     bool isMetBy(const Point &point) const
@@ -195,12 +189,12 @@ public:
 
 private:
     /** Number of loops of a polygon that lie inside another one, no boundary of which comes near. */
-    static int loopsInside(const CPolygon &loops, const CPolygon &polygon)
+    static int loopsInside(const CPolygon &inner, const CPolygon &outer)
     {
-        int count = 0;
-        for (int i = 0; i < loops.LoopCount(); ++i)
-            count += polygon.Locate(loops.GetLoop(i)->GetCurve(0)->StartPoint(), 0.0) > 0;
-        return count;
+        const auto isInside = [&outer](const CRefPtr<CLoop> &loop) {
+            return outer.Locate(loop->Curves().front()->StartPoint(), 0.0) > 0;
+        };
+        return static_cast<int>(std::count_if(inner.Loops().begin(), inner.Loops().end(), isInside));
     }
 
     /** Boundaries clear of each other need their loops counted only. Overlap stands for what that does not settle. */

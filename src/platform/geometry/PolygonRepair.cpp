@@ -22,23 +22,15 @@ CRefPtr<CPolygon> polygonOf(const Loops &loops)
     return polygon;
 }
 
-Loops loopsOf(const CPolygon &polygon)
-{
-    Loops loops;
-    for (int i = 0; i < polygon.LoopCount(); ++i)
-        loops.emplace_back(polygon.GetLoop(i));
-    return loops;
-}
-
 Loops cleaned(const CPolygon &polygon, const CleaningTolerance &tolerance)
 {
     std::size_t vertexCount = 0;
-    for (int i = 0; i < polygon.LoopCount(); ++i)
-        vertexCount += 2 * polygon.GetLoop(i)->Curves().size();
+    for (const CRefPtr<CLoop> &loop : polygon.Loops())
+        vertexCount += 2 * loop->Curves().size();
     RingWeld weld(vertexCount, tolerance.distance, 0.0);
     Loops loops;
-    for (int i = 0; i < polygon.LoopCount(); ++i) {
-        const Loops parts = cleanedLoops(*polygon.GetLoop(i), weld, tolerance);
+    for (const CRefPtr<CLoop> &loop : polygon.Loops()) {
+        const Loops parts = cleanedLoops(*loop, weld, tolerance);
         loops.insert(loops.end(), parts.begin(), parts.end());
     }
     return loops;
@@ -84,7 +76,7 @@ Loops takenApart(const Loops &loops, const CleaningTolerance &tolerance)
         return clear;
     Loops result = cleaned(*area, tolerance);
     if (cross(result))
-        result = loopsOf(*area);
+        result = area->Loops();
     result.insert(result.end(), clear.begin(), clear.end());
     return result;
 }

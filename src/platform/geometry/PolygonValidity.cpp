@@ -20,12 +20,11 @@ template <typename Test> bool everyCurve(const std::vector<CRefPtr<CLoop>> &loop
 
 } // namespace
 
-bool PolygonValidity::passes(unsigned mask)
+bool PolygonValidity::passes() const
 {
-    m_mask = mask;
     struct Check
     {
-        unsigned bit;
+        CPolygon::EnValidity bit;
         bool (PolygonValidity::*passed)() const;
     };
     constexpr Check checks[] = {
@@ -37,7 +36,7 @@ bool PolygonValidity::passes(unsigned mask)
         {CPolygon::kHolesInside, &PolygonValidity::hasHolesInside},
     };
     return isFinite() && std::all_of(std::begin(checks), std::end(checks), [&](const Check &check) {
-               return (mask & check.bit) == 0 || (this->*check.passed)();
+               return !asksFor(check.bit) || (this->*check.passed)();
            });
 }
 
@@ -71,7 +70,7 @@ bool PolygonValidity::hasNoCrossing() const { return !edgesCross(m_loops, g_Dist
 bool PolygonValidity::hasHolesInside() const
 {
     // Where crossings are asked for, too, that check has been passed by now.
-    if ((m_mask & CPolygon::kNoCrossing) == 0 && loopsCross(m_loops, g_DistEpsilon))
+    if (!asksFor(CPolygon::kNoCrossing) && loopsCross(m_loops, g_DistEpsilon))
         return false;
     const std::vector<int> depths = loopDepths(m_loops);
     return depths.empty() ||
@@ -80,11 +79,8 @@ bool PolygonValidity::hasHolesInside() const
 
 bool PolygonValidity::hasArea() const
 {
-    CPolygon polygon;
-    for (const auto &loop : m_loops)
-        polygon.AddLoop(loop, true);
     // As thin as the tolerance all along is no area: rounding alone makes as much of a long edge there and back.
-    return polygon.Area() > g_DistEpsilon * polygon.Perimeter() / 2;
+    return m_polygon.Area() > g_DistEpsilon * m_polygon.Perimeter() / 2;
 }
 
 } // namespace vks

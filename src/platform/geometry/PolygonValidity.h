@@ -10,12 +10,16 @@ namespace vks {
 class PolygonValidity
 {
 public:
-    explicit PolygonValidity(const std::vector<CRefPtr<CLoop>> &loops) : m_loops(loops) {}
+    /** @param polygon  not owned, and not to change meanwhile
+     *  @param mask     what to check, by bit (CPolygon::EnValidity) */
+    PolygonValidity(const CPolygon &polygon, unsigned mask) : m_polygon(polygon), m_loops(polygon.Loops()), m_mask(mask)
+    {}
 
-    /** True when the geometry is finite and every check that a bit of the mask names is passed. */
-    bool passes(unsigned mask);
+    /** True when the geometry is finite and every check that the mask names is passed. */
+    bool passes() const;
 
 private:
+    bool asksFor(CPolygon::EnValidity check) const { return (m_mask & check) != 0; }
     bool isFinite() const;
     bool isNotEmpty() const;
     bool isClosed() const;
@@ -24,8 +28,9 @@ private:
     bool hasHolesInside() const;
     bool hasArea() const;
 
+    const CPolygon &m_polygon;
     const std::vector<CRefPtr<CLoop>> &m_loops;
-    unsigned m_mask = 0;
+    unsigned m_mask;
 };
 
 } // namespace vks

@@ -1,5 +1,6 @@
 #include "platform/geometry/RayCrossings.h"
 
+#include "platform/geometry/Angle.h"
 #include "platform/geometry/CArc2d.h"
 #include "platform/geometry/CLoop.h"
 
@@ -8,8 +9,6 @@
 namespace vks {
 
 namespace {
-
-constexpr double kPi = 3.14159265358979323846;
 
 /** Counts crossings of the ray with pieces that only rise or only fall. */
 class RayCounter
@@ -74,8 +73,7 @@ bool crossesRayOddly(const CLoop &loop, const CVec2<double> &point)
     for (std::size_t i = 0; i < curves.size(); ++i) {
         const CCurve2d &curve = *curves[i];
         const CVec2<double> end = curve.EndPoint();
-        const auto *arc = curve.Type() == CCurve2d::kArc ? static_cast<const CArc2d *>(&curve) : nullptr;
-        if (arc && !arc->IsFlat())
+        if (const CArc2d *arc = CArc2d::RoundArc(curve))
             addArc(counter, *arc);
         else
             counter.addLine(curve.StartPoint(), end);

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "platform/geometry/GeosContext.h"
+#include "ORVCADPlatformExport.h"
+#include "platform/geometry/Ring.h"
 
 namespace vks {
 

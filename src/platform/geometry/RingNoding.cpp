@@ -31,8 +31,7 @@ CBox2<double> rangeOf(const std::vector<std::vector<Ring>> &polygons)
         if (polygons.size() > 2)
             range.Add(box);
         else
-            range = {{std::max(range.minPt.x, box.minPt.x), std::max(range.minPt.y, box.minPt.y)},
-                     {std::min(range.maxPt.x, box.maxPt.x), std::min(range.maxPt.y, box.maxPt.y)}};
+            range = range.Common(box);
     }
     return range;
 }
@@ -52,7 +51,7 @@ std::vector<Point> cornersFromLeft(const std::vector<std::vector<Ring>> &polygon
 void appendNodes(const Point &start, const Point &end, const std::vector<Point> &corners, double tolerance, Ring &ring)
 {
     const Point way = end - start;
-    const double length = std::sqrt(way.SqrLength());
+    const double length = way.Length();
     if (!(length > 2 * tolerance))
         return;
     const double low = std::min(start.y, end.y) - tolerance;

@@ -3,6 +3,7 @@
 #include "platform/host/IHBXModel.h"
 
 #include <string>
+#include <utility>
 
 /** Bracket around changes of a model, closed on every way out. */
 class HBXBatch

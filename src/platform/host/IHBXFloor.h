@@ -9,7 +9,7 @@
 class IHBXElementDrawObj;
 class IHBXRegion;
 
-/** A storey of a region. Elevations and height are metres above the building's zero. */
+/** A floor of a region. Elevations and height are metres above the building's zero. */
 class ORVCADPLATFORM_EXPORT IHBXFloor
 {
 public:
@@ -21,7 +21,7 @@ public:
     virtual QString name() const = 0;
     virtual double bottomElev() const = 0;
     virtual double height() const = 0;
-    /** Number of storeys that this floor stands for. */
+    /** Number of equal floors of the building that this one stands for. */
     virtual int standardFloorCount() const = 0;
     /** bottomElev plus height. */
     virtual double topElev() const = 0;

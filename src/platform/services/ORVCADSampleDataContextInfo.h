@@ -19,7 +19,7 @@ public:
      *  defaults told below. */
     explicit ORVCADSampleDataContextInfo(IHBXService *service);
 
-    /** Number of storeys that the floor stands for; 0 without a floor. */
+    /** IHBXFloor::standardFloorCount; 0 without a floor. */
     int standardFloorCount() const { return m_standardFloorCount; }
     /** Top of the floor above the building's zero, m; 0 without a floor. */
     double topElev() const { return m_topElev; }

@@ -7,7 +7,7 @@ namespace {
 class JsonWall2HBXTest : public WallWritingFixture
 {
 protected:
-    int elementCount() const { return service()->model()->elements()->count(); }
+    int elementCount() const { return model().elements()->count(); }
 };
 
 TEST_F(JsonWall2HBXTest, replyWithoutItsKeyCreatesNothingAndGivesFalse)

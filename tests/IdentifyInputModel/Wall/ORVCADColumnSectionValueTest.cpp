@@ -30,6 +30,7 @@ TEST_F(ORVCADColumnSectionValueTest, withoutAValueOrAPropertyTheTextIsEmpty)
     EXPECT_EQ(textOf(""), "");
     EXPECT_EQ(textOf(R"("SectionTypeID": null)"), "");
     EXPECT_EQ(textOf("", L"NoSuchProperty"), "");
+    EXPECT_EQ(ORVCADColumnSectionValue().sectionText(nullptr), "");
 }
 
 TEST_F(ORVCADColumnSectionValueTest, isOneOfTheHostsPropertyTexts)

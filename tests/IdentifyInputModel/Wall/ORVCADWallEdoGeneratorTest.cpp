@@ -354,7 +354,7 @@ TEST_F(ORVCADWallEdoGeneratorTest, elementWhoseNameIsRefusedStaysAndItsPiecesAre
     EXPECT_TRUE(generateBrick(service()));
     EXPECT_EQ(record->entName, L"");
     EXPECT_EQ(placedNames(1003), (QStringList{"Q2"}));
-    EXPECT_EQ(service()->model()->elements()->count(), 2);
+    EXPECT_EQ(model().elements()->count(), 2);
 }
 
 /** A step that the host refuses the first time, in the middle of two walls of two pieces. */

@@ -30,7 +30,7 @@ class ORVCADWallInputModelConvertionTest : public WallReadingFixture
 protected:
     Reading reading(dwgx::DWGXBaseOptions *options = nullptr) const
     {
-        return {floor()->id(), options, model(), EORVCADIdentifyType(3)};
+        return {floor()->id(), options, &model(), EORVCADIdentifyType(3)};
     }
     std::list<ORVCADCloudEntBrickWallStruct> bricks() const
     {
@@ -339,7 +339,7 @@ TEST_F(ORVCADWallInputModelConvertionTest, hostIsAskedOncePerTypeAndFloor)
 TEST_F(ORVCADWallInputModelConvertionTest, unknownFloorAndMissingModelHaveNothing)
 {
     open(element("Q1", 1003, 0, "", piece("0 0, 5000 0")) + "," + element("KZ1", 25, 3, "", column()));
-    for (IHBXModel *host : {model(), static_cast<IHBXModel *>(nullptr)}) {
+    for (IHBXModel *host : {&model(), static_cast<IHBXModel *>(nullptr)}) {
         const Reading of(4711, nullptr, host, EORVCADIdentifyType(0));
         std::list<ORVCADCloudEntBrickWallStruct> walls;
         Reading::ModelLines lines;

@@ -3,8 +3,7 @@
 #include "IdentifyInputModel/Wall/ORVCADInputModelSerialization.h"
 #include "encoding/ORVCADJsonFileSerialization.h"
 #include "encoding/ORVCADXmlFileSerialization.h"
-#include "platform/geometry/CLine2d.h"
-#include "platform/geometry/CLoop.h"
+#include "geometry/KernelShapes.h"
 
 #include <gtest/gtest.h>
 
@@ -17,16 +16,7 @@ inline vks::CRefPtr<vks::CCurve2d> line(double x1, double y1, double x2, double 
 }
 
 /** A square of 400 mm with its lower left corner at the origin: "0,0;400,0;400,400;0,400;". */
-inline vks::CRefPtr<vks::CPolygon> square()
-{
-    const vks::CVec2<double> corners[] = {{0, 0}, {400, 0}, {400, 400}, {0, 400}};
-    auto *loop = new vks::CLoop();
-    for (int i = 0; i < 4; ++i)
-        loop->AddCurve(new vks::CLine2d(corners[i], corners[(i + 1) % 4]), false);
-    vks::CRefPtr<vks::CPolygon> polygon = new vks::CPolygon();
-    polygon->AddLoop(loop, true);
-    return polygon;
-}
+inline vks::CRefPtr<vks::CPolygon> square() { return shapes::rectangle(0, 0, 400, 400); }
 
 inline QByteArray compact(const QJsonObject &json) { return QJsonDocument(json).toJson(QJsonDocument::Compact); }
 

@@ -5,16 +5,8 @@ namespace {
 using namespace wallbatch;
 using WallOverlapTest = WallGeneratorFixture;
 
-vks::CRefPtr<vks::CPolygon> box(double x1, double y1, double x2, double y2)
-{
-    const vks::CVec2<double> corners[] = {{x1, y1}, {x2, y1}, {x2, y2}, {x1, y2}};
-    auto *loop = new vks::CLoop();
-    for (int i = 0; i < 4; ++i)
-        loop->AddCurve(new vks::CLine2d(corners[i], corners[(i + 1) % 4]), false);
-    vks::CRefPtr<vks::CPolygon> polygon = new vks::CPolygon();
-    polygon->AddLoop(loop, true);
-    return polygon;
-}
+/** The outline of the wall from the origin to (5000, 0), 200 wide. */
+vks::CRefPtr<vks::CPolygon> outline() { return shapes::rectangle(0, -100, 5000, 200); }
 
 struct OverlapCase
 {
@@ -33,7 +25,8 @@ TEST_P(CollectOverlapsTest, comparesAPieceWithAWallFromOriginTo5000Of200Width)
     const OverlapCase &given = GetParam();
     IdentifyResultData data;
     if (given.outline[2] > given.outline[0])
-        data.sPolys = box(given.outline[0], given.outline[1], given.outline[2], given.outline[3]);
+        data.sPolys = shapes::rectangle(given.outline[0], given.outline[1], given.outline[2] - given.outline[0],
+                                        given.outline[3] - given.outline[1]);
     if (given.axis[2] != given.axis[0] || given.axis[3] != given.axis[1])
         data.sWorldLine = line(given.axis[0], given.axis[1], given.axis[2], given.axis[3]);
     add(brickWall(), {IdentifyResultData(), data});
@@ -58,7 +51,7 @@ TEST_F(WallOverlapTest, overlapsAreLookedForAmongBrickWallsOfTheFloorAlone)
 {
     load(wall("W1", 0, "0 0, 5000 0"));
     IdentifyResultData data = piece();
-    data.sPolys = box(0, -100, 5000, 100);
+    data.sPolys = outline();
     add(brickWall(), {data});
     const RecordingHost host(*service());
     IHBXFloor *floor = host.service()->model()->regions()->find("House")->floors()->findByCode("1");
@@ -70,7 +63,7 @@ TEST_F(WallOverlapTest, brickObjectThatHasNoGeometryIsNoOverlap)
 {
     load(R"({"name": "Q1", "type": 1003, "drawObjects": [{"shape": {"kind": "line", "axis": null, "width": 200}}]})");
     IdentifyResultData data = piece();
-    data.sPolys = box(0, -100, 5000, 100);
+    data.sPolys = outline();
     add(brickWall(), {data});
     EXPECT_FALSE(generator(service()).collectOverlaps(*floor(), bricks));
 }
@@ -80,7 +73,7 @@ TEST_F(WallOverlapTest, overlapsAreRemovedBetweenTheBracketsOfABatch)
     load(wall("Q1", 1003, "0 0, 5000 0") + "," + wall("Q2", 1003, "0 3000, 5000 3000") + "," +
          wall("Q3", 1003, "1000 0, 9000 0"));
     IdentifyResultData data = piece();
-    data.sPolys = box(0, -100, 5000, 100);
+    data.sPolys = outline();
     add(brickWall(), {data});
     const RecordingHost host(*service());
     IHBXFloor *floor = host.service()->model()->regions()->find("House")->floors()->findByCode("1");

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "doorwindow/OpeningFixture.h"
 #include "platform/embedded/HBXModelStore.h"
+#include "support/HouseFixture.h"
 
 /** A host with one floor and the walls, axes and columns that a test puts onto it. */
-class WallReadingFixture : public OpeningFixture
+class WallReadingFixture : public HouseFixture
 {
 protected:
     /** An element as the exchange file has it, with what stands in its draw objects. */
@@ -38,7 +38,6 @@ protected:
         project->store().setMaterials({{1, "C30"}, {2, "MU10"}});
         project->makeCurrent();
     }
-    IHBXModel *model() const { return service()->model(); }
     IHBXElementDrawObj *onlyPlaced(qint64 type) const
     {
         const QList<IHBXElementDrawObj *> objects = placed(type);

@@ -35,7 +35,7 @@ protected:
     {
         return loadORVCADWallEdoIdentifyResStructFromHbx(240, L"Q7", object, &result);
     }
-    using OpeningFixture::load;
+    using HouseFixture::load;
 };
 
 TEST_F(WallStructsFromHbxTest, brickWallIsReadFromTheNamesThatRepliesAreWrittenTo)

@@ -5,14 +5,14 @@
 #include "IdentifyInputModel/Wall/ORVCADWallForceDataOutputModel.h"
 #include "IdentifyInputModel/Wall/WallFixture.h"
 #include "IdentifyInputModel/Wall/WallReplyText.h"
-#include "doorwindow/OpeningFixture.h"
 #include "platform/host/IHBXCustomLineSolidShape.h"
+#include "support/HouseFixture.h"
 #include "support/RecordingHost.h"
 
 #include <vector>
 
 /** A host with one floor, and walls to write into it as records and as replies. */
-class WallWritingFixture : public OpeningFixture
+class WallWritingFixture : public HouseFixture
 {
 protected:
     using Brick = ORVCADCloudEntBrickWallStruct;

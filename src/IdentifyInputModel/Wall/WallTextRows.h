@@ -1,0 +1,44 @@
+#pragma once
+
+#include "IdentifyInputModel/Wall/IdentifyResultData.h"
+#include "IdentifyInputModel/Wall/ORVCADCloudEntBrickWallStruct.h"
+#include "IdentifyInputModel/Wall/ORVCADCloudEntForceWallStruct.h"
+#include "IdentifyInputModel/Wall/WallHostKeys.h"
+
+/** Which text properties of the host belong to which fields. */
+namespace wall {
+
+template <typename Record> struct TextRow
+{
+    const std::wstring &name;
+    std::wstring Record::*member;
+};
+
+// clang-format off
+/** Bars of brick walls as the host keeps them. Meant: replies are written to other properties, those of the next list. */
+inline constexpr TextRow<ORVCADCloudEntBrickWallStruct> kBrickBars[] = {
+    {property::throughBar,    &ORVCADCloudEntBrickWallStruct::throughBar},
+    {property::transverseBar, &ORVCADCloudEntBrickWallStruct::transverseBar},
+};
+inline constexpr TextRow<ORVCADCloudEntBrickWallStruct> kBrickBarsOfReplies[] = {
+    {property::vertDistributionBar, &ORVCADCloudEntBrickWallStruct::throughBar},
+    {property::horiDistributionBar, &ORVCADCloudEntBrickWallStruct::transverseBar},
+};
+
+/** Bars of load-bearing walls, as the host keeps them and as replies are written. */
+inline constexpr TextRow<ORVCADCloudEntForceWallStruct> kForceBars[] = {
+    {property::tieBar,              &ORVCADCloudEntForceWallStruct::tieBar},
+    {property::vertDistributionBar, &ORVCADCloudEntForceWallStruct::vreBar},
+    {property::horiDistributionBar, &ORVCADCloudEntForceWallStruct::hreBar},
+};
+
+/** Elevations of placed walls, in the order of writing. */
+inline constexpr TextRow<IdentifyResultData> kElevations[] = {
+    {property::startBottomElev, &IdentifyResultData::sPfnStartPtBottomElev},
+    {property::endBottomElev,   &IdentifyResultData::sPfnEndPtBottomElev},
+    {property::startTopElev,    &IdentifyResultData::sPfnStartPtTopElev},
+    {property::endTopElev,      &IdentifyResultData::sPfnEndPtTopElev},
+};
+// clang-format on
+
+} // namespace wall

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+namespace orvcad {
+
+/** A number and its thing: "1 door", "2 doors".
+ *  @param singular  a word that takes an s */
+QString counted(int number, const QString &singular);
+
+} // namespace orvcad

@@ -1,0 +1,92 @@
+#include "cli/SeatReplyCheck.h"
+
+#include "beam/BeamIdentifyInput.h"
+#include "beam/BeamKeys.h"
+#include "cli/FloorLookup.h"
+#include "cli/MemberKinds.h"
+#include "cli/TypeTitles.h"
+#include "platform/geometry/KernelTolerance.h"
+
+using namespace beam;
+
+namespace orvcad {
+
+namespace {
+
+using Seat = ORVBeamSDCSeatInfoModel;
+
+const QStringList kSeatWhole{key::elementType, key::elementSubType, key::sectionWidth, key::sectinoHeight, key::height};
+const QStringList kSeatRequired{key::entName, key::elementType, key::floorName, key::regionName};
+
+/** A seat stands where its outline is, a tie beam where its centre line is. */
+QString whyNotPlace(const Seat &seat)
+{
+    if (seat.seatElementType != type::tieBeam)
+        return seat.ipWorldPoly ? QString() : QStringLiteral("%1 is no outline").arg(key::worldPoly);
+    if (!seat.ipCenterLine)
+        return QStringLiteral("%1 is no curve").arg(key::centerLine);
+    return seat.ipCenterLine->Length() > vks::g_DistEpsilon ? QString()
+                                                            : QStringLiteral("%1 has no length").arg(key::centerLine);
+}
+
+QString whyNotType(int elementType, const ReplyArray &array)
+{
+    return elementType == array.elementType
+               ? QString()
+               : QStringLiteral("type %1 is no %2").arg(elementType).arg(typeTitle(array.elementType));
+}
+
+} // namespace
+
+const std::vector<ReplyArray> &seatArrays()
+{
+    static const std::vector<ReplyArray> arrays{{key::isolatedFoundations, type::isolatedFoundation},
+                                                {key::pileCaps, type::pileCap},
+                                                {key::piles, type::pile},
+                                                {key::tieBeams, type::tieBeam}};
+    return arrays;
+}
+
+SeatReplyCheck::SeatReplyCheck(IHBXModel &model, const QJsonObject &reply, const QString &file) : m_model(model)
+{
+    forEachMember(reply, file, seatArrays(), QStringLiteral("document of seats"),
+                  [&](const ReplyArray &array, const QString &place, const QJsonValue &member) {
+                      ++m_memberCount;
+                      look(place, member, array);
+                  });
+}
+
+void SeatReplyCheck::look(const QString &place, const QJsonValue &value, const ReplyArray &array)
+{
+    const QJsonObject member = value.toObject();
+    const QString reason = whyNot(value, array);
+    if (!reason.isEmpty()) {
+        m_leftOut.push_back({place, member.value(key::entName).toString(), reason});
+        return;
+    }
+    m_sound.push_back({place, std::make_shared<Seat>()});
+    m_sound.back().seat->fromJson(member);
+}
+
+QString SeatReplyCheck::whyNot(const QJsonValue &value, const ReplyArray &array) const
+{
+    const QJsonObject member = value.toObject();
+    if (!value.isObject())
+        return QStringLiteral("is no object");
+    static const QJsonObject pattern = Seat().toJson();
+    QString reason = wrongKey(member, pattern, kSeatWhole, kSeatRequired);
+    if (reason.isEmpty())
+        reason = whyNotType(member.value(key::elementType).toInt(), array);
+    if (reason.isEmpty() && member.value(key::entName).toString().isEmpty())
+        reason = QStringLiteral("has no name");
+    if (reason.isEmpty())
+        floorOfNames(m_model, member.value(key::regionName).toString(), member.value(key::floorName).toString(),
+                     reason);
+    if (!reason.isEmpty())
+        return reason;
+    Seat seat;
+    seat.fromJson(member);
+    return whyNotPlace(seat);
+}
+
+} // namespace orvcad

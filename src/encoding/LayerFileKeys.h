@@ -1,0 +1,12 @@
+#pragma once
+
+#include "encoding/RecordKey.h"
+
+/** Names in the layer files that drawing analysis writes: layers, each with a list of objects that hold an id. */
+namespace encoding::layerfile {
+
+constexpr QLatin1String layerName = "LayerName"_key;
+constexpr QLatin1String edoIdList = "EdoIDList"_key;
+constexpr QLatin1String edoId = "EdoID"_key;
+
+} // namespace encoding::layerfile

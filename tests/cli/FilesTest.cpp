@@ -1,0 +1,82 @@
+#include "cli/Files.h"
+
+#include "CommandFailures.h"
+#include "TestFiles.h"
+
+using clitest::failureOf;
+using namespace orvcad;
+
+namespace {
+
+using FilesTest = TestFiles;
+
+TEST_F(FilesTest, fileIsReadWhole)
+{
+    EXPECT_EQ(readFile(fileOf("a.bin", QByteArray("a\0b\r\n", 5))), QByteArray("a\0b\r\n", 5));
+}
+
+TEST_F(FilesTest, fileThatCannotBeReadIsNamed)
+{
+    const std::string missing = path("none.json").toStdString();
+    EXPECT_EQ(failureOf([&] { readFile(path("none.json")); }), missing + ": No such file or directory");
+    EXPECT_EQ(failureOf([&] { readFile(path(".")); }), path(".").toStdString() + ": is a directory");
+}
+
+TEST_F(FilesTest, fileThatIsNoJsonIsToldWithLineAndColumn)
+{
+    const QString file = fileOf("a.json", "{\n  \"a\": 1,\n  \"b\" 2\n}");
+    EXPECT_EQ(failureOf([&] { readJsonFile(file); }),
+              file.toStdString() + ": line 3, column 8: not JSON: missing name separator");
+    const QString first = fileOf("b.json", "{7}");
+    EXPECT_EQ(failureOf([&] { readJsonFile(first); }).find(first.toStdString() + ": line 1, column "), 0U);
+}
+
+TEST_F(FilesTest, emptyFileIsToldAsSuch)
+{
+    const QString file = fileOf("a.json", " \n\t");
+    EXPECT_EQ(failureOf([&] { readJsonFile(file); }), file.toStdString() + ": the file is empty");
+}
+
+TEST_F(FilesTest, documentThatIsNoObjectIsRefusedByItsName)
+{
+    EXPECT_EQ(readJsonObject(fileOf("a.json", R"({"a": 1})"), "floors document"), (QJsonObject{{"a", 1}}));
+    const QString file = fileOf("b.json", "[]");
+    EXPECT_EQ(failureOf([&] { readJsonObject(file, "floors document"); }),
+              file.toStdString() + ": no floors document: its top is no object");
+}
+
+TEST_F(FilesTest, resultGoesIntoItsFileAndNothingIsLeftBesideIt)
+{
+    EXPECT_FALSE(writeResult(fileOf("a.txt", "old content"), QByteArray("new")));
+    EXPECT_EQ(clitest::fileContent(path("a.txt")), "new");
+    EXPECT_FALSE(writeResult(path("a.json"), QJsonObject{{"b", 1}}));
+    EXPECT_EQ(clitest::fileContent(path("a.json")), "{\n    \"b\": 1\n}\n");
+    EXPECT_EQ(QDir(path(".")).entryList(QDir::Files | QDir::Hidden), (QStringList{"a.json", "a.txt"}));
+}
+
+TEST_F(FilesTest, resultWithoutAFileGoesToStandardOutput)
+{
+    for (const char *standardOutput : {"", "-"}) {
+        ::testing::internal::CaptureStdout();
+        EXPECT_TRUE(writeResult(standardOutput, QByteArray("bytes")));
+        EXPECT_EQ(::testing::internal::GetCapturedStdout(), "bytes");
+    }
+}
+
+TEST_F(FilesTest, resultThatCannotBeWrittenIsNamed)
+{
+    const QString nowhere = path("no/such/directory.json");
+    EXPECT_EQ(
+        failureOf([&] { writeResult(nowhere, QByteArray("x")); }).find(nowhere.toStdString() + ": cannot be written: "),
+        0U);
+}
+
+TEST_F(FilesTest, directoryIsMadeForAPath)
+{
+    EXPECT_EQ(fileIn(path("a/b"), "c.json"), path("a/b/c.json"));
+    EXPECT_TRUE(QDir(path("a/b")).exists());
+    const QString file = fileOf("taken", "x");
+    EXPECT_EQ(failureOf([&] { fileIn(file, "c.json"); }), file.toStdString() + ": the directory cannot be made");
+}
+
+} // namespace
