@@ -10,7 +10,7 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const fuzz::FuzzFile file(QStringLiteral("fuzzed.cadi2"), fuzz::bytesOf(data, size));
-    const std::unique_ptr<HBXCADIOperator> reader(HBXCADFileHelper().createCADIOperator());
+    const std::unique_ptr<HBXCADIOperator> reader(HBXCADFileHelper::getInstance()->createCADIOperator());
     const std::unique_ptr<dwgx::DWGXModel> model(dwgx::DWGXModel::createObject());
     if (!reader->read(file.path(), model.get())) {
         fuzz::require(!reader->lastErrorReason().isEmpty(), "what is refused has a reason");

@@ -1,6 +1,7 @@
 #include "cli/Files.h"
 
 #include "cli/Command.h"
+#include "cli/StrictJsonText.h"
 
 #include <QDir>
 #include <QFile>
@@ -41,6 +42,12 @@ QByteArray readFile(const QString &path)
     return file.readAll();
 }
 
+void requireStrictJson(const QByteArray &text, const QString &path)
+{
+    if (const auto fault = firstTextFault(text))
+        throw CommandFailure(kBadInput, path, fault->place(), fault->reason);
+}
+
 QJsonDocument readJsonFile(const QString &path)
 {
     const QByteArray bytes = readFile(path);
@@ -51,6 +58,7 @@ QJsonDocument readJsonFile(const QString &path)
     if (error.error != QJsonParseError::NoError)
         throw CommandFailure(kBadInput, path, lineAndColumn(bytes, error.offset),
                              QStringLiteral("not JSON: ") + error.errorString());
+    requireStrictJson(bytes, path);
     return document;
 }
 

@@ -9,7 +9,10 @@ namespace orvcad {
 
 /** All bytes of a file; throws CommandFailure when it is missing or cannot be read. */
 QByteArray readFile(const QString &path);
-/** A JSON document of a file; throws CommandFailure with line and column when it is none. */
+/** Throws CommandFailure with line, column and reason for a JSON text that the library would not read as it stands: see
+ *  StrictJsonText.h. The path is only told. */
+void requireStrictJson(const QByteArray &text, const QString &path);
+/** A JSON document of a file; throws CommandFailure with line and column when it is none, or none by the letter. */
 QJsonDocument readJsonFile(const QString &path);
 /** The object that a JSON file holds; throws CommandFailure, also when its top is no object.
  *  @param what  the document that is expected, for the reason: "floors document" */

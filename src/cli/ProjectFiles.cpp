@@ -1,6 +1,7 @@
 #include "cli/ProjectFiles.h"
 
 #include "cli/Command.h"
+#include "cli/Files.h"
 
 using hbx::embedded::HBXProject;
 using hbx::embedded::ProjectError;
@@ -27,8 +28,9 @@ std::unique_ptr<HBXProject> required(std::unique_ptr<HBXProject> project, const 
 std::unique_ptr<HBXProject> projectOfBuilding(const QByteArray &building, const QString &file)
 {
     ProjectError error;
-    auto project = HBXProject::fromJson(building, file, error);
-    return required(std::move(project), error);
+    auto project = required(HBXProject::fromJson(building, file, error), error);
+    requireStrictJson(building, file);
+    return project;
 }
 
 std::unique_ptr<HBXProject> openProject(const QString &path)

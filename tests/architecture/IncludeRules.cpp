@@ -42,6 +42,7 @@ struct LibraryPrefix
 constexpr LibraryPrefix kLibraryPrefixes[] = {
     {"boost/", "Boost"},
     {"CLI/", "CLI11"},
+    {"rapidjson/", "RapidJSON"},
     {"double-conversion/", "number text"},
     {"fast_float/", "number text"},
     {"geos_c.h", "GEOS"},
@@ -146,7 +147,7 @@ const std::vector<FolderRule> &folderRules()
         {"ModelSerialization", record + kElements, {"Qt"}},
         {"cli",
          record + kElements + Names{"platform/embedded", "foundation", "drawing", "ModelSerialization"},
-         {"Qt", "CLI11", "system"}},
+         {"Qt", "CLI11", "RapidJSON", "system"}},
     };
     return rules;
 }

@@ -168,6 +168,7 @@ TEST(IncludeRulesTest, libraryIsToldFromTheHeadersName)
     EXPECT_EQ(libraryOf("double-conversion/double-conversion.h"), "number text");
     EXPECT_EQ(libraryOf("fast_float/fast_float.h"), "number text");
     EXPECT_EQ(libraryOf("CLI/CLI.hpp"), "CLI11");
+    EXPECT_EQ(libraryOf("rapidjson/reader.h"), "RapidJSON");
     EXPECT_EQ(libraryOf("zip.h"), "libzip");
     EXPECT_EQ(libraryOf("Stranger.hpp"), "");
     EXPECT_THAT(reasons("beam/A.cpp", "#include <Stranger.hpp>\n"),

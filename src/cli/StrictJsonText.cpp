@@ -1,0 +1,108 @@
+#include "cli/StrictJsonText.h"
+
+#include <rapidjson/error/en.h>
+#include <rapidjson/memorystream.h>
+#include <rapidjson/reader.h>
+
+#include <cmath>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace orvcad {
+
+namespace {
+
+constexpr char kByteOrderMark[] = "\xEF\xBB\xBF";
+
+/** 2^53: below it every whole number is a double. */
+constexpr double kWholeToHere = 9007199254740992.0;
+
+bool isWhole(const std::string &number) { return number.find_first_of(".eE") == std::string::npos; }
+
+/** Whether a double has the digits of a whole number beyond 2^53. */
+bool survives(const std::string &number, double value)
+{
+    return std::fabs(value) < kWholeToHere || QByteArray::number(value, 'f', 0) == QByteArray::fromStdString(number);
+}
+
+/** What the reader meets, one call after the other; the first false ends it. */
+class Look : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Look>
+{
+public:
+    bool Default() { return true; }
+
+    bool RawNumber(const char *text, rapidjson::SizeType length, bool /*copied*/)
+    {
+        const std::string number(text, length);
+        const double value = QByteArray::fromStdString(number).toDouble();
+        if (!std::isfinite(value))
+            return refuse(QStringLiteral("the number %1 is too large").arg(QString::fromStdString(number)));
+        if (isWhole(number) && !survives(number, value))
+            return refuse(QStringLiteral("the number %1 would be read as %2")
+                              .arg(QString::fromStdString(number), QString::number(value, 'f', 0)));
+        return true;
+    }
+
+    bool StartObject()
+    {
+        m_names.emplace_back();
+        return true;
+    }
+
+    bool Key(const char *text, rapidjson::SizeType length, bool /*copied*/)
+    {
+        const std::string name(text, length);
+        return m_names.back().insert(name).second ||
+               refuse(QStringLiteral("\"%1\" stands twice in one object").arg(QString::fromStdString(name)));
+    }
+
+    bool EndObject(rapidjson::SizeType /*count*/)
+    {
+        m_names.pop_back();
+        return true;
+    }
+
+    const QString &reason() const { return m_reason; }
+
+private:
+    bool refuse(const QString &reason)
+    {
+        m_reason = reason;
+        return false;
+    }
+
+    std::vector<std::set<std::string>> m_names; // of the objects that are open
+    QString m_reason;
+};
+
+JsonTextFault faultAt(const QByteArray &text, std::size_t offset, const QString &reason)
+{
+    const QByteArray before = text.left(static_cast<int>(offset));
+    const QByteArray line = before.mid(before.lastIndexOf('\n') + 1);
+    return {before.count('\n') + 1, QString::fromUtf8(line).size() + 1, reason};
+}
+
+} // namespace
+
+QString JsonTextFault::place() const { return QStringLiteral("line %1, column %2").arg(line).arg(column); }
+
+std::optional<JsonTextFault> firstTextFault(const QByteArray &text)
+{
+    constexpr unsigned flags =
+        rapidjson::kParseIterativeFlag | rapidjson::kParseValidateEncodingFlag | rapidjson::kParseNumbersAsStringsFlag;
+    const int start = text.startsWith(kByteOrderMark) ? static_cast<int>(sizeof kByteOrderMark) - 1 : 0;
+    rapidjson::MemoryStream stream(text.constData() + start, static_cast<std::size_t>(text.size() - start));
+    rapidjson::Reader reader;
+    Look look;
+    const rapidjson::ParseResult result = reader.Parse<flags>(stream, look);
+    if (!result.IsError())
+        return std::nullopt;
+    const bool isOurs = result.Code() == rapidjson::kParseErrorTermination;
+    const QString reason =
+        isOurs ? look.reason()
+               : QStringLiteral("not JSON: ") + QString::fromLatin1(rapidjson::GetParseError_En(result.Code()));
+    return faultAt(text, static_cast<std::size_t>(start) + result.Offset(), reason);
+}
+
+} // namespace orvcad
