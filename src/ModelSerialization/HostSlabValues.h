@@ -11,6 +11,8 @@
 #include <QStringList>
 #include <QtGlobal>
 
+#include <string>
+
 class IHBXProperties;
 
 /** What the reading of slabs and bars asks a draw object of the host for. */
@@ -26,15 +28,15 @@ class HostSlabValues
 public:
     explicit HostSlabValues(IHBXElementDrawObj &object);
 
-    int integer(const QString &key) const;
-    double number(const QString &key) const;
+    int integer(const std::wstring &name) const;
+    double number(const std::wstring &name) const;
     /** An elevation, m. */
-    double metres(const QString &key) const;
-    QString text(const QString &key) const;
+    double metres(const std::wstring &name) const;
+    QString text(const std::wstring &name) const;
     /** A length that is kept as text, without its fraction: beyond 32 bits the end of the range, 0 for other text. */
-    qint32 hook(const QString &key) const;
+    qint32 hook(const std::wstring &name) const;
     /** The host's own: to be read and not changed. */
-    CurvePtr curve(const QString &key) const;
+    CurvePtr curve(const std::wstring &name) const;
 
 private:
     const IHBXProperties *m_properties;

@@ -128,7 +128,7 @@ void fill(const HoleRecord &record, IHBXElement &element)
 
 ElementRule ruleOf(const HoleRecord &record)
 {
-    return {type::hole, kSubTypes[record.kind], record.name,
+    return {type::slabHole, kSubTypes[record.kind], record.name,
             [record](const IHBXProperties &properties) { return matches(record, properties); },
             [record](IHBXElement &element) { fill(record, element); }};
 }

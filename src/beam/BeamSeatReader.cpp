@@ -160,7 +160,7 @@ void readRows(Seat &seat, const IHBXProperties *properties, const PropertyRow<Re
 void readSection(Seat &seat, const IHBXProperties *own)
 {
     readRows(seat, own, row(property::sectionPoly, &Seat::SectionPoly), row(property::axisOffset, &Seat::AxisOffset),
-             row(property::axisOffsetJZBZ, &Seat::AxisOffset), // the second name wins
+             row(property::axisOffsetJzbz, &Seat::AxisOffset), // the second name wins
              row(property::type1, &Seat::Type), rowAs<int>(property::height, &Seat::Height),
              row(property::sectionWidth, &Seat::SectionWidth), row(property::sectionHeight, &Seat::SectionHeight));
 }

@@ -31,7 +31,6 @@ using ModelLines = ORVCADWallInputModelConvertion::ModelLines;
 using Property = std::shared_ptr<IHBXProperty>;
 
 constexpr int kLeftOutOfRecognition = 255; // value of "Type"
-constexpr int kAllSubTypes = 65535;        // of 16 bits: all of them set
 constexpr double kAxisWidth = 1.0;         // mm; meant: an axis has none
 constexpr qint64 kNoId = -1;
 constexpr qint64 kCustomSection = 3; // sub-type of columns whose section type is told
@@ -104,7 +103,7 @@ template <typename Visit> void forEachPlaced(IHBXModel *model, qint64 floorId, q
     QList<IHBXElementDrawObj *> objects;
     if (model)
         model->drawObjects()->queryDrawObjsOfFloor(objects, static_cast<int>(floorId), static_cast<int>(objectType),
-                                                   kAllSubTypes, true);
+                                                   IHBXDrawObjs::kAnySubType16, true);
     for (IHBXElementDrawObj *object : qAsConst(objects))
         visit(*object);
 }

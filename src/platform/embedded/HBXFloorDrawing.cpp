@@ -1,7 +1,6 @@
 #include "platform/embedded/HBXFloorDrawing.h"
 
 #include "platform/embedded/HBXDrawingLayers.h"
-#include "platform/embedded/HBXElementTypes.h"
 #include "platform/geometry/CArc2d.h"
 #include "platform/geometry/OrientProjectCurve2d.h"
 #include "platform/host/IHBXAxisGrid.h"
@@ -13,6 +12,7 @@
 #include "platform/host/IHBXLineShape2D.h"
 #include "platform/host/IHBXModel.h"
 #include "platform/services/HBXElementTypeTable.h"
+#include "platform/services/HBXElementTypes.h"
 
 #include <cmath>
 
@@ -193,8 +193,8 @@ std::unique_ptr<dwgx::DWGXModel> makeFloorDrawing(IHBXModel *model, IHBXFloor *f
     FloorDraughtsman draughtsman(*model, *drawing);
     for (const ElementTypeInfo &type : kElementTypes) {
         QList<IHBXElementDrawObj *> objects;
-        model->drawObjects()->queryDrawObjsOfFloor(objects, floor->id(), static_cast<int>(type.number), kAnySubType,
-                                                   true);
+        model->drawObjects()->queryDrawObjsOfFloor(objects, floor->id(), static_cast<int>(type.number),
+                                                   IHBXDrawObjs::kAnySubType, true);
         for (IHBXElementDrawObj *object : objects)
             if (object->childCount() == 0) // an owner is the union of its children, which are drawn themselves
                 draughtsman.draw(*object, type);

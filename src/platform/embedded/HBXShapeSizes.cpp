@@ -1,9 +1,9 @@
 #include "platform/embedded/HBXShapeSizes.h"
 
 #include "platform/embedded/HBXProperties.h"
-#include "platform/embedded/HBXPropertyNames.h"
 #include "platform/geometry/CArc2d.h"
 #include "platform/geometry/CLine2d.h"
+#include "platform/services/HBXPropertyNames.h"
 
 namespace hbx::embedded {
 namespace {
@@ -42,10 +42,10 @@ vks::CRefPtr<vks::CPolygon> drawnSection(const HBXProperties &properties)
 
 } // namespace
 
-std::optional<double> sizeIn(const HBXProperties &properties, std::initializer_list<const wchar_t *> names)
+std::optional<double> sizeIn(const HBXProperties &properties, std::initializer_list<std::wstring_view> names)
 {
-    for (const wchar_t *name : names) {
-        const PropertyEntry *entry = properties.find(std::wstring_view(name));
+    for (const std::wstring_view name : names) {
+        const PropertyEntry *entry = properties.find(name);
         const PropertyValue value = entry ? properties.valueOf(*entry) : PropertyValue();
         if (const double *size = std::get_if<double>(&value))
             return *size;

@@ -1,9 +1,7 @@
 #include "platform/embedded/HBXSpanCut.h"
 
-#include "platform/embedded/HBXElementTypes.h"
 #include "platform/embedded/HBXElevationText.h"
 #include "platform/embedded/HBXFloor.h"
-#include "platform/embedded/HBXPropertyNames.h"
 #include "platform/embedded/HBXSpanKeys.h"
 #include "platform/geometry/CArc2d.h"
 #include "platform/geometry/CurveZone.h"
@@ -13,6 +11,8 @@
 #include "platform/host/IHBXModel.h"
 #include "platform/host/IHBXProperties.h"
 #include "platform/services/DwgxRound.h"
+#include "platform/services/HBXElementTypes.h"
+#include "platform/services/HBXPropertyNames.h"
 
 #include <QStringList>
 
@@ -34,7 +34,7 @@ constexpr qint64 kSupportTypes[] = {type::column,        type::tieColumn, type::
 struct TextKey
 {
     QLatin1String key;
-    const wchar_t *property;
+    const std::wstring &property;
 };
 constexpr TextKey kBarTexts[] = {
     {spankey::topThroughBar, property::topThroughBar},
@@ -44,17 +44,17 @@ constexpr TextKey kBarTexts[] = {
     {spankey::hoopBar, property::hoopBar},
 };
 
-double number(IHBXElementDrawObj &object, const wchar_t *name)
+double number(IHBXElementDrawObj &object, const std::wstring &name)
 {
     const IHBXProperties *properties = object.properties();
-    return properties ? properties->asDouble(std::wstring(name)) : 0.0;
+    return properties ? properties->asDouble(name) : 0.0;
 }
 
-QString text(IHBXElementDrawObj &object, const wchar_t *name)
+QString text(IHBXElementDrawObj &object, const std::wstring &name)
 {
     QString out;
     const IHBXProperties *properties = object.properties();
-    return properties ? properties->asString(out, std::wstring(name)) : out;
+    return properties ? properties->asString(out, name) : out;
 }
 
 vks::CRefPtr<vks::CPolygon> worldPolyOf(IHBXElementDrawObj &object)

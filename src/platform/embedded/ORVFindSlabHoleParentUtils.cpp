@@ -1,11 +1,11 @@
 #include "platform/services/ORVFindSlabHoleParentUtils.h"
 
-#include "platform/embedded/HBXElementTypes.h"
 #include "platform/host/IHBXCurState.h"
 #include "platform/host/IHBXCustomPointSolidShape.h"
 #include "platform/host/IHBXElementDrawObj.h"
 #include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXModel.h"
+#include "platform/services/HBXElementTypes.h"
 
 #include <QList>
 #include <QSet>
@@ -16,7 +16,7 @@ namespace {
 
 using Point = vks::CVec2<double>;
 
-namespace type = hbx::embedded::type;
+namespace type = hbx::type;
 
 constexpr qint64 kParentTypes[] = {type::slab, type::raft}; // a slab goes before a raft
 
