@@ -66,7 +66,7 @@ template <typename... Kinds> PolygonPtr outlineOf(IHBXElementDrawObj &object)
 {
     const IHBXShape *shape = object.shape();
     const PolygonPtr outline = (dynamic_cast<const Kinds *>(shape) || ...) ? sharedOutline(shape) : nullptr;
-    return outline ? outline->Clone() : nullptr;
+    return vks::cloneOrNull(outline);
 }
 
 /** A curve that is told in a frame: as it stands without one, else projected along the vertical. Null for null and where

@@ -50,11 +50,6 @@ int narrowed(qint64 number)
     return fits ? static_cast<int>(number) : 0;
 }
 
-template <typename Geometry> vks::CRefPtr<Geometry> cloned(const vks::CRefPtr<Geometry> &geometry)
-{
-    return geometry ? geometry->Clone() : nullptr;
-}
-
 Polygon worldPolyOf(IHBXElementDrawObj &object)
 {
     Polygon polygon;
@@ -127,7 +122,7 @@ void readValue(const IHBXProperties &properties, const std::wstring &name, QStri
 void readValue(const IHBXProperties &properties, const std::wstring &name, Polygon &out)
 {
     Polygon stored;
-    out = cloned(properties.asPolygon(stored, name));
+    out = vks::cloneOrNull(properties.asPolygon(stored, name));
 }
 
 /** A property of the host and the field that it goes to, read as a value of the kind Read. */
@@ -195,7 +190,7 @@ void readRebuildData(Seat &seat, IHBXElementDrawObj &object, const IHBXShape &sh
 Curve worldLineOf(const IHBXCustomLineSolidShape &solid)
 {
     Curve line;
-    return cloned(solid.worldLine(line, IHBXModel::g_bDefaultAutoCalc));
+    return vks::cloneOrNull(solid.worldLine(line, IHBXModel::g_bDefaultAutoCalc));
 }
 
 bool isOffset(double distance)
@@ -223,7 +218,7 @@ void readLine(Seat &seat, const IHBXCustomLineSolidShape &solid, const BeamSeatT
 {
     Curve local;
     seat.bLineShape = true;
-    seat.ipWallLine = cloned(solid.localLine(local, IHBXModel::g_bDefaultAutoCalc));
+    seat.ipWallLine = vks::cloneOrNull(solid.localLine(local, IHBXModel::g_bDefaultAutoCalc));
     seat.ipCenterLine = worldLineOf(solid);
     const bool hasThickness = properties && properties->hasProperty(property::thickness);
     // Meant: it is the object without a thickness whose thickness is asked for.
@@ -290,7 +285,7 @@ std::unique_ptr<ORVBeamSDCSeatInfoModel> readBeamSeat(IHBXElementDrawObj &object
     seat->seatElementType = narrowed(object.type());
     seat->nElementSubType = narrowed(object.subType());
     IHBXElementDrawObj *unit = type.hasUnits ? topUnit(object) : nullptr;
-    seat->ipWorldPoly = cloned(unit ? worldPolyOf(*unit) : outline);
+    seat->ipWorldPoly = vks::cloneOrNull(unit ? worldPolyOf(*unit) : outline);
     seat->nEDOID = narrowed(object.id());
     if (type.kind == BeamSeatType::kColumn)
         readColumn(*seat, properties);

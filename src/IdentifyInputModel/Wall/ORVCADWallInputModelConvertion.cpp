@@ -108,16 +108,11 @@ template <typename Visit> void forEachPlaced(IHBXModel *model, qint64 floorId, q
         visit(*object);
 }
 
-vks::CRefPtr<vks::CCurve2d> copyOf(const vks::CRefPtr<vks::CCurve2d> &curve)
-{
-    return curve ? curve->Clone() : nullptr;
-}
-
 void appendAxis(const IHBXElementDrawObj &object, const vks::CRefPtr<vks::CCurve2d> &curve, ModelLines &lines)
 {
     ORVCADCloudHBXModelLineEdoStruct &line = lines.emplace_back();
     line.entName = nameOf(object.element());
-    line.worldLine = copyOf(curve);
+    line.worldLine = vks::cloneOrNull(curve);
     line.width = kAxisWidth;
     line.edoId = kNoId;
 }
@@ -193,7 +188,7 @@ void ORVCADWallInputModelConvertion::appendWallLines(qint64 wallType, ModelLines
         ORVCADCloudHBXModelLineEdoStruct &line = lines.emplace_back(); // meant: types are not told
         line.entName = nameOf(object.element());
         vks::CRefPtr<vks::CCurve2d> axis;
-        line.worldLine = copyOf(shape->worldLine(axis, IHBXModel::g_bDefaultAutoCalc));
+        line.worldLine = vks::cloneOrNull(shape->worldLine(axis, IHBXModel::g_bDefaultAutoCalc));
         line.width = shape->width(IHBXModel::g_bDefaultAutoCalc);
         line.edoId = object.id();
     });
