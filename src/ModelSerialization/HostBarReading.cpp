@@ -72,7 +72,7 @@ template <typename Bar> void readStraddlingLabels(const HostSlabValues &values, 
 PolygonPtr linkedOutline(IHBXModel &model, const HostSlabLinks &links, int item)
 {
     IHBXElementDrawObj *slab = model.drawObjects()->drawObjById(links.id(item));
-    return slab ? sharedOutline(slab->shape()) : nullptr;
+    return slab ? hbx::worldOutline(slab->shape()) : nullptr;
 }
 
 // ---- Line bars

@@ -126,7 +126,7 @@ void read(IHBXElementDrawObj &object, Local::AxisNet &net)
     grid->prepare();
     vks::CCoord3<double> frame;
     shape->coordinates(frame, IHBXModel::g_bDefaultAutoCalc);
-    if (const PolygonPtr outline = sharedOutline(shape))
+    if (const PolygonPtr outline = hbx::worldOutline(shape))
         net.surface = outline->Clone();
     net.axisGrid = std::make_shared<AxisGrid_Sample>();
     net.axisGrid->gridV.direction = 1; // that of U stays 0

@@ -51,14 +51,6 @@ QStringList HostSlabLinks::fields(int item) const { return m_items.at(item).spli
 
 qint64 HostSlabLinks::id(int item) const { return fields(item).constFirst().toLongLong(); }
 
-PolygonPtr sharedOutline(const IHBXShape *shape)
-{
-    PolygonPtr outline;
-    if (shape)
-        shape->worldPoly(outline, IHBXModel::g_bDefaultAutoCalc);
-    return outline;
-}
-
 CurvePtr curveInPlan(const vks::CCoord3<double> &frame, const vks::CCurve2d *curve)
 {
     if (!curve)

@@ -5,7 +5,7 @@
 #include "platform/geometry/CCurve2d.h"
 #include "platform/geometry/CPolygon.h"
 #include "platform/host/IHBXElementDrawObj.h"
-#include "platform/host/IHBXShape.h"
+#include "platform/host/WorldOutline.h"
 
 #include <QString>
 #include <QStringList>
@@ -59,13 +59,11 @@ private:
 
 // ---- Geometry, in the plan of the floor and in copies, unless something else is told
 
-/** The host's own outline of a shape, to be read and not changed; null for null and without geometry. */
-PolygonPtr sharedOutline(const IHBXShape *shape);
 /** Outline of an object whose shape is of one of those kinds; null for another kind and without geometry. */
 template <typename... Kinds> PolygonPtr outlineOf(IHBXElementDrawObj &object)
 {
     const IHBXShape *shape = object.shape();
-    const PolygonPtr outline = (dynamic_cast<const Kinds *>(shape) || ...) ? sharedOutline(shape) : nullptr;
+    const PolygonPtr outline = (dynamic_cast<const Kinds *>(shape) || ...) ? hbx::worldOutline(shape) : nullptr;
     return vks::cloneOrNull(outline);
 }
 

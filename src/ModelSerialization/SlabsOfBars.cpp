@@ -51,7 +51,7 @@ std::vector<IHBXElementDrawObj *> slabsInBox(dwgx::DWGXBaseBoxTree *boxTree, con
 template <typename Test>
 std::vector<IHBXElementDrawObj *> slabsThat(std::vector<IHBXElementDrawObj *> slabs, const Test &test)
 {
-    const auto fails = [&test](IHBXElementDrawObj *slab) { return !test(sharedOutline(slab->shape())); };
+    const auto fails = [&test](IHBXElementDrawObj *slab) { return !test(hbx::worldOutline(slab->shape())); };
     slabs.erase(std::remove_if(slabs.begin(), slabs.end(), fails), slabs.end());
     return slabs;
 }

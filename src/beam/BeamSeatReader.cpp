@@ -14,6 +14,7 @@
 #include "platform/host/IHBXRegion.h"
 #include "platform/host/IHBXSection.h"
 #include "platform/host/IHBXSectionHolder.h"
+#include "platform/host/WorldOutline.h"
 #include "platform/services/HbxRelation.h"
 #include "platform/services/HbxTolerance.h"
 
@@ -48,14 +49,6 @@ int narrowed(qint64 number)
 {
     const bool fits = number >= std::numeric_limits<int>::min() && number <= std::numeric_limits<int>::max();
     return fits ? static_cast<int>(number) : 0;
-}
-
-Polygon worldPolyOf(IHBXElementDrawObj &object)
-{
-    Polygon polygon;
-    if (const IHBXShape *shape = object.shape())
-        shape->worldPoly(polygon, IHBXModel::g_bDefaultAutoCalc);
-    return polygon;
 }
 
 bool hasSkippedSection(IHBXElementDrawObj &object)
@@ -275,7 +268,7 @@ std::unique_ptr<ORVBeamSDCSeatInfoModel> readBeamSeat(IHBXElementDrawObj &object
     const BeamSeatType &type = seatType(object.type());
     if (type.number == beam::type::column && hasSkippedSection(object))
         return nullptr;
-    const Polygon outline = worldPolyOf(object);
+    const Polygon outline = hbx::worldOutline(object.shape());
     if (!outline)
         return nullptr;
     const IHBXShape &shape = *object.shape(); // there is one: it gave the outline
@@ -285,7 +278,7 @@ std::unique_ptr<ORVBeamSDCSeatInfoModel> readBeamSeat(IHBXElementDrawObj &object
     seat->seatElementType = narrowed(object.type());
     seat->nElementSubType = narrowed(object.subType());
     IHBXElementDrawObj *unit = type.hasUnits ? topUnit(object) : nullptr;
-    seat->ipWorldPoly = vks::cloneOrNull(unit ? worldPolyOf(*unit) : outline);
+    seat->ipWorldPoly = vks::cloneOrNull(unit ? hbx::worldOutline(unit->shape()) : outline);
     seat->nEDOID = narrowed(object.id());
     if (type.kind == BeamSeatType::kColumn)
         readColumn(*seat, properties);

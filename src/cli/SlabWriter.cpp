@@ -10,6 +10,7 @@
 #include "platform/host/IHBXRegion.h"
 #include "platform/host/IHBXService.h"
 #include "platform/host/IHBXShape.h"
+#include "platform/host/WorldOutline.h"
 #include "platform/services/HBXElementTypes.h"
 #include "platform/services/ValidateBarInfo.h"
 #include "slab/ORVCADBoardLocalModel_Sample.h"
@@ -40,11 +41,9 @@ BoxTree treeOf(IHBXFloor &floor, const QSet<qint64> &types)
     QList<IHBXElementDrawObj *> objects;
     if (!types.isEmpty())
         floor.drawObjsOfTypes(objects, types, true);
-    for (IHBXElementDrawObj *object : qAsConst(objects)) {
-        vks::CRefPtr<vks::CPolygon> outline;
-        if (object->shape() && object->shape()->worldPoly(outline, IHBXModel::g_bDefaultAutoCalc))
+    for (IHBXElementDrawObj *object : qAsConst(objects))
+        if (const auto outline = hbx::worldOutline(object->shape()))
             tree->add(outline->Box(), object);
-    }
     return tree;
 }
 

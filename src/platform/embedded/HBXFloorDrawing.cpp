@@ -11,6 +11,7 @@
 #include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXLineShape2D.h"
 #include "platform/host/IHBXModel.h"
+#include "platform/host/WorldOutline.h"
 #include "platform/services/HBXElementTypeTable.h"
 #include "platform/services/HBXElementTypes.h"
 
@@ -138,8 +139,8 @@ void FloorDraughtsman::drawPlanLine(IHBXElementDrawObj &object, const IHBXLineSh
 
 void FloorDraughtsman::drawOutline(IHBXElementDrawObj &object, const IHBXShape &shape)
 {
-    vks::CRefPtr<vks::CPolygon> outline;
-    if (!shape.worldPoly(outline, IHBXModel::g_bDefaultAutoCalc))
+    const vks::CRefPtr<vks::CPolygon> outline = worldOutline(&shape);
+    if (!outline)
         return;
     std::vector<vks::CCurve2d *> curves;
     outline->GetCurves(curves);

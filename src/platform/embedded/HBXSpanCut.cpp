@@ -10,6 +10,7 @@
 #include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXModel.h"
 #include "platform/host/IHBXProperties.h"
+#include "platform/host/WorldOutline.h"
 #include "platform/services/DwgxRound.h"
 #include "platform/services/HBXElementTypes.h"
 #include "platform/services/HBXPropertyNames.h"
@@ -55,13 +56,6 @@ QString text(IHBXElementDrawObj &object, const std::wstring &name)
     QString out;
     const IHBXProperties *properties = object.properties();
     return properties ? properties->asString(out, name) : out;
-}
-
-vks::CRefPtr<vks::CPolygon> worldPolyOf(IHBXElementDrawObj &object)
-{
-    vks::CRefPtr<vks::CPolygon> outline;
-    const IHBXShape *shape = object.shape();
-    return shape ? shape->worldPoly(outline, IHBXModel::g_bDefaultAutoCalc) : outline;
 }
 
 /** Those that come near enough to a box to be met, and on a floor of another host perhaps more. */
@@ -143,7 +137,7 @@ void HBXSpanCut::addSupports()
     types.insert(own.type());
     for (const Piece &piece : m_pieces)
         for (IHBXElementDrawObj *object : objectsNear(own.floor(), piece.axis->Box(), types))
-            if (const auto outline = isSupport(*object) ? worldPolyOf(*object) : nullptr)
+            if (const auto outline = isSupport(*object) ? worldOutline(object->shape()) : nullptr)
                 addSeats(piece, *outline);
 }
 
