@@ -1,6 +1,7 @@
 #include "platform/embedded/HBXFloorDrawing.h"
 
 #include "platform/embedded/HBXDrawingLayers.h"
+#include "platform/geometry/Angle.h"
 #include "platform/geometry/CArc2d.h"
 #include "platform/geometry/OrientProjectCurve2d.h"
 #include "platform/host/IHBXAxisGrid.h"
@@ -22,7 +23,6 @@ namespace {
 
 using CurvePtr = vks::CRefPtr<vks::CCurve2d>;
 
-constexpr double kPi = 3.14159265358979323846;
 constexpr double kTextHeight = 250.0;     // mm: 2.5 mm on paper at 1:100
 constexpr double kAxisTextHeight = 350.0; // mm
 constexpr double kBubbleRadius = 400.0;   // mm
@@ -32,9 +32,9 @@ constexpr double kUprightSlack = 1e-6;    // rad; a text may hang over the uprig
 double readableAngle(const vks::CVec2<double> &direction)
 {
     const double angle = std::atan2(direction.y, direction.x);
-    if (angle > kPi / 2 + kUprightSlack)
-        return angle - kPi;
-    return angle <= -kPi / 2 + kUprightSlack ? angle + kPi : angle;
+    if (angle > vks::kPi / 2 + kUprightSlack)
+        return angle - vks::kPi;
+    return angle <= -vks::kPi / 2 + kUprightSlack ? angle + vks::kPi : angle;
 }
 
 CurvePtr toWorld(const IHBXShape &shape, const vks::CCurve2d *curve)
@@ -124,7 +124,7 @@ void FloorDraughtsman::drawBubble(const vks::CVec2<double> &end, const vks::CVec
     if (label.isEmpty())
         return;
     const vks::CVec2<double> centre = end + outward * kBubbleRadius;
-    addCurve(new vks::CArc2d(centre, kBubbleRadius, 0.0, 2.0 * kPi));
+    addCurve(new vks::CArc2d(centre, kBubbleRadius, 0.0, vks::kFullTurn));
     addText(label, centre, kAxisTextHeight, 0.0);
 }
 

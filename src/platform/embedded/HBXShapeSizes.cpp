@@ -1,6 +1,7 @@
 #include "platform/embedded/HBXShapeSizes.h"
 
 #include "platform/embedded/HBXProperties.h"
+#include "platform/geometry/Angle.h"
 #include "platform/geometry/CArc2d.h"
 #include "platform/geometry/CLine2d.h"
 #include "platform/services/HBXPropertyNames.h"
@@ -10,8 +11,7 @@ namespace {
 
 using Point = vks::CVec2<double>;
 
-constexpr double kFullTurn = 6.283185307179586; // rad
-constexpr int kCircularSection = 1;             // "SectionTypeID"
+constexpr int kCircularSection = 1; // "SectionTypeID"
 
 vks::CRefPtr<vks::CPolygon> polygonOf(const vks::CRefPtr<vks::CLoop> &loop)
 {
@@ -25,7 +25,7 @@ vks::CRefPtr<vks::CPolygon> circle(double radius)
     if (!(radius > 0.0))
         return nullptr;
     vks::CRefPtr<vks::CLoop> loop = new vks::CLoop;
-    loop->AddCurve(new vks::CArc2d(Point(), radius, 0.0, kFullTurn), false);
+    loop->AddCurve(new vks::CArc2d(Point(), radius, 0.0, vks::kFullTurn), false);
     return polygonOf(loop);
 }
 

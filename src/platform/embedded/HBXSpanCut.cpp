@@ -3,6 +3,7 @@
 #include "platform/embedded/HBXElevationText.h"
 #include "platform/embedded/HBXFloor.h"
 #include "platform/embedded/HBXSpanKeys.h"
+#include "platform/geometry/Angle.h"
 #include "platform/geometry/CArc2d.h"
 #include "platform/geometry/CurveZone.h"
 #include "platform/host/IHBXCustomLineSolidShape.h"
@@ -23,9 +24,8 @@
 namespace hbx::embedded {
 namespace {
 
-constexpr double kSeatGap = 5.0;                // mm: a beam rests on what it comes this near to
-constexpr double kMostSeatShare = 0.5;          // of the chain: what carries more of it is no support to span from
-constexpr double kFullTurn = 6.283185307179586; // rad
+constexpr double kSeatGap = 5.0;       // mm: a beam rests on what it comes this near to
+constexpr double kMostSeatShare = 0.5; // of the chain: what carries more of it is no support to span from
 
 /** Columns, walls and foundations; deeper beams come to them. */
 constexpr qint64 kSupportTypes[] = {type::column,        type::tieColumn, type::masonryColumn,      type::forceWall,
@@ -76,7 +76,7 @@ vks::CRefPtr<vks::CCurve2d> lengthened(const vks::CCurve2d &axis, const vks::CPo
     const vks::CBox2<double> box = support.Box();
     double reach = box.Width() + box.Height() + kSeatGap;
     if (const auto *arc = dynamic_cast<const vks::CArc2d *>(&axis))
-        reach = std::clamp((kFullTurn * arc->Radius() - axis.Length()) / 2, 0.0, reach);
+        reach = std::clamp((vks::kFullTurn * arc->Radius() - axis.Length()) / 2, 0.0, reach);
     vks::CRefPtr<vks::CCurve2d> longer = axis.Clone();
     longer->SetStartT(axis.StartT() - reach);
     longer->SetEndT(axis.EndT() + reach);
