@@ -1,6 +1,7 @@
 #include "cli/Files.h"
 
 #include "cli/Command.h"
+#include "platform/dwgx/StrictJson.h"
 
 #include <QDir>
 #include <QFile>
@@ -12,15 +13,6 @@
 namespace orvcad {
 
 namespace {
-
-/** Line and column, counted from 1, of a byte position. */
-QString lineAndColumn(const QByteArray &bytes, int offset)
-{
-    const QByteArray before = bytes.left(offset);
-    const int line = before.count('\n') + 1;
-    const int column = offset - before.lastIndexOf('\n');
-    return QStringLiteral("line %1, column %2").arg(line).arg(column);
-}
 
 void writeToStandardOutput(const QByteArray &bytes)
 {
@@ -49,7 +41,7 @@ QJsonDocument readJsonFile(const QString &path)
     QJsonParseError error;
     QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
     if (error.error != QJsonParseError::NoError)
-        throw CommandFailure(kBadInput, path, lineAndColumn(bytes, error.offset),
+        throw CommandFailure(kBadInput, path, dwgx::lineAndColumn(bytes, error.offset),
                              QStringLiteral("not JSON: ") + error.errorString());
     return document;
 }
