@@ -7,6 +7,7 @@
 #include "platform/geometry/Angle.h"
 #include "platform/geometry/CArc2d.h"
 #include "platform/geometry/CLine2d.h"
+#include "platform/geometry/KernelTolerance.h"
 #include "platform/host/IHBXDrawObjs.h"
 #include "platform/host/IHBXModel.h"
 #include "platform/host/IHBXProperties.h"
@@ -135,7 +136,7 @@ ElementRule ruleOf(const HoleRecord &record)
 
 // ---- Draw objects
 
-bool isEqual(double a, double b) { return hbx::isEqual(a, b, lengthTolerance(std::fabs(a))); }
+bool isEqual(double a, double b) { return hbx::isEqual(a, b, vks::lengthTolerance(std::fabs(a))); }
 
 /** Two sides that meet have one length. */
 bool isSquare(const vks::CPolygon &outline)

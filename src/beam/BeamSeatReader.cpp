@@ -41,8 +41,6 @@ constexpr double kGreatestWallOffset = 180.0;
 
 /** A centre line that lies off its axis by no more than this stays where it is, mm. */
 constexpr double kLeastLineOffset = 1.0;
-/** Share of a value, and least one in mm, that stand in for a kernel tolerance of 0. */
-constexpr double kRelativeTolerance = 1e-12;
 
 /** 0 for a number that does not fit. */
 int narrowed(qint64 number)
@@ -189,9 +187,7 @@ Curve worldLineOf(const IHBXCustomLineSolidShape &solid)
 bool isOffset(double distance)
 {
     const double size = std::fabs(distance);
-    const double tolerance =
-        vks::g_DistEpsilon != 0.0 ? vks::g_DistEpsilon : std::max(kRelativeTolerance, size * kRelativeTolerance);
-    return hbx::isGreater(size, kLeastLineOffset, tolerance);
+    return hbx::isGreater(size, kLeastLineOffset, vks::lengthTolerance(size));
 }
 
 /** Moves the centre line from the axis to the middle of the object. */
