@@ -18,6 +18,7 @@
 #include "platform/services/HbxRelation.h"
 #include "platform/services/HbxTolerance.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 

@@ -4,6 +4,7 @@
 
 #include <initializer_list>
 #include <optional>
+#include <string_view>
 
 /** Sizes and outlines of solids as the properties of an object tell them. */
 namespace hbx::embedded {
