@@ -24,6 +24,9 @@ std::vector<Name> namesIn(const std::string &text)
     int number = 0;
     for (std::string line; std::getline(lines, line);) {
         ++number;
+        if (line.find("L\"") == std::string::npos) {
+            continue; // most lines, and a pattern is slow
+        }
         for (std::sregex_iterator word(line.begin(), line.end(), wideWord), end; word != end; ++word) {
             names.push_back({number, (*word)[1]});
         }
