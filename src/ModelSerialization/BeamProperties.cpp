@@ -83,7 +83,7 @@ constexpr EntRow kEntRows[] = {
     {property::limb,             kText,    true,  kAny,     kIfThere, kCommonBars, &Ent::LimbCount},
     {property::tieBar,           kText,    true,  kAny,     kIfThere, kCommonBars, &Ent::TieBar},
     {property::axisOffset,       kDouble,  true,  kAny,     kAlways,  kOffset,     &Ent::AxisOffset},
-    {property::axisOffsetJZBZ,   kDouble,  true,  kAny,     kIfThere, kOffset,     &Ent::AxisOffset},
+    {property::axisOffsetJzbz,   kDouble,  true,  kAny,     kIfThere, kOffset,     &Ent::AxisOffset},
     {property::spanCount,        kText,    true,  kSpanned, kAlways,  kSpanCount,  &BeamEntInfo::SpanCount},
     {property::topThroughBar,    kText,    true,  kSpanned, kAlways,  kBarsOfKind, &BeamEntInfo::TopThroughBar},
     {property::bottomThroughBar, kText,    true,  kSpanned, kAlways,  kBarsOfKind, &BeamEntInfo::BottomThroughBar},
@@ -92,7 +92,7 @@ constexpr EntRow kEntRows[] = {
     {property::type,             kInteger, false, kOther,   kAlways,  kType,       &BeamEntInfo::Type},
     {property::topHoriBar,       kText,    true,  kLink,    kAlways,  kBarsOfKind, &LinkBeamEntInfo::TopHoribar},
     {property::bottomHoriBar,    kText,    true,  kLink,    kAlways,  kBarsOfKind, &LinkBeamEntInfo::BottomHoriBar},
-    {property::sideBarAL,        kText,    true,  kLink,    kAlways,  kBarsOfKind, &LinkBeamEntInfo::SideBarAL},
+    {property::sideBarAl,        kText,    true,  kLink,    kAlways,  kBarsOfKind, &LinkBeamEntInfo::SideBarAL},
 };
 
 using Segment = BeamSegmentInfo;
@@ -100,7 +100,7 @@ constexpr SegmentRow kSegmentRows[] = {
     // Meant: read from the shape, and rounded where the element's width is not.
     {property::sectionWidth,   kInteger, true, kAny, kNever,   kWidth,      Rounded{&Segment::LineWidth}},
     {property::axisOffset,     kDouble,  true, kAny, kAlways,  kOffset,     &Segment::AxisOffset},
-    {property::axisOffsetJZBZ, kDouble,  true, kAny, kIfThere, kOffset,     &Segment::AxisOffset},
+    {property::axisOffsetJzbz, kDouble,  true, kAny, kIfThere, kOffset,     &Segment::AxisOffset},
     {property::startPtTopElev, kText,    true, kAny, kAlways,  kElevations, &Segment::StartPtTopElev},
     {property::endPtTopElev,   kText,    true, kAny, kAlways,  kElevations, &Segment::EndPtTopElev},
 };
@@ -214,8 +214,6 @@ std::vector<PropertyText> textsOf(const Rows &rows, qint64 elementType, const Re
     return texts;
 }
 
-constexpr qint64 kAnyType = -1; // rows of segments are for all types
-
 } // namespace
 
 void readEntProperties(const IHBXProperties &properties, qint64 elementType, BaseBeamEntInfo &record)
@@ -225,7 +223,7 @@ void readEntProperties(const IHBXProperties &properties, qint64 elementType, Bas
 
 void readSegmentProperties(const IHBXProperties &properties, BeamSegmentInfo &record)
 {
-    readRows(properties, kSegmentRows, kAnyType, record);
+    readRows(properties, kSegmentRows, hbx::kAnyType, record);
 }
 
 std::vector<PropertyText> entPropertyTexts(const BaseBeamEntInfo &record, WriteStep step)
@@ -235,7 +233,7 @@ std::vector<PropertyText> entPropertyTexts(const BaseBeamEntInfo &record, WriteS
 
 std::vector<PropertyText> segmentPropertyTexts(const BeamSegmentInfo &record, WriteStep step)
 {
-    return textsOf(kSegmentRows, kAnyType, record, step);
+    return textsOf(kSegmentRows, hbx::kAnyType, record, step);
 }
 
 } // namespace beam

@@ -2,9 +2,6 @@
 
 #include "beam/BeamKeys.h"
 
-#include <algorithm>
-#include <iterator>
-
 /** What the sub-type of a beam, its kind of section, says when it is made in the host. */
 namespace beam {
 
@@ -29,10 +26,6 @@ inline qint64 subTypeMade(qint64 elementType, qint64 subType)
     return subType;
 }
 
-inline bool mayHaveOutline(qint64 subType)
-{
-    return std::find(std::begin(kOutlinedSubTypes), std::end(kOutlinedSubTypes), subType) !=
-           std::end(kOutlinedSubTypes);
-}
+inline bool mayHaveOutline(qint64 subType) { return hbx::isOneOf(subType, kOutlinedSubTypes); }
 
 } // namespace beam

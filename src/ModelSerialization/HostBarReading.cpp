@@ -29,22 +29,22 @@ int keptOr(int value, std::initializer_list<int> kept, int other)
 
 template <typename Bar> void readTexts(const HostSlabValues &values, Bar &bar)
 {
-    bar.leftHookLength = values.hook(key::leftHook);
-    bar.rightHookLength = values.hook(key::rightHook);
-    bar.barInfo = values.text(key::barInfo);
-    bar.stateDescript = values.text(key::remark);
+    bar.leftHookLength = values.hook(property::leftHook);
+    bar.rightHookLength = values.hook(property::rightHook);
+    bar.barInfo = values.text(property::barInfo);
+    bar.stateDescript = values.text(property::remark);
 }
 
 template <typename Bar> void readDistribution(const HostSlabValues &values, Bar &bar)
 {
-    bar.distributeBarInfo = values.text(key::distributedBar);
-    bar.saddleBarlineCount = values.text(key::saddleBarLineCount);
+    bar.distributeBarInfo = values.text(property::distributedBar);
+    bar.saddleBarlineCount = values.text(property::saddleBarLineCount);
 }
 
 template <typename Bar> void readLabels(const HostSlabValues &values, Bar &bar)
 {
-    bar.leftStretchLength = values.integer(key::leftLabel);
-    bar.rightStretchLength = values.integer(key::rightLabel);
+    bar.leftStretchLength = values.integer(property::leftLabel);
+    bar.rightStretchLength = values.integer(property::rightLabel);
 }
 
 // ---- Area bars
@@ -53,7 +53,7 @@ void readArea(IHBXElementDrawObj &object, const HostSlabValues &values, Local::A
 {
     constexpr int directed = 1;
     bar.surface = vks::PolygonRepair(outlineOf<IHBXFaceShape2D>(object), kRepairDistance, kRepairAngle, directed);
-    if (const CurvePtr drawn = values.curve(key::curveData)) {
+    if (const CurvePtr drawn = values.curve(property::curveData)) {
         bar.direction = drawn->EndVt();
         bar.refPoint = drawn->EndPoint();
         bar.refPointValid = bar.refPoint.SqrLength() > kNoPointSquare;
@@ -65,14 +65,14 @@ template <typename Bar> void readStraddlingLabels(const HostSlabValues &values, 
 {
     constexpr int otherwise = 2;
     readLabels(values, bar);
-    bar.labelPosition = keptOr(values.integer(key::labelPosition), {0, 1, 3}, otherwise);
+    bar.labelPosition = keptOr(values.integer(property::labelPosition), {0, 1, 3}, otherwise);
 }
 
 /** The outline of the slab that a link names, the host's own; null when there is none. */
 PolygonPtr linkedOutline(IHBXModel &model, const HostSlabLinks &links, int item)
 {
     IHBXElementDrawObj *slab = model.drawObjects()->drawObjById(links.id(item));
-    return slab ? sharedOutline(slab->shape()) : nullptr;
+    return slab ? hbx::worldOutline(slab->shape()) : nullptr;
 }
 
 // ---- Line bars
@@ -83,8 +83,8 @@ int labelPositionOf(const HostSlabValues &values, double leftStretch, double rig
     constexpr int withinSupport = 5;
     constexpr int supportCounts = 2; // of "IncludeSupport"
     if (leftStretch == 0.0 || rightStretch == 0.0)
-        return keptOr(values.integer(key::labelPosition), {0, 1, 2, 3, 4}, otherwise);
-    return values.integer(key::includeSupport) == supportCounts ? withinSupport : otherwise;
+        return keptOr(values.integer(property::labelPosition), {0, 1, 2, 3, 4}, otherwise);
+    return values.integer(property::includeSupport) == supportCounts ? withinSupport : otherwise;
 }
 
 /** Whether the drawn bar starts on the other side of its line than it should. */
@@ -96,7 +96,7 @@ bool runsBackwards(const vks::CCurve2d *line, const vks::CCurve2d *drawn)
 /** All but labels and their place, which have to be read. */
 template <typename Bar> void readLine(IHBXElementDrawObj &object, const HostSlabValues &values, Bar &bar)
 {
-    const CurvePtr drawn = values.curve(key::curveData);
+    const CurvePtr drawn = values.curve(property::curveData);
     bar.line = planCurve(object);
     const bool hasSides = std::fabs(bar.leftStretchLength - bar.rightStretchLength) > kLabelDifference;
     if (hasSides && runsBackwards(bar.line, drawn))
@@ -113,9 +113,9 @@ template <typename Bar> void readLine(IHBXElementDrawObj &object, const HostSlab
 void read(IHBXModel &model, IHBXElementDrawObj &object, Local::ForcedBar &bar)
 {
     const HostSlabValues values(object);
-    bar.forcedType = keptOr(values.integer(key::position), {1, 2, 3}, 0);
+    bar.forcedType = keptOr(values.integer(property::position), {1, 2, 3}, 0);
     readArea(object, values, bar);
-    bar.supportPoly = linkedOutline(model, HostSlabLinks(values.text(key::reinforcementInfo)), 0);
+    bar.supportPoly = linkedOutline(model, HostSlabLinks(values.text(property::reinforcementInfo)), 0);
 }
 
 void read(IHBXModel &model, IHBXElementDrawObj &object, Local::StraddleForcedBar &bar)
@@ -124,7 +124,7 @@ void read(IHBXModel &model, IHBXElementDrawObj &object, Local::StraddleForcedBar
     readArea(object, values, bar);
     readStraddlingLabels(values, bar);
     readDistribution(values, bar);
-    const HostSlabLinks links(values.text(key::reinforcementInfo));
+    const HostSlabLinks links(values.text(property::reinforcementInfo));
     for (int i = 0; i < links.count() - 1; ++i) // meant: the last item stands behind the last ";"
         if (PolygonPtr outline = linkedOutline(model, links, i))
             bar.supportPolys.push_back(std::move(outline));
@@ -142,7 +142,7 @@ void read(IHBXModel &, IHBXElementDrawObj &object, Local::NegativeForcedBar &bar
 void read(IHBXModel &, IHBXElementDrawObj &object, Local::RaftMainForcedBar &bar)
 {
     const HostSlabValues values(object);
-    bar.forcedType = keptOr(values.integer(key::position), {1, 2}, 0);
+    bar.forcedType = keptOr(values.integer(property::position), {1, 2}, 0);
     readArea(object, values, bar);
 }
 

@@ -42,7 +42,7 @@ constexpr int kFieldsOfLink = 2;
 
 SlabIds slabsOf(const HostSlabValues &values)
 {
-    const HostSlabLinks links(values.text(key::reinforcementInfo));
+    const HostSlabLinks links(values.text(property::reinforcementInfo));
     SlabIds ids;
     for (int i = 0; i < links.count(); ++i)
         if (links.fields(i).size() == kFieldsOfLink)
@@ -88,9 +88,9 @@ LineBar lineBar(IHBXElementDrawObj *object)
     LineBar bar{object,
                 planCurve(*object),
                 BarReach::ToBoth,
-                values.text(key::barInfo),
-                values.integer(key::leftLabel),
-                values.integer(key::rightLabel)};
+                values.text(property::barInfo),
+                values.integer(property::leftLabel),
+                values.integer(property::rightLabel)};
     bar.reach = barReach(bar.curve, bar.leftLabel, bar.rightLabel);
     return bar;
 }
@@ -137,8 +137,8 @@ std::vector<NumberedBar> areaBarRows(const QList<IHBXElementDrawObj *> &bars)
         const HostSlabValues values(*object);
         SlabIds slabs = slabsOf(values);
         if (!slabs.empty()) // meant: a bar of no slab has no row, and comes in nowhere
-            join(groupsOfPlace[{std::move(slabs), values.integer(key::position)}],
-                 {object, values.curve(key::curveData), values.text(key::barInfo)});
+            join(groupsOfPlace[{std::move(slabs), values.integer(property::position)}],
+                 {object, values.curve(property::curveData), values.text(property::barInfo)});
     }
     std::vector<NumberedBar> rows;
     for (auto &place : groupsOfPlace)

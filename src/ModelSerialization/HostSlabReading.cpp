@@ -22,7 +22,7 @@ template <typename Plate> void readPlate(IHBXElementDrawObj &object, const HostS
 {
     plate.surface = outlineOf<IHBXFaceSolidShape>(object);
     plate.thickness = thicknessOf(object);
-    plate.stateDescript = values.text(key::remark);
+    plate.stateDescript = values.text(property::remark);
 }
 
 void readStrip(IHBXElementDrawObj &object, Local::Support &support)
@@ -73,52 +73,52 @@ void read(IHBXElementDrawObj &object, Local::Raft &raft)
 {
     const HostSlabValues values(object);
     readPlate(object, values, raft);
-    raft.topElev = values.metres(key::topElev);
-    raft.bottomElev = values.metres(key::bottomElev);
+    raft.topElev = values.metres(property::topElev);
+    raft.bottomElev = values.metres(property::bottomElev);
 }
 
 void read(IHBXElementDrawObj &object, Local::Board &board)
 {
     const HostSlabValues values(object);
     readPlate(object, values, board);
-    board.elev = values.metres(key::topElev);
+    board.elev = values.metres(property::topElev);
 }
 
 void read(IHBXElementDrawObj &object, Local::BoardHole &hole)
 {
     const HostSlabValues values(object);
     hole.surface = outlineOf<IHBXCustomPointSolidShape, IHBXFaceSolidShape>(object);
-    hole.longSpanReinforceBar = values.text(key::longSpanReinforcedBar);
-    hole.shortSpanReinforceBar = values.text(key::shortSpanReinforcedBar);
-    hole.obliqueReinforceBar = values.text(key::obliqueReinforcedBar);
-    hole.stateDescript = values.text(key::remark);
+    hole.longSpanReinforceBar = values.text(property::longSpanReinforcedBar);
+    hole.shortSpanReinforceBar = values.text(property::shortSpanReinforcedBar);
+    hole.obliqueReinforceBar = values.text(property::obliqueReinforcedBar);
+    hole.stateDescript = values.text(property::remark);
 }
 
 void read(IHBXElementDrawObj &object, Local::Column &column)
 {
     column.surface = outlineOf<IHBXFaceSolidShape, IHBXCustomPointSolidShape>(object);
-    column.topElev = HostSlabValues(object).number(key::topElev);
+    column.topElev = HostSlabValues(object).number(property::topElev);
 }
 
 void read(IHBXElementDrawObj &object, Local::Beam &beam)
 {
     const HostSlabValues values(object);
     readStrip(object, beam);
-    beam.startTopElev = values.number(key::startPtTopElev);
-    beam.endTopElev = values.number(key::endPtTopElev);
+    beam.startTopElev = values.number(property::startPtTopElev);
+    beam.endTopElev = values.number(property::endPtTopElev);
 }
 
 void read(IHBXElementDrawObj &object, Local::Wall &wall)
 {
     const HostSlabValues values(object);
     readStrip(object, wall);
-    wall.wallStartTopElev = values.number(key::startPtTopElev);
-    wall.wallEndTopElev = values.number(key::endPtTopElev);
+    wall.wallStartTopElev = values.number(property::startPtTopElev);
+    wall.wallEndTopElev = values.number(property::endPtTopElev);
 }
 
 void read(IHBXElementDrawObj &object, Local::AxisNet &net)
 {
-    net.stateDescript = HostSlabValues(object).text(key::remark);
+    net.stateDescript = HostSlabValues(object).text(property::remark);
     const std::unique_ptr<IHBXAxisGrid> grid(IHBXAxisGrid::createFromObj(&object));
     const IHBXShape *shape = object.shape();
     if (!grid || !shape)
@@ -126,7 +126,7 @@ void read(IHBXElementDrawObj &object, Local::AxisNet &net)
     grid->prepare();
     vks::CCoord3<double> frame;
     shape->coordinates(frame, IHBXModel::g_bDefaultAutoCalc);
-    if (const PolygonPtr outline = sharedOutline(shape))
+    if (const PolygonPtr outline = hbx::worldOutline(shape))
         net.surface = outline->Clone();
     net.axisGrid = std::make_shared<AxisGrid_Sample>();
     net.axisGrid->gridV.direction = 1; // that of U stays 0

@@ -149,7 +149,7 @@ void Service::FromHost::readAreaBars(const QSet<qint64> &types, Creator<Bar> cre
     Objects straddling;
     const Objects objects = objectsOf(types);
     for (Object *object : objects) {
-        const bool isSingle = slabhost::HostSlabValues(*object).integer(slabhost::key::type) == 0;
+        const bool isSingle = slabhost::HostSlabValues(*object).integer(slabhost::property::type) == 0;
         (isSingle ? single : straddling).append(object);
     }
     readBars(slabhost::areaBarRows(single), creator);

@@ -18,27 +18,30 @@ constexpr double kMillimetresInMetre = 1000.0;
 
 HostSlabValues::HostSlabValues(IHBXElementDrawObj &object) : m_properties(object.properties()) {}
 
-int HostSlabValues::integer(const QString &key) const { return m_properties ? m_properties->asInt(key) : 0; }
+int HostSlabValues::integer(const std::wstring &name) const { return m_properties ? m_properties->asInt(name) : 0; }
 
-double HostSlabValues::number(const QString &key) const { return m_properties ? m_properties->asDouble(key) : 0.0; }
+double HostSlabValues::number(const std::wstring &name) const
+{
+    return m_properties ? m_properties->asDouble(name) : 0.0;
+}
 
-double HostSlabValues::metres(const QString &key) const { return number(key) / kMillimetresInMetre; }
+double HostSlabValues::metres(const std::wstring &name) const { return number(name) / kMillimetresInMetre; }
 
-QString HostSlabValues::text(const QString &key) const
+QString HostSlabValues::text(const std::wstring &name) const
 {
     QString value;
     if (m_properties)
-        m_properties->asString(value, key);
+        m_properties->asString(value, name);
     return value;
 }
 
-qint32 HostSlabValues::hook(const QString &key) const { return clampedInt(text(key).toDouble()); }
+qint32 HostSlabValues::hook(const std::wstring &name) const { return clampedInt(text(name).toDouble()); }
 
-CurvePtr HostSlabValues::curve(const QString &key) const
+CurvePtr HostSlabValues::curve(const std::wstring &name) const
 {
     CurvePtr value;
     if (m_properties)
-        m_properties->asCurve(value, key);
+        m_properties->asCurve(value, name);
     return value;
 }
 
@@ -47,14 +50,6 @@ HostSlabLinks::HostSlabLinks(const QString &reinforcementInfo) : m_items(reinfor
 QStringList HostSlabLinks::fields(int item) const { return m_items.at(item).split(QLatin1Char(',')); }
 
 qint64 HostSlabLinks::id(int item) const { return fields(item).constFirst().toLongLong(); }
-
-PolygonPtr sharedOutline(const IHBXShape *shape)
-{
-    PolygonPtr outline;
-    if (shape)
-        shape->worldPoly(outline, IHBXModel::g_bDefaultAutoCalc);
-    return outline;
-}
 
 CurvePtr curveInPlan(const vks::CCoord3<double> &frame, const vks::CCurve2d *curve)
 {

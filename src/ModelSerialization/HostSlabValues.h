@@ -5,11 +5,13 @@
 #include "platform/geometry/CCurve2d.h"
 #include "platform/geometry/CPolygon.h"
 #include "platform/host/IHBXElementDrawObj.h"
-#include "platform/host/IHBXShape.h"
+#include "platform/host/WorldOutline.h"
 
 #include <QString>
 #include <QStringList>
 #include <QtGlobal>
+
+#include <string>
 
 class IHBXProperties;
 
@@ -26,15 +28,15 @@ class HostSlabValues
 public:
     explicit HostSlabValues(IHBXElementDrawObj &object);
 
-    int integer(const QString &key) const;
-    double number(const QString &key) const;
+    int integer(const std::wstring &name) const;
+    double number(const std::wstring &name) const;
     /** An elevation, m. */
-    double metres(const QString &key) const;
-    QString text(const QString &key) const;
+    double metres(const std::wstring &name) const;
+    QString text(const std::wstring &name) const;
     /** A length that is kept as text, without its fraction: beyond 32 bits the end of the range, 0 for other text. */
-    qint32 hook(const QString &key) const;
+    qint32 hook(const std::wstring &name) const;
     /** The host's own: to be read and not changed. */
-    CurvePtr curve(const QString &key) const;
+    CurvePtr curve(const std::wstring &name) const;
 
 private:
     const IHBXProperties *m_properties;
@@ -57,14 +59,12 @@ private:
 
 // ---- Geometry, in the plan of the floor and in copies, unless something else is told
 
-/** The host's own outline of a shape, to be read and not changed; null for null and without geometry. */
-PolygonPtr sharedOutline(const IHBXShape *shape);
 /** Outline of an object whose shape is of one of those kinds; null for another kind and without geometry. */
 template <typename... Kinds> PolygonPtr outlineOf(IHBXElementDrawObj &object)
 {
     const IHBXShape *shape = object.shape();
-    const PolygonPtr outline = (dynamic_cast<const Kinds *>(shape) || ...) ? sharedOutline(shape) : nullptr;
-    return outline ? outline->Clone() : nullptr;
+    const PolygonPtr outline = (dynamic_cast<const Kinds *>(shape) || ...) ? hbx::worldOutline(shape) : nullptr;
+    return vks::cloneOrNull(outline);
 }
 
 /** A curve that is told in a frame: as it stands without one, else projected along the vertical. Null for null and where

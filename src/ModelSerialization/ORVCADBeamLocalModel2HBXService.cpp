@@ -345,7 +345,7 @@ bool ORVCADBeamLocalModel2HBXService::writePileSection(IHBXElement *element, con
         writeAll(seatPropertyTexts(seat, SeatStep::PileDepth), element);
         return isWidthWritten;
     }
-    const Polygon outline = seat.ipWorldPoly ? seat.ipWorldPoly->Clone() : nullptr;
+    const Polygon outline = vks::cloneOrNull(seat.ipWorldPoly);
     if (outline)
         outline->Translate(-outline->Box().minPt);
     reconstruct_CreateAbnormityEnt_SetSectionInfo(element, outline);

@@ -36,7 +36,7 @@ constexpr SeatRow kSeatRows[] = {
     {SeatStep::TieBeamPlace,     property::startPtTopElev, PropType::Text,    true,  &Seat::TopElev},
     {SeatStep::TieBeamPlace,     property::endPtTopElev,   PropType::Text,    true,  &Seat::BtmElev},
     {SeatStep::TieBeamPlace,     property::axisOffset,     PropType::Double,  true,  &Seat::AxisOffset},
-    {SeatStep::TieBeamPlace,     property::axisOffsetJZBZ, PropType::Double,  true,  &Seat::AxisOffset},
+    {SeatStep::TieBeamPlace,     property::axisOffsetJzbz, PropType::Double,  true,  &Seat::AxisOffset},
 };
 // clang-format on
 

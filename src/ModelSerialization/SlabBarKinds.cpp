@@ -114,20 +114,20 @@ double SlabBarPlaces::of(int position) const
 
 const SlabBarKind &forcedBarKind()
 {
-    static const SlabBarKind kind{type::bar, subtype::bar, "SLJ-", false, kSlabPlaces, mainProperties()};
+    static const SlabBarKind kind{type::slabBar, subtype::bar, "SLJ-", false, kSlabPlaces, mainProperties()};
     return kind;
 }
 
 const SlabBarKind &straddleForcedBarKind()
 {
-    static const SlabBarKind kind{type::bar, subtype::bar, "KBSLJ-", true, kNoPlaces, straddleProperties()};
+    static const SlabBarKind kind{type::slabBar, subtype::bar, "KBSLJ-", true, kNoPlaces, straddleProperties()};
     return kind;
 }
 
 const SlabBarKind &negativeForcedBarKind()
 {
-    static const SlabBarKind kind{type::negativeBar, subtype::negativeBar, "FJ-", false,
-                                  kNoPlaces,         negativeProperties()};
+    static const SlabBarKind kind{type::slabNegativeBar, subtype::negativeBar, "FJ-", false, kNoPlaces,
+                                  negativeProperties()};
     return kind;
 }
 

@@ -140,7 +140,7 @@ bool enterLineBar(const SlabBarTarget &target, const SlabBarKind &kind, const Sl
         shape->setLine(record.line);
     const int slabId = dependOnSlab(target, record, bar);
     // Meant: the bars of rafts, too, are compared with the negative bars of slabs.
-    return checkBFJOverlap(&target.service, slabId, record.line, static_cast<int>(type::negativeBar),
+    return checkBFJOverlap(&target.service, slabId, record.line, static_cast<int>(type::slabNegativeBar),
                            static_cast<int>(bar.id()));
 }
 

@@ -4,8 +4,10 @@
 #include "ModelSerialization/SlabHostKeys.h"
 #include "ModelSerialization/SlabHostWriting.h"
 #include "ModelSerialization/SlabNumbers.h"
+#include "platform/geometry/Angle.h"
 #include "platform/geometry/CArc2d.h"
 #include "platform/geometry/CLine2d.h"
+#include "platform/geometry/KernelTolerance.h"
 #include "platform/host/IHBXDrawObjs.h"
 #include "platform/host/IHBXModel.h"
 #include "platform/host/IHBXProperties.h"
@@ -27,7 +29,6 @@ using Model = ORVCADBoardLocalModel_Sample;
 using Point = vks::CVec2<double>;
 using Polygon = vks::CRefPtr<vks::CPolygon>;
 
-constexpr double kPi = 3.141592653589793;            // rad
 constexpr double kNearFullTurn = 0.0010123456789;    // rad
 constexpr double kSectionStepsPerMillimetre = -0.02; // meant: subtracted, see sectionLines
 constexpr bool kSizeFlag = false;
@@ -128,14 +129,14 @@ void fill(const HoleRecord &record, IHBXElement &element)
 
 ElementRule ruleOf(const HoleRecord &record)
 {
-    return {type::hole, kSubTypes[record.kind], record.name,
+    return {type::slabHole, kSubTypes[record.kind], record.name,
             [record](const IHBXProperties &properties) { return matches(record, properties); },
             [record](IHBXElement &element) { fill(record, element); }};
 }
 
 // ---- Draw objects
 
-bool isEqual(double a, double b) { return hbx::isEqual(a, b, lengthTolerance(std::fabs(a))); }
+bool isEqual(double a, double b) { return hbx::isEqual(a, b, vks::lengthTolerance(std::fabs(a))); }
 
 /** Two sides that meet have one length. */
 bool isSquare(const vks::CPolygon &outline)
@@ -160,9 +161,9 @@ Polygon rectangle(double width, double length)
 double inHalfTurn(double angle)
 {
     double rest = normalAngle2PI_max2PI(angle, kNearFullTurn);
-    if (rest > kPi)
-        rest -= kPi;
-    return rest > kPi / 2 ? rest - kPi : rest;
+    if (rest > vks::kPi)
+        rest -= vks::kPi;
+    return rest > vks::kPi / 2 ? rest - vks::kPi : rest;
 }
 
 double angleOf(IHBXElement &element, const vks::CPolygon &outline)
@@ -220,8 +221,8 @@ double holeAngle(double width, double length, const vks::CPolygon &outline)
     if (!isSquare(outline))
         return angle;
     if (isEqual(angle, 0.0))
-        return kPi / 2;
-    return isEqual(angle, kPi / 2) ? 0.0 : angle;
+        return vks::kPi / 2;
+    return isEqual(angle, vks::kPi / 2) ? 0.0 : angle;
 }
 
 void fillAlienHoleProp(const vks::CPolygon *polygon, IHBXElement *const &element)

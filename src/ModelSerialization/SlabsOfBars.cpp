@@ -2,9 +2,9 @@
 
 #include "ModelSerialization/HostSlabValues.h"
 #include "ModelSerialization/SlabHostKeys.h"
-#include "ModelSerialization/SlabNumbers.h"
 #include "platform/dwgx/DWGXBaseBoxTree.h"
 #include "platform/geometry/CPositionJudge.h"
+#include "platform/geometry/KernelTolerance.h"
 #include "platform/host/IHBXCurState.h"
 #include "platform/host/IHBXDrawObjs.h"
 #include "platform/host/IHBXFloor.h"
@@ -51,7 +51,7 @@ std::vector<IHBXElementDrawObj *> slabsInBox(dwgx::DWGXBaseBoxTree *boxTree, con
 template <typename Test>
 std::vector<IHBXElementDrawObj *> slabsThat(std::vector<IHBXElementDrawObj *> slabs, const Test &test)
 {
-    const auto fails = [&test](IHBXElementDrawObj *slab) { return !test(sharedOutline(slab->shape())); };
+    const auto fails = [&test](IHBXElementDrawObj *slab) { return !test(hbx::worldOutline(slab->shape())); };
     slabs.erase(std::remove_if(slabs.begin(), slabs.end(), fails), slabs.end());
     return slabs;
 }
@@ -80,7 +80,7 @@ struct BarInQuestion
     bool isCoveredBy(IHBXElementDrawObj &other) const
     {
         return shareStretch(&line, planCurve(other)) &&
-               hbx::isEqual(elevation, getNegReinfElev(&other), lengthTolerance(elevation)) &&
+               hbx::isEqual(elevation, getNegReinfElev(&other), vks::lengthTolerance(elevation)) &&
                shareStretch(drawn, drawnCurve(&other));
     }
 };

@@ -112,7 +112,8 @@ void readGrid(Input &input, IHBXElementDrawObj *object)
 void readAxisLines(Input &input, IHBXModel &model, int floorId)
 {
     QList<IHBXElementDrawObj *> grids;
-    model.drawObjects()->queryDrawObjsOfFloor(grids, floorId, static_cast<int>(beam::type::axisGrid), -1, true);
+    model.drawObjects()->queryDrawObjsOfFloor(grids, floorId, static_cast<int>(beam::type::axisGrid),
+                                              IHBXDrawObjs::kAnySubType, true);
     for (IHBXElementDrawObj *object : qAsConst(grids))
         readGrid(input, object);
 }

@@ -1,10 +1,8 @@
 #pragma once
 
 #include "encoding/RecordKey.h"
-
-#include <QtGlobal>
-
-#include <string>
+#include "platform/services/HBXElementTypes.h"
+#include "platform/services/HBXPropertyNames.h"
 
 /** Names that beams have in JSON and in the host. */
 namespace beam {
@@ -157,53 +155,8 @@ constexpr QLatin1String pileCaps = "etPileCap"_key;
 constexpr QLatin1String piles = "etPile"_key;
 } // namespace key
 
-/** Properties of the host. */
-namespace property {
-inline const std::wstring axisOffset = L"AxisOffset";
-inline const std::wstring axisOffsetJZBZ = L"AxisOffset_JZBZ";
-inline const std::wstring bottomElev = L"BottomElev";
-inline const std::wstring bottomHoriBar = L"BottomHoriBar";
-inline const std::wstring bottomThroughBar = L"BottomThroughBar";
-inline const std::wstring endPtTopElev = L"EndPtTopElev";
-inline const std::wstring height = L"Height";
-inline const std::wstring hoopBar = L"HoopBar";
-inline const std::wstring insertPt = L"InsertPt";
-inline const std::wstring limb = L"Limb";
-inline const std::wstring sectionHeight = L"SectionHeight";
-inline const std::wstring sectionInfo = L"SectionInfo";
-inline const std::wstring sectionPoly = L"SectionPoly";
-inline const std::wstring sectionTypeId = L"SectionTypeID";
-inline const std::wstring sectionWidth = L"SectionWidth";
-inline const std::wstring sideBar = L"SideBar";
-inline const std::wstring sideBarAL = L"SideBarAL";
-inline const std::wstring spanCount = L"SpanCount";
-inline const std::wstring startPtTopElev = L"StartPtTopElev";
-inline const std::wstring thickness = L"Thickness";
-inline const std::wstring tieBar = L"TieBar";
-inline const std::wstring topElev = L"TopElev";
-inline const std::wstring topHoriBar = L"TopHoriBar";
-inline const std::wstring topThroughBar = L"TopThroughBar";
-inline const std::wstring type = L"Type";
-inline const std::wstring type1 = L"Type1";
-} // namespace property
-
-/** Element types of the host. */
-namespace type {
-constexpr qint64 forceWall = 0;
-constexpr qint64 beam = 15;
-constexpr qint64 linkBeam = 17;
-constexpr qint64 tieBeam = 18;
-constexpr qint64 column = 25;
-constexpr qint64 tieColumn = 26;
-constexpr qint64 foundationBeam = 47;
-constexpr qint64 isolatedFoundation = 52;
-constexpr qint64 pileCap = 53;
-constexpr qint64 pile = 54;
-constexpr qint64 axisGrid = 74;
-constexpr qint64 isolatedFoundationUnit = 82;
-constexpr qint64 pileCapUnit = 83;
-constexpr qint64 masonryColumn = 1002;
-constexpr qint64 brickWall = 1003;
-} // namespace type
+/** Properties and element types of the host. */
+namespace property = hbx::property;
+namespace type = hbx::type;
 
 } // namespace beam

@@ -14,9 +14,11 @@
 #include "platform/host/IHBXRegion.h"
 #include "platform/host/IHBXSection.h"
 #include "platform/host/IHBXSectionHolder.h"
+#include "platform/host/WorldOutline.h"
 #include "platform/services/HbxRelation.h"
 #include "platform/services/HbxTolerance.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -40,27 +42,12 @@ constexpr double kGreatestWallOffset = 180.0;
 
 /** A centre line that lies off its axis by no more than this stays where it is, mm. */
 constexpr double kLeastLineOffset = 1.0;
-/** Share of a value, and least one in mm, that stand in for a kernel tolerance of 0. */
-constexpr double kRelativeTolerance = 1e-12;
 
 /** 0 for a number that does not fit. */
 int narrowed(qint64 number)
 {
     const bool fits = number >= std::numeric_limits<int>::min() && number <= std::numeric_limits<int>::max();
     return fits ? static_cast<int>(number) : 0;
-}
-
-template <typename Geometry> vks::CRefPtr<Geometry> cloned(const vks::CRefPtr<Geometry> &geometry)
-{
-    return geometry ? geometry->Clone() : nullptr;
-}
-
-Polygon worldPolyOf(IHBXElementDrawObj &object)
-{
-    Polygon polygon;
-    if (const IHBXShape *shape = object.shape())
-        shape->worldPoly(polygon, IHBXModel::g_bDefaultAutoCalc);
-    return polygon;
 }
 
 bool hasSkippedSection(IHBXElementDrawObj &object)
@@ -127,7 +114,7 @@ void readValue(const IHBXProperties &properties, const std::wstring &name, QStri
 void readValue(const IHBXProperties &properties, const std::wstring &name, Polygon &out)
 {
     Polygon stored;
-    out = cloned(properties.asPolygon(stored, name));
+    out = vks::cloneOrNull(properties.asPolygon(stored, name));
 }
 
 /** A property of the host and the field that it goes to, read as a value of the kind Read. */
@@ -160,7 +147,7 @@ void readRows(Seat &seat, const IHBXProperties *properties, const PropertyRow<Re
 void readSection(Seat &seat, const IHBXProperties *own)
 {
     readRows(seat, own, row(property::sectionPoly, &Seat::SectionPoly), row(property::axisOffset, &Seat::AxisOffset),
-             row(property::axisOffsetJZBZ, &Seat::AxisOffset), // the second name wins
+             row(property::axisOffsetJzbz, &Seat::AxisOffset), // the second name wins
              row(property::type1, &Seat::Type), rowAs<int>(property::height, &Seat::Height),
              row(property::sectionWidth, &Seat::SectionWidth), row(property::sectionHeight, &Seat::SectionHeight));
 }
@@ -195,15 +182,13 @@ void readRebuildData(Seat &seat, IHBXElementDrawObj &object, const IHBXShape &sh
 Curve worldLineOf(const IHBXCustomLineSolidShape &solid)
 {
     Curve line;
-    return cloned(solid.worldLine(line, IHBXModel::g_bDefaultAutoCalc));
+    return vks::cloneOrNull(solid.worldLine(line, IHBXModel::g_bDefaultAutoCalc));
 }
 
 bool isOffset(double distance)
 {
     const double size = std::fabs(distance);
-    const double tolerance =
-        vks::g_DistEpsilon != 0.0 ? vks::g_DistEpsilon : std::max(kRelativeTolerance, size * kRelativeTolerance);
-    return hbx::isGreater(size, kLeastLineOffset, tolerance);
+    return hbx::isGreater(size, kLeastLineOffset, vks::lengthTolerance(size));
 }
 
 /** Moves the centre line from the axis to the middle of the object. */
@@ -223,7 +208,7 @@ void readLine(Seat &seat, const IHBXCustomLineSolidShape &solid, const BeamSeatT
 {
     Curve local;
     seat.bLineShape = true;
-    seat.ipWallLine = cloned(solid.localLine(local, IHBXModel::g_bDefaultAutoCalc));
+    seat.ipWallLine = vks::cloneOrNull(solid.localLine(local, IHBXModel::g_bDefaultAutoCalc));
     seat.ipCenterLine = worldLineOf(solid);
     const bool hasThickness = properties && properties->hasProperty(property::thickness);
     // Meant: it is the object without a thickness whose thickness is asked for.
@@ -280,7 +265,7 @@ std::unique_ptr<ORVBeamSDCSeatInfoModel> readBeamSeat(IHBXElementDrawObj &object
     const BeamSeatType &type = seatType(object.type());
     if (type.number == beam::type::column && hasSkippedSection(object))
         return nullptr;
-    const Polygon outline = worldPolyOf(object);
+    const Polygon outline = hbx::worldOutline(object.shape());
     if (!outline)
         return nullptr;
     const IHBXShape &shape = *object.shape(); // there is one: it gave the outline
@@ -290,7 +275,7 @@ std::unique_ptr<ORVBeamSDCSeatInfoModel> readBeamSeat(IHBXElementDrawObj &object
     seat->seatElementType = narrowed(object.type());
     seat->nElementSubType = narrowed(object.subType());
     IHBXElementDrawObj *unit = type.hasUnits ? topUnit(object) : nullptr;
-    seat->ipWorldPoly = cloned(unit ? worldPolyOf(*unit) : outline);
+    seat->ipWorldPoly = vks::cloneOrNull(unit ? hbx::worldOutline(unit->shape()) : outline);
     seat->nEDOID = narrowed(object.id());
     if (type.kind == BeamSeatType::kColumn)
         readColumn(*seat, properties);

@@ -2,6 +2,7 @@
 
 #include "cli/Command.h"
 #include "cli/StrictJsonText.h"
+#include "platform/dwgx/StrictJson.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,15 +14,6 @@
 namespace orvcad {
 
 namespace {
-
-/** Line and column, counted from 1, of a byte position. */
-QString lineAndColumn(const QByteArray &bytes, int offset)
-{
-    const QByteArray before = bytes.left(offset);
-    const int line = before.count('\n') + 1;
-    const int column = offset - before.lastIndexOf('\n');
-    return QStringLiteral("line %1, column %2").arg(line).arg(column);
-}
 
 void writeToStandardOutput(const QByteArray &bytes)
 {
@@ -45,7 +37,7 @@ QByteArray readFile(const QString &path)
 void requireStrictJson(const QByteArray &text, const QString &path)
 {
     if (const auto fault = firstTextFault(text))
-        throw CommandFailure(kBadInput, path, fault->place(), fault->reason);
+        throw CommandFailure(kBadInput, path, fault->place, fault->reason);
 }
 
 QJsonDocument readJsonFile(const QString &path)
@@ -56,7 +48,7 @@ QJsonDocument readJsonFile(const QString &path)
     QJsonParseError error;
     QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
     if (error.error != QJsonParseError::NoError)
-        throw CommandFailure(kBadInput, path, lineAndColumn(bytes, error.offset),
+        throw CommandFailure(kBadInput, path, dwgx::lineAndColumn(bytes, error.offset),
                              QStringLiteral("not JSON: ") + error.errorString());
     requireStrictJson(bytes, path);
     return document;

@@ -1,19 +1,13 @@
 #pragma once
 
-#include "doorwindow/DoorWindowKeys.h"
-
-#include <algorithm>
-#include <iterator>
+#include "platform/services/HBXElementTypes.h"
 
 namespace orvcad {
 
 /** Element types of doors, windows and what else opens a wall. */
-constexpr qint64 kOpeningTypes[] = {doorwindow::type::door, doorwindow::type::window, doorwindow::type::combined,
-                                    doorwindow::type::wallOpening};
+constexpr qint64 kOpeningTypes[] = {hbx::type::door, hbx::type::window, hbx::type::doorWithWindow,
+                                    hbx::type::wallOpening};
 
-inline bool isOpening(qint64 elementType)
-{
-    return std::find(std::begin(kOpeningTypes), std::end(kOpeningTypes), elementType) != std::end(kOpeningTypes);
-}
+inline bool isOpening(qint64 elementType) { return hbx::isOneOf(elementType, kOpeningTypes); }
 
 } // namespace orvcad

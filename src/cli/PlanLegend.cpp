@@ -9,6 +9,7 @@
 #include "doorwindow/DoorWindowKeys.h"
 #include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXRegion.h"
+#include "platform/services/HBXElementTypes.h"
 
 #include <algorithm>
 #include <iterator>
@@ -82,7 +83,7 @@ void PlanLegend::paintLine(double x, const QString &line, const QString &attribu
 void PlanLegend::paintEntry(const Entry &entry)
 {
     const double middle = m_y - kTextHeight / 2;
-    const bool hasPane = entry.type == doorwindow::type::window;
+    const bool hasPane = entry.type == hbx::type::window;
     if (entry.hasArea)
         paintSwatch(planFill(entry.type) + ' ' + planStroke(entry.type));
     if (!entry.hasArea || hasPane)

@@ -1,31 +1,25 @@
 #include "cli/PlanObjects.h"
 
-#include "ModelSerialization/SlabHostKeys.h"
 #include "platform/geometry/OrientProjectCurve2d.h"
 #include "platform/host/IHBXAxisGrid.h"
 #include "platform/host/IHBXElementDrawObj.h"
 #include "platform/host/IHBXLineShape2D.h"
 #include "platform/host/IHBXModel.h"
 #include "platform/host/IHBXProperties.h"
+#include "platform/services/HBXElementTypes.h"
+#include "platform/services/HBXPropertyNames.h"
 #include "platform/services/SlabElevations.h"
 
-#include <algorithm>
-#include <iterator>
 #include <memory>
 
 namespace orvcad {
 
 namespace {
 
-namespace type = slabhost::type;
+namespace type = hbx::type;
 
-constexpr qint64 kBars[] = {type::bar, type::negativeBar, type::raftBar, type::raftNegativeBar};
+constexpr qint64 kBars[] = {type::slabBar, type::slabNegativeBar, type::raftBar, type::raftNegativeBar};
 constexpr qint64 kPlates[] = {type::slab, type::raft};
-
-template <typename Types> bool isOneOf(const Types &types, qint64 wanted)
-{
-    return std::find(std::begin(types), std::end(types), wanted) != std::end(types);
-}
 
 vks::CRefPtr<vks::CCurve2d> toPlan(IHBXShape &shape, const vks::CCurve2d *curve)
 {
@@ -57,8 +51,8 @@ void readBar(IHBXElementDrawObj &object, PlanObject &placed)
     const IHBXProperties *properties = object.properties();
     if (!properties)
         return;
-    properties->asCurve(placed.bar, slabhost::property::curveData);
-    properties->asString(placed.barText, slabhost::property::barInfo);
+    properties->asCurve(placed.bar, hbx::property::curveData);
+    properties->asString(placed.barText, hbx::property::barInfo);
 }
 
 } // namespace
@@ -91,10 +85,10 @@ PlanObject planObjectOf(IHBXElementDrawObj &object)
     } else if (placed.axes.empty()) {
         shape->worldPoly(placed.outline, IHBXModel::g_bDefaultAutoCalc);
     }
-    if (isOneOf(kBars, object.type()))
+    if (hbx::isOneOf(object.type(), kBars))
         readBar(object, placed);
-    if (placed.outline && isOneOf(kPlates, object.type()))
-        placed.topElev = getSlabElev(&object, QString::fromStdWString(slabhost::property::topElev));
+    if (placed.outline && hbx::isOneOf(object.type(), kPlates))
+        placed.topElev = getSlabElev(&object, QString::fromStdWString(hbx::property::topElev));
     return placed;
 }
 

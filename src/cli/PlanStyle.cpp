@@ -1,8 +1,8 @@
 #include "cli/PlanStyle.h"
 
-#include "ModelSerialization/SlabHostKeys.h"
 #include "cli/OpeningTypes.h"
 #include "platform/services/HBXElementTypeTable.h"
+#include "platform/services/HBXElementTypes.h"
 
 #include <algorithm>
 #include <iterator>
@@ -10,6 +10,8 @@
 namespace orvcad {
 
 namespace {
+
+namespace type = hbx::type;
 
 // Patterns of lines, mm of paper.
 constexpr char kThrough[] = "";
@@ -32,18 +34,38 @@ struct Style
 
 /** From the bottom of the picture to its top. */
 constexpr Style kStyles[] = {
-    {48, 0.25, 0.18, kThrough},     {19, 0.18, 0.13, kThrough},    {54, 0.40, 0.18, kThrough},
-    {53, 0.30, 0.18, kThrough},     {52, 0.30, 0.18, kThrough},    {83, 0.30, 0.13, kThrough},
-    {82, 0.30, 0.13, kThrough},     {24, 0.0, 0.25, kThrough},     {15, 0.14, 0.13, kDashed},
-    {17, 0.14, 0.13, kDashed},      {18, 0.14, 0.13, kDashed},     {47, 0.14, 0.13, kDashed},
-    {1, kSolid, 0.18, kThrough},    {202, kSolid, 0.18, kThrough}, {1001, kSolid, 0.18, kThrough},
-    {1003, kSolid, 0.18, kThrough}, {0, kSolid, 0.18, kThrough},   {1002, kSolid, 0.18, kThrough},
-    {26, kSolid, 0.18, kThrough},   {25, kSolid, 0.18, kThrough},  {7, kSolid, 0.25, kThrough},
-    {6, kSolid, 0.25, kThrough},    {5, kSolid, 0.25, kThrough},   {4, kSolid, 0.25, kThrough},
-    {49, 0.0, 0.13, kDashed},       {22, 0.0, 0.13, kDashed},      {50, 0.0, 0.18, kThrough},
-    {23, 0.0, 0.18, kThrough},      {75, 0.0, 0.13, kDashDot},     {74, 0.0, 0.13, kDashDot},
+    {type::raft, 0.25, 0.18, kThrough},
+    {type::slab, 0.18, 0.13, kThrough},
+    {type::pile, 0.40, 0.18, kThrough},
+    {type::pileCap, 0.30, 0.18, kThrough},
+    {type::isolatedFoundation, 0.30, 0.18, kThrough},
+    {type::pileCapUnit, 0.30, 0.13, kThrough},
+    {type::isolatedFoundationUnit, 0.30, 0.13, kThrough},
+    {type::slabHole, 0.0, 0.25, kThrough},
+    {type::beam, 0.14, 0.13, kDashed},
+    {type::linkBeam, 0.14, 0.13, kDashed},
+    {type::tieBeam, 0.14, 0.13, kDashed},
+    {type::foundationBeam, 0.14, 0.13, kDashed},
+    {type::partitionWall, kSolid, 0.18, kThrough},
+    {type::retainingWall, kSolid, 0.18, kThrough},
+    {type::curtainWall, kSolid, 0.18, kThrough},
+    {type::brickWall, kSolid, 0.18, kThrough},
+    {type::forceWall, kSolid, 0.18, kThrough},
+    {type::masonryColumn, kSolid, 0.18, kThrough},
+    {type::tieColumn, kSolid, 0.18, kThrough},
+    {type::column, kSolid, 0.18, kThrough},
+    {type::wallOpening, kSolid, 0.25, kThrough},
+    {type::doorWithWindow, kSolid, 0.25, kThrough},
+    {type::window, kSolid, 0.25, kThrough},
+    {type::door, kSolid, 0.25, kThrough},
+    {type::raftBar, 0.0, 0.13, kDashed},
+    {type::slabBar, 0.0, 0.13, kDashed},
+    {type::raftNegativeBar, 0.0, 0.18, kThrough},
+    {type::slabNegativeBar, 0.0, 0.18, kThrough},
+    {type::axisLine, 0.0, 0.13, kDashDot},
+    {type::axisGrid, 0.0, 0.13, kDashDot},
 };
-constexpr Style kPlain{-1, 0.2, 0.13, kThrough};
+constexpr Style kPlain{hbx::kAnyType, 0.2, 0.13, kThrough};
 
 /** Behind the last one for a type that no plan shows. */
 const Style *find(qint64 type)
@@ -58,7 +80,7 @@ const Style &styleOf(qint64 type)
     return style == std::end(kStyles) ? kPlain : *style;
 }
 
-bool isHole(qint64 type) { return type == slabhost::type::hole; }
+bool isHole(qint64 type) { return type == hbx::type::slabHole; }
 
 int rgbOf(qint64 type)
 {

@@ -1,7 +1,5 @@
 #include "cli/PlanSvg.h"
 
-#include "IdentifyInputModel/Wall/WallHostKeys.h"
-#include "ModelSerialization/SlabHostKeys.h"
 #include "cli/OpeningTypes.h"
 #include "cli/PlanLabels.h"
 #include "cli/PlanLegend.h"
@@ -17,6 +15,7 @@
 #include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXModel.h"
 #include "platform/host/IHBXRegion.h"
+#include "platform/services/HBXElementTypes.h"
 
 #include <QMap>
 
@@ -46,9 +45,9 @@ constexpr double kScales[] = {10, 20, 25, 50, 75, 100, 125, 150, 200, 250, 300, 
 constexpr double kFirstScale = 100.0;
 const vks::CBox2<double> kEmptyPlan({0, 0}, {10000, 10000}); // mm, shown of a floor with nothing on it
 
-constexpr qint64 kWindow = doorwindow::type::window;
-constexpr qint64 kHole = slabhost::type::hole;
-constexpr qint64 kAxisGrid = wall::type::axisGrid;
+constexpr qint64 kWindow = hbx::type::window;
+constexpr qint64 kHole = hbx::type::slabHole;
+constexpr qint64 kAxisGrid = hbx::type::axisGrid;
 
 constexpr char kPageStyle[] = "text{font-family:'DejaVu Sans','Noto Sans CJK SC','Noto Sans',sans-serif;fill:#222}"
                               ".names text{paint-order:stroke;stroke:#fff;stroke-width:.5;stroke-linejoin:round}"
@@ -123,7 +122,7 @@ void PlanPainter::add(const PlanObject &placed)
 void PlanPainter::collect(IHBXModel &model)
 {
     QList<IHBXElementDrawObj *> objects;
-    model.drawObjects()->queryDrawObjsOfFloor(objects, m_floor.id(), -1, -1, true);
+    model.drawObjects()->queryDrawObjsOfFloor(objects, m_floor.id(), hbx::kAnyType, IHBXDrawObjs::kAnySubType, true);
     std::stable_sort(objects.begin(), objects.end(),
                      [](const auto *a, const auto *b) { return planOrder(a->type()) < planOrder(b->type()); });
     for (IHBXElementDrawObj *object : qAsConst(objects)) {

@@ -1,8 +1,8 @@
 #include "cli/SlabArrays.h"
 
 #include "ModelSerialization/ORVCADBoardLocalModelPersistenceService_Sample.h"
-#include "ModelSerialization/SlabHostKeys.h"
 #include "cli/Counted.h"
+#include "platform/services/HBXElementTypes.h"
 #include "slab/ORVCADBoardLocalModel_Sample.h"
 #include "slab/SlabKeys.h"
 
@@ -66,7 +66,7 @@ QJsonObject SlabArray::pattern() const
 
 const std::vector<SlabArray> &slabArrays()
 {
-    namespace type = slabhost::type;
+    namespace type = hbx::type;
     constexpr auto outline = SlabArray::Geometry::Outline;
     static const std::vector<SlabArray> arrays{
         {key::boards,
@@ -83,10 +83,11 @@ const std::vector<SlabArray> &slabArrays()
          outline,
          {key::surface, key::thickness, key::topElev, key::bottomElev},
          {key::id}},
-        {key::boardHoles, Persistence::Boards, "slab opening", type::hole, outline, {key::surface}, {key::id}},
-        areaBars(key::forcedBars, Persistence::BoardBars, "slab bar", type::bar, key::forcedType),
-        lineBars(key::negativeForcedBars, Persistence::BoardBars, "slab negative bar", type::negativeBar),
-        areaBars(key::straddleForcedBars, Persistence::BoardBars, "straddling slab bar", type::bar, key::labelPosition),
+        {key::boardHoles, Persistence::Boards, "slab opening", type::slabHole, outline, {key::surface}, {key::id}},
+        areaBars(key::forcedBars, Persistence::BoardBars, "slab bar", type::slabBar, key::forcedType),
+        lineBars(key::negativeForcedBars, Persistence::BoardBars, "slab negative bar", type::slabNegativeBar),
+        areaBars(key::straddleForcedBars, Persistence::BoardBars, "straddling slab bar", type::slabBar,
+                 key::labelPosition),
         areaBars(key::raftMainForcedBars, Persistence::RaftBars, "raft bar", type::raftBar, key::forcedType),
         areaBars(key::raftStraddleMainForcedBars, Persistence::RaftBars, "straddling raft bar", type::raftBar,
                  key::labelPosition),

@@ -2,7 +2,6 @@
 
 #include "ModelSerialization/ORVCADBoardLocalModelPersistenceService_Sample.h"
 #include "ModelSerialization/ORVCADBoardLocalModelTransformHBXService_Sample.h"
-#include "ModelSerialization/SlabHostKeys.h"
 #include "platform/dwgx/DWGXBaseBoxTree.h"
 #include "platform/embedded/HBXProject.h"
 #include "platform/host/IHBXElementDrawObj.h"
@@ -11,6 +10,8 @@
 #include "platform/host/IHBXRegion.h"
 #include "platform/host/IHBXService.h"
 #include "platform/host/IHBXShape.h"
+#include "platform/host/WorldOutline.h"
+#include "platform/services/HBXElementTypes.h"
 #include "platform/services/ValidateBarInfo.h"
 #include "slab/ORVCADBoardLocalModel_Sample.h"
 #include "slab/SlabKeys.h"
@@ -40,11 +41,9 @@ BoxTree treeOf(IHBXFloor &floor, const QSet<qint64> &types)
     QList<IHBXElementDrawObj *> objects;
     if (!types.isEmpty())
         floor.drawObjsOfTypes(objects, types, true);
-    for (IHBXElementDrawObj *object : qAsConst(objects)) {
-        vks::CRefPtr<vks::CPolygon> outline;
-        if (object->shape() && object->shape()->worldPoly(outline, IHBXModel::g_bDefaultAutoCalc))
+    for (IHBXElementDrawObj *object : qAsConst(objects))
+        if (const auto outline = hbx::worldOutline(object->shape()))
             tree->add(outline->Box(), object);
-    }
     return tree;
 }
 
@@ -73,7 +72,7 @@ QString refusal(const HBXProject &project, std::size_t entries)
 QString unasked(const Member &member)
 {
     const qint64 type = member.array->type;
-    if (type == slabhost::type::hole)
+    if (type == hbx::type::slabHole)
         return QStringLiteral("no slab and no raft of the floor holds its middle");
     const QString barInfo = member.json.value(slab::key::barInfo).toString();
     if (member.array->required.contains(slab::key::barInfo) && !ValidateBarInfo(kSlabBarInfo, barInfo.toUpper()))

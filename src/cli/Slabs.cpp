@@ -1,7 +1,6 @@
 #include "cli/Slabs.h"
 
 #include "ModelSerialization/ORVCADBoardLocalModelPersistenceService_Sample.h"
-#include "ModelSerialization/SlabHostKeys.h"
 #include "cli/Counted.h"
 #include "cli/ElementRemoval.h"
 #include "cli/SlabReplyCheck.h"
@@ -13,6 +12,7 @@
 #include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXRegion.h"
 #include "platform/host/IHBXService.h"
+#include "platform/services/HBXElementTypes.h"
 
 #include <QJsonArray>
 
@@ -24,7 +24,7 @@ namespace orvcad {
 
 namespace {
 
-namespace type = slabhost::type;
+namespace type = hbx::type;
 using Parts = ORVCADBoardLocalModelPersistenceService_Sample::Parts;
 
 /** What is written at once, and what its bars are linked with. */

@@ -1,5 +1,7 @@
 #include "cli/StrictJsonText.h"
 
+#include "platform/dwgx/StrictJson.h"
+
 #include <rapidjson/error/en.h>
 #include <rapidjson/memorystream.h>
 #include <rapidjson/reader.h>
@@ -76,18 +78,9 @@ private:
     QString m_reason;
 };
 
-JsonTextFault faultAt(const QByteArray &text, std::size_t offset, const QString &reason)
-{
-    const QByteArray before = text.left(static_cast<int>(offset));
-    const QByteArray line = before.mid(before.lastIndexOf('\n') + 1);
-    return {before.count('\n') + 1, QString::fromUtf8(line).size() + 1, reason};
-}
-
 } // namespace
 
-QString JsonTextFault::place() const { return QStringLiteral("line %1, column %2").arg(line).arg(column); }
-
-std::optional<JsonTextFault> firstTextFault(const QByteArray &text)
+std::optional<JsonFault> firstTextFault(const QByteArray &text)
 {
     constexpr unsigned flags =
         rapidjson::kParseIterativeFlag | rapidjson::kParseValidateEncodingFlag | rapidjson::kParseNumbersAsStringsFlag;
@@ -102,7 +95,7 @@ std::optional<JsonTextFault> firstTextFault(const QByteArray &text)
     const QString reason =
         isOurs ? look.reason()
                : QStringLiteral("not JSON: ") + QString::fromLatin1(rapidjson::GetParseError_En(result.Code()));
-    return faultAt(text, static_cast<std::size_t>(start) + result.Offset(), reason);
+    return JsonFault{dwgx::lineAndColumn(text, start + static_cast<int>(result.Offset())), reason};
 }
 
 } // namespace orvcad

@@ -1,5 +1,6 @@
 #include "cli/SvgPage.h"
 
+#include "platform/geometry/Angle.h"
 #include "platform/geometry/CArc2d.h"
 
 #include <QStringList>
@@ -10,7 +11,6 @@ namespace orvcad {
 
 namespace {
 
-constexpr double kPi = 3.14159265358979323846;
 constexpr int kDecimals = 3;         // of a paper millimetre
 constexpr double kCapitalPart = 0.7; // height of a capital letter in parts of the font size
 
@@ -84,7 +84,7 @@ QString SvgPage::segmentOf(const vks::CCurve2d &curve) const
     };
     if (curve.IsClosed()) // SVG has no arc back to its own start
         return arcTo(curve.MidPoint(), false) + arcTo(curve.EndPoint(), false);
-    return arcTo(curve.EndPoint(), std::fabs(arc->SweepAngle()) > kPi);
+    return arcTo(curve.EndPoint(), std::fabs(arc->SweepAngle()) > vks::kPi);
 }
 
 QString SvgPage::pathOf(const vks::CCoedgeList &loop) const
@@ -138,7 +138,7 @@ void SvgPage::addText(const vks::CVec2<double> &point, double size, const QStrin
 {
     QString turn;
     if (angle != 0.0)
-        turn = QStringLiteral(" transform=\"rotate(%1 %2)\"").arg(number(-angle * 180.0 / kPi), pointText(point));
+        turn = QStringLiteral(" transform=\"rotate(%1 %2)\"").arg(number(-angle * 180.0 / vks::kPi), pointText(point));
     m_body += QStringLiteral("<text x=\"%1\" y=\"%2\" font-size=\"%3\" %4%5>%6</text>\n")
                   .arg(number(point.x), number(point.y), number(size / kCapitalPart), attributes, turn, xmlText(text));
 }

@@ -1,26 +1,49 @@
 #include "cli/TypeTitles.h"
+#include "platform/services/HBXElementTypes.h"
 
 namespace orvcad {
 
 namespace {
+
+namespace type = hbx::type;
 
 struct Title
 {
     qint64 type;
     const char *text;
 };
-// clang-format off
 constexpr Title kTitles[] = {
-    {0, "concrete wall"},     {1, "partition wall"},  {4, "door"},             {5, "window"},
-    {6, "door and window"},   {7, "wall opening"},    {15, "beam"},            {17, "link beam"},
-    {18, "tie beam"},         {19, "slab"},           {22, "slab bar"},        {23, "slab negative bar"},
-    {24, "slab opening"},     {25, "column"},         {26, "tie column"},      {47, "foundation beam"},
-    {48, "raft"},             {49, "raft bar"},       {50, "raft negative bar"}, {52, "isolated footing"},
-    {53, "pile cap"},         {54, "pile"},           {74, "axis grid"},       {75, "axis line"},
-    {82, "footing unit"},     {83, "pile cap unit"},  {202, "retaining wall"}, {1001, "curtain wall"},
-    {1002, "masonry column"}, {1003, "brick wall"},
+    {type::forceWall, "concrete wall"},
+    {type::partitionWall, "partition wall"},
+    {type::door, "door"},
+    {type::window, "window"},
+    {type::doorWithWindow, "door and window"},
+    {type::wallOpening, "wall opening"},
+    {type::beam, "beam"},
+    {type::linkBeam, "link beam"},
+    {type::tieBeam, "tie beam"},
+    {type::slab, "slab"},
+    {type::slabBar, "slab bar"},
+    {type::slabNegativeBar, "slab negative bar"},
+    {type::slabHole, "slab opening"},
+    {type::column, "column"},
+    {type::tieColumn, "tie column"},
+    {type::foundationBeam, "foundation beam"},
+    {type::raft, "raft"},
+    {type::raftBar, "raft bar"},
+    {type::raftNegativeBar, "raft negative bar"},
+    {type::isolatedFoundation, "isolated footing"},
+    {type::pileCap, "pile cap"},
+    {type::pile, "pile"},
+    {type::axisGrid, "axis grid"},
+    {type::axisLine, "axis line"},
+    {type::isolatedFoundationUnit, "footing unit"},
+    {type::pileCapUnit, "pile cap unit"},
+    {type::retainingWall, "retaining wall"},
+    {type::curtainWall, "curtain wall"},
+    {type::masonryColumn, "masonry column"},
+    {type::brickWall, "brick wall"},
 };
-// clang-format on
 
 } // namespace
 

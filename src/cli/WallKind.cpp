@@ -1,14 +1,14 @@
 #include "cli/WallKind.h"
 
 #include "IdentifyInputModel/Wall/JsonWall2HBX.h"
-#include "IdentifyInputModel/Wall/WallHostKeys.h"
 #include "IdentifyInputModel/Wall/WallKeys.h"
+#include "platform/services/HBXElementTypes.h"
 
 #include <algorithm>
 
 namespace orvcad {
 
-bool WallKind::isBrick() const { return elementType == wall::type::brickWall; }
+bool WallKind::isBrick() const { return elementType == hbx::type::brickWall; }
 
 QJsonObject WallKind::replyOf(const QJsonObject &map) const
 {
@@ -27,9 +27,9 @@ int wallCount(const QJsonObject &map) { return map.size() / 2; }
 
 const std::vector<WallKind> &wallKinds()
 {
-    static const std::vector<WallKind> kinds{{"brick", EORVCADIdentifyType(1), wall::type::brickWall,
+    static const std::vector<WallKind> kinds{{"brick", EORVCADIdentifyType(1), hbx::type::brickWall,
                                               wall::reply::brickWalls, wall::document::brickReply, jsonBrickWall2HBX},
-                                             {"force", EORVCADIdentifyType(2), wall::type::forceWall,
+                                             {"force", EORVCADIdentifyType(2), hbx::type::forceWall,
                                               wall::reply::forceWalls, wall::document::forceReply, jsonForceWall2HBX}};
     return kinds;
 }

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "encoding/RecordKey.h"
-
-#include <string>
+#include "platform/services/HBXPropertyNames.h"
 
 /** Names that columns have in JSON and in the host. */
 namespace column {
@@ -115,12 +114,7 @@ constexpr QLatin1String radius = "dRadius"_key;
 constexpr QLatin1String infoType = "m_type"_key;
 } // namespace key
 
-namespace property {
-inline const std::wstring sectionTypeId = L"SectionTypeID";
-inline const std::wstring insertPt = L"InsertPt";
-inline const std::wstring sectionInfo = L"SectionInfo";
-inline const std::wstring sectionHeight = L"SectionHeight";
-inline const std::wstring sectionWidth = L"SectionWidth";
-} // namespace property
+/** Properties of the host. */
+namespace property = hbx::property;
 
 } // namespace column

@@ -1,10 +1,8 @@
 #pragma once
 
 #include "encoding/RecordKey.h"
-
-#include <QtGlobal>
-
-#include <string>
+#include "platform/services/HBXElementTypes.h"
+#include "platform/services/HBXPropertyNames.h"
 
 /** Names that doors and windows have in JSON and in the host. */
 namespace doorwindow {
@@ -30,23 +28,8 @@ constexpr QLatin1String elementsAndEdos = "ElementsAndEdos"_key;
 constexpr QLatin1String identifyOptions = "ORVCADWindoorDataInputModel"_key;
 } // namespace key
 
-namespace property {
-inline const std::wstring openingHeight = L"OpeningHeight";
-inline const std::wstring openingWidth = L"OpeningWidth";
-inline const std::wstring aboveFloorHeight = L"AboveFloorHeight";
-inline const std::wstring winDoorWidth = L"WinDoorWidth";
-inline const std::wstring windDoorFloorHeight = L"WindDoorFloorHeight"; // meant: the host spells it so
-} // namespace property
-
-namespace type {
-constexpr qint64 door = 4;
-constexpr qint64 window = 5;
-constexpr qint64 combined = 6; ///< door and window in one
-constexpr qint64 wallOpening = 7;
-
-constexpr qint64 forceWall = 0;
-constexpr qint64 otherWall = 1001;
-constexpr qint64 brickWall = 1003;
-} // namespace type
+/** Properties and element types of the host. */
+namespace property = hbx::property;
+namespace type = hbx::type;
 
 } // namespace doorwindow

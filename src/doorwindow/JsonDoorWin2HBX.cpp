@@ -54,7 +54,7 @@ void setSizeKeepingDivide(IHBXElement &element, const std::wstring &sizeName, co
     IHBXProperties &properties = *element.properties();
     if (!properties.hasProperty(sizeName))
         return;
-    const bool divided = element.type() == type::combined && properties.hasProperty(divideName);
+    const bool divided = element.type() == type::doorWithWindow && properties.hasProperty(divideName);
     if (divided && size <= properties.asInt(divideName))
         properties.setInt(divideName, static_cast<int>(roundHalf(size * 0.5)), false);
     properties.setInt(sizeName, size, false);
@@ -84,7 +84,7 @@ IHBXElementDrawObj *findWallAt(IHBXFloor &floor, const vks::CVec2<double> &point
 {
     const auto search = vks::CBox2<double>(point, point).Grown(kWallSearchHalfSize);
     QList<IHBXElementDrawObj *> walls;
-    floor.drawObjsOfTypes(walls, {type::brickWall, type::otherWall, type::forceWall}, true);
+    floor.drawObjsOfTypes(walls, {type::brickWall, type::curtainWall, type::forceWall}, true);
     for (IHBXElementDrawObj *wall : qAsConst(walls)) {
         const auto *shape = dynamic_cast<IHBXCustomLineSolidShape *>(wall->shape());
         if (!shape)

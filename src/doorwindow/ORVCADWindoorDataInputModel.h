@@ -3,6 +3,7 @@
 #include "ORVCADModelDataExport.h"
 #include "platform/geometry/CCurve2d.h"
 #include "platform/geometry/CPolygon.h"
+#include "platform/services/HBXElementTypes.h"
 
 #include <QJsonObject>
 #include <QMap>
@@ -42,7 +43,8 @@ public:
     QString layerName;
     qint64 regionId = 0;
     qint64 floorId = 0;
-    std::vector<int> wallElementTypes = {0, 1003, 1, 1001};
+    std::vector<int> wallElementTypes = {hbx::type::forceWall, hbx::type::brickWall, hbx::type::partitionWall,
+                                         hbx::type::curtainWall};
     std::vector<std::shared_ptr<ORVCADHBXWallEdoInputForWindow>> walls;
 };
 

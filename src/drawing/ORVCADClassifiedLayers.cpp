@@ -2,6 +2,7 @@
 
 #include "drawing/DrawingFields.h"
 #include "drawing/DrawingKeys.h"
+#include "platform/services/HBXElementTypes.h"
 #include "platform/services/dwgxCommonUtil.h"
 
 #include <limits>
@@ -13,7 +14,7 @@ namespace key = drawing::key;
 namespace {
 
 /** Of this type, drawing analysis tells one layer in several pieces. */
-constexpr int kTypeToldInPieces = 74;
+constexpr qint64 kTypeToldInPieces = hbx::type::axisGrid;
 
 /** The character of a code; 0 for what is no code. */
 QChar characterOf(int code)

@@ -22,7 +22,7 @@ public:
     const QString &remark() const { return m_remark; }
     int rowID() const { return m_rowID; }
 
-    /** Bottom elevation plus height, plus 3.0 where no height is set. The number of standard storeys plays no part. */
+    /** Bottom elevation plus height, plus 3.0 where no height is set. The number of standard floors plays no part. */
     double topElev() const;
     /** The name contains "基础", or the code is "0". */
     bool isBaseFloor() const;
@@ -51,7 +51,7 @@ private:
     QString m_code;         ///< "0" marks the base floor, "1" the first one
     double m_btmElev = 0.0; ///< m
     double m_height = 0.0;  ///< m; 0 means that no height is set
-    int m_stdCount = 1;     ///< standard storeys that this floor stands for
+    int m_stdCount = 1;     ///< standard floors that this floor stands for
     QString m_remark;
     int m_rowID = 0; ///< not persisted
 };

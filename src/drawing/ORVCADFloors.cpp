@@ -34,10 +34,10 @@ template <typename Beats> ORVCADFloor *bestFloor(const Floors &floors, Beats bea
     return best;
 }
 
-/** Top of the last of the storeys that a floor stands for, m. */
-double topOfAllStoreys(const ORVCADFloor &floor)
+/** Top of the last of the standard floors that a floor stands for, m. */
+double topOfLastStandardFloor(const ORVCADFloor &floor)
 {
-    // Meant: the further storeys of a floor without a height add nothing.
+    // Meant: the further standard floors of a floor without a height add nothing.
     const double further = floor.stdCount() > 1 ? (floor.stdCount() - 1) * floor.height() : 0.0;
     return floor.topElev() + further;
 }
@@ -83,7 +83,7 @@ ORVCADFloor *ORVCADFloors::getUpstairFloor(const ORVCADFloor *floor) const
 {
     if (!floor)
         return nullptr;
-    const double target = topOfAllStoreys(*floor);
+    const double target = topOfLastStandardFloor(*floor);
     return firstRecord(m_floors, [=](const ORVCADFloor &above) { return isEqual(above.btmElev(), target); });
 }
 
@@ -91,7 +91,7 @@ ORVCADFloor *ORVCADFloors::getDownstairFloor(const ORVCADFloor *floor) const
 {
     if (!floor)
         return nullptr;
-    // Meant: one storey of the candidate counts, whatever number it stands for.
+    // Meant: one standard floor of the candidate counts, whatever number it stands for.
     return firstRecord(m_floors, [=](const ORVCADFloor &below) { return isEqual(below.topElev(), floor->btmElev()); });
 }
 

@@ -41,11 +41,11 @@ public:
     /** By bottom elevation, the earlier in the list among equals; null for an empty list. */
     ORVCADFloor *getHighestFloor() const;
     ORVCADFloor *getLowestFloor() const;
-    /** First floor in list order that starts where the given one ends, counting all the standard storeys that it stands
+    /** First floor in list order that starts where the given one ends, counting all the standard floors that it stands
      *  for; null if there is none and for null. */
     ORVCADFloor *getUpstairFloor(const ORVCADFloor *floor) const;
     /** First floor in list order whose top elevation is the given one's bottom; null if there is none and for null.
-     *  The candidate counts as one storey, though the way up counts all: no inverse for a standard floor. */
+     *  The candidate counts as one floor, though the way up counts all: no inverse for a standard floor. */
     ORVCADFloor *getDownstairFloor(const ORVCADFloor *floor) const;
     /** The first floor at or above elevation zero on the way up from the lowest; null when the way has a gap before, or
      *  leads in a circle. */

@@ -2,6 +2,7 @@
 
 #include "encoding/GeometryTextForms.h"
 #include "encoding/NumberText.h"
+#include "platform/geometry/Angle.h"
 #include "platform/geometry/CArc2d.h"
 #include "platform/geometry/CLine2d.h"
 
@@ -16,7 +17,6 @@ using Polygon = GeometryTextReader::Polygon;
 using Vertex = GeometryTextReader::Vertex;
 using Point = vks::CVec2<double>;
 
-constexpr double kFullTurn = 6.283185307179586; // rad
 constexpr int kMostCurveParts = 5;
 
 /** The pieces between separators, empty ones included. */
@@ -49,7 +49,7 @@ template <typename PartList> bool toNumbers(const PartList &parts, double *numbe
 
 using Numbers = std::array<double, kMostCurveParts>;
 
-Curve circleOf(const Numbers &n) { return new vks::CArc2d(Point(n[0], n[1]), n[2], 0.0, kFullTurn); }
+Curve circleOf(const Numbers &n) { return new vks::CArc2d(Point(n[0], n[1]), n[2], 0.0, vks::kFullTurn); }
 Curve lineOf(const Numbers &n) { return new vks::CLine2d(Point(n[0], n[1]), Point(n[2], n[3])); }
 Curve arcOf(const Numbers &n) { return new vks::CArc2d(Point(n[0], n[1]), Point(n[3], n[4]), n[2]); }
 

@@ -1,13 +1,12 @@
 #include "slab/SlabBarDirection.h"
 
+#include "platform/geometry/Angle.h"
 #include "platform/geometry/CPositionJudge.h"
 #include "slab/SlabSearchTolerance.h"
 
 #include <cmath>
 
 namespace {
-
-constexpr double kPi = 3.141592653589793;
 
 /** Angle from a to b, counter-clockwise, rad in -pi to pi. */
 double angleBetween(const vks::CVec2<double> &a, const vks::CVec2<double> &b)
@@ -17,7 +16,10 @@ double angleBetween(const vks::CVec2<double> &a, const vks::CVec2<double> &b)
 
 bool isNoTurn(double angle) { return std::fabs(angle) <= slab::kSameDirectionAngle + slab::kAngleNoise; }
 
-bool isNoTurnOrHalf(double angle) { return isNoTurn(angle) || isNoTurn(angle + kPi) || isNoTurn(angle - kPi); }
+bool isNoTurnOrHalf(double angle)
+{
+    return isNoTurn(angle) || isNoTurn(angle + vks::kPi) || isNoTurn(angle - vks::kPi);
+}
 
 bool isNoStretch(double length) { return std::fabs(length) <= slab::kNoStretch; }
 
@@ -25,12 +27,12 @@ bool isNoStretch(double length) { return std::fabs(length) <= slab::kNoStretch; 
 
 bool isSameDirPi(const vks::CVec2<double> &a, const vks::CVec2<double> &b)
 {
-    return isNoTurnOrHalf(std::fmod(angleBetween(a, b), kPi));
+    return isNoTurnOrHalf(std::fmod(angleBetween(a, b), vks::kPi));
 }
 
 bool isSameLine(const vks::CCurve2d *p, const vks::CCurve2d *q)
 {
-    if (!p || !q || !isNoTurnOrHalf(std::fmod(angleBetween(q->EndVt(), p->EndVt()), 2 * kPi)))
+    if (!p || !q || !isNoTurnOrHalf(std::fmod(angleBetween(q->EndVt(), p->EndVt()), vks::kFullTurn)))
         return false;
     vks::CPositionJudge judge;
     judge.SetDistEpsilon(slab::kSameLineTolerance);
@@ -43,7 +45,7 @@ bool needNormalizeStretchInfo(const vks::CCurve2d *curve)
         return false;
     const vks::CVec2<double> along = curve->EndVt();
     const double angle = std::atan2(along.y, along.x);
-    const double turned = angle < 0.0 ? angle + 2 * kPi : angle;
+    const double turned = angle < 0.0 ? angle + vks::kFullTurn : angle;
     return turned > slab::kNormalizeAboveAngle || turned < slab::kNormalizeBelowAngle;
 }
 

@@ -10,7 +10,7 @@ using orvcad::firstTextFault;
 std::string faultOf(const QByteArray &text)
 {
     const auto fault = firstTextFault(text);
-    return fault ? (fault->place() + ": " + fault->reason).toStdString() : std::string();
+    return fault ? (fault->place + ": " + fault->reason).toStdString() : std::string();
 }
 
 TEST(StrictJsonTextTest, soundTextHasNoFault)

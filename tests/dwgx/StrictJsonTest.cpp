@@ -42,6 +42,22 @@ protected:
     JsonPlace m_place{m_layers, 2};
 };
 
+TEST(LineAndColumnTest, bothCountFromOne)
+{
+    EXPECT_EQ(dwgx::lineAndColumn("{}", 0), QStringLiteral("line 1, column 1"));
+    EXPECT_EQ(dwgx::lineAndColumn("{}", 2), QStringLiteral("line 1, column 3"));
+}
+
+TEST(LineAndColumnTest, columnCountsFromTheLastLineBreak)
+{
+    const QByteArray text("{\n \"a\": 1,\n\n ?}");
+    EXPECT_EQ(dwgx::lineAndColumn(text, text.indexOf('?')), QStringLiteral("line 4, column 2"));
+    EXPECT_EQ(dwgx::lineAndColumn(text, 1), QStringLiteral("line 1, column 2")); // the break ends its own line
+    EXPECT_EQ(dwgx::lineAndColumn(text, 2), QStringLiteral("line 2, column 1"));
+    const QByteArray wide = QStringLiteral("层顶?").toUtf8();
+    EXPECT_EQ(dwgx::lineAndColumn(wide, wide.indexOf('?')), QStringLiteral("line 1, column 3"));
+}
+
 TEST(JsonPlaceTest, textIsTheWayFromTheDocument)
 {
     const JsonPlace root;

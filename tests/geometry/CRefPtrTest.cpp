@@ -37,6 +37,21 @@ TEST(CRefPtrTest, assigningItselfKeepsTheObject)
     EXPECT_EQ(holder->HolderCount(), 1);
 }
 
+TEST(CRefPtrTest, cloneOfAPointerOrHolderIsAnObjectOfItsOwn)
+{
+    const CRefPtr<vks::CCurve2d> line(new vks::CLine2d({0, 0}, {3000, 0}));
+    for (const auto &copy : {vks::cloneOrNull(line), vks::cloneOrNull(line.get())}) {
+        EXPECT_NE(copy, line);
+        EXPECT_EQ(copy->EndPoint().x, 3000.0);
+    }
+}
+
+TEST(CRefPtrTest, cloneOfNullIsNull)
+{
+    EXPECT_FALSE(vks::cloneOrNull(CRefPtr<vks::CLoop>()));
+    EXPECT_FALSE(vks::cloneOrNull(static_cast<const vks::CCurve2d *>(nullptr)));
+}
+
 TEST(CRefPtrTest, loopHoldsACurveThatItWasGiven)
 {
     auto *line = new vks::CLine2d({0, 0}, {1, 0});

@@ -34,7 +34,6 @@ enum class BatchSite { RemoveOverlaps = 79, ForceRun = 125, PlacedPieces = 164, 
 
 constexpr int kNotWritten = -1;            // an integer that stands for no value
 constexpr double kOverlapTolerance = -1.0; // mm; below 0: an overlap must be thicker, touching is none
-constexpr int kAnySubType = -1;
 
 std::string batchKey(BatchSite site)
 {
@@ -272,8 +271,8 @@ bool ORVCADWallEdoGenerator::collectOverlaps(IHBXFloor &floor, const ORVCADWallB
     ORVCADWallBrickDataOutputModel::Walls walls;
     output.getBrickWallIdentifyData(walls);
     QList<IHBXElementDrawObj *> placed;
-    m_model->drawObjects()->queryDrawObjsOfFloor(placed, floor.id(), static_cast<int>(type::brickWall), kAnySubType,
-                                                 true);
+    m_model->drawObjects()->queryDrawObjsOfFloor(placed, floor.id(), static_cast<int>(type::brickWall),
+                                                 IHBXDrawObjs::kAnySubType, true);
     for (IHBXElementDrawObj *object : qAsConst(placed))
         if (!m_overlaps.contains(object) && overlapsAny(placedWall(*object), walls))
             m_overlaps.append(object);

@@ -31,7 +31,6 @@ using ModelLines = ORVCADWallInputModelConvertion::ModelLines;
 using Property = std::shared_ptr<IHBXProperty>;
 
 constexpr int kLeftOutOfRecognition = 255; // value of "Type"
-constexpr int kAllSubTypes = 65535;        // of 16 bits: all of them set
 constexpr double kAxisWidth = 1.0;         // mm; meant: an axis has none
 constexpr qint64 kNoId = -1;
 constexpr qint64 kCustomSection = 3; // sub-type of columns whose section type is told
@@ -104,21 +103,16 @@ template <typename Visit> void forEachPlaced(IHBXModel *model, qint64 floorId, q
     QList<IHBXElementDrawObj *> objects;
     if (model)
         model->drawObjects()->queryDrawObjsOfFloor(objects, static_cast<int>(floorId), static_cast<int>(objectType),
-                                                   kAllSubTypes, true);
+                                                   IHBXDrawObjs::kAnySubType16, true);
     for (IHBXElementDrawObj *object : qAsConst(objects))
         visit(*object);
-}
-
-vks::CRefPtr<vks::CCurve2d> copyOf(const vks::CRefPtr<vks::CCurve2d> &curve)
-{
-    return curve ? curve->Clone() : nullptr;
 }
 
 void appendAxis(const IHBXElementDrawObj &object, const vks::CRefPtr<vks::CCurve2d> &curve, ModelLines &lines)
 {
     ORVCADCloudHBXModelLineEdoStruct &line = lines.emplace_back();
     line.entName = nameOf(object.element());
-    line.worldLine = copyOf(curve);
+    line.worldLine = vks::cloneOrNull(curve);
     line.width = kAxisWidth;
     line.edoId = kNoId;
 }
@@ -194,7 +188,7 @@ void ORVCADWallInputModelConvertion::appendWallLines(qint64 wallType, ModelLines
         ORVCADCloudHBXModelLineEdoStruct &line = lines.emplace_back(); // meant: types are not told
         line.entName = nameOf(object.element());
         vks::CRefPtr<vks::CCurve2d> axis;
-        line.worldLine = copyOf(shape->worldLine(axis, IHBXModel::g_bDefaultAutoCalc));
+        line.worldLine = vks::cloneOrNull(shape->worldLine(axis, IHBXModel::g_bDefaultAutoCalc));
         line.width = shape->width(IHBXModel::g_bDefaultAutoCalc);
         line.edoId = object.id();
     });

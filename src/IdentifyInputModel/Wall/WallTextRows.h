@@ -3,10 +3,14 @@
 #include "IdentifyInputModel/Wall/IdentifyResultData.h"
 #include "IdentifyInputModel/Wall/ORVCADCloudEntBrickWallStruct.h"
 #include "IdentifyInputModel/Wall/ORVCADCloudEntForceWallStruct.h"
-#include "IdentifyInputModel/Wall/WallHostKeys.h"
+#include "platform/services/HBXElementTypes.h"
+#include "platform/services/HBXPropertyNames.h"
 
 /** Which text properties of the host belong to which fields. */
 namespace wall {
+
+namespace property = hbx::property;
+namespace type = hbx::type;
 
 template <typename Record> struct TextRow
 {
@@ -17,8 +21,8 @@ template <typename Record> struct TextRow
 // clang-format off
 /** Bars of brick walls as the host keeps them. Meant: replies are written to other properties, those of the next list. */
 inline constexpr TextRow<ORVCADCloudEntBrickWallStruct> kBrickBars[] = {
-    {property::throughBar,    &ORVCADCloudEntBrickWallStruct::throughBar},
-    {property::transverseBar, &ORVCADCloudEntBrickWallStruct::transverseBar},
+    {property::masonryThroughBar, &ORVCADCloudEntBrickWallStruct::throughBar},
+    {property::transverseBar,     &ORVCADCloudEntBrickWallStruct::transverseBar},
 };
 inline constexpr TextRow<ORVCADCloudEntBrickWallStruct> kBrickBarsOfReplies[] = {
     {property::vertDistributionBar, &ORVCADCloudEntBrickWallStruct::throughBar},
@@ -34,10 +38,10 @@ inline constexpr TextRow<ORVCADCloudEntForceWallStruct> kForceBars[] = {
 
 /** Elevations of placed walls, in the order of writing. */
 inline constexpr TextRow<IdentifyResultData> kElevations[] = {
-    {property::startBottomElev, &IdentifyResultData::sPfnStartPtBottomElev},
-    {property::endBottomElev,   &IdentifyResultData::sPfnEndPtBottomElev},
-    {property::startTopElev,    &IdentifyResultData::sPfnStartPtTopElev},
-    {property::endTopElev,      &IdentifyResultData::sPfnEndPtTopElev},
+    {property::startPtBottomElev, &IdentifyResultData::sPfnStartPtBottomElev},
+    {property::endPtBottomElev,   &IdentifyResultData::sPfnEndPtBottomElev},
+    {property::startPtTopElev,    &IdentifyResultData::sPfnStartPtTopElev},
+    {property::endPtTopElev,      &IdentifyResultData::sPfnEndPtTopElev},
 };
 // clang-format on
 

@@ -4,6 +4,14 @@
 
 namespace dwgx {
 
+QString lineAndColumn(const QByteArray &text, int offset)
+{
+    const QByteArray before = text.left(offset);
+    const int line = before.count('\n') + 1;
+    const int column = QString::fromUtf8(before.mid(before.lastIndexOf('\n') + 1)).size() + 1;
+    return QStringLiteral("line %1, column %2").arg(line).arg(column);
+}
+
 QString JsonPlace::text() const
 {
     QString text;

@@ -3,6 +3,7 @@
 #include "ORVCADPlatformExport.h"
 #include "platform/dwgx/KeyLiteral.h"
 
+#include <QByteArray>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QJsonValue>
@@ -14,6 +15,9 @@
 /** Reading of JSON files that are refused as a whole when they break a rule. Every reader here throws JsonRefusal, which
  *  the reader of the file catches. */
 namespace dwgx {
+
+/** Line and column of a byte of a UTF-8 text, in words: "line 3, column 7". Both count from 1, columns in characters. */
+ORVCADPLATFORM_EXPORT QString lineAndColumn(const QByteArray &text, int offset);
 
 /** Why a file is refused. */
 struct JsonRefusal

@@ -4,6 +4,7 @@
 #include "platform/embedded/ExchangeFormat.h"
 #include "platform/embedded/ExchangeShape.h"
 #include "platform/embedded/ExchangeSpan.h"
+#include "platform/services/HBXElementTypes.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -16,14 +17,12 @@ namespace {
 namespace key = exchange::key;
 using Types = std::initializer_list<qint64>;
 
-const Types kBeams{15, 17, 18, 47};
-const Types kUnits{82, 83};
-const Types kOpenings{4, 5, 6, 7};
-const Types kWalls{0, 1, 202, 1001, 1003};
-const Types kSlabHoles{24};
-const Types kPlates{19, 48};
-
-bool isOneOf(qint64 type, const Types &types) { return std::find(types.begin(), types.end(), type) != types.end(); }
+const Types kBeams{type::beam, type::linkBeam, type::tieBeam, type::foundationBeam};
+const Types kUnits{type::isolatedFoundationUnit, type::pileCapUnit};
+const Types kOpenings{type::door, type::window, type::doorWithWindow, type::wallOpening};
+const Types kWalls{type::forceWall, type::partitionWall, type::retainingWall, type::curtainWall, type::brickWall};
+const Types kSlabHoles{type::slabHole};
+const Types kPlates{type::slab, type::raft};
 
 /** What an object is attached to. */
 struct AttachmentRule

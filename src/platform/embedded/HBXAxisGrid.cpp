@@ -1,8 +1,8 @@
 #include "platform/embedded/HBXAxisGrid.h"
 
-#include "platform/embedded/HBXElementTypes.h"
 #include "platform/embedded/HBXGridShape.h"
 #include "platform/host/IHBXElementDrawObj.h"
+#include "platform/services/HBXElementTypes.h"
 
 namespace hbx::embedded {
 

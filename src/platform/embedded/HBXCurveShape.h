@@ -12,7 +12,7 @@ public:
 
     void setLine(const vks::CCurve2d *curve) override
     {
-        m_curve = copyOf(curve);
+        m_curve = vks::cloneOrNull(curve);
         this->changed();
     }
 

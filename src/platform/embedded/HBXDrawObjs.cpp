@@ -1,10 +1,10 @@
 #include "platform/embedded/HBXDrawObjs.h"
 
-#include "platform/embedded/HBXElementTypes.h"
 #include "platform/embedded/HBXFloorQuery.h"
 #include "platform/embedded/HBXModel.h"
 #include "platform/embedded/HBXPlacedShape.h"
 #include "platform/embedded/HBXShapeKinds.h"
+#include "platform/services/HBXElementTypes.h"
 
 #include <algorithm>
 
@@ -12,7 +12,7 @@ namespace hbx::embedded {
 namespace {
 
 /** Two ways of asking for any sub-type. */
-constexpr qint64 kAnySubTypes[] = {kAnySubType, 65535};
+constexpr qint64 kAnySubTypes[] = {IHBXDrawObjs::kAnySubType, IHBXDrawObjs::kAnySubType16};
 
 } // namespace
 

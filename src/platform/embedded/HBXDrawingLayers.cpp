@@ -1,7 +1,7 @@
 #include "platform/embedded/HBXDrawingLayers.h"
 
-#include "platform/embedded/HBXElementTypes.h"
 #include "platform/services/HBXElementTypeTable.h"
+#include "platform/services/HBXElementTypes.h"
 #include "platform/services/HBXOptionNames.h"
 #include "platform/services/OptionGroupReader.h"
 

@@ -1,8 +1,8 @@
 #include "platform/embedded/HBXElementDrawObj.h"
 
-#include "platform/embedded/HBXElementTypes.h"
 #include "platform/embedded/HBXModel.h"
 #include "platform/embedded/HBXPlacedShape.h"
+#include "platform/services/HBXElementTypes.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,11 +1,11 @@
 #include "platform/embedded/HBXElements.h"
 
-#include "platform/embedded/HBXElementTypes.h"
 #include "platform/embedded/HBXFloorQuery.h"
 #include "platform/embedded/HBXModel.h"
-#include "platform/embedded/HBXPropertyNames.h"
 #include "platform/host/HBXModelException.h"
 #include "platform/services/HBXElementTypeTable.h"
+#include "platform/services/HBXElementTypes.h"
+#include "platform/services/HBXPropertyNames.h"
 
 #include <algorithm>
 
@@ -20,13 +20,14 @@ struct HoleSection
     qint64 subType;
     int sectionType;
 };
-constexpr HoleSection kHoleSections[] = {{153, 0}, {154, 1}, {167, 2}};
+constexpr HoleSection kHoleSections[] = {
+    {subtype::rectangularHole, 0}, {subtype::roundHole, 1}, {subtype::otherHole, 2}};
 
 PropertyRecords firstProperties(qint64 type, qint64 subType)
 {
     for (const HoleSection &section : kHoleSections)
         if (type == type::slabHole && subType == section.subType)
-            return {{QString::fromWCharArray(property::sectionTypeId), section.sectionType}};
+            return {{QString::fromStdWString(property::sectionTypeId), section.sectionType}};
     return {};
 }
 

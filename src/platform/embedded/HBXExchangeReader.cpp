@@ -14,13 +14,6 @@ namespace {
 
 namespace key = exchange::key;
 
-/** Line and column, counted from 1, of a byte. */
-QString lineAndColumn(const QByteArray &json, int offset)
-{
-    const QByteArray before = json.left(offset);
-    return QStringLiteral("line %1, column %2").arg(before.count('\n') + 1).arg(offset - before.lastIndexOf('\n'));
-}
-
 QJsonValue parseDocument(const QByteArray &json)
 {
     if (json.trimmed().isEmpty())
@@ -28,7 +21,7 @@ QJsonValue parseDocument(const QByteArray &json)
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
     if (error.error != QJsonParseError::NoError)
-        throw dwgx::JsonRefusal{lineAndColumn(json, error.offset),
+        throw dwgx::JsonRefusal{dwgx::lineAndColumn(json, error.offset),
                                 QStringLiteral("is not JSON: %1").arg(error.errorString())};
     return document.isObject() ? QJsonValue(document.object()) : QJsonValue(document.array());
 }

@@ -1,8 +1,8 @@
 #include "platform/embedded/HBXFaceSolidShape.h"
 
 #include "platform/embedded/HBXElementDrawObj.h"
-#include "platform/embedded/HBXPropertyNames.h"
 #include "platform/embedded/HBXShapeSizes.h"
+#include "platform/services/HBXPropertyNames.h"
 
 namespace hbx::embedded {
 

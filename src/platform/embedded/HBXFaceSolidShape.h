@@ -11,7 +11,7 @@ class HBXFaceSolidShape final : public HBXOutlineShapeOf<IHBXFaceSolidShape, IHB
 public:
     using HBXOutlineShapeOf::HBXOutlineShapeOf;
 
-    void setPolygon(const vks::CPolygon *outline) override { takeOutline(copyOf(outline)); }
+    void setPolygon(const vks::CPolygon *outline) override { takeOutline(vks::cloneOrNull(outline)); }
     double height() const override { return m_height; }
 
     ShapeRecord record() const override;

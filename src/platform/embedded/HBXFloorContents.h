@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/embedded/HBXElementTypes.h"
 #include "platform/embedded/HBXIdList.h"
 #include "platform/embedded/HBXPlaceIndex.h"
+#include "platform/services/HBXElementTypes.h"
 
 #include <QHash>
 #include <QList>

@@ -1,7 +1,7 @@
 #include "platform/embedded/HBXFloorDrawing.h"
 
 #include "platform/embedded/HBXDrawingLayers.h"
-#include "platform/embedded/HBXElementTypes.h"
+#include "platform/geometry/Angle.h"
 #include "platform/geometry/CArc2d.h"
 #include "platform/geometry/OrientProjectCurve2d.h"
 #include "platform/host/IHBXAxisGrid.h"
@@ -12,7 +12,9 @@
 #include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXLineShape2D.h"
 #include "platform/host/IHBXModel.h"
+#include "platform/host/WorldOutline.h"
 #include "platform/services/HBXElementTypeTable.h"
+#include "platform/services/HBXElementTypes.h"
 
 #include <cmath>
 
@@ -21,7 +23,6 @@ namespace {
 
 using CurvePtr = vks::CRefPtr<vks::CCurve2d>;
 
-constexpr double kPi = 3.14159265358979323846;
 constexpr double kTextHeight = 250.0;     // mm: 2.5 mm on paper at 1:100
 constexpr double kAxisTextHeight = 350.0; // mm
 constexpr double kBubbleRadius = 400.0;   // mm
@@ -31,9 +32,9 @@ constexpr double kUprightSlack = 1e-6;    // rad; a text may hang over the uprig
 double readableAngle(const vks::CVec2<double> &direction)
 {
     const double angle = std::atan2(direction.y, direction.x);
-    if (angle > kPi / 2 + kUprightSlack)
-        return angle - kPi;
-    return angle <= -kPi / 2 + kUprightSlack ? angle + kPi : angle;
+    if (angle > vks::kPi / 2 + kUprightSlack)
+        return angle - vks::kPi;
+    return angle <= -vks::kPi / 2 + kUprightSlack ? angle + vks::kPi : angle;
 }
 
 CurvePtr toWorld(const IHBXShape &shape, const vks::CCurve2d *curve)
@@ -123,7 +124,7 @@ void FloorDraughtsman::drawBubble(const vks::CVec2<double> &end, const vks::CVec
     if (label.isEmpty())
         return;
     const vks::CVec2<double> centre = end + outward * kBubbleRadius;
-    addCurve(new vks::CArc2d(centre, kBubbleRadius, 0.0, 2.0 * kPi));
+    addCurve(new vks::CArc2d(centre, kBubbleRadius, 0.0, vks::kFullTurn));
     addText(label, centre, kAxisTextHeight, 0.0);
 }
 
@@ -138,8 +139,8 @@ void FloorDraughtsman::drawPlanLine(IHBXElementDrawObj &object, const IHBXLineSh
 
 void FloorDraughtsman::drawOutline(IHBXElementDrawObj &object, const IHBXShape &shape)
 {
-    vks::CRefPtr<vks::CPolygon> outline;
-    if (!shape.worldPoly(outline, IHBXModel::g_bDefaultAutoCalc))
+    const vks::CRefPtr<vks::CPolygon> outline = worldOutline(&shape);
+    if (!outline)
         return;
     std::vector<vks::CCurve2d *> curves;
     outline->GetCurves(curves);
@@ -193,8 +194,8 @@ std::unique_ptr<dwgx::DWGXModel> makeFloorDrawing(IHBXModel *model, IHBXFloor *f
     FloorDraughtsman draughtsman(*model, *drawing);
     for (const ElementTypeInfo &type : kElementTypes) {
         QList<IHBXElementDrawObj *> objects;
-        model->drawObjects()->queryDrawObjsOfFloor(objects, floor->id(), static_cast<int>(type.number), kAnySubType,
-                                                   true);
+        model->drawObjects()->queryDrawObjsOfFloor(objects, floor->id(), static_cast<int>(type.number),
+                                                   IHBXDrawObjs::kAnySubType, true);
         for (IHBXElementDrawObj *object : objects)
             if (object->childCount() == 0) // an owner is the union of its children, which are drawn themselves
                 draughtsman.draw(*object, type);

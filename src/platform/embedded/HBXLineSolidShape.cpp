@@ -1,9 +1,9 @@
 #include "platform/embedded/HBXLineSolidShape.h"
 
 #include "platform/embedded/HBXElementDrawObj.h"
-#include "platform/embedded/HBXPropertyNames.h"
 #include "platform/embedded/HBXShapeSizes.h"
 #include "platform/geometry/GPolygonBuilder.h"
+#include "platform/services/HBXPropertyNames.h"
 
 namespace hbx::embedded {
 

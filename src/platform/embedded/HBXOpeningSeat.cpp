@@ -1,9 +1,9 @@
 #include "platform/embedded/HBXOpeningSeat.h"
 
 #include "platform/embedded/HBXElementDrawObj.h"
-#include "platform/embedded/HBXElementTypes.h"
 #include "platform/embedded/HBXLineSolidShape.h"
 #include "platform/embedded/HBXShapeSizes.h"
+#include "platform/services/HBXElementTypes.h"
 
 namespace hbx::embedded {
 namespace {

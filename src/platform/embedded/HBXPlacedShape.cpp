@@ -107,12 +107,12 @@ void HBXPlacedShape::moved()
 
 vks::CRefPtr<vks::CCurve2d> HBXPlacedShape::toWorld(const vks::CCurve2d *curve) const
 {
-    return m_frame == kWorld ? copyOf(curve) : vks::OrientProjectCurve2d(m_frame, curve, kWorld, kUp, false);
+    return m_frame == kWorld ? vks::cloneOrNull(curve) : vks::OrientProjectCurve2d(m_frame, curve, kWorld, kUp, false);
 }
 
 vks::CRefPtr<vks::CPolygon> HBXPlacedShape::toWorld(const vks::CPolygon *polygon) const
 {
-    return m_frame == kWorld ? copyOf(polygon) : vks::OrientProjectPolygon(m_frame, polygon, kWorld, kUp);
+    return m_frame == kWorld ? vks::cloneOrNull(polygon) : vks::OrientProjectPolygon(m_frame, polygon, kWorld, kUp);
 }
 
 void HBXPlacedShape::workOutWorld() const

@@ -96,10 +96,4 @@ public:
     }
 };
 
-/** A copy, null for null. */
-template <typename Geometry> vks::CRefPtr<Geometry> copyOf(const Geometry *geometry)
-{
-    return geometry ? geometry->Clone() : nullptr;
-}
-
 } // namespace hbx::embedded

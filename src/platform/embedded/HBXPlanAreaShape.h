@@ -11,7 +11,7 @@ class HBXPlanAreaShape final : public HBXOutlineShapeOf<IHBXFaceShape2D, IHBXSha
 public:
     using HBXOutlineShapeOf::HBXOutlineShapeOf;
 
-    void setPolygon(const vks::CPolygon *outline) override { takeOutline(copyOf(outline)); }
+    void setPolygon(const vks::CPolygon *outline) override { takeOutline(vks::cloneOrNull(outline)); }
 };
 
 } // namespace hbx::embedded

@@ -2,8 +2,8 @@
 
 #include "platform/embedded/HBXElementDrawObj.h"
 #include "platform/embedded/HBXOpeningSeat.h"
-#include "platform/embedded/HBXPropertyNames.h"
 #include "platform/embedded/HBXShapeSizes.h"
+#include "platform/services/HBXPropertyNames.h"
 
 #include <cmath>
 

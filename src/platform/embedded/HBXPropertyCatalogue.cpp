@@ -11,8 +11,9 @@ namespace {
 PropertyEntry entryOf(const rows::PropertyRow &row)
 {
     PropertyEntry entry;
-    entry.name = QString::fromWCharArray(row.name);
-    entry.alias = QString::fromWCharArray(row.alias);
+    entry.name = QString::fromStdWString(row.name);
+    if (row.alias)
+        entry.alias = QString::fromStdWString(*row.alias);
     entry.kind = row.kind;
     entry.owner = row.owner;
     entry.role = row.role;

@@ -1,11 +1,12 @@
 #pragma once
 
-#include "platform/embedded/HBXElementTypes.h"
 #include "platform/embedded/HBXElevationText.h"
 #include "platform/embedded/HBXPropertyCatalogue.h"
-#include "platform/embedded/HBXPropertyNames.h"
+#include "platform/services/HBXElementTypes.h"
+#include "platform/services/HBXPropertyNames.h"
 
 #include <cstddef>
+#include <string>
 
 /** The rows of the property catalogue, by families of types, and below them which families make up each type.
  *
@@ -16,12 +17,12 @@ namespace hbx::embedded::rows {
 
 struct PropertyRow
 {
-    const wchar_t *name;
+    const std::wstring &name;
     PropertyKind kind;
     PropertyOwner owner = PropertyOwner::Element;
     PropertyRole role = PropertyRole::Plain;
     const char *defaultText = nullptr;
-    const wchar_t *alias = nullptr;
+    const std::wstring *alias = nullptr;
 };
 
 /** One family of rows. */
@@ -62,7 +63,7 @@ inline constexpr PropertyRow kWallRows[] = {
     {property::startPtBottomElev, kElevation, kElement, kPlain, kFloorBottomWord},
     {property::endPtBottomElev,   kElevation, kElement, kPlain, kFloorBottomWord},
     {property::thickness,         kDouble,    kElement, kShape},
-    {property::axisOffset,        kDouble,    kElement, kShape, nullptr, property::axisOffsetJzbz},
+    {property::axisOffset,        kDouble,    kElement, kShape, nullptr, &property::axisOffsetJzbz},
 };
 inline constexpr PropertyRow kRecognisedWallRows[] = {
     {property::type,                kInteger}, // 255: left out of recognition
@@ -84,7 +85,7 @@ inline constexpr PropertyRow kBeamRows[] = {
     {property::sectionTypeId,  kInteger},
     {property::sectionPoly,    kPolygon}, // across the axis: the plan does not follow it
     {property::insertPt,       kPoint},
-    {property::axisOffset,     kDouble,  kElement, kShape, nullptr, property::axisOffsetJzbz},
+    {property::axisOffset,     kDouble,  kElement, kShape, nullptr, &property::axisOffsetJzbz},
     {property::startPtTopElev, kElevation},
     {property::endPtTopElev,   kElevation},
     {property::hoopBar,        kText},
@@ -155,7 +156,7 @@ inline constexpr PropertyRow kFoundationRows[] = {
     {property::type1,      kInteger},
     {property::topElev,    kElevation},
     {property::bottomElev, kElevation},
-    {property::axisOffset, kDouble, kElement, kPlain, nullptr, property::axisOffsetJzbz}, // as of each seat of a beam
+    {property::axisOffset, kDouble, kElement, kPlain, nullptr, &property::axisOffsetJzbz}, // as of each seat of a beam
 };
 inline constexpr PropertyRow kUnitRows[] = { // and of whatever stands on units
     {property::height, kDouble},

@@ -1,11 +1,11 @@
 #include "platform/embedded/HBXSameObject.h"
 
 #include "platform/embedded/HBXElementDrawObj.h"
-#include "platform/embedded/HBXElementTypes.h"
 #include "platform/embedded/HBXPlacedShape.h"
-#include "platform/embedded/HBXPropertyNames.h"
 #include "platform/embedded/HBXPropertyValue.h"
 #include "platform/geometry/PolygonRelation.h"
+#include "platform/services/HBXElementTypes.h"
+#include "platform/services/HBXPropertyNames.h"
 
 #include <algorithm>
 #include <cmath>
@@ -17,7 +17,7 @@ namespace {
 
 constexpr double kElevationTolerance = 1e-6; // mm: the noise of metres and millimetres
 constexpr qint64 kBarTypes[] = {type::slabBar, type::slabNegativeBar, type::raftBar, type::raftNegativeBar};
-constexpr const wchar_t *kBarNumbers[] = {property::type, property::position}; // 0 where not set
+constexpr const std::wstring *kBarNumbers[] = {&property::type, &property::position}; // 0 where not set
 
 /** Points on a curve that tell a line or arc from any other; a full circle is told by four. */
 constexpr double kProbes[] = {0.0, 0.25, 0.5, 0.75, 1.0}; // parts of the length
@@ -70,7 +70,7 @@ bool areSameBars(const HBXElementDrawObj &a, const HBXElementDrawObj &b)
 {
     const HBXProperties &ofA = a.propertySet();
     const HBXProperties &ofB = b.propertySet();
-    const auto isSameNumber = [&](const std::wstring &name) { return ofA.asInt(name) == ofB.asInt(name); };
+    const auto isSameNumber = [&](const std::wstring *name) { return ofA.asInt(*name) == ofB.asInt(*name); };
     if (!std::all_of(std::begin(kBarNumbers), std::end(kBarNumbers), isSameNumber))
         return false;
     QString textA;

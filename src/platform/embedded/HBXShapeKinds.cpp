@@ -1,6 +1,6 @@
 #include "platform/embedded/HBXShapeKinds.h"
 
-#include "platform/embedded/HBXElementTypes.h"
+#include "platform/services/HBXElementTypes.h"
 
 #include <algorithm>
 #include <iterator>

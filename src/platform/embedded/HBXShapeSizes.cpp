@@ -1,17 +1,17 @@
 #include "platform/embedded/HBXShapeSizes.h"
 
 #include "platform/embedded/HBXProperties.h"
-#include "platform/embedded/HBXPropertyNames.h"
+#include "platform/geometry/Angle.h"
 #include "platform/geometry/CArc2d.h"
 #include "platform/geometry/CLine2d.h"
+#include "platform/services/HBXPropertyNames.h"
 
 namespace hbx::embedded {
 namespace {
 
 using Point = vks::CVec2<double>;
 
-constexpr double kFullTurn = 6.283185307179586; // rad
-constexpr int kCircularSection = 1;             // "SectionTypeID"
+constexpr int kCircularSection = 1; // "SectionTypeID"
 
 vks::CRefPtr<vks::CPolygon> polygonOf(const vks::CRefPtr<vks::CLoop> &loop)
 {
@@ -25,7 +25,7 @@ vks::CRefPtr<vks::CPolygon> circle(double radius)
     if (!(radius > 0.0))
         return nullptr;
     vks::CRefPtr<vks::CLoop> loop = new vks::CLoop;
-    loop->AddCurve(new vks::CArc2d(Point(), radius, 0.0, kFullTurn), false);
+    loop->AddCurve(new vks::CArc2d(Point(), radius, 0.0, vks::kFullTurn), false);
     return polygonOf(loop);
 }
 
@@ -42,10 +42,10 @@ vks::CRefPtr<vks::CPolygon> drawnSection(const HBXProperties &properties)
 
 } // namespace
 
-std::optional<double> sizeIn(const HBXProperties &properties, std::initializer_list<const wchar_t *> names)
+std::optional<double> sizeIn(const HBXProperties &properties, std::initializer_list<std::wstring_view> names)
 {
-    for (const wchar_t *name : names) {
-        const PropertyEntry *entry = properties.find(std::wstring_view(name));
+    for (const std::wstring_view name : names) {
+        const PropertyEntry *entry = properties.find(name);
         const PropertyValue value = entry ? properties.valueOf(*entry) : PropertyValue();
         if (const double *size = std::get_if<double>(&value))
             return *size;

@@ -4,6 +4,7 @@
 
 #include <initializer_list>
 #include <optional>
+#include <string_view>
 
 /** Sizes and outlines of solids as the properties of an object tell them. */
 namespace hbx::embedded {
@@ -11,7 +12,7 @@ namespace hbx::embedded {
 class HBXProperties;
 
 /** The first of the named properties that has a value, mm; nothing when none has. */
-std::optional<double> sizeIn(const HBXProperties &properties, std::initializer_list<const wchar_t *> names);
+std::optional<double> sizeIn(const HBXProperties &properties, std::initializer_list<std::wstring_view> names);
 
 /** Outline of a column, pile, foundation or hole about its insertion point: "SectionPoly" moved by minus "InsertPt";
  *  without one the rectangle of "Width" or "SectionWidth" along x and "Length" or "SectionHeight" along y, or the circle

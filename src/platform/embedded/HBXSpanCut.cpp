@@ -1,10 +1,9 @@
 #include "platform/embedded/HBXSpanCut.h"
 
-#include "platform/embedded/HBXElementTypes.h"
 #include "platform/embedded/HBXElevationText.h"
 #include "platform/embedded/HBXFloor.h"
-#include "platform/embedded/HBXPropertyNames.h"
 #include "platform/embedded/HBXSpanKeys.h"
+#include "platform/geometry/Angle.h"
 #include "platform/geometry/CArc2d.h"
 #include "platform/geometry/CurveZone.h"
 #include "platform/host/IHBXCustomLineSolidShape.h"
@@ -12,7 +11,10 @@
 #include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXModel.h"
 #include "platform/host/IHBXProperties.h"
+#include "platform/host/WorldOutline.h"
 #include "platform/services/DwgxRound.h"
+#include "platform/services/HBXElementTypes.h"
+#include "platform/services/HBXPropertyNames.h"
 
 #include <QStringList>
 
@@ -22,9 +24,8 @@
 namespace hbx::embedded {
 namespace {
 
-constexpr double kSeatGap = 5.0;                // mm: a beam rests on what it comes this near to
-constexpr double kMostSeatShare = 0.5;          // of the chain: what carries more of it is no support to span from
-constexpr double kFullTurn = 6.283185307179586; // rad
+constexpr double kSeatGap = 5.0;       // mm: a beam rests on what it comes this near to
+constexpr double kMostSeatShare = 0.5; // of the chain: what carries more of it is no support to span from
 
 /** Columns, walls and foundations; deeper beams come to them. */
 constexpr qint64 kSupportTypes[] = {type::column,        type::tieColumn, type::masonryColumn,      type::forceWall,
@@ -34,7 +35,7 @@ constexpr qint64 kSupportTypes[] = {type::column,        type::tieColumn, type::
 struct TextKey
 {
     QLatin1String key;
-    const wchar_t *property;
+    const std::wstring &property;
 };
 constexpr TextKey kBarTexts[] = {
     {spankey::topThroughBar, property::topThroughBar},
@@ -44,24 +45,17 @@ constexpr TextKey kBarTexts[] = {
     {spankey::hoopBar, property::hoopBar},
 };
 
-double number(IHBXElementDrawObj &object, const wchar_t *name)
+double number(IHBXElementDrawObj &object, const std::wstring &name)
 {
     const IHBXProperties *properties = object.properties();
-    return properties ? properties->asDouble(std::wstring(name)) : 0.0;
+    return properties ? properties->asDouble(name) : 0.0;
 }
 
-QString text(IHBXElementDrawObj &object, const wchar_t *name)
+QString text(IHBXElementDrawObj &object, const std::wstring &name)
 {
     QString out;
     const IHBXProperties *properties = object.properties();
-    return properties ? properties->asString(out, std::wstring(name)) : out;
-}
-
-vks::CRefPtr<vks::CPolygon> worldPolyOf(IHBXElementDrawObj &object)
-{
-    vks::CRefPtr<vks::CPolygon> outline;
-    const IHBXShape *shape = object.shape();
-    return shape ? shape->worldPoly(outline, IHBXModel::g_bDefaultAutoCalc) : outline;
+    return properties ? properties->asString(out, name) : out;
 }
 
 /** Those that come near enough to a box to be met, and on a floor of another host perhaps more. */
@@ -82,7 +76,7 @@ vks::CRefPtr<vks::CCurve2d> lengthened(const vks::CCurve2d &axis, const vks::CPo
     const vks::CBox2<double> box = support.Box();
     double reach = box.Width() + box.Height() + kSeatGap;
     if (const auto *arc = dynamic_cast<const vks::CArc2d *>(&axis))
-        reach = std::clamp((kFullTurn * arc->Radius() - axis.Length()) / 2, 0.0, reach);
+        reach = std::clamp((vks::kFullTurn * arc->Radius() - axis.Length()) / 2, 0.0, reach);
     vks::CRefPtr<vks::CCurve2d> longer = axis.Clone();
     longer->SetStartT(axis.StartT() - reach);
     longer->SetEndT(axis.EndT() + reach);
@@ -143,7 +137,7 @@ void HBXSpanCut::addSupports()
     types.insert(own.type());
     for (const Piece &piece : m_pieces)
         for (IHBXElementDrawObj *object : objectsNear(own.floor(), piece.axis->Box(), types))
-            if (const auto outline = isSupport(*object) ? worldPolyOf(*object) : nullptr)
+            if (const auto outline = isSupport(*object) ? worldOutline(object->shape()) : nullptr)
                 addSeats(piece, *outline);
 }
 

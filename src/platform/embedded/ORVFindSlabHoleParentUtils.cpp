@@ -1,11 +1,12 @@
 #include "platform/services/ORVFindSlabHoleParentUtils.h"
 
-#include "platform/embedded/HBXElementTypes.h"
 #include "platform/host/IHBXCurState.h"
 #include "platform/host/IHBXCustomPointSolidShape.h"
 #include "platform/host/IHBXElementDrawObj.h"
 #include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXModel.h"
+#include "platform/host/WorldOutline.h"
+#include "platform/services/HBXElementTypes.h"
 
 #include <QList>
 #include <QSet>
@@ -16,7 +17,7 @@ namespace {
 
 using Point = vks::CVec2<double>;
 
-namespace type = hbx::embedded::type;
+namespace type = hbx::type;
 
 constexpr qint64 kParentTypes[] = {type::slab, type::raft}; // a slab goes before a raft
 
@@ -39,8 +40,7 @@ double areaHolding(IHBXElementDrawObj &slab, const Point &point)
     vks::CBox2<double> box;
     if (!shape || !shape->box(box, IHBXModel::g_bDefaultAutoCalc).Contains(point, vks::g_DistEpsilon))
         return kNone;
-    vks::CRefPtr<vks::CPolygon> outline;
-    shape->worldPoly(outline, IHBXModel::g_bDefaultAutoCalc);
+    const vks::CRefPtr<vks::CPolygon> outline = hbx::worldOutline(shape);
     const vks::CLoop *outer = outline ? outline->GetLoop(0) : nullptr;
     return outer && outer->Locate(point, vks::g_DistEpsilon) >= 0 ? outline->Area() : kNone;
 }

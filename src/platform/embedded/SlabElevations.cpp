@@ -1,15 +1,15 @@
 #include "platform/services/SlabElevations.h"
 
-#include "platform/embedded/HBXElementTypes.h"
-#include "platform/embedded/HBXPropertyNames.h"
 #include "platform/host/IHBXElementDrawObj.h"
 #include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXProperties.h"
+#include "platform/services/HBXElementTypes.h"
+#include "platform/services/HBXPropertyNames.h"
 
 #include <QSet>
 
-namespace property = hbx::embedded::property;
-namespace type = hbx::embedded::type;
+namespace property = hbx::property;
+namespace type = hbx::type;
 
 double getSlabElev(IHBXElementDrawObj *slab, const QString &property)
 {
@@ -24,5 +24,5 @@ double getNegReinfElev(IHBXElementDrawObj *bar)
     if (!floor)
         return 0.0;
     IHBXElementDrawObj *slab = floor->findDrawObj(properties->asInt(property::dependSlabId), {type::slab, type::raft});
-    return getSlabElev(slab, QString::fromWCharArray(property::topElev));
+    return getSlabElev(slab, QString::fromStdWString(property::topElev));
 }

@@ -1,16 +1,14 @@
 #include "platform/services/WLRReinfInfoOperator.h"
 
-#include "platform/embedded/HBXPropertyNames.h"
 #include "platform/host/IHBXElementDrawObj.h"
 #include "platform/host/IHBXProperties.h"
+#include "platform/services/HBXPropertyNames.h"
 
 #include <QString>
 
-#include <string>
+using hbx::property::reinforcementInfo;
 
 namespace {
-
-const std::wstring kReinforcementInfo = hbx::embedded::property::reinforcementInfo;
 
 /** Whether an item begins with an id. The text is searched as it stands: that of a large slab has thousands of items. */
 bool names(const QString &links, const QString &id)
@@ -22,12 +20,12 @@ bool names(const QString &links, const QString &id)
 void addLink(IHBXElementDrawObj *from, const IHBXElementDrawObj *to, int kind)
 {
     IHBXProperties *properties = from && to ? from->properties() : nullptr;
-    if (!properties || !properties->hasProperty(kReinforcementInfo))
+    if (!properties || !properties->hasProperty(reinforcementInfo))
         return;
     QString links;
     const QString id = QString::number(to->id());
-    if (!names(properties->asString(links, kReinforcementInfo), id))
-        properties->setString(kReinforcementInfo, links + QStringLiteral("%1,%2;").arg(id).arg(kind), true);
+    if (!names(properties->asString(links, reinforcementInfo), id))
+        properties->setString(reinforcementInfo, links + QStringLiteral("%1,%2;").arg(id).arg(kind), true);
 }
 
 } // namespace

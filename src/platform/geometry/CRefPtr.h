@@ -49,4 +49,12 @@ private:
     T *m_object = nullptr;
 };
 
+/** A copy of a curve, loop or polygon; null for null. */
+template <typename Geometry> auto cloneOrNull(const Geometry *geometry)
+{
+    using Copy = decltype(geometry->Clone());
+    return geometry ? geometry->Clone() : Copy();
+}
+template <typename Geometry> auto cloneOrNull(const CRefPtr<Geometry> &geometry) { return cloneOrNull(geometry.get()); }
+
 } // namespace vks

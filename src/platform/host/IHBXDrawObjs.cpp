@@ -8,8 +8,6 @@
 
 namespace {
 
-constexpr int kAnySubType = -1;
-
 bool liesIn(IHBXElementDrawObj &object, const vks::CBox2<double> &reach)
 {
     vks::CBox2<double> box;

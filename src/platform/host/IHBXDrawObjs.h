@@ -14,6 +14,10 @@ class IHBXFloor;
 class ORVCADPLATFORM_EXPORT IHBXDrawObjs
 {
 public:
+    /** In sub-type arguments: objects of all. */
+    static constexpr int kAnySubType = -1;
+    static constexpr int kAnySubType16 = 65535; ///< the same of those who keep sub-types in 16 bits
+
     virtual ~IHBXDrawObjs() = default;
 
     /** Makes a draw object of an element on a floor. It has an id at once and joins counts, queries and checks when
@@ -25,7 +29,7 @@ public:
     virtual IHBXElementDrawObj *drawObjById(qint64 id) = 0;
     virtual void queryDrawObjs(QList<IHBXElementDrawObj *> &out, const QSet<qint64> &floorIds,
                                const QSet<qint64> &elementTypes, bool on) = 0;
-    /** Sub-type -1 or 65535 asks for all. */
+    /** Sub-types kAnySubType and kAnySubType16 ask for all. */
     virtual void queryDrawObjsOfFloor(QList<IHBXElementDrawObj *> &out, int floorId, int elementType, int subType,
                                       bool on) = 0;
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/services/HBXElementTypes.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -28,36 +30,36 @@ struct ElementTypeInfo
 // clang-format off
 /** Ascending by number. */
 inline constexpr ElementTypeInfo kElementTypes[] = {
-    {0,    "etWall",           "混凝土墙",     "混凝土墙 剪力墙 墙标注 concwall shearwall",    0x5B6770},
-    {1,    "etPartitionWall",  "隔墙",         "隔墙 partition",                              0xC9A66B},
-    {4,    "etDoor",           "门",           "门 door",                                     0x2E8B57},
-    {5,    "etWindow",         "窗",           "窗 window wind",                              0x1F9BCF},
-    {6,    "etDoorWindow",     "门联窗",       "门联窗 doorwindow",                           0x2AA198},
-    {7,    "etWallHole",       "墙洞",         "洞 opening hole",                             0x8FBC8F},
-    {15,   "etBeam",           "梁",           "梁 beam",                                     0x3366CC},
-    {17,   "etLinkBeam",       "连梁",         "连梁 linkbeam couplingbeam",                  0x5C7CFA},
-    {18,   "etTieBeam",        "连系梁",       "连系梁 联系梁 拉梁 tiebeam",                  0x7048E8},
-    {19,   "etSlab",           "现浇板",       "板 slab",                                     0xB8C4D0},
-    {22,   "etSlabBar",        "板受力筋",     "受力筋 底筋 面筋 mainbar",                    0xD9480F},
-    {23,   "etSlabNegBar",     "板负筋",       "负筋 negbar",                                 0xE8590C},
-    {24,   "etSlabHole",       "板洞",         "板洞 slabhole",                               0xE03131},
-    {25,   "etColumn",         "柱",           "柱 column colu",                              0xA61E4D},
-    {26,   "etTieColumn",      "构造柱",       "构造柱 tiecolumn",                            0xC2255C},
-    {47,   "etFoundationBeam", "基础梁",       "基础梁 地梁 foundationbeam groundbeam",       0x364FC7},
-    {48,   "etRaft",           "筏板基础",     "筏板 raft",                                   0x9AA5B1},
-    {49,   "etRaftBar",        "筏板主筋",     "筏板主筋 筏板受力筋 raftbar",                 0xF76707},
-    {50,   "etRaftNegBar",     "筏板负筋",     "筏板负筋 raftnegbar",                         0xFD7E14},
-    {52,   "etIsolatedFD",     "独立基础",     "独立基础 独基 footing isolatedfd",            0x868E96},
-    {53,   "etPileCap",        "桩承台",       "承台 pilecap",                                0x748496},
-    {54,   "etPile",           "桩",           "桩 pile",                                     0x495057},
-    {74,   "etAxisGrid",       "轴网",         "轴网 轴线 axis grid",                         0xADB5BD},
-    {75,   "etAxisLine",       "辅助轴线",     "辅助轴线 辅轴 auxaxis",                       0xCED4DA},
-    {82,   "etIsolatedFDUnit", "独立基础单元", "独立基础单元 独基单元 footingunit",           0x9C9FA3},
-    {83,   "etPileCapUnit",    "桩承台单元",   "承台单元 pilecapunit",                        0x8B99A8},
-    {202,  "etRetainingWall",  "挡土墙",       "挡土墙 retaining",                            0x6B5B4F},
-    {1001, "etCurtainWall",    "幕墙",         "幕墙 curtain",                                0x74C0FC},
-    {1002, "etMasonryColumn",  "砌体柱",       "砌体柱 砖柱 brickcolumn",                     0xB5654A},
-    {1003, "etBrickWall",      "砌体墙",       "砌体墙 砖墙 填充墙 墙标注 brickwall masonry", 0xCC8B5C},
+    {type::forceWall,              "etWall",           "混凝土墙",     "混凝土墙 剪力墙 墙标注 concwall shearwall",    0x5B6770},
+    {type::partitionWall,          "etPartitionWall",  "隔墙",         "隔墙 partition",                              0xC9A66B},
+    {type::door,                   "etDoor",           "门",           "门 door",                                     0x2E8B57},
+    {type::window,                 "etWindow",         "窗",           "窗 window wind",                              0x1F9BCF},
+    {type::doorWithWindow,         "etDoorWindow",     "门联窗",       "门联窗 doorwindow",                           0x2AA198},
+    {type::wallOpening,            "etWallHole",       "墙洞",         "洞 opening hole",                             0x8FBC8F},
+    {type::beam,                   "etBeam",           "梁",           "梁 beam",                                     0x3366CC},
+    {type::linkBeam,               "etLinkBeam",       "连梁",         "连梁 linkbeam couplingbeam",                  0x5C7CFA},
+    {type::tieBeam,                "etTieBeam",        "连系梁",       "连系梁 联系梁 拉梁 tiebeam",                  0x7048E8},
+    {type::slab,                   "etSlab",           "现浇板",       "板 slab",                                     0xB8C4D0},
+    {type::slabBar,                "etSlabBar",        "板受力筋",     "受力筋 底筋 面筋 mainbar",                    0xD9480F},
+    {type::slabNegativeBar,        "etSlabNegBar",     "板负筋",       "负筋 negbar",                                 0xE8590C},
+    {type::slabHole,               "etSlabHole",       "板洞",         "板洞 slabhole",                               0xE03131},
+    {type::column,                 "etColumn",         "柱",           "柱 column colu",                              0xA61E4D},
+    {type::tieColumn,              "etTieColumn",      "构造柱",       "构造柱 tiecolumn",                            0xC2255C},
+    {type::foundationBeam,         "etFoundationBeam", "基础梁",       "基础梁 地梁 foundationbeam groundbeam",       0x364FC7},
+    {type::raft,                   "etRaft",           "筏板基础",     "筏板 raft",                                   0x9AA5B1},
+    {type::raftBar,                "etRaftBar",        "筏板主筋",     "筏板主筋 筏板受力筋 raftbar",                 0xF76707},
+    {type::raftNegativeBar,        "etRaftNegBar",     "筏板负筋",     "筏板负筋 raftnegbar",                         0xFD7E14},
+    {type::isolatedFoundation,     "etIsolatedFD",     "独立基础",     "独立基础 独基 footing isolatedfd",            0x868E96},
+    {type::pileCap,                "etPileCap",        "桩承台",       "承台 pilecap",                                0x748496},
+    {type::pile,                   "etPile",           "桩",           "桩 pile",                                     0x495057},
+    {type::axisGrid,               "etAxisGrid",       "轴网",         "轴网 轴线 axis grid",                         0xADB5BD},
+    {type::axisLine,               "etAxisLine",       "辅助轴线",     "辅助轴线 辅轴 auxaxis",                       0xCED4DA},
+    {type::isolatedFoundationUnit, "etIsolatedFDUnit", "独立基础单元", "独立基础单元 独基单元 footingunit",           0x9C9FA3},
+    {type::pileCapUnit,            "etPileCapUnit",    "桩承台单元",   "承台单元 pilecapunit",                        0x8B99A8},
+    {type::retainingWall,          "etRetainingWall",  "挡土墙",       "挡土墙 retaining",                            0x6B5B4F},
+    {type::curtainWall,            "etCurtainWall",    "幕墙",         "幕墙 curtain",                                0x74C0FC},
+    {type::masonryColumn,          "etMasonryColumn",  "砌体柱",       "砌体柱 砖柱 brickcolumn",                     0xB5654A},
+    {type::brickWall,              "etBrickWall",      "砌体墙",       "砌体墙 砖墙 填充墙 墙标注 brickwall masonry", 0xCC8B5C},
 };
 // clang-format on
 

@@ -3,11 +3,10 @@
 #include <QtGlobal>
 
 #include <algorithm>
-#include <cstddef>
 #include <iterator>
 
-/** Numbers of the element types. What is said of each type by name stands in services/HBXElementTypeTable.h. */
-namespace hbx::embedded::type {
+/** Numbers of the element types. What is said of each type by name stands in HBXElementTypeTable.h. */
+namespace hbx::type {
 
 inline constexpr qint64 forceWall = 0;
 inline constexpr qint64 partitionWall = 1;
@@ -40,18 +39,26 @@ inline constexpr qint64 curtainWall = 1001;
 inline constexpr qint64 masonryColumn = 1002;
 inline constexpr qint64 brickWall = 1003;
 
-} // namespace hbx::embedded::type
+} // namespace hbx::type
 
-namespace hbx::embedded {
+/** Kinds of a type's section, those that are known at more than one place. */
+namespace hbx::subtype {
 
-/** In type and sub-type arguments: objects of any. */
+inline constexpr qint64 rectangularHole = 153;
+inline constexpr qint64 roundHole = 154;
+inline constexpr qint64 otherHole = 167;
+
+} // namespace hbx::subtype
+
+namespace hbx {
+
+/** In type arguments: objects of any. */
 inline constexpr qint64 kAnyType = -1;
-inline constexpr int kAnySubType = -1;
 
 /** Whether a type or sub-type stands in a short list of them. */
-template <std::size_t N> bool isOneOf(qint64 wanted, const qint64 (&types)[N])
+template <typename Types> bool isOneOf(qint64 wanted, const Types &types)
 {
     return std::find(std::begin(types), std::end(types), wanted) != std::end(types);
 }
 
-} // namespace hbx::embedded
+} // namespace hbx
