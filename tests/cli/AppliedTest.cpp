@@ -98,7 +98,7 @@ protected:
     }
 
     std::unique_ptr<hbx::embedded::HBXProject> m_project;
-    const Outcome m_whole;
+    const Outcome m_whole{};
     const Outcome m_partial{{{"Beam[0]", "", "is no object"}}};
 };
 
