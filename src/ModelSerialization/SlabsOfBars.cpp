@@ -21,6 +21,7 @@
 namespace slabhost {
 namespace {
 
+const QString kTopElev = QString::fromStdWString(property::topElev);
 constexpr double kSupportAllowance = 150.0; // mm: either end of a bar lies over a support
 constexpr double kBoxMargin = 1.0;          // mm beyond the tolerance: boxes only narrow the search
 constexpr int kLinkKind = 1;
@@ -108,7 +109,7 @@ IHBXElementDrawObj *findBoardByCurve(dwgx::DWGXBaseBoxTree *boxTree, const vks::
         return isOneOf(kUnderCurve, hbx::linePolyPosition(free, outline, 0.0));
     });
     const auto isLower = [](IHBXElementDrawObj *a, IHBXElementDrawObj *b) {
-        return getSlabElev(a, key::topElev) < getSlabElev(b, key::topElev);
+        return getSlabElev(a, kTopElev) < getSlabElev(b, kTopElev);
     };
     const auto lowest = std::min_element(slabs.begin(), slabs.end(), isLower);
     return lowest == slabs.end() ? nullptr : *lowest;
@@ -139,7 +140,7 @@ bool checkBFJOverlap(IHBXService *service, int slabId, const vks::CCurve2d *curv
     if (!service || !curve)
         return false;
     IHBXDrawObjs &drawObjs = *service->model()->drawObjects();
-    const double elevation = getSlabElev(drawObjs.drawObjById(slabId), key::topElev);
+    const double elevation = getSlabElev(drawObjs.drawObjById(slabId), kTopElev);
     const BarInQuestion bar{*curve, drawnCurve(drawObjs.drawObjById(selfId)), elevation};
     const auto bars = barsAt(*service, *curve, elementType);
     return std::none_of(bars.begin(), bars.end(),

@@ -19,6 +19,7 @@ namespace {
 namespace type = hbx::type;
 
 constexpr qint64 kBars[] = {type::slabBar, type::slabNegativeBar, type::raftBar, type::raftNegativeBar};
+const QString kTopElev = QString::fromStdWString(hbx::property::topElev);
 constexpr qint64 kPlates[] = {type::slab, type::raft};
 
 vks::CRefPtr<vks::CCurve2d> toPlan(IHBXShape &shape, const vks::CCurve2d *curve)
@@ -88,7 +89,7 @@ PlanObject planObjectOf(IHBXElementDrawObj &object)
     if (hbx::isOneOf(object.type(), kBars))
         readBar(object, placed);
     if (placed.outline && hbx::isOneOf(object.type(), kPlates))
-        placed.topElev = getSlabElev(&object, QString::fromStdWString(hbx::property::topElev));
+        placed.topElev = getSlabElev(&object, kTopElev);
     return placed;
 }
 

@@ -19,7 +19,7 @@ void HBXAxisGrid::axes(std::vector<HBXAxis> &out, int group) const
 IHBXAxisGrid *IHBXAxisGrid::createFromObj(IHBXElementDrawObj *object)
 {
     using namespace hbx::embedded;
-    const bool isGrid = object && object->type() == type::axisGrid;
+    const bool isGrid = object && object->type() == hbx::type::axisGrid;
     const auto *shape = isGrid ? dynamic_cast<HBXGridShape *>(object->shape()) : nullptr;
     return shape ? new HBXAxisGrid(shape->axes()) : nullptr;
 }

@@ -11,11 +11,17 @@
 namespace property = hbx::property;
 namespace type = hbx::type;
 
-double getSlabElev(IHBXElementDrawObj *slab, const QString &property)
+namespace {
+
+template <typename Name> double elevationOf(IHBXElementDrawObj *slab, const Name &name)
 {
     const IHBXProperties *properties = slab ? slab->properties() : nullptr;
-    return properties ? properties->asDouble(property) : 0.0;
+    return properties ? properties->asDouble(name) : 0.0;
 }
+
+} // namespace
+
+double getSlabElev(IHBXElementDrawObj *slab, const QString &property) { return elevationOf(slab, property); }
 
 double getNegReinfElev(IHBXElementDrawObj *bar)
 {
@@ -24,5 +30,5 @@ double getNegReinfElev(IHBXElementDrawObj *bar)
     if (!floor)
         return 0.0;
     IHBXElementDrawObj *slab = floor->findDrawObj(properties->asInt(property::dependSlabId), {type::slab, type::raft});
-    return getSlabElev(slab, QString::fromStdWString(property::topElev));
+    return elevationOf(slab, property::topElev);
 }
