@@ -33,7 +33,7 @@ Summary summaryOf(const QString &file, const ColumnDocumentCheck &check)
 Summary checkRecord(const Arguments &arguments)
 {
     const QString file = Arguments::text(arguments.input);
-    const ColumnDocumentCheck check(readJsonObject(file, QStringLiteral("column record")));
+    const ColumnDocumentCheck check(readJsonObject(file, QStringLiteral("column record"), LargeNumbers::Taken));
     if (!check.isColumnRecord())
         throw CommandFailure(kBadInput, file, {}, QStringLiteral("no column record: it has none of the keys of one"));
     return summaryOf(file, check);

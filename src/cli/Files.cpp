@@ -1,7 +1,6 @@
 #include "cli/Files.h"
 
 #include "cli/Command.h"
-#include "cli/StrictJsonText.h"
 #include "platform/dwgx/StrictJson.h"
 
 #include <QDir>
@@ -34,13 +33,13 @@ QByteArray readFile(const QString &path)
     return file.readAll();
 }
 
-void requireStrictJson(const QByteArray &text, const QString &path)
+void requireStrictJson(const QByteArray &text, const QString &path, LargeNumbers large)
 {
-    if (const auto fault = firstTextFault(text))
+    if (const auto fault = firstTextFault(text, large))
         throw CommandFailure(kBadInput, path, fault->place, fault->reason);
 }
 
-QJsonDocument readJsonFile(const QString &path)
+QJsonDocument readJsonFile(const QString &path, LargeNumbers large)
 {
     const QByteArray bytes = readFile(path);
     if (bytes.trimmed().isEmpty())
@@ -50,13 +49,13 @@ QJsonDocument readJsonFile(const QString &path)
     if (error.error != QJsonParseError::NoError)
         throw CommandFailure(kBadInput, path, dwgx::lineAndColumn(bytes, error.offset),
                              QStringLiteral("not JSON: ") + error.errorString());
-    requireStrictJson(bytes, path);
+    requireStrictJson(bytes, path, large);
     return document;
 }
 
-QJsonObject readJsonObject(const QString &path, const QString &what)
+QJsonObject readJsonObject(const QString &path, const QString &what, LargeNumbers large)
 {
-    const QJsonDocument document = readJsonFile(path);
+    const QJsonDocument document = readJsonFile(path, large);
     if (!document.isObject())
         throw CommandFailure(kBadInput, path, {}, QStringLiteral("no %1: its top is no object").arg(what));
     return document.object();

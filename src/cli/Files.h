@@ -1,5 +1,7 @@
 #pragma once
 
+#include "cli/StrictJsonText.h"
+
 #include <QByteArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -11,12 +13,12 @@ namespace orvcad {
 QByteArray readFile(const QString &path);
 /** Throws CommandFailure with line, column and reason for a JSON text that the library would not read as it stands: see
  *  StrictJsonText.h. The path is only told. */
-void requireStrictJson(const QByteArray &text, const QString &path);
+void requireStrictJson(const QByteArray &text, const QString &path, LargeNumbers large = LargeNumbers::Refused);
 /** A JSON document of a file; throws CommandFailure with line and column when it is none, or none by the letter. */
-QJsonDocument readJsonFile(const QString &path);
+QJsonDocument readJsonFile(const QString &path, LargeNumbers large = LargeNumbers::Refused);
 /** The object that a JSON file holds; throws CommandFailure, also when its top is no object.
  *  @param what  the document that is expected, for the reason: "floors document" */
-QJsonObject readJsonObject(const QString &path, const QString &what);
+QJsonObject readJsonObject(const QString &path, const QString &what, LargeNumbers large = LargeNumbers::Refused);
 
 /** Writes bytes to a file by way of a temporary one beside it, or to standard output for an empty path or "-". Throws
  *  CommandFailure when they cannot be written; a file that was there is then as it was.

@@ -32,6 +32,8 @@ bool survives(const std::string &number, double value)
 class Look : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Look>
 {
 public:
+    explicit Look(LargeNumbers large) : m_large(large) {}
+
     bool Default() { return true; }
 
     bool RawNumber(const char *text, rapidjson::SizeType length, bool /*copied*/)
@@ -40,7 +42,7 @@ public:
         const double value = QByteArray::fromStdString(number).toDouble();
         if (!std::isfinite(value))
             return refuse(QStringLiteral("the number %1 is too large").arg(QString::fromStdString(number)));
-        if (isWhole(number) && !survives(number, value))
+        if (m_large == LargeNumbers::Refused && isWhole(number) && !survives(number, value))
             return refuse(QStringLiteral("the number %1 would be read as %2")
                               .arg(QString::fromStdString(number), QString::number(value, 'f', 0)));
         return true;
@@ -74,20 +76,21 @@ private:
         return false;
     }
 
+    const LargeNumbers m_large;
     std::vector<std::set<std::string>> m_names; // of the objects that are open
     QString m_reason;
 };
 
 } // namespace
 
-std::optional<JsonFault> firstTextFault(const QByteArray &text)
+std::optional<JsonFault> firstTextFault(const QByteArray &text, LargeNumbers large)
 {
     constexpr unsigned flags =
         rapidjson::kParseIterativeFlag | rapidjson::kParseValidateEncodingFlag | rapidjson::kParseNumbersAsStringsFlag;
     const int start = text.startsWith(kByteOrderMark) ? static_cast<int>(sizeof kByteOrderMark) - 1 : 0;
     rapidjson::MemoryStream stream(text.constData() + start, static_cast<std::size_t>(text.size() - start));
     rapidjson::Reader reader;
-    Look look;
+    Look look(large);
     const rapidjson::ParseResult result = reader.Parse<flags>(stream, look);
     if (!result.IsError())
         return std::nullopt;

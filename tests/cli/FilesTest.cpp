@@ -31,6 +31,18 @@ TEST_F(FilesTest, fileThatIsNoJsonIsToldWithLineAndColumn)
     EXPECT_EQ(failureOf([&] { readJsonFile(first); }).find(first.toStdString() + ": line 1, column "), 0U);
 }
 
+TEST_F(FilesTest, documentThatWouldBeReadOtherwiseThanItStandsIsRefused)
+{
+    const QString twice = fileOf("a.json", "{\"a\": 1,\n \"a\": 2}");
+    EXPECT_EQ(failureOf([&] { readJsonFile(twice); }),
+              twice.toStdString() + ": line 2, column 5: \"a\" stands twice in one object");
+    const QString large = fileOf("b.json", "{\"id\": 9007199254740993}");
+    EXPECT_EQ(failureOf([&] { readJsonFile(large); }),
+              large.toStdString() +
+                  ": line 1, column 8: the number 9007199254740993 would be read as 9007199254740992");
+    EXPECT_TRUE(readJsonFile(large, LargeNumbers::Taken).isObject());
+}
+
 TEST_F(FilesTest, emptyFileIsToldAsSuch)
 {
     const QString file = fileOf("a.json", " \n\t");

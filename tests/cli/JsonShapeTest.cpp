@@ -1,11 +1,11 @@
 #include "cli/JsonShape.h"
 
 #include "JsonTexts.h"
-#include "encoding/RecordKey.h"
+#include "platform/dwgx/KeyLiteral.h"
 
+using namespace dwgx::literals;
 using namespace orvcad;
 using clitest::valueOf;
-using encoding::operator""_key;
 using Kind = JsonShape::Kind;
 
 namespace {

@@ -25,6 +25,14 @@ TEST_F(ProjectFilesTest, buildingThatBreaksARuleIsToldWithFileAndPlace)
     EXPECT_EQ(failure.find("house.json: regions[0].floors[1].height: "), 0U) << failure;
 }
 
+TEST_F(ProjectFilesTest, buildingWithAMemberThatStandsTwiceIsRefused)
+{
+    QByteArray building(exchangetest::kSmallBuilding);
+    building.replace("\"version\": 1,", "\"version\": 1, \"name\": \"Other\",");
+    EXPECT_EQ(failureOf([&] { projectOfBuilding(building, "house.json"); }),
+              "house.json: line 2, column 65: \"name\" stands twice in one object");
+}
+
 TEST_F(ProjectFilesTest, savedProjectIsOpenedAgain)
 {
     saveProjectAs(*projectOfBuilding(exchangetest::kSmallBuilding, "house.json"), path("house.hbxdb"));

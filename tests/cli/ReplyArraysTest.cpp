@@ -2,11 +2,11 @@
 
 #include "CommandFailures.h"
 #include "JsonTexts.h"
-#include "encoding/RecordKey.h"
+#include "platform/dwgx/KeyLiteral.h"
 
 using clitest::failureOf;
 using clitest::objectOf;
-using encoding::operator""_key;
+using namespace dwgx::literals;
 using namespace orvcad;
 
 namespace {

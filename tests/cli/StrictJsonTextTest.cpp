@@ -45,6 +45,12 @@ TEST(StrictJsonTextTest, wholeNumberThatWouldBeRoundedIsAFault)
     EXPECT_EQ(faultOf("[0.1, 9007199254740993.5]"), "");
 }
 
+TEST(StrictJsonTextTest, wholeNumberThatWouldBeRoundedIsTakenWhereTheVerbTellsItself)
+{
+    EXPECT_FALSE(firstTextFault("[9007199254740993]", orvcad::LargeNumbers::Taken));
+    EXPECT_TRUE(firstTextFault("[01]", orvcad::LargeNumbers::Taken));
+}
+
 TEST(StrictJsonTextTest, numberBeyondADoubleIsAFault)
 {
     EXPECT_EQ(faultOf("[1e308]"), "");

@@ -104,7 +104,7 @@ TEST_F(VerbTest, whatStandsInTheArgumentsHoldsWhereNothingIsTyped)
 TEST_F(VerbTest, groupNeedsAVerb)
 {
     CLI::App &group = addGroup(m_app, "beam", "");
-    Verb(group, m_command, "export", "", told);
+    const Verb verb(group, m_command, "export", "", told);
     EXPECT_EQ(run("beam"), "A subcommand is required");
     EXPECT_EQ(run("beam export"), "||||||");
 }

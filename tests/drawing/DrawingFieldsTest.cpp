@@ -1,13 +1,13 @@
 #include "drawing/DrawingFields.h"
 
 #include "DrawingJson.h"
-#include "encoding/RecordKey.h"
+#include "platform/dwgx/KeyLiteral.h"
 
 #include <gtest/gtest.h>
 
 using namespace drawing_test;
+using namespace dwgx::literals;
 using encoding::field;
-using encoding::operator""_key;
 
 namespace {
 

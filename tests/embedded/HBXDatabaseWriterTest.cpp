@@ -6,8 +6,6 @@
 
 using namespace projecttest;
 using hbx::embedded::HBXDatabaseFile;
-using hbx::embedded::ProjectError;
-using hbx::embedded::ProjectRecord;
 
 namespace {
 
