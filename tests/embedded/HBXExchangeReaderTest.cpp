@@ -93,7 +93,7 @@ TEST(HBXExchangeReaderTest, whatIsNoJsonIsToldByLineAndColumn)
     EXPECT_EQ(refusalOf(" \n"), "house.json: is empty");
     EXPECT_EQ(refusalOf("[]"), "house.json: is not an object");
     EXPECT_EQ(refusalOf("{\n  \"format\": @\n}"), "house.json: line 2, column 13: is not JSON: illegal number");
-    EXPECT_EQ(refusalOf("{\n  \"format\": \"hbx"), "house.json: line 2, column 18: is not JSON: unterminated string");
+    EXPECT_EQ(refusalOf("{\n  \"format\": \"hbx"), "house.json: line 2, column 17: is not JSON: unterminated string");
 }
 
 TEST(HBXExchangeReaderTest, aFileThatNestsWithoutEndIsRefused)
