@@ -55,10 +55,10 @@ template <typename Geometry> vks::CRefPtr<Geometry> cloned(const vks::CRefPtr<Ge
     return geometry ? geometry->Clone() : nullptr;
 }
 
-Polygon worldPolyOf(IHBXElementDrawObj &object)
+Polygon worldPolyOf(const IHBXShape *shape)
 {
     Polygon polygon;
-    if (const IHBXShape *shape = object.shape())
+    if (shape)
         shape->worldPoly(polygon, IHBXModel::g_bDefaultAutoCalc);
     return polygon;
 }
@@ -280,17 +280,18 @@ std::unique_ptr<ORVBeamSDCSeatInfoModel> readBeamSeat(IHBXElementDrawObj &object
     const BeamSeatType &type = seatType(object.type());
     if (type.number == beam::type::column && hasSkippedSection(object))
         return nullptr;
-    const Polygon outline = worldPolyOf(object);
+    const IHBXShape *placed = object.shape();
+    const Polygon outline = worldPolyOf(placed);
     if (!outline)
         return nullptr;
-    const IHBXShape &shape = *object.shape(); // there is one: it gave the outline
+    const IHBXShape &shape = *placed; // there is one: it gave the outline
     const IHBXProperties *properties = object.properties();
 
     auto seat = std::make_unique<Seat>();
     seat->seatElementType = narrowed(object.type());
     seat->nElementSubType = narrowed(object.subType());
     IHBXElementDrawObj *unit = type.hasUnits ? topUnit(object) : nullptr;
-    seat->ipWorldPoly = cloned(unit ? worldPolyOf(*unit) : outline);
+    seat->ipWorldPoly = cloned(unit ? worldPolyOf(unit->shape()) : outline);
     seat->nEDOID = narrowed(object.id());
     if (type.kind == BeamSeatType::kColumn)
         readColumn(*seat, properties);
