@@ -2,7 +2,6 @@
 
 #include "ModelSerialization/SlabHostKeys.h"
 #include "ModelSerialization/SlabsOfBars.h"
-#include "platform/host/HBXModelException.h"
 #include "platform/host/IHBXCurState.h"
 #include "platform/host/IHBXDrawObjStatus.h"
 #include "platform/host/IHBXDrawObjs.h"
@@ -25,21 +24,16 @@ constexpr int kAnyLayerKind = -1;
 constexpr int kNoSlab = -1;
 constexpr int kStraddling = 1; // "Type"
 
-QString textIn(IHBXElementDrawObj &object, const std::wstring &property)
-{
-    QString text;
-    const IHBXProperties *properties = object.properties();
-    return properties ? properties->asString(text, property) : text;
-}
-
 /** Takes the links to a bar out of its slabs again, unless the bar stays. */
 class SlabLinkGuard
 {
 public:
     explicit SlabLinkGuard(const Slabs &slabs)
     {
+        QString links;
         for (IHBXElementDrawObj *slab : slabs)
-            m_links.emplace_back(slab, textIn(*slab, property::reinforcementInfo));
+            if (const IHBXProperties *properties = slab->properties())
+                m_links.emplace_back(slab, properties->asString(links, property::reinforcementInfo));
     }
     ~SlabLinkGuard()
     {
@@ -55,9 +49,11 @@ private:
     static void restore(IHBXElementDrawObj &slab, const QString &links)
     {
         try {
-            if (textIn(slab, property::reinforcementInfo) != links)
-                slab.properties()->setString(property::reinforcementInfo, links, kBarFlag);
-        } catch (const HBXModelException &) {
+            QString held;
+            IHBXProperties *properties = slab.properties();
+            if (properties && properties->asString(held, property::reinforcementInfo) != links)
+                properties->setString(property::reinforcementInfo, links, kBarFlag);
+        } catch (...) {
             // The host does not take back what it gave: the others are restored all the same.
         }
     }
@@ -73,10 +69,10 @@ ElementRule ruleOf(const SlabBarKind &kind, const SlabBarRecord &record)
                 QString held;
                 return properties.asString(held, property::barInfo) == barInfo;
             },
-            [barInfo, straddles = kind.straddles](IHBXElement &element) {
-                element.properties()->setString(property::barInfo, barInfo, kBarFlag);
+            [barInfo, straddles = kind.straddles](IHBXElement & /*element*/, IHBXProperties &properties) {
+                properties.setString(property::barInfo, barInfo, kBarFlag);
                 if (straddles)
-                    element.properties()->setInt(property::type, kStraddling, kBarFlag);
+                    properties.setInt(property::type, kStraddling, kBarFlag);
             }};
 }
 

@@ -113,9 +113,8 @@ bool matches(const HoleRecord &record, const IHBXProperties &properties)
     return record.kind != kCircle || properties.asInt(property::radius) == record.radius;
 }
 
-void fill(const HoleRecord &record, IHBXElement &element)
+void fill(const HoleRecord &record, IHBXElement &element, IHBXProperties &properties)
 {
-    IHBXProperties &properties = *element.properties();
     if (record.kind == kRectangle) {
         properties.setInt(property::width, record.width, kSizeFlag);
         properties.setInt(property::length, record.length, kSizeFlag);
@@ -131,7 +130,7 @@ ElementRule ruleOf(const HoleRecord &record)
 {
     return {type::slabHole, kSubTypes[record.kind], record.name,
             [record](const IHBXProperties &properties) { return matches(record, properties); },
-            [record](IHBXElement &element) { fill(record, element); }};
+            [record](IHBXElement &element, IHBXProperties &properties) { fill(record, element, properties); }};
 }
 
 // ---- Draw objects
@@ -185,27 +184,34 @@ bool place(IHBXElementDrawObj &hole, const Point &centre, double angle)
     return true;
 }
 
-IHBXElementDrawObj *writeHole(const SlabTarget &target, IHBXElement &element, const HoleRecord &record)
+/** False for a clone without a shape, and when the host's check refuses it. */
+bool enterHole(const SlabTarget &target, IHBXElementDrawObj &hole, IHBXElementDrawObj &parent, const Point &centre,
+               double angle)
+{
+    IHBXShape *shape = hole.shape();
+    if (!shape)
+        return false;
+    shape->setCoordinates(vks::CCoord3<double>());
+    place(hole, centre, angle);
+    hole.attachTo(&parent);
+    target.model.drawObjects()->addDrawObj(&hole);
+    return passesCheck(target, hole);
+}
+
+DrawObjId writeHole(const SlabTarget &target, IHBXElement &element, const HoleRecord &record)
 {
     if (!record.surface)
-        return nullptr;
+        return {};
     const Point centre = record.surface->Box().Center();
     const double angle = angleOf(element, *record.surface);
     const DrawObjGuard probe(createDrawObj(target, element)); // it only serves to find the parent
     if (!probe.get() || !place(*probe.get(), centre, angle))
-        return nullptr;
+        return {};
     IHBXElementDrawObj *parent = ORVFindSlabHoleParentUtils(target.state, probe.get()).getSlabHoleParent();
     if (!parent)
-        return nullptr;
+        return {};
     DrawObjGuard made(probe.get()->cloneDrawObj(0, 0, 1));
-    IHBXElementDrawObj *hole = made.get();
-    if (!hole || !hole->shape())
-        return nullptr;
-    hole->shape()->setCoordinates(vks::CCoord3<double>());
-    place(*hole, centre, angle);
-    hole->attachTo(parent);
-    target.model.drawObjects()->addDrawObj(hole);
-    return passesCheck(target, *hole) ? made.release() : nullptr;
+    return made.keptIf([&](IHBXElementDrawObj &hole) { return enterHole(target, hole, *parent, centre, angle); });
 }
 
 /** Meant: one more than the whole steps of 50 mm. */

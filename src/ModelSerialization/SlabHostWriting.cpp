@@ -19,16 +19,37 @@ QString freeName(IHBXElements &elements, const IHBXFloor &floor, const QString &
     return candidate;
 }
 
-/** Gives a new element what it needs; one that refuses it is removed. */
-bool wasFilled(IHBXElement &element, const std::function<void(IHBXElement &)> &fill)
+using ElementGuard = MadeGuard<IHBXElement>;
+
+/** Runs a step; what the host refuses in its own way gives the result of none. */
+template <typename Step> auto resultUnlessRefused(const Step &step) -> decltype(step())
 {
     try {
-        fill(element);
-        return true;
+        return step();
     } catch (const HBXModelException &) {
-        element.remove();
-        return false;
+        return {}; // guards have taken away what was made
     }
+}
+
+GroupElement madeFor(const SlabTarget &target, const ElementRule &rule)
+{
+    ElementGuard made(buildOneHBXElement(&target.model, &target.floor, rule.name, static_cast<int>(rule.type),
+                                         static_cast<int>(rule.subType)));
+    const auto isFilled = [&rule](IHBXElement &element) {
+        IHBXProperties *properties = element.properties();
+        if (properties)
+            rule.fill(element, *properties);
+        return properties != nullptr;
+    };
+    const std::optional<qint64> id = made.keptIf(isFilled);
+    return id ? GroupElement{*id, true} : GroupElement();
+}
+
+GroupElement foundOrMade(const SlabTarget &target, const ElementRule &rule)
+{
+    IHBXElement *found = target.model.elements()->findElement(rule.name, target.floor.id(), rule.type, true, 0);
+    const IHBXProperties *properties = found ? found->properties() : nullptr;
+    return properties && rule.matches(*properties) ? GroupElement{found->id(), false} : madeFor(target, rule);
 }
 
 } // namespace
@@ -51,38 +72,51 @@ IHBXElement *buildOneHBXElement(IHBXModel *model, IHBXFloor *floor, const QStrin
         return nullptr;
     IHBXElements &elements = *model->elements();
     const QString free = freeName(elements, *floor, name, type);
-    IHBXElement *element = elements.createElement(type, subType, floor, QString());
-    const auto rename = [&free](IHBXElement &made) { made.setName(free); };
-    return element && wasFilled(*element, rename) ? element : nullptr;
+    return resultUnlessRefused([&]() -> IHBXElement * {
+        ElementGuard made(elements.createElement(type, subType, floor, QString()));
+        if (made.get())
+            made.get()->setName(free);
+        return made.release();
+    });
 }
 
 GroupElement elementFor(const SlabTarget &target, const ElementRule &rule)
 {
-    IHBXElement *found = target.model.elements()->findElement(rule.name, target.floor.id(), rule.type, true, 0);
-    const IHBXProperties *properties = found ? found->properties() : nullptr;
-    if (properties && rule.matches(*properties))
-        return {found->id(), false};
-    IHBXElement *made = buildOneHBXElement(&target.model, &target.floor, rule.name, static_cast<int>(rule.type),
-                                           static_cast<int>(rule.subType));
-    return made && made->properties() && wasFilled(*made, rule.fill) ? GroupElement{made->id(), true} : GroupElement();
+    return resultUnlessRefused([&] { return foundOrMade(target, rule); });
 }
 
 IHBXElement *elementOf(const SlabTarget &target, GroupElement &group, const ElementRule &rule)
 {
-    IHBXElements &elements = *target.model.elements();
     if (group.id < 0)
         return nullptr;
-    if (!elements.elementById(group.id))
-        group = elementFor(target, rule);
-    return elements.elementById(group.id);
+    return resultUnlessRefused([&]() -> IHBXElement * {
+        IHBXElements &elements = *target.model.elements();
+        if (!elements.elementById(group.id))
+            group = elementFor(target, rule);
+        return elements.elementById(group.id);
+    });
 }
 
-IHBXElementDrawObj *writtenOrNull(const std::function<IHBXElementDrawObj *()> &write)
+DrawObjId writtenOrNone(const std::function<DrawObjId()> &write) { return resultUnlessRefused(write); }
+
+GroupElements::~GroupElements()
 {
+    for (std::size_t i = 0; i < m_elements.size(); ++i)
+        done(i);
+}
+
+void GroupElements::add(const ElementRule &rule) { m_elements.push_back(elementFor(m_target, rule)); }
+
+void GroupElements::done(std::size_t group)
+{
+    if (!std::exchange(m_elements[group].created, false))
+        return;
     try {
-        return write();
-    } catch (const HBXModelException &) {
-        return nullptr; // its guard has taken the draw object away: the next one goes on
+        IHBXElement *element = m_target.model.elements()->elementById(m_elements[group].id);
+        if (element && element->drawObjCount() == 0)
+            element->remove();
+    } catch (...) {
+        // A host that does not take it back keeps it: the next group goes on, and the way out may be another exception.
     }
 }
 

@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <functional>
 #include <map>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -35,37 +36,54 @@ struct SlabTarget
 
 // ---- Draw objects
 
-/** Removes a new draw object from the host again, on every way out, unless it was released. */
-class DrawObjGuard
+/** Removes what was made from the host again, on every way out, unless it was released. A host that throws keeps it. */
+template <typename Made> class MadeGuard
 {
 public:
     /** Null is allowed. */
-    explicit DrawObjGuard(IHBXElementDrawObj *object) : m_object(object) {}
-    ~DrawObjGuard()
+    explicit MadeGuard(Made *made) : m_made(made) {}
+    ~MadeGuard()
     {
-        if (m_object)
-            m_object->remove();
+        try {
+            if (m_made)
+                m_made->remove();
+        } catch (...) {
+            // The way out may be another exception.
+        }
     }
-    DrawObjGuard(const DrawObjGuard &) = delete;
-    DrawObjGuard &operator=(const DrawObjGuard &) = delete;
+    MadeGuard(const MadeGuard &) = delete;
+    MadeGuard &operator=(const MadeGuard &) = delete;
 
-    IHBXElementDrawObj *get() const { return m_object; }
-    IHBXElementDrawObj *release() { return std::exchange(m_object, nullptr); }
+    Made *get() const { return m_made; }
+    Made *release() { return std::exchange(m_made, nullptr); }
+
+    /** Releases what was made if a test of it holds. @return its id then, which is asked first: behind the test nothing
+     *  can fail */
+    template <typename Test> std::optional<qint64> keptIf(const Test &test)
+    {
+        if (!m_made)
+            return {};
+        const qint64 id = m_made->id();
+        if (!test(*m_made))
+            return {};
+        release();
+        return id;
+    }
 
 private:
-    IHBXElementDrawObj *m_object;
+    Made *m_made;
 };
+using DrawObjGuard = MadeGuard<IHBXElementDrawObj>;
+using DrawObjId = std::optional<qint64>; ///< of a draw object that came in; nothing for one that did not
 
 /** A draw object of an element on the target's floor, not entered; null when the host makes none. */
 IHBXElementDrawObj *createDrawObj(const SlabTarget &target, IHBXElement &element);
 /** Makes a draw object of an element on the target's floor.
  *  @param fill  (IHBXElementDrawObj &) -> bool: fills it and enters it
- *  @return null when the host makes none or fill is false: nothing is left in the host then */
-template <typename Fill>
-IHBXElementDrawObj *writeDrawObj(const SlabTarget &target, IHBXElement &element, const Fill &fill)
+ *  @return nothing when the host makes none or fill is false: nothing is left in the host then */
+template <typename Fill> DrawObjId writeDrawObj(const SlabTarget &target, IHBXElement &element, const Fill &fill)
 {
-    DrawObjGuard made(createDrawObj(target, element));
-    return made.get() && fill(*made.get()) ? made.release() : nullptr;
+    return DrawObjGuard(createDrawObj(target, element)).keptIf(fill);
 }
 /** The verdict of the host's check; its reasons are dropped. */
 bool passesCheck(const SlabTarget &target, IHBXElementDrawObj &object);
@@ -83,8 +101,8 @@ struct ElementRule
     qint64 type;
     qint64 subType;
     QString name;
-    std::function<bool(const IHBXProperties &)> matches; ///< whether the element of that name may be shared
-    std::function<void(IHBXElement &)> fill;             ///< gives a new element its properties
+    std::function<bool(const IHBXProperties &)> matches;       ///< whether the element of that name may be shared
+    std::function<void(IHBXElement &, IHBXProperties &)> fill; ///< gives a new element its properties
 };
 
 /** An element for a group. */
@@ -94,13 +112,33 @@ struct GroupElement
     bool created = false;
 };
 
-/** The element of that name and type on the floor if it matches, else a new one, whose name may have a suffix. */
+/** The element of that name and type on the floor if it matches, else a new one, whose name may have a suffix. None when the
+ *  host refuses a step in its own way, HBXModelException. */
 GroupElement elementFor(const SlabTarget &target, const ElementRule &rule);
 /** The element of a group. One that an earlier group shared, and that went since that group put nothing in, is found or made
- *  anew; null for a group that has none. */
+ *  anew; null for a group that has none, and when the host refuses to find it in its own way. */
 IHBXElement *elementOf(const SlabTarget &target, GroupElement &group, const ElementRule &rule);
 /** Runs a write and takes what the host refuses in its own way, HBXModelException, for its end. */
-IHBXElementDrawObj *writtenOrNull(const std::function<IHBXElementDrawObj *()> &write);
+DrawObjId writtenOrNone(const std::function<DrawObjId()> &write);
+
+/** The elements of groups. One that was made for a group and has no draw object when the group is done, or when it comes to
+ *  nothing, is removed again. */
+class GroupElements
+{
+public:
+    explicit GroupElements(const SlabTarget &target) : m_target(target) {}
+    ~GroupElements();
+    GroupElements(const GroupElements &) = delete;
+    GroupElements &operator=(const GroupElements &) = delete;
+
+    void add(const ElementRule &rule);
+    GroupElement &operator[](std::size_t group) { return m_elements[group]; }
+    void done(std::size_t group);
+
+private:
+    const SlabTarget &m_target;
+    std::vector<GroupElement> m_elements;
+};
 
 /** Parts records by a key, in the order in which they come. */
 template <typename Record, typename KeyOf>
@@ -121,24 +159,20 @@ std::vector<std::vector<Record>> grouped(std::vector<Record> records, const KeyO
  *  whose element cannot be made are left out. Each draw object that was made goes into the target's ids. An element that
  *  was made for a group and got no draw object is removed again.
  *  @param ruleOf  (const std::vector<Record> &) -> ElementRule
- *  @param write   (IHBXElement &, const Record &) -> IHBXElementDrawObj *, null for a record that did not come in */
+ *  @param write   (IHBXElement &, const Record &) -> DrawObjId */
 template <typename Record, typename RuleOf, typename Write>
 void writeGroups(const SlabTarget &target, const std::vector<std::vector<Record>> &groups, const RuleOf &ruleOf,
                  const Write &write)
 {
-    std::vector<GroupElement> elements;
-    elements.reserve(groups.size());
+    GroupElements elements(target);
     for (const auto &group : groups)
-        elements.push_back(elementFor(target, ruleOf(group)));
+        elements.add(ruleOf(group));
     for (std::size_t i = 0; i < groups.size(); ++i) {
-        IHBXElement *element = elementOf(target, elements[i], ruleOf(groups[i]));
-        if (!element)
-            continue;
-        for (const Record &record : groups[i])
-            if (const auto *object = writtenOrNull([&] { return write(*element, record); }))
-                target.ids[object->id()] = record.id;
-        if (elements[i].created && element->drawObjCount() == 0)
-            element->remove();
+        if (IHBXElement *element = elementOf(target, elements[i], ruleOf(groups[i])))
+            for (const Record &record : groups[i])
+                if (const DrawObjId id = writtenOrNone([&] { return write(*element, record); }))
+                    target.ids[*id] = record.id;
+        elements.done(i);
     }
 }
 

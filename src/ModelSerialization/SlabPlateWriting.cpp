@@ -83,7 +83,9 @@ ElementRule ruleOf(const PlateKind &kind, const PlateRecord &record)
     return {
         kind.type, kind.subType, record.name,
         [thickness](const IHBXProperties &properties) { return properties.asInt(property::thickness) == thickness; },
-        [thickness](IHBXElement &element) { element.properties()->setInt(property::thickness, thickness, false); }};
+        [thickness](IHBXElement & /*element*/, IHBXProperties &properties) {
+            properties.setInt(property::thickness, thickness, false);
+        }};
 }
 
 void setElevations(const SlabTarget &target, const PlateKind &kind, const PlateRecord &record,

@@ -265,10 +265,11 @@ std::unique_ptr<ORVBeamSDCSeatInfoModel> readBeamSeat(IHBXElementDrawObj &object
     const BeamSeatType &type = seatType(object.type());
     if (type.number == beam::type::column && hasSkippedSection(object))
         return nullptr;
-    const Polygon outline = hbx::worldOutline(object.shape());
+    const IHBXShape *placed = object.shape();
+    const Polygon outline = hbx::worldOutline(placed);
     if (!outline)
         return nullptr;
-    const IHBXShape &shape = *object.shape(); // there is one: it gave the outline
+    const IHBXShape &shape = *placed; // there is one: it gave the outline
     const IHBXProperties *properties = object.properties();
 
     auto seat = std::make_unique<Seat>();

@@ -49,9 +49,9 @@ bool hasFixedSubType(qint64 elementType)
 }
 
 /** Sets a size; the inner divide of a combined door and window moves to the middle when the opening shrinks past it. */
-void setSizeKeepingDivide(IHBXElement &element, const std::wstring &sizeName, const std::wstring &divideName, int size)
+void setSizeKeepingDivide(const IHBXElement &element, IHBXProperties &properties, const std::wstring &sizeName,
+                          const std::wstring &divideName, int size)
 {
-    IHBXProperties &properties = *element.properties();
     if (!properties.hasProperty(sizeName))
         return;
     const bool divided = element.type() == type::doorWithWindow && properties.hasProperty(divideName);
@@ -75,8 +75,9 @@ void createOpeningElement(IHBXModel &model, const ORVCADWinDoorElementStruct &re
     element->setName(record.name);
     setOpeningSize(*element, record.openingWidth, record.openingHeight);
     // Meant: the combined kind (6) keeps the height that the host gives it.
-    if (hasFixedSubType(record.elementType) && element->properties())
-        element->properties()->setInt(property::aboveFloorHeight, record.aboveFloorHeight, false);
+    IHBXProperties *properties = hasFixedSubType(record.elementType) ? element->properties() : nullptr;
+    if (properties)
+        properties->setInt(property::aboveFloorHeight, record.aboveFloorHeight, false);
 }
 
 /** The first wall of the floor, in the host's order, whose box touches the search box about the point; null if none. */
@@ -147,10 +148,11 @@ qint64 openingSubType(qint64 elementType, qint64 namedSubType)
 
 void setOpeningSize(IHBXElement &element, int width, int height)
 {
-    if (!element.properties())
+    IHBXProperties *properties = element.properties();
+    if (!properties)
         return;
-    setSizeKeepingDivide(element, property::openingWidth, property::winDoorWidth, width);
-    setSizeKeepingDivide(element, property::openingHeight, property::windDoorFloorHeight, height);
+    setSizeKeepingDivide(element, *properties, property::openingWidth, property::winDoorWidth, width);
+    setSizeKeepingDivide(element, *properties, property::openingHeight, property::windDoorFloorHeight, height);
 }
 
 double roundHalf(double value)

@@ -52,4 +52,48 @@ TEST(HBXBatchTest, exceptionOnTheWayClosesTheBracket)
     EXPECT_EQ(model.calls, (Calls{"begin walls", "end walls"}));
 }
 
+/** A model that fails when a bracket is opened or closed. */
+class FailingModel : public PlainModel
+{
+public:
+    void beginBatch(const std::string &key, bool /*on*/) override
+    {
+        if (key == "closed for ever")
+            throw std::runtime_error("no bracket");
+    }
+    void endBatch(const std::string & /*key*/) override
+    {
+        ++ends;
+        throw std::runtime_error("not closed");
+    }
+
+    int ends = 0;
+};
+
+TEST(HBXBatchTest, hostThatThrowsAtTheEndIsToldOnceAndEndsNothing)
+{
+    FailingModel model;
+    {
+        const HBXBatch batch(model, "walls");
+    }
+    EXPECT_EQ(model.ends, 1);
+}
+
+TEST(HBXBatchTest, exceptionOnTheWayReachesTheCallerWhenTheHostThrowsAtTheEnd)
+{
+    FailingModel model;
+    const auto fail = [&model] {
+        const HBXBatch batch(model, "walls");
+        throw std::logic_error("on the way");
+    };
+    EXPECT_THROW(fail(), std::logic_error);
+}
+
+TEST(HBXBatchTest, bracketThatCannotBeOpenedIsNotClosed)
+{
+    FailingModel model;
+    EXPECT_THROW(HBXBatch(model, "closed for ever"), std::runtime_error);
+    EXPECT_EQ(model.ends, 0);
+}
+
 } // namespace

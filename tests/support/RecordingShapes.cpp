@@ -18,18 +18,18 @@ template <typename Kind> class RecordingShape : public Recording<Kind>
 {
 public:
     using Recording<Kind>::Recording;
-    int kind() const override { return this->m_real.kind(); }
+    int kind() const override { return this->asked("kind").kind(); }
     vks::CCoord3<double> &coordinates(vks::CCoord3<double> &out, bool autoCalc) const override
     {
-        return this->m_real.coordinates(out, autoCalc);
+        return this->asked("coordinates").coordinates(out, autoCalc);
     }
     vks::CBox2<double> &box(vks::CBox2<double> &out, bool autoCalc) const override
     {
-        return this->m_real.box(out, autoCalc);
+        return this->asked("box").box(out, autoCalc);
     }
     CRefPtr<vks::CPolygon> &worldPoly(CRefPtr<vks::CPolygon> &out, bool autoCalc) const override
     {
-        return this->m_real.worldPoly(out, autoCalc);
+        return this->givesNull("worldPoly") ? (out = nullptr) : this->m_real.worldPoly(out, autoCalc);
     }
     void setCoordinates(const vks::CCoord3<double> &frame) override
     {
@@ -44,7 +44,7 @@ public:
     using RecordingShape::RecordingShape;
     CRefPtr<vks::CCurve2d> &curve(CRefPtr<vks::CCurve2d> &out, bool autoCalc) const override
     {
-        return m_real.curve(out, autoCalc);
+        return givesNull("curve") ? (out = nullptr) : m_real.curve(out, autoCalc);
     }
     void setLine(const vks::CCurve2d *axis) override
     {
@@ -53,31 +53,34 @@ public:
     }
     CRefPtr<vks::CCurve2d> &localLine(CRefPtr<vks::CCurve2d> &out, bool autoCalc) const override
     {
-        return m_real.localLine(out, autoCalc);
+        return givesNull("localLine") ? (out = nullptr) : m_real.localLine(out, autoCalc);
     }
     CRefPtr<vks::CCurve2d> &worldLine(CRefPtr<vks::CCurve2d> &out, bool autoCalc) const override
     {
-        return m_real.worldLine(out, autoCalc);
+        return givesNull("worldLine") ? (out = nullptr) : m_real.worldLine(out, autoCalc);
     }
-    double width(bool autoCalc) const override { return m_real.width(autoCalc); }
-    double distanceToLeft() const override { return m_real.distanceToLeft(); }
+    double width(bool autoCalc) const override { return asked("width").width(autoCalc); }
+    double distanceToLeft() const override { return asked("distanceToLeft").distanceToLeft(); }
 };
 
 template <typename Kind> class RecordingPointSolid : public RecordingShape<Kind>
 {
 public:
     using RecordingShape<Kind>::RecordingShape;
-    vks::CVec2<double> &insertPoint(vks::CVec2<double> &out) const override { return this->m_real.insertPoint(out); }
+    vks::CVec2<double> &insertPoint(vks::CVec2<double> &out) const override
+    {
+        return this->asked("insertPoint").insertPoint(out);
+    }
     void setInsertPoint(const vks::CVec2<double> *point) override
     {
         this->called("setInsertPoint", textOf(point));
         this->m_real.setInsertPoint(point);
     }
-    double angle() const override { return this->m_real.angle(); }
-    bool mirror() const override { return this->m_real.mirror(); }
+    double angle() const override { return this->asked("angle").angle(); }
+    bool mirror() const override { return !this->givesFalse("mirror") && this->m_real.mirror(); }
     CRefPtr<vks::CPolygon> &polygon(CRefPtr<vks::CPolygon> &out, bool autoCalc) const override
     {
-        return this->m_real.polygon(out, autoCalc);
+        return this->givesNull("polygon") ? (out = nullptr) : this->m_real.polygon(out, autoCalc);
     }
     void setAngle(double angle) override
     {
@@ -97,7 +100,7 @@ public:
     using RecordingShape<Kind>::RecordingShape;
     CRefPtr<vks::CPolygon> &polygon(CRefPtr<vks::CPolygon> &out, bool autoCalc) const override
     {
-        return this->m_real.polygon(out, autoCalc);
+        return this->givesNull("polygon") ? (out = nullptr) : this->m_real.polygon(out, autoCalc);
     }
 };
 
@@ -116,14 +119,17 @@ class RecordingFaceSolid : public RecordingFace<IHBXFaceSolidShape>
 {
 public:
     using RecordingFace::RecordingFace;
-    double height() const override { return m_real.height(); }
+    double height() const override { return asked("height").height(); }
 };
 
 class RecordingPlanLine : public RecordingShape<IHBXLineShape2D>
 {
 public:
     using RecordingShape::RecordingShape;
-    CRefPtr<vks::CCurve2d> &curve(CRefPtr<vks::CCurve2d> &out) const override { return m_real.curve(out); }
+    CRefPtr<vks::CCurve2d> &curve(CRefPtr<vks::CCurve2d> &out) const override
+    {
+        return givesNull("curve") ? (out = nullptr) : m_real.curve(out);
+    }
     void setLine(const vks::CCurve2d *curve) override
     {
         called("setLine", textOf(curve));

@@ -142,16 +142,26 @@ template <typename Create> IHBXElement *elementOrNull(Create create)
     }
 }
 
+/** The name that an element has in the host. False, and the name as it was, when the host refuses to tell it. */
+bool readName(const IHBXElement &element, std::wstring &name)
+{
+    try {
+        QString told;
+        name = element.name(told).toStdWString();
+        return true;
+    } catch (const HBXModelException &) {
+        return false;
+    }
+}
+
 /** @param create  (record) -> element, null for a wall to pass over */
 template <typename Walls, typename Create>
 void generate(ORVCADWallEdoGenerator &generator, Walls &walls, DrawObjs &drawObjs, Create create)
 {
     for (auto &[record, pieces] : walls) {
         IHBXElement *element = record ? create(*record) : nullptr;
-        if (!element)
+        if (!element || !readName(*element, record->entName))
             continue;
-        QString name;
-        record->entName = element->name(name).toStdWString();
         generator.createDrawObjs(*element, pieces, drawObjs);
     }
 }

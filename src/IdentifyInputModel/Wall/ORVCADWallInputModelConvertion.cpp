@@ -142,7 +142,8 @@ void appendSingleAxis(IHBXElementDrawObj &object, ModelLines &lines)
 
 std::wstring sectionTypeOf(const IHBXElementDrawObj &object)
 {
-    IHBXProperties *properties = object.element() ? object.element()->properties() : nullptr;
+    IHBXElement *element = object.element();
+    IHBXProperties *properties = element ? element->properties() : nullptr;
     Property section;
     if (properties)
         properties->property(section, property::sectionTypeId);
@@ -222,7 +223,8 @@ void ORVCADWallInputModelConvertion::getCurFloorModelPointEntDataInfo(
         point.SectionTypeID = sectionTypeOf(object);
         point.entName = nameOf(object.element());
         shape->worldPoly(point.worldPoly, IHBXModel::g_bDefaultAutoCalc);
-        point.modelEdoType = object.properties() ? object.properties()->asInt(property::type) : 0;
+        const IHBXProperties *properties = object.properties();
+        point.modelEdoType = properties ? properties->asInt(property::type) : 0;
         point.elementType = static_cast<int>(object.type());
         point.elementSubType = static_cast<int>(object.subType());
         point.edoId = object.id();

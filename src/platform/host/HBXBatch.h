@@ -5,7 +5,8 @@
 #include <string>
 #include <utility>
 
-/** Bracket around changes of a model, closed on every way out. */
+/** Bracket around changes of a model, closed on every way out. What the host throws when it opens the bracket passes on, and
+ *  there is no bracket then; what it throws when it closes it ends here, since the way out may be another exception. */
 class HBXBatch
 {
 public:
@@ -13,7 +14,14 @@ public:
     {
         m_model.beginBatch(m_key, true);
     }
-    ~HBXBatch() { m_model.endBatch(m_key); }
+    ~HBXBatch()
+    {
+        try {
+            m_model.endBatch(m_key);
+        } catch (...) {
+            // The host was told; what was written stands.
+        }
+    }
     HBXBatch(const HBXBatch &) = delete;
     HBXBatch &operator=(const HBXBatch &) = delete;
 
