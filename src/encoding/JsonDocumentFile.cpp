@@ -9,9 +9,6 @@
 namespace {
 
 namespace layerfile = encoding::layerfile;
-using encoding::operator""_key;
-
-constexpr QLatin1String kFileEnding = ".json"_key;
 
 constexpr int kDone = 0;
 constexpr int kFailed = -1;
@@ -47,7 +44,7 @@ QString messageOf(FileState state)
 /** The part of a path between its last "_" and ".json"; without "_" the whole path. */
 QString layerKeyOf(const QString &path)
 {
-    return path.mid(path.lastIndexOf(u'_') + 1).remove(kFileEnding); // meant: every ".json" goes
+    return path.mid(path.lastIndexOf(u'_') + 1).remove(layerfile::ending); // meant: every ".json" goes
 }
 
 QJsonObject layerNamed(const QString &name, const QJsonArray &layers)

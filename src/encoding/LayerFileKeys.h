@@ -2,8 +2,10 @@
 
 #include "encoding/RecordKey.h"
 
-/** Names in the layer files that drawing analysis writes: layers, each with a list of objects that hold an id. */
+/** Layer files, which drawing analysis writes: layers, each with a list of objects that hold an id. */
 namespace encoding::layerfile {
+
+constexpr QLatin1String ending = ".json"_key;
 
 constexpr QLatin1String layerName = "LayerName"_key;
 constexpr QLatin1String edoIdList = "EdoIDList"_key;
