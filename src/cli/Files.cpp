@@ -8,17 +8,18 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 
 namespace orvcad {
 
 namespace {
 
-void writeToStandardOutput(const QByteArray &bytes)
+bool isDeviceOrPipe(const QString &path)
 {
-    const auto size = static_cast<std::size_t>(bytes.size());
-    if (std::fwrite(bytes.constData(), 1, size, stdout) != size || std::fflush(stdout) != 0)
-        throw CommandFailure(kBadInput, QStringLiteral("standard output"), {}, QStringLiteral("cannot be written"));
+    const QFileInfo info(path);
+    return info.exists() && !info.isFile() && !info.isDir();
 }
 
 } // namespace
@@ -30,7 +31,10 @@ QByteArray readFile(const QString &path)
         throw CommandFailure(kBadInput, path, {}, QStringLiteral("is a directory"));
     if (!file.open(QIODevice::ReadOnly))
         throw CommandFailure(kBadInput, path, {}, file.errorString());
-    return file.readAll();
+    QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        throw CommandFailure(kBadInput, path, {}, file.errorString());
+    return bytes;
 }
 
 void requireStrictJson(const QByteArray &text, const QString &path, LargeNumbers large)
@@ -61,16 +65,56 @@ QJsonObject readJsonObject(const QString &path, const QString &what, LargeNumber
     return document.object();
 }
 
-bool writeResult(const QString &path, const QByteArray &bytes)
+void writeToStandardOutput(const QByteArray &bytes, const QString &standing)
+{
+    const auto size = static_cast<std::size_t>(bytes.size());
+    if (std::fwrite(bytes.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0)
+        return;
+    const QString reason = QString::fromLocal8Bit(std::strerror(errno));
+    throw CommandFailure(kBadInput, QStringLiteral("standard output"), {},
+                         QStringLiteral("cannot be written: ") + reason + standing);
+}
+
+PendingResult::PendingResult(const QString &path, const QByteArray &bytes)
 {
     if (path.isEmpty() || path == QLatin1String("-")) {
         writeToStandardOutput(bytes);
-        return true;
+        return;
     }
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        throw CommandFailure(kBadInput, path, {}, QStringLiteral("cannot be written: ") + file.errorString());
-    return false;
+    m_path = path;
+    if (isDeviceOrPipe(path)) {
+        QFile device(path);
+        write(device, bytes);
+        return;
+    }
+    m_file = std::make_unique<QSaveFile>(path);
+    write(*m_file, bytes);
+}
+
+PendingResult::~PendingResult() = default;
+
+void PendingResult::write(QFileDevice &file, const QByteArray &bytes) const
+{
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush())
+        fail(file);
+}
+
+void PendingResult::commit()
+{
+    if (m_file && !m_file->commit())
+        fail(*m_file);
+}
+
+void PendingResult::fail(const QFileDevice &file) const
+{
+    throw CommandFailure(kBadInput, m_path, {}, QStringLiteral("cannot be written: ") + file.errorString());
+}
+
+bool writeResult(const QString &path, const QByteArray &bytes)
+{
+    PendingResult result(path, bytes);
+    result.commit();
+    return result.isOnStandardOutput();
 }
 
 bool writeResult(const QString &path, const QJsonObject &document)

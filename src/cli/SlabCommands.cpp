@@ -13,7 +13,7 @@
 
 #include <CLI/CLI.hpp>
 
-#include <QFile>
+#include <QJsonDocument>
 
 namespace orvcad {
 
@@ -38,26 +38,22 @@ Summary exportSlabs(const Arguments &arguments)
                           json});
 }
 
-/** Writes the map of what was made, unless --strict keeps it from being saved. A map of what then cannot be saved goes
- *  again. */
+/** Writes the map of what was made, unless --strict keeps it from being saved. Its file is replaced once the project is
+ *  saved, and written before, so that there is room for it. */
 Summary saveWithIds(hbx::embedded::HBXProject &project, const SlabOutcome &outcome, const Arguments &arguments)
 {
     const QString ids = Arguments::text(arguments.ids);
     const bool isComplete = outcome.leftOut.empty();
     const bool isTold = !ids.isEmpty() && (isComplete || !arguments.strict);
-    const bool onStdout = isTold && writeResult(ids, outcome.idMap());
     QJsonObject json = outcome.toJson();
-    if (isTold)
-        json["ids"] = ids;
-    try {
-        Summary summary = saveApplied(project, isComplete, arguments.strict, outcome.text(), json);
-        summary.documentOnStdout = onStdout;
-        return summary;
-    } catch (const CommandFailure &) {
-        if (isTold && !onStdout)
-            QFile::remove(ids);
-        throw;
-    }
+    if (!isTold)
+        return saveApplied(project, isComplete, arguments.strict, outcome.text(), json);
+    json["ids"] = ids;
+    PendingResult map(ids, QJsonDocument(outcome.idMap()).toJson());
+    Summary summary = saveApplied(project, isComplete, arguments.strict, outcome.text(), json);
+    map.commit();
+    summary.documentOnStdout = map.isOnStandardOutput();
+    return summary;
 }
 
 Summary applyReply(const Arguments &arguments)

@@ -1,4 +1,5 @@
 #include "cli/Command.h"
+#include "cli/Files.h"
 
 #include <CLI/CLI.hpp>
 
@@ -7,8 +8,13 @@
 #include <QTextCodec>
 
 #include <algorithm>
+#include <csignal>
 #include <cstdio>
+#include <sstream>
 #include <string_view>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace {
 
@@ -18,21 +24,32 @@ struct Flags
     bool quiet = false;
 };
 
-void printLine(std::FILE *stream, const QString &text)
+void printError(const QString &text)
 {
     const QByteArray bytes = text.toUtf8() + '\n';
-    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream);
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stderr);
 }
 
 QString indented(const QJsonObject &json) { return QString::fromUtf8(QJsonDocument(json).toJson()).trimmed(); }
 
+/** What is done although the summary cannot be printed. */
+QString whatStands(const QJsonObject &summary)
+{
+    if (summary["saved"].toBool())
+        return QStringLiteral("; the project is saved all the same");
+    const QString output = summary["output"].toString();
+    return output.isEmpty() ? QString() : QStringLiteral("; %1 is written all the same").arg(output);
+}
+
 void print(const orvcad::Summary &summary, const Flags &flags)
 {
-    std::FILE *stream = summary.documentOnStdout ? stderr : stdout;
-    if (flags.json)
-        printLine(stream, indented(summary.json));
-    else if (!flags.quiet && !summary.text.isEmpty())
-        printLine(stream, summary.text);
+    const QString text = flags.json ? indented(summary.json) : flags.quiet ? QString() : summary.text;
+    if (text.isEmpty())
+        return;
+    if (summary.documentOnStdout)
+        printError(text);
+    else
+        orvcad::writeToStandardOutput(text.toUtf8() + '\n', whatStands(summary.json));
 }
 
 int run(const orvcad::Command &command, const Flags &flags)
@@ -42,7 +59,7 @@ int run(const orvcad::Command &command, const Flags &flags)
         print(summary, flags);
         return summary.exitCode;
     } catch (const orvcad::CommandFailure &failure) {
-        printLine(stderr, flags.json ? indented(failure.toJson()) : QStringLiteral("orvcad: ") + failure.message());
+        printError(flags.json ? indented(failure.toJson()) : QStringLiteral("orvcad: ") + failure.message());
         return failure.code();
     }
 }
@@ -78,10 +95,22 @@ int tellWrongUsage(const CLI::App &app, const CLI::Error &error, bool asJson)
 {
     const orvcad::CommandFailure failure(orvcad::kWrongUsage, QString::fromStdString(usageProblem(app, error)));
     if (asJson)
-        printLine(stderr, indented(failure.toJson()));
+        printError(indented(failure.toJson()));
     else
-        printLine(stderr, QStringLiteral("orvcad: %1\n%2").arg(failure.message(), QString::fromStdString(app.help())));
+        printError(QStringLiteral("orvcad: %1\n%2").arg(failure.message(), QString::fromStdString(app.help())));
     return failure.code();
+}
+
+/** Prints the help or the version that was asked for. */
+int tellAbout(const CLI::App &app, const CLI::Error &request)
+{
+    std::ostringstream text;
+    app.exit(request, text, text);
+    const auto print = [&text] {
+        orvcad::writeToStandardOutput(QByteArray::fromStdString(text.str()));
+        return orvcad::Summary();
+    };
+    return run(print, Flags());
 }
 
 int parseAndRun(int argc, char **argv)
@@ -94,17 +123,35 @@ int parseAndRun(int argc, char **argv)
         app.parse(argc, argv);
     } catch (const CLI::ParseError &error) {
         if (error.get_exit_code() == 0)
-            return app.exit(error); // prints the help or the version that was asked for
+            return tellAbout(app, error);
         // The flags may not have been read yet when the arguments fail.
         return tellWrongUsage(app, error, std::count(argv + 1, argv + argc, std::string_view("--json")) > 0);
     }
     return run(command, flags);
 }
 
+/** A standard stream that is closed would be the number of the first file that is opened, and what is printed would go
+ *  into that file. Printing to what takes its place fails, as it would have done without. */
+void keepStandardStreams()
+{
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+        if (fcntl(stream, F_GETFD) == -1)
+            open("/dev/null", O_RDONLY | O_CLOEXEC); // gets the lowest number that is free
+}
+
+/** A pipe without a reader and a file beyond its limit are told as any other failure, not by the end of the process. */
+void ignoreSignalsOfWriting()
+{
+    for (const int signal : {SIGPIPE, SIGXFSZ})
+        std::signal(signal, SIG_IGN);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 try {
+    keepStandardStreams();
+    ignoreSignalsOfWriting();
     const QCoreApplication qt(argc, argv);
     // Names and texts of a building are UTF-8, whatever the terminal's locale.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));

@@ -33,19 +33,46 @@ protected:
         QJsonObject error() const { return QJsonDocument::fromJson(err).object()["error"].toObject(); }
     };
 
-    Result run(const QStringList &arguments) const
+    /** A process that is prepared before it becomes the command. */
+    class Process : public QProcess
     {
-        QProcess process;
+    public:
+        using Preparation = std::function<void()>;
+        explicit Process(Preparation inChild = {}) : m_inChild(std::move(inChild)) {}
+
+    private:
+        void setupChildProcess() override
+        {
+            if (m_inChild)
+                m_inChild();
+        }
+        Preparation m_inChild;
+    };
+
+    void start(QProcess &process, const QStringList &arguments) const
+    {
         process.setWorkingDirectory(m_directory.path());
         process.setProcessEnvironment(m_environment);
         process.start(QStringLiteral(ORVCAD_PROGRAM), arguments);
+    }
+    /** What became of a process; exit code -1 for one that crashed or never ended. */
+    static Result resultOf(QProcess &process)
+    {
         Result result;
-        if (!process.waitForFinished(120000) || process.exitStatus() != QProcess::NormalExit)
+        const bool isDone = process.state() == QProcess::NotRunning || process.waitForFinished(120000);
+        if (!isDone || process.error() == QProcess::FailedToStart || process.exitStatus() != QProcess::NormalExit)
             return result;
         result.exitCode = process.exitCode();
         result.out = process.readAllStandardOutput();
         result.err = process.readAllStandardError();
         return result;
+    }
+    /** @param inChild  runs in the process of the command before that begins */
+    Result run(const QStringList &arguments, Process::Preparation inChild = {}) const
+    {
+        Process process(std::move(inChild));
+        start(process, arguments);
+        return resultOf(process);
     }
 
     /** Sets a variable of the environment of later runs. */

@@ -83,6 +83,23 @@ TEST_F(FilesTest, resultThatCannotBeWrittenIsNamed)
         0U);
 }
 
+TEST_F(FilesTest, pendingResultTakesItsPlaceWhenItIsCommitted)
+{
+    const QString file = fileOf("a.txt", "old content");
+    {
+        PendingResult result(file, "new");
+        EXPECT_FALSE(result.isOnStandardOutput());
+        EXPECT_EQ(clitest::fileContent(file), "old content");
+        result.commit();
+        EXPECT_EQ(clitest::fileContent(file), "new");
+    }
+    {
+        const PendingResult givenUp(file, "newer");
+    }
+    EXPECT_EQ(clitest::fileContent(file), "new");
+    EXPECT_EQ(QDir(path(".")).entryList(QDir::Files | QDir::Hidden), QStringList("a.txt"));
+}
+
 TEST_F(FilesTest, directoryIsMadeForAPath)
 {
     EXPECT_EQ(fileIn(path("a/b"), "c.json"), path("a/b/c.json"));

@@ -183,7 +183,7 @@ TEST_F(HBXDatabaseFileTest, aFailedCreationLeavesNothingBehind)
 {
     ProjectError error;
     EXPECT_FALSE(HBXDatabaseFile(path("nowhere/house.hbxdb")).create(ProjectRecord(), error));
-    EXPECT_EQ(error.reason, QString("cannot be written: unable to open database file"));
+    EXPECT_EQ(error.reason, QString("cannot be written: No such file or directory"));
     ASSERT_TRUE(QDir(m_folder.path()).mkdir("folder"));
     EXPECT_FALSE(HBXDatabaseFile(path("folder")).create(ProjectRecord(), error));
     EXPECT_EQ(error.reason, QString("is a directory"));

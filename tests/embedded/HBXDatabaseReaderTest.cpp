@@ -35,6 +35,9 @@ const Damage kDamages[] = {
      "shape_axis[draw_object_id=23, axis_group=0, position=0, curve_position=1].curve_position:"
      " has no axis in front of it"},
     {"UPDATE span SET record='5'", "span[draw_object_id=16, position=0].record: is no JSON object"},
+    {"UPDATE span SET record='{\"SpanIndx\": 1}'",
+     "span[draw_object_id=16, position=0].record: has the unknown member \"SpanIndx\""},
+    {"UPDATE span SET record='{\"HoopBar\": 1}'", "span[draw_object_id=16, position=0].record: HoopBar is not a text"},
     {"UPDATE span SET draw_object_id=99",
      "span[draw_object_id=99, position=0]: belongs to nothing that is in the file"},
     {"INSERT INTO element_property VALUES(1,0,'Thickness',200.0)",

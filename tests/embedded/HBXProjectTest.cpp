@@ -176,7 +176,7 @@ TEST_F(HBXProjectTest, aFailedSaveAsKeepsTheOldFile)
     const auto project = opened();
     ProjectError error;
     EXPECT_FALSE(project->saveAs(path("nowhere/a.hbxdb"), error));
-    EXPECT_EQ(error.text(), path("nowhere/a.hbxdb") + ": cannot be written: unable to open database file");
+    EXPECT_EQ(error.text(), path("nowhere/a.hbxdb") + ": cannot be written: No such file or directory");
     EXPECT_EQ(project->path(), path());
 }
 

@@ -93,3 +93,33 @@ TEST_F(SqliteConnectionTest, aTransactionThatCannotBeginIsNone)
     connection.run("UPDATE t SET x = 6"); // still inside the outer one
     EXPECT_EQ(value("SELECT x FROM t"), "5");
 }
+
+TEST_F(SqliteConnectionTest, failureOfTheSystemCarriesItsReason)
+{
+    SqliteConnection connection(path(), SqliteConnection::kWrite);
+    // In place of the journal stands a folder, so that none can be made.
+    ASSERT_TRUE(QDir().mkpath(path() + "-journal"));
+    EXPECT_EQ(errorOf(connection, "UPDATE t SET x = 6").message,
+              QString("unable to open database file (Is a directory)"));
+}
+
+TEST_F(SqliteConnectionTest, databaseInMemoryIsWrittenAsAFile)
+{
+    SqliteConnection memory(QStringLiteral(":memory:"), SqliteConnection::kCreate);
+    memory.run("CREATE TABLE t(x); INSERT INTO t VALUES(8)");
+    QFile file(path());
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    EXPECT_TRUE(memory.writeTo(file));
+    file.close();
+    EXPECT_EQ(value("SELECT x FROM t"), "8");
+}
+
+TEST_F(SqliteConnectionTest, fileThatTakesLessThanTheDatabaseIsTold)
+{
+    SqliteConnection memory(QStringLiteral(":memory:"), SqliteConnection::kCreate);
+    memory.run("CREATE TABLE t(x)");
+    QFile full(QStringLiteral("/dev/full"));
+    if (!full.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        GTEST_SKIP() << "there is no /dev/full";
+    EXPECT_FALSE(memory.writeTo(full));
+}

@@ -85,11 +85,14 @@ bool Cadi2Operator::write(const QString &path, const DWGXModel *model, const QSt
         return fail(QStringLiteral("there is no drawing to write"));
     if (!isFinite(model->getViewerInfoData()))
         return fail(QStringLiteral("is not finite"), cadi2::key::viewer);
+    const QFileInfo info(path);
+    if (info.exists() && !info.isFile())
+        return fail(QStringLiteral("is no file")); // which a file would take the place of
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return fail(file.errorString());
-    file.write(writeCadi2(*model, title, remark)); // commit tells of a short write
-    return file.commit() ? succeed() : fail(file.errorString());
+    // Committing does not tell of a short write while part of it waits in the buffer.
+    const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(writeCadi2(*model, title, remark)) >= 0 &&
+                           file.flush() && file.commit();
+    return isWritten ? succeed() : fail(file.errorString());
 }
 
 } // namespace dwgx

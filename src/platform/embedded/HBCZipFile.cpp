@@ -225,5 +225,6 @@ bool HBCZipFile::uncompressFile(const QString &archive, const QString &member, c
         found.size > kMaxUnpackedBytes)
         return false;
     QSaveFile target(file);
-    return target.open(QIODevice::WriteOnly) && copyContent(content.get(), found, target) && target.commit();
+    return target.open(QIODevice::WriteOnly) && copyContent(content.get(), found, target) && target.flush() &&
+           target.commit();
 }

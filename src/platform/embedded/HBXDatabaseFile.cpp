@@ -10,14 +10,15 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
+#include <QSaveFile>
 
-#include <filesystem>
 #include <limits>
 
 namespace hbx::embedded {
 namespace {
 
 constexpr char kBusy[] = "is being written by another program";
+constexpr char kNotWritten[] = "cannot be written";
 
 constexpr const char *kSideFiles[] = {"-journal", "-wal", "-shm"};
 
@@ -40,8 +41,6 @@ template <typename Work> bool guarded(const QString &path, const char *failure, 
         error = {path, refusal.place, refusal.reason};
     } catch (const SqliteError &problem) {
         error = {path, QString(), problem.isBusy() ? QString(QLatin1String(kBusy)) : failed(failure, problem.message)};
-    } catch (const std::filesystem::filesystem_error &problem) {
-        error = {path, QString(), failed(failure, QString::fromStdString(problem.code().message()))};
     }
     return false;
 }
@@ -65,8 +64,14 @@ void checkFile(const QString &path)
 /** Undoes a save that a process left unfinished. */
 void rollBack(const QString &path)
 {
-    SqliteConnection connection(path, SqliteConnection::kWrite);
-    SqliteStatement(connection, "SELECT count(*) FROM sqlite_schema").run();
+    try {
+        SqliteConnection connection(path, SqliteConnection::kWrite);
+        SqliteStatement(connection, "SELECT count(*) FROM sqlite_schema").run();
+    } catch (const SqliteError &problem) {
+        if (problem.isBusy())
+            throw;
+        refuse(failed("holds a save that was interrupted and cannot be undone", problem.message));
+    }
 }
 
 void beginReading(SqliteConnection &connection)
@@ -108,13 +113,23 @@ void clearSideFiles(const QString &path)
         QFile::remove(path + QLatin1String(suffix));
 }
 
-/** Waits for nobody: a file that somebody writes to is not replaced. */
+void refuseIfNoFile(const QString &path)
+{
+    const QFileInfo info(path);
+    if (info.isDir())
+        refuse(QStringLiteral("is a directory"));
+    if (info.exists() && !info.isFile())
+        refuse(QStringLiteral("is no file")); // which a file would take the place of
+}
+
+/** Waits for nobody: a file that somebody writes to is not replaced. A save that was interrupted is undone here, so that
+ *  the file is whole without its journal, which has to go before the file does. */
 void refuseIfWritten(const QString &path)
 {
     if (!QFileInfo(path).isFile())
         return;
     try {
-        SqliteConnection connection(path, SqliteConnection::kRead);
+        SqliteConnection connection(path, SqliteConnection::kWrite);
         connection.run("BEGIN; SELECT count(*) FROM sqlite_schema");
         if (connection.isWrittenByOthers())
             refuse(QLatin1String(kBusy));
@@ -131,43 +146,24 @@ QString resolved(const QString &path)
     return info.exists() ? info.canonicalFilePath() : path;
 }
 
-/** A file that is gone at the end unless it was moved away. */
-class TemporaryFile
+void fillNew(SqliteConnection &connection, const ProjectRecord &project, qint64 mark)
 {
-public:
-    explicit TemporaryFile(const QString &target)
-        : m_path(target +
-                 QStringLiteral(".%1.part").arg(QRandomGenerator::global()->generate(), 8, 16, QLatin1Char('0')))
-    {}
-    ~TemporaryFile()
-    {
-        QFile::remove(m_path);
-        clearSideFiles(m_path);
-    }
-    TemporaryFile(const TemporaryFile &) = delete;
-    TemporaryFile &operator=(const TemporaryFile &) = delete;
-
-    const QString &path() const { return m_path; }
-    void moveTo(const QString &target) const
-    {
-        if (QFileInfo::exists(target))
-            QFile::setPermissions(m_path, QFile::permissions(target));
-        clearSideFiles(target);
-        std::filesystem::rename(m_path.toStdString(), target.toStdString());
-    }
-
-private:
-    QString m_path;
-};
-
-void writeNew(const QString &path, const ProjectRecord &project, qint64 mark)
-{
-    SqliteConnection connection(path, SqliteConnection::kCreate);
-    connection.run("PRAGMA journal_mode=MEMORY"); // a file that is given up when anything fails needs none beside it
-    SqliteTransaction transaction(connection, "BEGIN EXCLUSIVE");
+    SqliteTransaction transaction(connection, "BEGIN");
     schema::create(connection);
     HBXDatabaseWriter(connection).writeAll(project, mark);
     transaction.commit();
+}
+
+/** Puts a database in the place of a file. What is written on the way has no name that could be left behind. */
+void replaceFile(const QString &target, const SqliteConnection &connection)
+{
+    QSaveFile file(target);
+    if (!file.open(QIODevice::WriteOnly) || !connection.writeTo(file) || !file.flush())
+        refuse(failed(kNotWritten, file.errorString()));
+    refuseIfWritten(target);
+    clearSideFiles(target);
+    if (!file.commit())
+        refuse(failed(kNotWritten, file.errorString()));
 }
 
 } // namespace
@@ -202,22 +198,21 @@ ProjectRecord HBXDatabaseFile::readChecked()
 
 bool HBXDatabaseFile::create(const ProjectRecord &project, ProjectError &error)
 {
-    return guarded(m_path, "cannot be written", error, [&] {
+    return guarded(m_path, kNotWritten, error, [&] {
         const QString target = resolved(m_path);
-        if (QFileInfo(target).isDir())
-            refuse(QStringLiteral("is a directory"));
+        refuseIfNoFile(target);
         refuseIfWritten(target);
-        const TemporaryFile file(target);
         const qint64 mark = freshMark();
-        writeNew(file.path(), project, mark);
-        file.moveTo(target);
+        SqliteConnection connection(QStringLiteral(":memory:"), SqliteConnection::kCreate);
+        fillNew(connection, project, mark);
+        replaceFile(target, connection);
         m_saveMark = mark;
     });
 }
 
 bool HBXDatabaseFile::save(const ProjectUpdate &changes, ProjectError &error)
 {
-    return guarded(m_path, "cannot be written", error, [&] {
+    return guarded(m_path, kNotWritten, error, [&] {
         checkFile(m_path);
         update(changes);
     });

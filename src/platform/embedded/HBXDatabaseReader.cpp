@@ -4,6 +4,7 @@
 #include "platform/embedded/DatabasePropertyReader.h"
 #include "platform/embedded/DatabaseRefusal.h"
 #include "platform/embedded/DatabaseRows.h"
+#include "platform/embedded/ExchangeSpan.h"
 #include "platform/embedded/HBXPropertyCatalogue.h"
 #include "platform/embedded/StoredGeometry.h"
 
@@ -179,7 +180,11 @@ QJsonObject readSpan(const DatabaseRows &rows)
     const auto document = QJsonDocument::fromJson({text.data(), static_cast<int>(text.size())});
     if (!document.isObject())
         rows.refuse(kRecord, QStringLiteral("is no JSON object"));
-    return document.object();
+    try {
+        return spanFromJson(document.object(), dwgx::JsonPlace());
+    } catch (const dwgx::JsonRefusal &refusal) {
+        rows.refuse(kRecord, QStringLiteral("%1 %2").arg(refusal.place, refusal.reason).trimmed());
+    }
 }
 
 /** Rows that a table really has, so that nothing is allocated by a number that merely stands in the file. */

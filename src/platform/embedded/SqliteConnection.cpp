@@ -2,6 +2,10 @@
 
 #include <sqlite3.h>
 
+#include <QIODevice>
+
+#include <cstring>
+
 namespace hbx::embedded {
 namespace {
 
@@ -67,7 +71,23 @@ bool SqliteConnection::isWrittenByOthers() const
 
 void SqliteConnection::fail() const
 {
-    throw SqliteError{sqlite3_extended_errcode(handle()), QString::fromUtf8(sqlite3_errmsg(handle()))};
+    const int code = sqlite3_extended_errcode(handle());
+    const int primary = code & kPrimaryCode;
+    const int system = sqlite3_system_errno(handle());
+    QString message = QString::fromUtf8(sqlite3_errmsg(handle()));
+    if (system != 0 && (primary == SQLITE_CANTOPEN || primary == SQLITE_IOERR))
+        message += QStringLiteral(" (%1)").arg(QString::fromLocal8Bit(std::strerror(system)));
+    throw SqliteError{code, message};
+}
+
+bool SqliteConnection::writeTo(QIODevice &file) const
+{
+    sqlite3_int64 size = 0;
+    const std::unique_ptr<unsigned char, decltype(&sqlite3_free)> bytes(sqlite3_serialize(handle(), "main", &size, 0),
+                                                                        &sqlite3_free);
+    if (!bytes)
+        throw SqliteError{SQLITE_NOMEM, QString::fromUtf8(sqlite3_errstr(SQLITE_NOMEM))};
+    return file.write(reinterpret_cast<const char *>(bytes.get()), size) == size;
 }
 
 SqliteTransaction::~SqliteTransaction()

@@ -6,6 +6,7 @@
 
 #include <memory>
 
+class QIODevice;
 struct sqlite3;
 
 namespace hbx::embedded {
@@ -35,6 +36,9 @@ public:
     void run(const char *sql);
     /** Whether another connection is inside a transaction that writes. */
     bool isWrittenByOthers() const;
+    /** Writes the whole database to a file that is open, as SQLite would have it there; false when that takes less. */
+    bool writeTo(QIODevice &file) const;
+    /** Throws what the last call failed with, and the system's reason for a failure of the system. */
     [[noreturn]] void fail() const;
 
 private:
