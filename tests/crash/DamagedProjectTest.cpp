@@ -1,6 +1,7 @@
 #include "Damage.h"
 #include "embedded/ProjectFiles.h"
 
+#include <algorithm>
 #include <iostream>
 
 using hbx::embedded::HBXProject;
@@ -18,11 +19,10 @@ protected:
     /** An object may have been given an outline that the exchange form has no place for, and keeps it in its file. */
     static bool isAboutAnOutline(const ProjectError &error)
     {
-        for (const char *broken :
-             {"open ring", "crosses itself", "no area", "of no length", "a hole that is not inside"})
-            if (error.reason.contains(broken))
-                return true;
-        return false;
+        const QStringList outlineFaults{"open ring", "crosses itself", "no area", "of no length",
+                                        "a hole that is not inside"};
+        return std::any_of(outlineFaults.begin(), outlineFaults.end(),
+                           [&error](const QString &fault) { return error.reason.contains(fault); });
     }
     /** Whether it was opened, and then it is sound: what it holds is a building that is read again and stays the same. */
     bool isOpened(int number) const

@@ -6,8 +6,6 @@
 #include <cstdio>
 
 using namespace crashtest;
-using hbx::embedded::HBXProject;
-using hbx::embedded::ProjectError;
 using projecttest::OtherProgram;
 
 namespace {

@@ -4,6 +4,8 @@
 
 #include <QByteArray>
 #include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 /** A building of any size, made of walls 5 m long, and a reply of doors that stand in them. Floor "1" of region "House" is
  *  where the reply goes. */

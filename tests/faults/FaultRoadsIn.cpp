@@ -212,7 +212,7 @@ std::vector<FloorReply> slabReplies(const QByteArray &building, const Types &typ
 
 Tree platesOf(IHBXService &service, const FloorName &name)
 {
-    const Tree tree(dwgx::DWGXBaseBoxTree::createObject());
+    Tree tree(dwgx::DWGXBaseBoxTree::createObject());
     QList<IHBXElementDrawObj *> plates;
     service.model()->drawObjects()->queryDrawObjs(plates, floorIds(service), kPlates, true);
     for (IHBXElementDrawObj *plate : qAsConst(plates)) {
@@ -232,6 +232,7 @@ Road slabRoad(const QByteArray &building, const Types &types, int parts)
     road.building = without(building, types);
     road.start = [replies](IHBXService &service) {
         std::vector<Tree> trees;
+        trees.reserve(replies.size());
         for (const FloorReply &reply : replies)
             trees.push_back(platesOf(service, reply.name));
         return writing([&service, replies, trees] {

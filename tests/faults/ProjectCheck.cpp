@@ -78,10 +78,10 @@ QString brokenLink(const HBXProject &project)
 {
     IHBXModel &model = *project.service()->model();
     for (int i = 0; i < model.elements()->count(); ++i)
-        if (const QString broken = brokenElement(model, *model.elements()->at(i)); !broken.isEmpty())
+        if (QString broken = brokenElement(model, *model.elements()->at(i)); !broken.isEmpty())
             return broken;
     for (int i = 0; i < model.drawObjects()->count(); ++i)
-        if (const QString broken = brokenDrawObj(model, *model.drawObjects()->at(i)); !broken.isEmpty())
+        if (QString broken = brokenDrawObj(model, *model.drawObjects()->at(i)); !broken.isEmpty())
             return broken;
     return {};
 }
