@@ -36,7 +36,7 @@ bool isBelow(std::string_view path, std::string_view folder)
 struct LibraryPrefix
 {
     std::string_view prefix;
-    std::string_view library;
+    std::string_view name;
 };
 
 constexpr LibraryPrefix kLibraryPrefixes[] = {
@@ -164,7 +164,7 @@ std::string_view libraryOf(std::string_view header)
 {
     for (const LibraryPrefix &row : kLibraryPrefixes) {
         if (startsWith(header, row.prefix)) {
-            return row.library;
+            return row.name;
         }
     }
     if (header.size() > 1 && header[0] == 'Q' && (header[1] == 't' || std::isupper(header[1]) != 0)) {

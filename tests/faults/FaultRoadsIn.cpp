@@ -90,22 +90,23 @@ Road openingsIn(const QByteArray &building)
     return road;
 }
 
-Road brickWallsIn(const QByteArray &building)
+Road wallsIn(Road road)
 {
-    const auto project = opened(building);
-    Road road = replyRoad(building, Types{1003} + kOpenings, brickReply(*project->service()), jsonBrickWall2HBX);
     road.caught = {"property.setInt", "property.setString"};
     road.hostExceptionPasses = {"model", "beginBatch"};
     return road;
 }
 
+Road brickWallsIn(const QByteArray &building)
+{
+    const auto project = opened(building);
+    return wallsIn(replyRoad(building, Types{1003} + kOpenings, brickReply(*project->service()), jsonBrickWall2HBX));
+}
+
 Road forceWallsIn(const QByteArray &building)
 {
     const auto project = opened(building);
-    Road road = replyRoad(building, Types{0} + kOpenings, forceReply(*project->service()), jsonForceWall2HBX);
-    road.caught = {"property.setInt", "property.setString"};
-    road.hostExceptionPasses = {"model", "beginBatch"};
-    return road;
+    return wallsIn(replyRoad(building, Types{0} + kOpenings, forceReply(*project->service()), jsonForceWall2HBX));
 }
 
 /** Writes to values are caught, whatever is thrown; of the rest nothing is. */
