@@ -29,7 +29,7 @@ TEST_P(GeometryTextReadBackTest, textReadsBackToTheSameText)
 INSTANTIATE_TEST_SUITE_P(
     Texts, GeometryTextReadBackTest,
     ::testing::Values("LINESTRING(0 0, 1 1)", "LINESTRING(0.1 -2.5, 1e+30 1e-07)", "LINESTRING(3 3, 3 3)",
-                      "LINESTRING(5e-324 -0, 1.7976931348623157e+308 2.2250738585072014e-308)",
+                      "LINESTRING(5e-324 0, 1.7976931348623157e+308 2.2250738585072014e-308)",
                       "CIRCULARSTRING(0 0, 5 5, 10 0)", "CIRCULARSTRING(150 200, 50 200, 150 200)",
                       "CIRCULARSTRING(0 0, 5 0, 10 0)", "POLYGON((0 0, 10 0, 10 10, 0 0))",
                       "POLYGON((0 0, 9 0, 9 9, 0 0),(5 1, 6 1, 6 2, 5 1))", "POLYGON EMPTY",
@@ -38,6 +38,11 @@ INSTANTIATE_TEST_SUITE_P(
                       "CURVEPOLYGON((0 0, 9 0, 9 9, 0 0),CIRCULARSTRING(7 3, 6 3, 7 3))",
                       "CURVEPOLYGON(COMPOUNDCURVE((0 0, 10 0), CIRCULARSTRING(10 0, 15 5, 10 10), (10 10, 0 10, 0 0)))",
                       "CURVEPOLYGON(COMPOUNDCURVE(CIRCULARSTRING(0 0, 5 -5, 10 0), CIRCULARSTRING(10 0, 5 5, 0 0)))"));
+
+TEST(GeometryTextTest, aZeroIsWrittenWithoutItsSign)
+{
+    EXPECT_EQ(CGeometry::LoadFromStr("LINESTRING(-0 1, 2 -0.0)")->ToText(), "LINESTRING(0 1, 2 0)");
+}
 
 class GeometryTextRefusalTest : public ::testing::TestWithParam<const char *>
 {};

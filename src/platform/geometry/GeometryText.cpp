@@ -29,7 +29,8 @@ constexpr std::size_t kUsualPointText = 20; // characters, the comma with them
 void appendNumber(std::string &text, double value)
 {
     char digits[32];
-    text.append(digits, std::to_chars(digits, digits + sizeof digits, value).ptr);
+    const double unsignedZero = value + 0.0; // a zero is written without its sign, so that equal points give equal text
+    text.append(digits, std::to_chars(digits, digits + sizeof digits, unsignedZero).ptr);
 }
 
 void appendPoints(std::string &text, const Points &points)

@@ -10,7 +10,8 @@ namespace vks {
 
 class CLoop;
 
-/** Well-known text of curves and polygons. Numbers have the fewest digits that read back exactly, whatever the locale.
+/** Well-known text of curves and polygons. Numbers have the fewest digits that read back exactly, whatever the locale;
+ *  a zero has no sign, so that equal points give equal text.
  *
  *  A ring of lines is written as its corners, each edge's start and the end of the last one. Where an edge does not start
  *  exactly where the one before ends, the gap is written, and so reads back, as one more line. Empty loops are left out. */
