@@ -56,12 +56,11 @@ TEST_F(HBXElementDrawObjTest, aCloneHasNeitherChainNorParent)
 {
     IHBXElement *beam = element(15);
     IHBXElementDrawObj *first = placed(beam);
-    IHBXElementDrawObj *second = placed(beam);
-    first->linkNext(second);
-    first->attachTo(placed(element(1003)));
-    IHBXElementDrawObj *copy = first->cloneDrawObj(0, 0, 1);
-    EXPECT_EQ(copy->nextInChain(), nullptr);
-    EXPECT_EQ(copy->parent(), nullptr);
+    first->linkNext(placed(beam));
+    EXPECT_EQ(first->cloneDrawObj(0, 0, 1)->nextInChain(), nullptr);
+    IHBXElementDrawObj *door = placed(element(4));
+    door->attachTo(placed(element(1003)));
+    EXPECT_EQ(door->cloneDrawObj(0, 0, 1)->parent(), nullptr);
 }
 
 TEST_F(HBXElementDrawObjTest, theCloneOfAFoundationHasChildrenOfItsOwn)
@@ -97,20 +96,54 @@ TEST_F(HBXElementDrawObjTest, nothingIsAttachedToItselfOrToWhatStandsOnIt)
     EXPECT_EQ(plate->parent(), nullptr);
 }
 
+TEST_F(HBXElementDrawObjTest, openingsStandInWallsAndHolesInSlabsAndRafts)
+{
+    constexpr int kWalls[] = {0, 1, 202, 1001, 1003};
+    const auto takes = [this](int type, int host) {
+        IHBXElementDrawObj *object = placed(element(type));
+        IHBXElementDrawObj *parent = placed(element(host));
+        object->attachTo(parent);
+        return object->parent() == parent;
+    };
+    for (const int opening : {4, 5, 6, 7}) {
+        for (const int host : kWalls)
+            EXPECT_TRUE(takes(opening, host)) << opening << " in " << host;
+        EXPECT_FALSE(takes(opening, 19)) << opening;
+        EXPECT_FALSE(takes(opening, 25)) << opening;
+    }
+    for (const int plate : {19, 48})
+        EXPECT_TRUE(takes(24, plate)) << plate;
+    EXPECT_FALSE(takes(24, 1003));
+    EXPECT_FALSE(takes(25, 1003)); // a column is attached to nothing
+}
+
+TEST_F(HBXElementDrawObjTest, aWallOfAnotherFloorTakesNoOpening)
+{
+    IHBXElementDrawObj *door = placed(element(4));
+    IHBXElement *above = model().elements()->createElement(1003, 0, floor("F2"), QString());
+    IHBXElementDrawObj *of = drawObjs().createDrawObj(floor("F2"), above, true);
+    drawObjs().addDrawObj(of);
+    door->attachTo(of);
+    EXPECT_EQ(door->parent(), nullptr);
+}
+
 TEST_F(HBXElementDrawObjTest, objectsOfAnotherBuildingTieNothing)
 {
     HBXModelStore other;
     other.load(store.snapshot());
     IHBXModel *foreignModel = other.service()->model();
     IHBXFloor *foreignFloor = foreignModel->regions()->at(0)->floors()->at(0);
-    IHBXElement *foreignElement = foreignModel->elements()->createElement(15, 0, foreignFloor, QString());
-    IHBXElementDrawObj *foreign = foreignModel->drawObjects()->createDrawObj(foreignFloor, foreignElement, true);
+    const auto foreign = [&](int type) {
+        IHBXElement *of = foreignModel->elements()->createElement(type, 0, foreignFloor, QString());
+        return foreignModel->drawObjects()->createDrawObj(foreignFloor, of, true);
+    };
     IHBXElementDrawObj *beam = placed(element(15));
-    beam->attachTo(foreign);
-    beam->linkNext(foreign);
-    EXPECT_EQ(beam->parent(), nullptr);
+    beam->linkNext(foreign(15));
     EXPECT_EQ(beam->nextInChain(), nullptr);
-    EXPECT_FALSE(isAcceptable(foreign));
+    IHBXElementDrawObj *door = placed(element(4));
+    door->attachTo(foreign(1003));
+    EXPECT_EQ(door->parent(), nullptr);
+    EXPECT_FALSE(isAcceptable(foreign(15)));
 }
 
 TEST_F(HBXElementDrawObjTest, aChildFollowsTheUnitsOutlineAndTheOwnersPlace)

@@ -99,12 +99,13 @@ TEST_F(HBXOpeningSeatTest, theWidthFollowsItsPropertyInAWallToo)
     expectBox(box(door), 900, -100, 2100, 140);
 }
 
-TEST_F(HBXOpeningSeatTest, otherObjectsKeepTheirAngleOnAWall)
+TEST_F(HBXOpeningSeatTest, aHoleKeepsItsAngleInASlab)
 {
-    IHBXElementDrawObj *column = placed(element(25));
-    as<IHBXCustomPointSolidShape>(column)->setAngle(1.0);
-    column->attachTo(xWall);
-    EXPECT_EQ(as<IHBXCustomPointSolidShape>(column)->angle(), 1.0);
+    IHBXElementDrawObj *hole = placed(element(24));
+    as<IHBXCustomPointSolidShape>(hole)->setAngle(1.0);
+    hole->attachTo(placed(element(19)));
+    ASSERT_NE(hole->parent(), nullptr);
+    EXPECT_EQ(as<IHBXCustomPointSolidShape>(hole)->angle(), 1.0);
 }
 
 TEST_F(HBXOpeningSeatTest, recordsKeepTheOpeningsOwnShape)

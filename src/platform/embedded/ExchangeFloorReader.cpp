@@ -4,6 +4,7 @@
 #include "platform/embedded/ExchangeFormat.h"
 #include "platform/embedded/ExchangeShape.h"
 #include "platform/embedded/ExchangeSpan.h"
+#include "platform/embedded/HBXAttachment.h"
 #include "platform/services/HBXElementTypes.h"
 
 #include <algorithm>
@@ -19,30 +20,6 @@ using Types = std::initializer_list<qint64>;
 
 const Types kBeams{type::beam, type::linkBeam, type::tieBeam, type::foundationBeam};
 const Types kUnits{type::isolatedFoundationUnit, type::pileCapUnit};
-const Types kOpenings{type::door, type::window, type::doorWithWindow, type::wallOpening};
-const Types kWalls{type::forceWall, type::partitionWall, type::retainingWall, type::curtainWall, type::brickWall};
-const Types kSlabHoles{type::slabHole};
-const Types kPlates{type::slab, type::raft};
-
-/** What an object is attached to. */
-struct AttachmentRule
-{
-    Types attached;
-    Types hosts;
-    const char *otherHost; ///< reason when it names something else
-};
-
-const AttachmentRule kAttachmentRules[] = {
-    {kOpenings, kWalls, "names no wall"},
-    {kSlabHoles, kPlates, "names no slab or raft"},
-};
-
-const AttachmentRule *attachmentRuleOf(qint64 type)
-{
-    const auto *rule = std::find_if(std::begin(kAttachmentRules), std::end(kAttachmentRules),
-                                    [type](const AttachmentRule &each) { return isOneOf(type, each.attached); });
-    return rule == std::end(kAttachmentRules) ? nullptr : rule;
-}
 
 const TypeProperties &catalogueOf(const JsonPlace &typePlace, qint64 type)
 {

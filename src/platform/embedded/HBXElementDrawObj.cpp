@@ -1,5 +1,6 @@
 #include "platform/embedded/HBXElementDrawObj.h"
 
+#include "platform/embedded/HBXAttachment.h"
 #include "platform/embedded/HBXModel.h"
 #include "platform/embedded/HBXPlacedShape.h"
 #include "platform/services/HBXElementTypes.h"
@@ -78,14 +79,17 @@ void HBXElementDrawObj::setOwner(HBXElementDrawObj &owner)
 void HBXElementDrawObj::attachTo(IHBXElementDrawObj *parent)
 {
     HBXElementDrawObj *own = model().drawObjects()->own(parent);
-    const bool isForeign = parent && !own;
-    for (const HBXElementDrawObj *above = own; above; above = above->m_attachedTo)
-        if (above == this)
-            return;
-    if (isForeign || own == m_attachedTo)
+    const bool isRefused = parent && !(own && canBeAttachedTo(*own));
+    if (isRefused || own == m_attachedTo)
         return;
     setAttachedTo(own);
     shapeChanged();
+}
+
+bool HBXElementDrawObj::canBeAttachedTo(const HBXElementDrawObj &other) const
+{
+    const AttachmentRule *rule = attachmentRuleOf(m_type);
+    return rule && isOneOf(other.m_type, rule->hosts) && &other.ownFloor() == &ownFloor();
 }
 
 void HBXElementDrawObj::setAttachedTo(HBXElementDrawObj *parent)

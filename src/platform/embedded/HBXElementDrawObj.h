@@ -87,6 +87,7 @@ public:
     void shapeMoved();
 
 private:
+    bool canBeAttachedTo(const HBXElementDrawObj &other) const;
     void setAttachedTo(HBXElementDrawObj *parent);
     bool reaches(const HBXElementDrawObj &other) const;
     void cutBehind();

@@ -35,7 +35,8 @@ public:
     virtual int childCount() const = 0;
     /** Null for an index out of range. */
     virtual IHBXElementDrawObj *child(int index) const = 0;
-    /** Attaches an opening to its wall, a hole to its slab; null detaches. */
+    /** Attaches an opening to its wall, a hole to its slab or raft, on the same floor; null detaches. Anything else changes
+     *  nothing. */
     virtual void attachTo(IHBXElementDrawObj *parent) = 0;
     /** Null when the object has no section. */
     virtual IHBXSectionHolder *sectionHolder() = 0;
