@@ -111,6 +111,12 @@ TEST_F(DatabasePropertyReaderTest, textsOfAnotherFormAreNoPointsAndNoGeometry)
               "property[owner=1, position=0].value: is no polygon");
 }
 
+TEST_F(DatabasePropertyReaderTest, anOutlineThatNoPropertyTakesIsDamage)
+{
+    EXPECT_EQ(refusalOf("(1,0,'SectionPoly','POLYGON((0 0, 5 5, 5 0, 0 5, 0 0))')", 15),
+              "property[owner=1, position=0].value: is no polygon");
+}
+
 TEST_F(DatabasePropertyReaderTest, elevationsAreCheckedHoweverManyThereAre)
 {
     DatabasePropertyReader reader(true);

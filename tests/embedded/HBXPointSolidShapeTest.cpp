@@ -68,6 +68,16 @@ TEST_F(HBXPointSolidShapeTest, theSizeThatAFileStatesStaysUntilASizeIsWritten)
     expectBox(box(column), -300, -400, 300, 400);
 }
 
+TEST_F(HBXPointSolidShapeTest, sizesThatCannotBeDrawnLeaveTheOutline)
+{
+    loadColumn(pointAt(0, 0));
+    for (const double size : {1e-9, 1e300}) {
+        column->properties()->setDouble(L"SectionWidth", size, false);
+        column->properties()->setDouble(L"SectionHeight", size, false);
+        expectBox(box(column), -100, -200, 100, 200);
+    }
+}
+
 TEST_F(HBXPointSolidShapeTest, takingADrawnSectionAwayGivesTheSizesBackOrNothing)
 {
     IHBXElement *hole = element(24);

@@ -121,6 +121,16 @@ TEST_F(HBXPropertiesTest, aWriteThatThrewStandsInTheJournalWithItsReason)
               QStringLiteral("The property \"Thickness\" is of the kind number and cannot take \"thick\"."));
 }
 
+TEST_F(HBXPropertiesTest, theReasonOfARefusedOutlineTellsItsText)
+{
+    EXPECT_THROW(ofBeam->setPolygon(L"SectionPoly", polygonOf("POLYGON((0 0, 9 0, 9 9))").get(), false),
+                 HBXModelException);
+    ASSERT_EQ(store.journal().entries().size(), 1u);
+    EXPECT_EQ(store.journal().entries().front().reason,
+              QStringLiteral("The property \"SectionPoly\" is of the kind polygon and cannot take "
+                             "\"POLYGON((0 0, 9 0, 9 9))\"."));
+}
+
 TEST_F(HBXPropertiesTest, numbersAreCutOrWrittenOutWhereReadAsAnotherKind)
 {
     ofElement->setDouble(L"Thickness", -120.9, false);

@@ -104,6 +104,25 @@ TEST(HBXPropertyValueTest, geometryIsReadFromTextOfItsOwnKind)
     EXPECT_EQ(kept(PropertyKind::Polygon, curveOf("LINESTRING(0 0, 1 2)")), "refused");
 }
 
+TEST(HBXPropertyValueTest, geometryThatNoObjectCanHaveIsRefusedHoweverItComes)
+{
+    constexpr const char *kUnsound[] = {"POLYGON((0 0, 9 0, 9 9))", "POLYGON((0 0, 9 9, 9 0, 0 9, 0 0))",
+                                        "POLYGON((0 0, 9 0, 0 0))", "POLYGON EMPTY",
+                                        "POLYGON((0 0, 9 0, 9 9, 0 0),(20 0, 30 0, 30 9, 20 0))"};
+    for (const char *text : kUnsound) {
+        EXPECT_EQ(kept(PropertyKind::Polygon, polygonOf(text)), "refused") << text;
+        EXPECT_EQ(kept(PropertyKind::Polygon, QString(text)), "refused") << text;
+        EXPECT_EQ(kept(PropertyKind::Text, polygonOf(text)), text);
+    }
+    EXPECT_EQ(kept(PropertyKind::Curve, curveOf("LINESTRING(3 3, 3 3)")), "refused");
+}
+
+TEST(HBXPropertyValueTest, whatStandsBehindAZeroInATextIsNotOverlooked)
+{
+    const QString text = QStringLiteral("LINESTRING(0 0, 1 2)") + QChar(0) + QLatin1Char('x');
+    EXPECT_EQ(kept(PropertyKind::Curve, text), "refused");
+}
+
 TEST(HBXPropertyValueTest, aTextThatDoesNotFitIsNoValue)
 {
     EXPECT_EQ(std::get<int>(valueOfText(PropertyKind::Integer, QStringLiteral("5"))), 5);

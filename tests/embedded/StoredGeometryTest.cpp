@@ -27,6 +27,23 @@ TEST(StoredGeometryTest, whatStandsBehindAZeroIsNotOverlooked)
     EXPECT_FALSE(storedGeometry<vks::CCurve2d>(text));
 }
 
+TEST(StoredGeometryTest, soundOutlinesAreClosedAndHoldAnArea)
+{
+    const auto isSoundText = [](const char *text) { return isSound(*storedGeometry<vks::CPolygon>(text)); };
+    EXPECT_TRUE(isSoundText("POLYGON((0 0, 5 0, 5 5, 0 0))"));
+    EXPECT_TRUE(isSoundText("POLYGON((0 0, 9 0, 9 9, 0 0),(5 1, 6 1, 6 2, 5 1))"));
+    for (const char *text :
+         {"POLYGON EMPTY", "POLYGON((0 0, 5 0, 5 5))", "POLYGON((0 0, 5 5, 5 0, 0 5, 0 0))", "POLYGON((0 0, 5 0, 0 0))",
+          "POLYGON((0 0, 5 0, 5 5, 5 5, 0 0))", "POLYGON((0 0, 9 0, 9 9, 0 0),(20 1, 21 1, 21 2, 20 1))"})
+        EXPECT_FALSE(isSoundText(text)) << text;
+}
+
+TEST(StoredGeometryTest, soundCurvesHaveALength)
+{
+    EXPECT_TRUE(isSound(*storedGeometry<vks::CCurve2d>("LINESTRING(0 0, 0.001 0)")));
+    EXPECT_FALSE(isSound(*storedGeometry<vks::CCurve2d>("LINESTRING(3 3, 3 3)")));
+}
+
 TEST(StoredGeometryTest, aPointIsTwoNumbersWithABlankBetween)
 {
     const auto point = storedPoint("1.5 -2");

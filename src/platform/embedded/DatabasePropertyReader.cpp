@@ -52,7 +52,7 @@ template <typename Geometry> Read readGeometry(const SqliteStatement &row)
 {
     const bool isText = row.type(kValue) == SQLITE_TEXT;
     const auto geometry = isText ? storedGeometry<Geometry>(row.bytes(kValue)) : nullptr;
-    return geometry ? Read(geometry) : std::nullopt;
+    return geometry && isSound(*geometry) ? Read(geometry) : std::nullopt;
 }
 
 using ReadValue = Read (*)(const SqliteStatement &row);

@@ -1,7 +1,6 @@
 #include "platform/embedded/ExchangeGeometry.h"
 
 #include "platform/embedded/StoredGeometry.h"
-#include "platform/geometry/KernelTolerance.h"
 
 namespace hbx::embedded {
 namespace {
@@ -42,7 +41,7 @@ CRefPtr<CPolygon> polygonFromJson(const QJsonValue &value, const JsonPlace &plac
     if (value.isNull())
         return nullptr;
     CRefPtr<CPolygon> polygon = read<CPolygon>(value, place, "polygon");
-    if (polygon->IsValid(CPolygon::kAllChecks, nullptr, nullptr))
+    if (isSound(*polygon))
         return polygon;
     for (const PolygonRule &rule : kPolygonRules)
         if (!polygon->IsValid(rule.check, nullptr, nullptr))
@@ -55,7 +54,7 @@ CRefPtr<CCurve2d> curveFromJson(const QJsonValue &value, const JsonPlace &place)
     if (value.isNull())
         return nullptr;
     CRefPtr<CCurve2d> curve = read<CCurve2d>(value, place, "curve");
-    if (!(curve->Length() > vks::g_DistEpsilon))
+    if (!isSound(*curve))
         place.refuse(QStringLiteral("has no length"));
     return curve;
 }

@@ -3,6 +3,7 @@
 #include "platform/embedded/HBXElementDrawObj.h"
 #include "platform/embedded/HBXOpeningSeat.h"
 #include "platform/embedded/HBXShapeSizes.h"
+#include "platform/embedded/StoredGeometry.h"
 #include "platform/services/HBXPropertyNames.h"
 
 #include <cmath>
@@ -80,7 +81,8 @@ void HBXPointShapeOf<Interface, kKind>::followProperties(const PropertyEntry *wr
 {
     const auto outline = outlineOfProperties();
     const bool isTakenAway = !outline && written && written->kind == PropertyKind::Polygon;
-    if (outline || isTakenAway)
+    const bool isUsable = outline && isSound(*outline); // sizes may be too small or too large to be drawn
+    if (isUsable || isTakenAway)
         this->takeOutline(outline);
 }
 

@@ -11,6 +11,13 @@
 namespace hbx::embedded {
 namespace {
 
+/** As messages tell it, geometry with its text. */
+QString shownText(const PropertyValue &value)
+{
+    const std::optional<PropertyValue> text = keptAs(PropertyKind::Text, value);
+    return textOf(text.value_or(value));
+}
+
 QStringView viewOf(const QString &name) { return name; }
 
 std::wstring_view viewOf(const std::wstring &name) { return name; }
@@ -168,7 +175,7 @@ void HBXProperties::write(const PropertyEntry &entry, const PropertyValue &value
     std::optional<PropertyValue> kept = keptAs(entry.kind, value);
     if (!kept) {
         const QString reason = QStringLiteral("The property \"%1\" is of the kind %2 and cannot take \"%3\".")
-                                   .arg(entry.name, kindName(entry.kind), textOf(value));
+                                   .arg(entry.name, kindName(entry.kind), shownText(value));
         m_holder.propertyRefused(reason);
         throw HBXModelException(reason);
     }

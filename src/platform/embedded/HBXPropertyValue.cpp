@@ -1,6 +1,7 @@
 #include "platform/embedded/HBXPropertyValue.h"
 
 #include "platform/embedded/HBXElevationText.h"
+#include "platform/embedded/StoredGeometry.h"
 
 #include <QLocale>
 
@@ -80,12 +81,12 @@ Kept keptAsPoint(const PropertyValue &value)
 
 template <typename Geometry> Kept keptAsGeometry(const PropertyValue &value)
 {
-    if (std::holds_alternative<vks::CRefPtr<Geometry>>(value))
-        return value;
+    const vks::CRefPtr<Geometry> *given = std::get_if<vks::CRefPtr<Geometry>>(&value);
     const QString *text = std::get_if<QString>(&value);
-    const auto geometry = vks::CGeometry::LoadFromStr(text ? text->toUtf8().constData() : nullptr);
-    vks::CRefPtr<Geometry> wanted = dynamic_cast<Geometry *>(geometry.get());
-    return wanted ? Kept(wanted) : std::nullopt;
+    const vks::CRefPtr<Geometry> geometry = given  ? *given
+                                            : text ? storedGeometry<Geometry>(text->toStdString())
+                                                   : nullptr;
+    return geometry && isSound(*geometry) ? Kept(geometry) : std::nullopt;
 }
 
 struct KindRow

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ORVCADPlatformExport.h"
-#include "platform/geometry/CGeometry.h"
+#include "platform/geometry/CPolygon.h"
 
 #include <optional>
 #include <string>
@@ -19,6 +19,11 @@ template <typename Geometry> vks::CRefPtr<Geometry> storedGeometry(std::string_v
     const vks::CRefPtr<vks::CGeometry> geometry = vks::CGeometry::LoadFromStr(isWhole ? text.data() : nullptr);
     return dynamic_cast<Geometry *>(geometry.get());
 }
+
+/** Whether an outline is one that an object can have: closed rings that cross nothing and hold an area, holes inside. */
+ORVCADPLATFORM_EXPORT bool isSound(const vks::CPolygon &outline);
+/** Whether a curve has a length. */
+ORVCADPLATFORM_EXPORT bool isSound(const vks::CCurve2d &curve);
 
 /** The point of a text with two numbers and one blank between them; nothing for any other text, and for a number that
  *  is not finite. */
