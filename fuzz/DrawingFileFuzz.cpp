@@ -4,11 +4,13 @@
 #include "platform/dwgx/HBXCADFileHelper.h"
 #include "platform/dwgx/HBXCADIOperator.h"
 #include "support/FuzzFile.h"
+#include "support/QtJsonLeaks.h"
 
 #include <memory>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
+    const fuzz::QtJsonLeaks leaks(fuzz::bytesOf(data, size));
     const fuzz::FuzzFile file(QStringLiteral("fuzzed.cadi2"), fuzz::bytesOf(data, size));
     const std::unique_ptr<HBXCADIOperator> reader(HBXCADFileHelper::getInstance()->createCADIOperator());
     const std::unique_ptr<dwgx::DWGXModel> model(dwgx::DWGXModel::createObject());

@@ -3,9 +3,11 @@
 #include "platform/embedded/HBXProject.h"
 #include "support/FuzzHost.h"
 #include "support/FuzzInput.h"
+#include "support/QtJsonLeaks.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
+    const fuzz::QtJsonLeaks leaks(fuzz::bytesOf(data, size));
     hbx::embedded::ProjectError error;
     const auto project =
         hbx::embedded::HBXProject::fromJson(fuzz::bytesOf(data, size), QStringLiteral("b.json"), error);

@@ -3,11 +3,13 @@
 #include "encoding/JsonDocumentFile.h"
 #include "encoding/ORVJsonUtil.h"
 #include "support/FuzzFile.h"
+#include "support/QtJsonLeaks.h"
 
 #include <QVector>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
+    const fuzz::QtJsonLeaks leaks(fuzz::bytesOf(data, size));
     const fuzz::FuzzFile file(QStringLiteral("plan_A.json"), fuzz::bytesOf(data, size));
     QString message;
     QVector<int> ids;

@@ -3,6 +3,7 @@
 #include "support/FuzzInput.h"
 
 #include <QFile>
+#include <QTemporaryDir>
 
 namespace fuzz {
 
@@ -29,7 +30,21 @@ std::unique_ptr<HBXProject> smallProject()
     return project;
 }
 
-void requireSound(const HBXProject &project)
+void requireKept(HBXProject &project)
+{
+    const QByteArray before = project.toJson();
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("saved.hbxdb"));
+    ProjectError error;
+    if (!project.saveAs(path, error))
+        require(false, error.text().toUtf8().constData());
+    const auto opened = HBXProject::open(path, error);
+    if (!opened)
+        require(false, error.text().toUtf8().constData());
+    require(opened->toJson() == before, "what is saved opens as the same");
+}
+
+void requireSound(HBXProject &project)
 {
     const QByteArray written = project.toJson();
     ProjectError error;
@@ -37,6 +52,7 @@ void requireSound(const HBXProject &project)
     if (!read)
         require(false, error.text().toUtf8().constData());
     require(read->toJson() == written, "what is written reads back to the same");
+    requireKept(project);
 }
 
 } // namespace fuzz

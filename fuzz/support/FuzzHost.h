@@ -10,7 +10,9 @@ namespace fuzz {
 /** A fresh project of the small building. */
 std::unique_ptr<hbx::embedded::HBXProject> smallProject();
 
-/** Whatever was written into it: the project goes out, comes in again, and is the same. */
-void requireSound(const hbx::embedded::HBXProject &project);
+/** Whatever was written into it: the project goes out, comes in again, and is the same; it is saved, too. */
+void requireSound(hbx::embedded::HBXProject &project);
+/** The project is saved, opened again, and is the same. */
+void requireKept(hbx::embedded::HBXProject &project);
 
 } // namespace fuzz

@@ -1,5 +1,7 @@
 #include "support/FuzzInput.h"
 
+#include "support/QtJsonLeaks.h"
+
 #include <QJsonDocument>
 #include <QtGlobal>
 
@@ -10,7 +12,9 @@ namespace fuzz {
 
 QJsonObject objectOf(const std::uint8_t *data, std::size_t size)
 {
-    return QJsonDocument::fromJson(bytesOf(data, size)).object();
+    const QByteArray json = bytesOf(data, size);
+    const QtJsonLeaks leaks(json);
+    return QJsonDocument::fromJson(json).object();
 }
 
 void require(bool holds, const char *promise)
