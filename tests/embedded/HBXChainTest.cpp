@@ -58,6 +58,23 @@ TEST_F(HBXChainTest, aLinkThatWouldCloseARingChangesNothing)
     EXPECT_EQ(links[2]->chainHead(), links[0]);
 }
 
+TEST_F(HBXChainTest, aLinkToAnObjectOfAnotherElementChangesNothing)
+{
+    linkAll();
+    links[2]->linkNext(placed(element(15)));
+    EXPECT_EQ(links[2]->nextInChain(), nullptr);
+}
+
+TEST_F(HBXChainTest, objectsOfOtherTypesFormNoChain)
+{
+    for (const qint64 type : {0, 19, 25, 1003}) {
+        IHBXElement *of = element(type);
+        IHBXElementDrawObj *first = placed(of);
+        first->linkNext(placed(of));
+        EXPECT_EQ(first->nextInChain(), nullptr) << type;
+    }
+}
+
 TEST_F(HBXChainTest, nullEndsTheChainHere)
 {
     linkAll();

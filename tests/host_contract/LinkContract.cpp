@@ -64,6 +64,27 @@ TEST_P(HostLinkContract, linkThatWouldCloseARingChangesNothing)
     EXPECT_EQ(c->chainHead(), a);
 }
 
+TEST_P(HostLinkContract, onlyBeamsOfOneElementAreLinked)
+{
+    IHBXElement &column = makeElement(25);
+    IHBXElementDrawObj &first = placed(column);
+    first.linkNext(&placed(column));
+    EXPECT_EQ(first.nextInChain(), nullptr);
+    IHBXElementDrawObj &beam = placed(15);
+    beam.linkNext(&placed(15)); // of another element
+    EXPECT_EQ(beam.nextInChain(), nullptr);
+}
+
+TEST_P(HostLinkContract, onlyOpeningsStandInWalls)
+{
+    IHBXElementDrawObj &column = placed(25);
+    column.attachTo(&placed(1003));
+    EXPECT_EQ(column.parent(), nullptr);
+    IHBXElementDrawObj &door = placed(4);
+    door.attachTo(&placed(19));
+    EXPECT_EQ(door.parent(), nullptr);
+}
+
 TEST_P(HostLinkContract, removedLinkIsOutOfItsChain)
 {
     const auto [a, b, c] = beams<3>();

@@ -18,7 +18,6 @@ namespace {
 namespace key = exchange::key;
 using Types = std::initializer_list<qint64>;
 
-const Types kBeams{type::beam, type::linkBeam, type::tieBeam, type::foundationBeam};
 const Types kUnits{type::isolatedFoundationUnit, type::pileCapUnit};
 
 const TypeProperties &catalogueOf(const JsonPlace &typePlace, qint64 type)
@@ -239,7 +238,7 @@ void ExchangeFloorReader::link()
 void ExchangeFloorReader::linkNext(Placed &object)
 {
     const std::vector<std::size_t> &siblings = m_elements[object.element].placed;
-    if (!isOneOf(object.record.type, kBeams))
+    if (!isOneOf(object.record.type, kChainTypes))
         refuse(object, key::next, QStringLiteral("belongs to beams only"));
     if (static_cast<std::size_t>(object.next) >= siblings.size())
         refuse(object, key::next, QStringLiteral("is no position in the element's drawObjects"));
@@ -254,7 +253,7 @@ void ExchangeFloorReader::checkChain(const Placed &object) const
 {
     if (object.record.spans.empty())
         return;
-    if (!isOneOf(object.record.type, kBeams))
+    if (!isOneOf(object.record.type, kChainTypes))
         refuse(object, key::spans, QStringLiteral("belongs to beams only"));
     if (object.isFollowed)
         refuse(object, key::spans, QStringLiteral("belongs to the head of the chain"));

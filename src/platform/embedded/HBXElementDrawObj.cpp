@@ -11,9 +11,6 @@
 namespace hbx::embedded {
 namespace {
 
-/** Types whose objects form chains of beam segments. */
-constexpr qint64 kChainTypes[] = {type::beam, type::linkBeam, type::tieBeam, type::foundationBeam};
-
 void removeFrom(std::vector<HBXElementDrawObj *> &objects, const HBXElementDrawObj *object)
 {
     objects.erase(std::remove(objects.begin(), objects.end(), object), objects.end());
@@ -116,11 +113,17 @@ IHBXElementDrawObj *HBXElementDrawObj::chainHead()
 void HBXElementDrawObj::linkNext(IHBXElementDrawObj *next)
 {
     HBXElementDrawObj *own = model().drawObjects()->own(next);
-    if ((next && !own) || own == m_next || (own && own->reaches(*this)))
+    const bool isRefused = next && !(own && canBeFollowedBy(*own));
+    if (isRefused || own == m_next)
         return;
     cutBehind();
     if (own)
         linkBehind(*own);
+}
+
+bool HBXElementDrawObj::canBeFollowedBy(const HBXElementDrawObj &next) const
+{
+    return isOneOf(m_type, kChainTypes) && &next.m_element == &m_element && !next.reaches(*this);
 }
 
 /** Whether a walk along the chain comes to another object. Forward from here and backward from there in step, so that a

@@ -89,6 +89,7 @@ public:
 private:
     bool canBeAttachedTo(const HBXElementDrawObj &other) const;
     void setAttachedTo(HBXElementDrawObj *parent);
+    bool canBeFollowedBy(const HBXElementDrawObj &next) const;
     bool reaches(const HBXElementDrawObj &other) const;
     void cutBehind();
     void linkBehind(HBXElementDrawObj &next);

@@ -44,7 +44,8 @@ public:
      *  head; null for other types and before the object is entered. */
     virtual IHBXElementDrawObj *chainHead() = 0;
     virtual IHBXElementDrawObj *nextInChain() = 0;
-    /** Makes next the following link; null ends the chain here. A link that would close a ring changes nothing. */
+    /** Makes next the following link; null ends the chain here. A link that would close a ring changes nothing, and so does
+     *  one of an object that is no beam, and one to an object of another element. */
     virtual void linkNext(IHBXElementDrawObj *next) = 0;
 
     /** What attachTo was given, or the owner of a child; null when there is none. */

@@ -55,6 +55,9 @@ namespace hbx {
 /** In type arguments: objects of any. */
 inline constexpr qint64 kAnyType = -1;
 
+/** Types whose objects form chains of beam segments. */
+inline constexpr qint64 kChainTypes[] = {type::beam, type::linkBeam, type::tieBeam, type::foundationBeam};
+
 /** Whether a type or sub-type stands in a short list of them. */
 template <typename Types> bool isOneOf(qint64 wanted, const Types &types)
 {
