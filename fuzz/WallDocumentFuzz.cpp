@@ -5,6 +5,7 @@
 #include "IdentifyInputModel/Wall/ORVCADWallForceDataInputModel.h"
 #include "IdentifyInputModel/Wall/ORVCADWallForceDataOutputModel.h"
 #include "support/FuzzInput.h"
+#include "support/QtJsonLeaks.h"
 
 #include <string>
 
@@ -30,7 +31,9 @@ template <typename Model> void loadReply(const std::wstring &text)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    const std::wstring text = fuzz::textOf(data, size).toStdWString();
+    const QString document = fuzz::textOf(data, size);
+    const fuzz::QtJsonLeaks leaks(document.toUtf8());
+    const std::wstring text = document.toStdWString();
     loadAndSave(ORVCADWallBrickDataInputModel(EORVCADIdentifyType()), text);
     loadAndSave(ORVCADWallForceDataInputModel(EORVCADIdentifyType()), text);
     loadReply<ORVCADWallBrickDataOutputModel>(text);
