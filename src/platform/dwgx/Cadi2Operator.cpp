@@ -55,11 +55,10 @@ bool Cadi2Operator::readBytes(const QString &path, QByteArray &bytes)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return fail(file.errorString());
-    bytes = file.read(cadi2::kMaxFileBytes + 1);
-    if (file.error() != QFileDevice::NoError)
-        return fail(file.errorString());
-    return bytes.size() <= cadi2::kMaxFileBytes ||
-           fail(QStringLiteral("is larger than %1 bytes").arg(cadi2::kMaxFileBytes));
+    if (file.size() > cadi2::kMaxFileBytes)
+        return fail(QStringLiteral("is larger than %1 bytes").arg(cadi2::kMaxFileBytes));
+    bytes = file.readAll(); // not read(limit), which takes the memory of the limit for every file
+    return file.error() == QFileDevice::NoError || fail(file.errorString());
 }
 
 bool Cadi2Operator::read(const QString &path, DWGXModel *model)
