@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+#include <limits>
+
+namespace load {
+
+/** A text that is one entry over and over, between a start and an end. */
+struct EntryText
+{
+    static constexpr qint64 kAnyCount = std::numeric_limits<qint64>::max();
+
+    const char *start;
+    const char *entry; ///< "#" is its number, from 0 on. Compact, so that no blanks pass for content
+    const char *end;
+
+    /** Writes a file of so many entries, or of as many as it takes to have so many bytes. Entries of a JSON object, which
+     *  the text is when it begins with "{", have a comma between. @return the number of entries */
+    qint64 write(const QString &path, qint64 bytes, qint64 entries = kAnyCount) const;
+};
+
+} // namespace load

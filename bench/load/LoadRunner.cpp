@@ -1,0 +1,83 @@
+#include "load/LoadRunner.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace load {
+
+namespace {
+
+constexpr int kLimitSeconds = 1800; // for anything: what takes longer hangs
+constexpr int kMostShown = 300;     // bytes of what a process said
+
+QString failedText(const ChildCost &cost)
+{
+    return QStringLiteral("exit code %1: %2")
+        .arg(cost.exitCode)
+        .arg(QString::fromUtf8(cost.err.left(kMostShown)).trimmed());
+}
+
+void require(const ChildCost &cost, const QStringList &arguments)
+{
+    if (cost.exitCode == 0)
+        return;
+    std::fprintf(stderr, "%s: %s\n", qUtf8Printable(arguments.join(QLatin1Char(' '))),
+                 qUtf8Printable(failedText(cost)));
+    std::exit(EXIT_FAILURE);
+}
+
+} // namespace
+
+QString LoadRunner::path(const QString &file) const { return QDir(m_options.folder).filePath(file); }
+
+double LoadRunner::bytesOf(const QString &file) const { return static_cast<double>(QFileInfo(path(file)).size()); }
+
+ChildCost LoadRunner::command(const QStringList &arguments) const
+{
+    return commandForPeople(arguments + QStringList{QStringLiteral("--json")});
+}
+
+ChildCost LoadRunner::commandForPeople(const QStringList &arguments) const
+{
+    return runChild(m_options.command, arguments, m_options.folder, kLimitSeconds);
+}
+
+ChildCost LoadRunner::work(const QStringList &arguments) const
+{
+    return runChild(m_options.self, QStringList{QStringLiteral("work")} + arguments, m_options.folder, kLimitSeconds);
+}
+
+qint64 LoadRunner::prepare(const QStringList &arguments) const
+{
+    const ChildCost cost = work(arguments);
+    require(cost, arguments);
+    return cost.out.trimmed().toLongLong();
+}
+
+void LoadRunner::prepareByCommand(const QStringList &arguments) const { require(command(arguments), arguments); }
+
+QString failureOf(const ChildCost &cost, const QString &keys, qint64 expected)
+{
+    if (cost.exitCode != 0)
+        return failedText(cost);
+    QJsonValue value = QJsonDocument::fromJson(cost.out).object();
+    for (const QString &key : keys.split(QLatin1Char('.')))
+        value = value.toObject().value(key);
+    const qint64 told = value.toVariant().toLongLong();
+    return told == expected ? QString() : QStringLiteral("%1 is %2, not %3").arg(keys).arg(told).arg(expected);
+}
+
+QString failureOf(const ChildCost &cost, qint64 expected)
+{
+    if (cost.exitCode != 0)
+        return failedText(cost);
+    const qint64 told = cost.out.trimmed().toLongLong();
+    return told == expected ? QString() : QStringLiteral("%1 counted, not %2").arg(told).arg(expected);
+}
+
+} // namespace load
