@@ -46,12 +46,12 @@ struct Step
 
 QString totalFailure(const ChildCost &cost, const Subject &subject)
 {
-    return failureOf(cost, QStringLiteral("drawObjects"), subject.drawObjects);
+    return subject.runner.failureOf(cost, QStringLiteral("drawObjects"), subject.drawObjects);
 }
 
 QString totalBelowProject(const ChildCost &cost, const Subject &subject)
 {
-    return failureOf(cost, QStringLiteral("project.drawObjects"), subject.drawObjects);
+    return subject.runner.failureOf(cost, QStringLiteral("project.drawObjects"), subject.drawObjects);
 }
 
 ChildCost import(const Subject &subject)
@@ -70,7 +70,7 @@ ChildCost exportFloor(const Subject &subject)
 /** Bars, slabs and holes of the floor. */
 QString floorFailure(const ChildCost &cost, const Subject &subject)
 {
-    return failureOf(cost, QStringLiteral("arrays.boards"), subject.doors);
+    return subject.runner.failureOf(cost, QStringLiteral("arrays.boards"), subject.doors);
 }
 
 ChildCost apply(const Subject &subject)
@@ -82,7 +82,7 @@ ChildCost apply(const Subject &subject)
 
 QString applyFailure(const ChildCost &cost, const Subject &subject)
 {
-    return failureOf(cost, QStringLiteral("placed"), subject.doors);
+    return subject.runner.failureOf(cost, QStringLiteral("placed"), subject.doors);
 }
 
 ChildCost save(const Subject &subject)
@@ -90,7 +90,7 @@ ChildCost save(const Subject &subject)
     return subject.runner.work({"save", subject.path(kProject), subject.path(kOther)});
 }
 
-QString saveFailure(const ChildCost &cost, const Subject & /*subject*/) { return failureOf(cost, 1); }
+QString saveFailure(const ChildCost &cost, const Subject & /*subject*/) { return LoadRunner::failureOf(cost, 1); }
 
 ChildCost exportAll(const Subject &subject)
 {

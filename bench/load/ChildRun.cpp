@@ -1,7 +1,7 @@
 #include "load/ChildRun.h"
 
-#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include <chrono>
 #include <csignal>
@@ -23,6 +23,7 @@ using Clock = std::chrono::steady_clock;
 constexpr auto kPause = std::chrono::milliseconds(2); // between two looks at a child
 constexpr double kBytesPerUnit = 1024.0;              // of ru_maxrss
 constexpr int kCannotStart = 127;
+constexpr qint64 kKept = 10000; // bytes of what a child writes
 
 double secondsOf(const timeval &time)
 {
@@ -35,7 +36,8 @@ void openAs(int target, const QByteArray &path)
 {
     const int file =
         ::open(path.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600); // NOLINT: has no other form
-    ::dup2(file, target);
+    if (::dup2(file, target) < 0)
+        ::_exit(kCannotStart);
 }
 
 [[noreturn]] void become(const std::vector<char *> &arguments, const QByteArray &out, const QByteArray &err)
@@ -46,10 +48,10 @@ void openAs(int target, const QByteArray &path)
     ::_exit(kCannotStart);
 }
 
-QByteArray contentOf(const QByteArray &path)
+QByteArray startOf(const QByteArray &path)
 {
     QFile file(QFile::decodeName(path));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return file.open(QIODevice::ReadOnly) ? file.read(kKept) : QByteArray();
 }
 
 /** Waits for the child, and ends it after the limit. @return its exit code, -1 where it did not end itself */
@@ -66,10 +68,10 @@ int waitFor(pid_t child, Clock::time_point start, int limitSeconds, rusage &usag
 
 } // namespace
 
-ChildCost runChild(const QString &program, const QStringList &arguments, const QString &folder, int limitSeconds)
+ChildCost runChild(const QString &program, const QStringList &arguments, const QString &file, int limitSeconds)
 {
-    const QByteArray out = QFile::encodeName(QDir(folder).filePath(QStringLiteral("child.out")));
-    const QByteArray err = QFile::encodeName(QDir(folder).filePath(QStringLiteral("child.err")));
+    const QByteArray out = QFile::encodeName(file + QStringLiteral(".out"));
+    const QByteArray err = QFile::encodeName(file + QStringLiteral(".err"));
     std::vector<QByteArray> texts{QFile::encodeName(program)};
     for (const QString &argument : arguments)
         texts.push_back(QFile::encodeName(argument));
@@ -90,8 +92,9 @@ ChildCost runChild(const QString &program, const QStringList &arguments, const Q
     cost.passed = secondsSince(start);
     cost.seconds = secondsOf(usage.ru_utime) + secondsOf(usage.ru_stime);
     cost.peakBytes = static_cast<double>(usage.ru_maxrss) * kBytesPerUnit;
-    cost.out = contentOf(out);
-    cost.err = contentOf(err);
+    cost.out = startOf(out);
+    cost.err = startOf(err);
+    cost.errBytes = QFileInfo(QFile::decodeName(err)).size();
     return cost;
 }
 

@@ -12,12 +12,14 @@ struct ChildCost
     double seconds = 0.0;   ///< of the processor, which the machine's other work does not add to
     double passed = 0.0;    ///< seconds from start to end
     double peakBytes = 0.0; ///< most memory that it had at one time
-    QByteArray out;         ///< its standard output
+    QByteArray out;         ///< the first of its standard output
     QByteArray err;
+    qint64 errBytes = 0; ///< all of what it wrote to standard error
 };
 
-/** Runs a program to its end, or until the limit. What it writes goes into files of the folder, since a pipe would need
- *  somebody to read it. This process must be small: a child's peak is at least what its parent had when it was made. */
-ChildCost runChild(const QString &program, const QStringList &arguments, const QString &folder, int limitSeconds);
+/** Runs a program to its end, or until the limit. This process must be small: a child's peak is at least what its parent had
+ *  when it was made. So not all that it writes is kept here.
+ *  @param file  what it writes goes into files of this name, with ".out" and ".err" behind */
+ChildCost runChild(const QString &program, const QStringList &arguments, const QString &file, int limitSeconds);
 
 } // namespace load

@@ -5,6 +5,7 @@
 
 #include <QFile>
 
+#include <algorithm>
 #include <iterator>
 
 namespace load {
@@ -58,7 +59,7 @@ const Crowd kCrowds[] = {
      {},
      {R"({"eDoorWin":{"ElementsAndEdos":[{"elementID":1,"name":"M","nElementType":4,"nHeight":2100,"nWidth":800,)"
       R"("nHeightFromFloor":0,"floorName":"1","regionName":"House"},)",
-      R"({"elementName":"M","X":#000,"Y":0,"nHeightFromFloor":0,"floorName":"1","regionName":"House"})", "]}}"},
+      R"({"elementName":"M","X":#e3,"Y":0,"nHeightFromFloor":0,"floorName":"1","regionName":"House"})", "]}}"},
      {2000, 20000, 200000},
      {500, 2000, 10000}},
     {"floor: beams",
@@ -99,8 +100,8 @@ const Crowd kCrowds[] = {
      {"slab", "apply"},
      {"--floor", "1"},
      {R"({"raft_main_forced_bars":[)",
-      R"j({"name":"ZJ","surface":"POLYGON((#0 0, #4 0, #4 3000, #0 3000, #0 0))","direction_x":0,"direction_y":1,)j"
-      R"("bar_info":"C16@200","ref_point_x":#0,"ref_point_y":20,"ref_point_valid":true,"forced_type":2,)"
+      R"j({"name":"ZJ","surface":"POLYGON((#00 0, #90 0, #90 3000, #00 3000, #00 0))","direction_x":0,"direction_y":1,)j"
+      R"("bar_info":"C16@200","ref_point_x":#e1,"ref_point_y":20,"ref_point_valid":true,"forced_type":2,)"
       R"("row_number":1})",
       "]}"},
      {1000, 4000, 16000},
@@ -111,7 +112,7 @@ const Crowd kCrowds[] = {
      {"--floor", "1"},
      {R"({"raft_main_forced_bars":[)",
       R"j({"name":"ZJ","surface":"POLYGON((0 0, 800000 0, 800000 600000, 0 600000, 0 0))","direction_x":0,)j"
-      R"("direction_y":1,"bar_info":"C16@200","ref_point_x":#0,"ref_point_y":20,"ref_point_valid":true,)"
+      R"("direction_y":1,"bar_info":"C16@200","ref_point_x":#e1,"ref_point_y":20,"ref_point_valid":true,)"
       R"("forced_type":2,"row_number":1})",
       "]}"},
      {1000, 4000, 16000},
@@ -128,7 +129,7 @@ Run runOf(const LoadRunner &runner, const Crowd &crowd, int entries)
     run.size = entries;
     run.documentBytes = runner.bytesOf(kReply);
     run.cost = runner.command(crowd.verb + QStringList{runner.path(kProject), runner.path(kReply)} + crowd.place);
-    run.failure = failureOf(run.cost, QString::fromLatin1(crowd.count), entries);
+    run.failure = runner.failureOf(run.cost, QString::fromLatin1(crowd.count), entries);
     return run;
 }
 
@@ -138,6 +139,9 @@ const EntryText &crowdReply(int number) { return number < 0 ? kEmptyFloor : kCro
 
 void runCrowdedFloorSteps(LoadRunner &runner)
 {
+    if (std::none_of(std::begin(kCrowds), std::end(kCrowds),
+                     [&](const Crowd &crowd) { return runner.isWanted(QString::fromLatin1(crowd.name)); }))
+        return;
     const QString house = runner.path(QStringLiteral("house.json"));
     runner.prepare({"crowd", "-1", "0", house});
     runner.prepareByCommand({"project", "import", house, "-o", runner.path(kHouse)});

@@ -19,7 +19,6 @@ void writeEntry(TextFile &file, std::string_view entry, qint64 number)
 
 qint64 EntryText::write(const QString &path, qint64 bytes, qint64 entries) const
 {
-    const char *between = *start == '{' ? "," : "";
     TextFile file(path);
     file << start;
     qint64 number = 0;

@@ -14,9 +14,9 @@ struct EntryText
     const char *start;
     const char *entry; ///< "#" is its number, from 0 on. Compact, so that no blanks pass for content
     const char *end;
+    const char *between = ",";
 
-    /** Writes a file of so many entries, or of as many as it takes to have so many bytes. Entries of a JSON object, which
-     *  the text is when it begins with "{", have a comma between. @return the number of entries */
+    /** Writes a file of so many entries, or of as many as it takes to have so many bytes. @return the number of entries */
     qint64 write(const QString &path, qint64 bytes, qint64 entries = kAnyCount) const;
 };
 

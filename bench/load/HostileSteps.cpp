@@ -5,7 +5,6 @@
 
 #include <QFile>
 
-#include <algorithm>
 #include <array>
 #include <iterator>
 #include <vector>
@@ -51,17 +50,20 @@ struct Harm
     const char *start;
     const char *entry;
     const char *end;
+    const char *between;
     qint64 entries;
     qint64 small;
 };
 constexpr qint64 kMillion = 1000 * 1000;
 const Harm kHarms[] = {
-    {"arrays within arrays", "", "[", "", kMillion, kMillion / 10},
-    {"objects within objects", "", R"({"a":)", "", kMillion, kMillion / 10},
-    {"a number of 100 MB", "", "1234567890", "", 10 * kMillion, kMillion},
-    {"a text of 100 MB", "\"", "0123456789", "\"", 10 * kMillion, kMillion},
-    {"a name of 100 MB", R"({"Name":1,"name":")", "0123456789", "\"}", 10 * kMillion, kMillion},
-    {"empty objects", "{}", ",{}", "", 10 * kMillion, kMillion},
+    {"arrays within arrays", "", "[", "", "", kMillion, kMillion / 10},
+    {"objects within objects", "", R"({"a":)", "", "", kMillion, kMillion / 10},
+    {"a number of 100 MB", "", "1234567890", "", "", 10 * kMillion, kMillion},
+    {"a text of 100 MB", "\"", "0123456789", "\"", "", 10 * kMillion, kMillion},
+    {"a name of 100 MB", R"({"name":")", "0123456789", "\"}", "", 10 * kMillion, kMillion},
+    {"a key of 100 MB twice", R"({"name":1,"name)", "0123456789", "\":1}", "", 10 * kMillion, kMillion},
+    {"numbers", "", "1", "", ",", 10 * kMillion, kMillion},
+    {"empty objects", "", "{}", "", ",", 10 * kMillion, kMillion},
 };
 
 constexpr int kHarmCount = std::size(kHarms);
@@ -74,14 +76,14 @@ struct Texts
         for (const Verb &verb : kVerbs)
             for (const Harm &harm : kHarms) {
                 parts.push_back({QByteArray(verb.start) + harm.start, QByteArray(harm.end) + verb.end});
-                entries.push_back(harm.entry);
+                harms.push_back(&harm);
             }
         for (std::size_t i = 0; i < parts.size(); ++i)
-            all.push_back({parts[i][0].constData(), entries[i], parts[i][1].constData()});
+            all.push_back({parts[i][0].constData(), harms[i]->entry, parts[i][1].constData(), harms[i]->between});
     }
 
     std::vector<std::array<QByteArray, 2>> parts; ///< start and end
-    std::vector<const char *> entries;
+    std::vector<const Harm *> harms;
     std::vector<EntryText> all;
 };
 
@@ -91,8 +93,8 @@ QString whyNotPlain(const ChildCost &cost)
         return QStringLiteral("ended with %1").arg(cost.exitCode);
     if (cost.exitCode == 2 && !cost.err.startsWith("orvcad: "))
         return QStringLiteral("no message: ") + QString::fromUtf8(cost.err.left(100));
-    if (cost.err.size() > kLongestAnswer || cost.out.size() > kLongestAnswer)
-        return QStringLiteral("an answer of %1 bytes").arg(std::max(cost.err.size(), cost.out.size()));
+    if (cost.errBytes > kLongestAnswer)
+        return QStringLiteral("a message of %1 bytes").arg(cost.errBytes);
     return {};
 }
 

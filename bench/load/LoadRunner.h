@@ -44,17 +44,17 @@ public:
     /** orvcad where it belongs to no step; ends the program when it fails. */
     void prepareByCommand(const QStringList &arguments) const;
 
+    /** Why a command did not do what it should: it failed, or the number at a path of keys ("project.drawObjects") in its
+     *  summary is another one; a list counts by its entries. Empty where it did. To be asked before the next command. */
+    QString failureOf(const ChildCost &cost, const QString &keys, qint64 expected) const;
+    /** The same for a work, which prints a number alone. */
+    static QString failureOf(const ChildCost &cost, qint64 expected);
+
     void add(Series series) { m_table.add(std::move(series), m_options.isJson); }
 
 private:
     const LoadOptions &m_options;
     LoadTable &m_table;
 };
-
-/** Why a process that prints one JSON object did not do what it should: it failed, or the number at a path of keys
- *  ("project.drawObjects") is another one. Empty where it did. */
-QString failureOf(const ChildCost &cost, const QString &keys, qint64 expected);
-/** The same for a process that prints a number alone. */
-QString failureOf(const ChildCost &cost, qint64 expected);
 
 } // namespace load

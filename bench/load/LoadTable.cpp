@@ -14,10 +14,8 @@ namespace load {
 namespace {
 
 constexpr double kMiB = 1024.0 * 1024.0;
-constexpr double kLeastSeconds = 0.005;    // below it a process's time is the clock's own step
-constexpr double kLeastBytes = 256 * 1024; // what pages and the allocator add at their will
-
-double ratioOf(const Run &run) { return run.documentBytes > 0.0 ? run.cost.peakBytes / run.documentBytes : 0.0; }
+constexpr double kLeastSeconds = 0.005;      // below it a process's time is the clock's own step
+constexpr double kLeastBytes = 256 * 1024.0; // what pages and the allocator add at their will
 
 /** The exponent k of cost = c * size^k between two runs, above what an empty process takes. */
 double exponent(double small, double large, double empty, double least, double sizes)
@@ -60,6 +58,11 @@ void LoadTable::add(Series series, bool isQuiet)
     m_all.push_back(std::move(series));
     if (!isQuiet)
         print(m_all.back());
+}
+
+double LoadTable::ratioOf(const Run &run) const
+{
+    return run.documentBytes > 0.0 ? (run.cost.peakBytes - m_empty.peakBytes) / run.documentBytes : 0.0;
 }
 
 std::optional<LoadTable::Growth> LoadTable::growthOf(const Series &series) const

@@ -58,6 +58,8 @@ private:
         double memory = 0.0;
     };
 
+    /** Peak memory to the bytes of the document; 0 without one. */
+    double ratioOf(const Run &run) const;
     std::optional<Growth> growthOf(const Series &series) const;
     /** What is wrong with a run; empty for nothing. The last run of a series answers for its growth. */
     QString verdict(const Series &series, const Run &run) const;

@@ -1,13 +1,18 @@
 #include "load/LoadWork.h"
 
 #include "cli/Command.h"
+#include "cli/Files.h"
 #include "cli/ProjectFiles.h"
 #include "load/Building.h"
 #include "load/CrowdedFloorSteps.h"
 #include "load/HostileSteps.h"
 #include "load/RecordDocument.h"
 
+#include <QJsonArray>
+#include <QJsonValue>
+
 #include <cstdio>
+#include <limits>
 
 namespace load {
 
@@ -53,6 +58,14 @@ int hostile(const QStringList &arguments) { return entries(hostileText(arguments
 
 int read(const QStringList &arguments) { return told(documentOf(arguments).count(arguments.value(2))); }
 
+int number(const QStringList &arguments)
+{
+    QJsonValue value = orvcad::readJsonObject(arguments.value(2), QStringLiteral("summary"));
+    for (const QString &key : arguments.value(1).split(QLatin1Char('.')))
+        value = value.toObject().value(key);
+    return told(value.isArray() ? value.toArray().size() : value.toVariant().toLongLong());
+}
+
 int save(const QStringList &arguments)
 {
     orvcad::saveProjectAs(*orvcad::openProject(arguments.value(1)), arguments.value(2));
@@ -64,8 +77,9 @@ struct Work
     const char *name;
     int (*run)(const QStringList &arguments);
 };
-constexpr Work kWorks[] = {{"nothing", nothing}, {"building", building}, {"doors", doors}, {"bytes", bytes},
-                           {"crowd", crowd},     {"hostile", hostile},   {"read", read},   {"save", save}};
+constexpr Work kWorks[] = {{"nothing", nothing}, {"building", building}, {"doors", doors},
+                           {"bytes", bytes},     {"crowd", crowd},       {"hostile", hostile},
+                           {"read", read},       {"number", number},     {"save", save}};
 
 } // namespace
 

@@ -12,6 +12,7 @@ namespace load {
  *    read NUMBER FILE                 reads one
  *    crowd NUMBER ENTRIES FILE        writes the reply of a crowded floor
  *    hostile NUMBER ENTRIES FILE      writes a hostile text
+ *    number KEYS FILE                 the number at a path of keys in a JSON file, or the length of the list
  *    save PROJECT OTHER               opens a project and saves it as another file
  *  Writers and readers print how many records there are.
  *  @return exit code */

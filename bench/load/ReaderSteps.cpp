@@ -85,14 +85,14 @@ void runReaderSteps(LoadRunner &runner)
             [&](const QString &file) {
                 return runner.work({"read", QString::number(number), file});
             },
-            [](const ChildCost &cost, qint64 records) { return failureOf(cost, records); });
+            [](const ChildCost &cost, qint64 records) { return LoadRunner::failureOf(cost, records); });
     }
     for (const ReadingVerb &verb : kVerbs)
         addSeries(
             runner, QStringLiteral("verb: ") + verb.words.join(QLatin1Char(' ')), numberOf(verb.document), verb.isHeld,
             [&](const QString &file) { return runner.command(verb.words + QStringList{file}); },
             [&](const ChildCost &cost, qint64 records) {
-                return failureOf(cost, QString::fromLatin1(verb.list), records);
+                return runner.failureOf(cost, QString::fromLatin1(verb.list), records);
             });
 }
 

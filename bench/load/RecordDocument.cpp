@@ -319,11 +319,11 @@ const std::vector<RecordDocument> &recordDocuments()
          {"<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<XmlRoot><BrickWallIdentifyData>",
           R"(<key_# edoId="#" entName="QTQ-200" elementType="1003" elementSubType="316" material="3" width="200">)"
           R"(<value_0 sWidth="200" sPfnStartPtTopElev="2.8" sWorldLine="0,0,5000,0" floorCode="1"/></key_#>)",
-          "</BrickWallIdentifyData></XmlRoot>"},
+          "</BrickWallIdentifyData></XmlRoot>", ""},
          ofText<countXmlRecords>,
          false},
         {"flat records",
-         {"", "edoId:#/entName:QTQ-200/elementType:1003/elementSubType:316/material:3/width:200\n", ""},
+         {"", "edoId:#/entName:QTQ-200/elementType:1003/elementSubType:316/material:3/width:200\n", "", ""},
          ofText<countFlatRecords>},
     };
     return all;

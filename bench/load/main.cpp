@@ -51,7 +51,8 @@ bool takeOption(QStringList &arguments, load::LoadOptions &options)
 
 int runAll(const load::LoadOptions &options)
 {
-    load::LoadTable table(load::runChild(options.command, {QStringLiteral("--help")}, options.folder, 60));
+    load::LoadTable table(load::runChild(options.command, {QStringLiteral("--help")},
+                                         QDir(options.folder).filePath(QStringLiteral("help")), 60));
     if (!options.isJson)
         table.printHead();
     load::LoadRunner runner(options, table);
@@ -85,5 +86,10 @@ int main(int argc, char **argv)
     const QTemporaryDir folder;
     if (options.folder.isEmpty())
         options.folder = folder.path();
+    if (!QDir().mkpath(options.folder) || !QFileInfo(options.command).isExecutable()) {
+        std::fprintf(stderr, "%s cannot be made, or %s is missing\n", qUtf8Printable(options.folder),
+                     qUtf8Printable(options.command));
+        return 1;
+    }
     return runAll(options);
 }
