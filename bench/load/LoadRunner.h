@@ -20,6 +20,7 @@ struct LoadOptions
     unsigned seed = 1;
     bool isSmall = false;
     bool isJson = false;
+    bool isCompact = false; ///< record documents without a blank, and without a bound of memory to the document
 };
 
 /** What all steps have in common: files, children, and the table that they hand their runs to. */

@@ -12,7 +12,6 @@
 #include <QJsonValue>
 
 #include <cstdio>
-#include <limits>
 
 namespace load {
 
@@ -43,13 +42,15 @@ int doors(const QStringList &arguments) { return told(buildingOf(arguments).writ
 
 int bytes(const QStringList &arguments)
 {
-    return told(documentOf(arguments).text.write(arguments.value(3), arguments.value(2).toLongLong()));
+    const Layout layout = arguments.contains(QStringLiteral("compact")) ? Layout::Compact : Layout::Indented;
+    return told(documentOf(arguments).text.write(arguments.value(3), arguments.value(2).toLongLong(),
+                                                 EntryText::kAnyCount, layout));
 }
 
 /** So many entries of a text. */
 int entries(const EntryText &text, const QStringList &arguments)
 {
-    return told(text.write(arguments.value(3), std::numeric_limits<qint64>::max(), arguments.value(2).toLongLong()));
+    return told(text.write(arguments.value(3), EntryText::kAnyCount, arguments.value(2).toLongLong()));
 }
 
 int crowd(const QStringList &arguments) { return entries(crowdReply(arguments.value(1).toInt()), arguments); }

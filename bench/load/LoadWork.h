@@ -8,7 +8,7 @@ namespace load {
  *    nothing                          what a process takes at least
  *    building OBJECTS SEED FILE       writes a building
  *    doors OBJECTS SEED FILE          writes a reply for its floor in the middle
- *    bytes NUMBER BYTES FILE          writes a record document of that size
+ *    bytes NUMBER BYTES FILE [compact]  writes a record document of that size
  *    read NUMBER FILE                 reads one
  *    crowd NUMBER ENTRIES FILE        writes the reply of a crowded floor
  *    hostile NUMBER ENTRIES FILE      writes a hostile text

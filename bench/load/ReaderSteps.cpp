@@ -48,13 +48,14 @@ void addSeries(LoadRunner &runner, const QString &step, std::size_t number, bool
     if (!runner.isWanted(step))
         return;
     Series series{step, {kTimeGrowth, kMemoryGrowth, {}, {}}, {}};
-    if (isHeld)
+    if (isHeld && !runner.options().isCompact)
         series.bounds.ratio = kMemoryToDocument;
     const QString file = runner.path(kFile);
     for (const qint64 bytes : runner.options().isSmall ? kSmallSizes : kSizes) {
         Run run;
         const QString size = QString::number(sizeOf(runner, bytes, isHeld));
-        const qint64 records = runner.prepare({"bytes", QString::number(number), size, file});
+        const qint64 records =
+            runner.prepare({"bytes", QString::number(number), size, file, runner.options().isCompact ? "compact" : ""});
         run.size = static_cast<double>(records);
         run.documentBytes = runner.bytesOf(kFile);
         run.cost = cost(file);

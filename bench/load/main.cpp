@@ -19,9 +19,10 @@
 namespace {
 
 constexpr const char *kUsage =
-    "usage: LoadRun [--small] [--json] [--only STEP] [--seed N] [--dir DIR]\n"
+    "usage: LoadRun [--small] [--json] [--compact] [--only STEP] [--seed N] [--dir DIR]\n"
     "  --small      a tenth of the sizes and less, in some minutes\n"
     "  --json       one JSON object in place of the table\n"
+    "  --compact    record documents without a blank, for which no bound of memory holds\n"
     "  --only STEP  steps that have this in their name\n"
     "  --seed N     of the building (1)\n"
     "  --dir DIR    where the files go, some 5 GB at most (a new folder in the temporary one)\n";
@@ -34,6 +35,8 @@ bool takeOption(QStringList &arguments, load::LoadOptions &options)
         return options.isSmall = true;
     if (name == QLatin1String("--json"))
         return options.isJson = true;
+    if (name == QLatin1String("--compact"))
+        return options.isCompact = true;
     if (arguments.isEmpty())
         return false;
     const QString value = arguments.takeFirst();
