@@ -14,8 +14,8 @@ constexpr qint64 kSizes[] = {50 * kMega, 500 * kMega}; // bytes
 constexpr qint64 kSmallSizes[] = {5 * kMega, 50 * kMega};
 constexpr qint64 kToldSize = 100 * kMega; // of what is held to no bound of memory
 
-/** A reader has the document's bytes, what the JSON parser makes of them, and the records. */
-constexpr double kMemoryToDocument = 8.0;
+constexpr double kMemoryOfVerb = 8.0; // to the bytes of the document
+constexpr double kToldAlone = 0.0;
 constexpr double kTimeGrowth = 1.15; // over one order of magnitude
 constexpr double kMemoryGrowth = 1.1;
 
@@ -27,33 +27,33 @@ struct ReadingVerb
     const char *document; ///< name of the kind
     QStringList words;    ///< in front of the file
     const char *list;     ///< key of the summary that has an entry for each record, or their number
-    bool isHeld;
+    double memory;        ///< as that of a document
 };
 const ReadingVerb kVerbs[] = {
-    {"floors", {"floors", "show"}, "floors", false},
-    {"floor exchange", {"drawings", "floors"}, "floors", false},
-    {"labels of beams", {"beam", "result"}, "labels", false},
-    {"results of columns", {"column", "check"}, "columns", true},
+    {"floors", {"floors", "show"}, "floors", kToldAlone},
+    {"floor exchange", {"drawings", "floors"}, "floors", kToldAlone},
+    {"labels of beams", {"beam", "result"}, "labels", kToldAlone},
+    {"results of columns", {"column", "check"}, "columns", kToldAlone},
 };
 
-qint64 sizeOf(const LoadRunner &runner, qint64 size, bool isHeld)
+qint64 sizeOf(const LoadRunner &runner, qint64 size, double memory)
 {
-    return isHeld || runner.options().isSmall ? size : std::min(size, kToldSize);
+    return memory > 0.0 || runner.options().isSmall ? size : std::min(size, kToldSize);
 }
 
 /** Runs of both sizes. @param run  takes the number of records and gives the run's cost and failure */
 template <typename Cost, typename Failure>
-void addSeries(LoadRunner &runner, const QString &step, std::size_t number, bool isHeld, Cost cost, Failure failure)
+void addSeries(LoadRunner &runner, const QString &step, std::size_t number, double memory, Cost cost, Failure failure)
 {
     if (!runner.isWanted(step))
         return;
     Series series{step, {kTimeGrowth, kMemoryGrowth, {}, {}}, {}};
-    if (isHeld && !runner.options().isCompact)
-        series.bounds.ratio = kMemoryToDocument;
+    if (memory > 0.0 && !runner.options().isCompact)
+        series.bounds.ratio = memory;
     const QString file = runner.path(kFile);
     for (const qint64 bytes : runner.options().isSmall ? kSmallSizes : kSizes) {
         Run run;
-        const QString size = QString::number(sizeOf(runner, bytes, isHeld));
+        const QString size = QString::number(sizeOf(runner, bytes, memory));
         const qint64 records =
             runner.prepare({"bytes", QString::number(number), size, file, runner.options().isCompact ? "compact" : ""});
         run.size = static_cast<double>(records);
@@ -82,7 +82,7 @@ void runReaderSteps(LoadRunner &runner)
     for (std::size_t number = 0; number < recordDocuments().size(); ++number) {
         const RecordDocument &document = recordDocuments()[number];
         addSeries(
-            runner, QStringLiteral("reader: ") + QString::fromLatin1(document.name), number, document.isHeld,
+            runner, QStringLiteral("reader: ") + QString::fromLatin1(document.name), number, document.memory,
             [&](const QString &file) {
                 return runner.work({"read", QString::number(number), file});
             },
@@ -90,7 +90,7 @@ void runReaderSteps(LoadRunner &runner)
     }
     for (const ReadingVerb &verb : kVerbs)
         addSeries(
-            runner, QStringLiteral("verb: ") + verb.words.join(QLatin1Char(' ')), numberOf(verb.document), verb.isHeld,
+            runner, QStringLiteral("verb: ") + verb.words.join(QLatin1Char(' ')), numberOf(verb.document), verb.memory,
             [&](const QString &file) { return runner.command(verb.words + QStringList{file}); },
             [&](const ChildCost &cost, qint64 records) {
                 return runner.failureOf(cost, QString::fromLatin1(verb.list), records);

@@ -36,6 +36,10 @@ namespace {
 using SlabModel = ORVCADBoardLocalModel_Sample;
 using SlabService = ORVCADBoardLocalModelPersistenceService_Sample;
 
+// Bounds of peak memory to the bytes of the document.
+constexpr double kOfWideText = 10.0; // four of them are the text itself
+constexpr double kToldAlone = 0.0;
+
 /** The reader of a kind of JSON document, from its file on. */
 template <qint64 (*Count)(const QJsonObject &)> qint64 ofJson(const QString &path)
 {
@@ -171,10 +175,12 @@ qint64 countXmlRecords(const QString &text)
     return records.size();
 }
 
-qint64 countWalls(const QString &text)
+/** From the file on, since the model takes wide characters: four bytes for each of the document. */
+qint64 countWalls(const QString &path)
 {
+    const std::wstring text = QString::fromUtf8(orvcad::readFile(path)).toStdWString();
     ORVCADWallBrickDataOutputModel model;
-    model.loadFromJson(text.toStdWString());
+    model.loadFromJson(text);
     ORVCADWallBrickDataOutputModel::Walls walls;
     model.getBrickWallIdentifyData(walls);
     return static_cast<qint64>(walls.size());
@@ -321,7 +327,7 @@ const std::vector<RecordDocument> &recordDocuments()
           R"(<value_0 sWidth="200" sPfnStartPtTopElev="2.8" sWorldLine="0,0,5000,0" floorCode="1"/></key_#>)",
           "</BrickWallIdentifyData></XmlRoot>", ""},
          ofText<countXmlRecords>,
-         false},
+         kToldAlone},
         {"flat records",
          {"", "edoId:#/entName:QTQ-200/elementType:1003/elementSubType:316/material:3/width:200\n", "", ""},
          ofText<countFlatRecords>},

@@ -16,7 +16,9 @@ struct RecordDocument
     /** Reads a file of these. All records stay in memory until they are counted. JSON is read as the command line reads it,
      *  which includes its strict look. */
     qint64 (*count)(const QString &path);
-    bool isHeld = true; ///< to the bound of memory; of the others the figure is told alone
+    /** Bound of peak memory to the bytes of the document; 0: the figure is told alone. A reader has the bytes, what the
+     *  parser makes of them, and the records. */
+    double memory = 8.0;
 };
 
 /** All families of records. */

@@ -80,10 +80,10 @@ HBXPlaceIndex::Objects HBXCheck::inSamePlace(HBXElementDrawObj &object)
 {
     HBXTypeContents &contents = object.ownFloor().contents().ofType(object.type());
     const vks::CBox2<double> &box = object.placedShape().worldBox();
-    const vks::CBox2<double> curve = contents.barCurves ? barCurveBox(object) : vks::CBox2<double>();
-    if (!curve.IsValid())
+    const vks::CBox2<double> middle = contents.barMiddles ? barMiddle(object) : vks::CBox2<double>();
+    if (!middle.IsValid())
         return contents.places.sameBox(box, kSamePlaceTolerance);
-    HBXPlaceIndex::Objects bars = contents.barCurves->sameBox(curve, 2.0 * kSamePlaceTolerance); // areSame decides
+    HBXPlaceIndex::Objects bars = contents.barMiddles->sameBox(middle, 2.0 * kSamePlaceTolerance); // areSame decides
     const auto isElsewhere = [&](const HBXElementDrawObj *bar) {
         return !HBXPlaceIndex::areSameBoxes(bar->placedShape().worldBox(), box, kSamePlaceTolerance);
     };

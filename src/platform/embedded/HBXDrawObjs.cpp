@@ -60,9 +60,9 @@ void HBXDrawObjs::enter(HBXElementDrawObj &object)
     contents.drawObjs.insert(object.id(), &object);
     contents.places.placeChanged(object);
     if (isBarType(object.type())) {
-        if (!contents.barCurves)
-            contents.barCurves = std::make_unique<HBXPlaceIndex>(barCurveBox);
-        contents.barCurves->placeChanged(object);
+        if (!contents.barMiddles)
+            contents.barMiddles = std::make_unique<HBXPlaceIndex>(barMiddle);
+        contents.barMiddles->placeChanged(object);
     }
     object.ownElement().countEntered(1);
     object.setEntered();
@@ -124,8 +124,8 @@ void HBXDrawObjs::leave(HBXElementDrawObj &object)
     HBXTypeContents &contents = object.ownFloor().contents().ofType(object.type());
     contents.drawObjs.remove(id);
     contents.places.remove(object);
-    if (contents.barCurves)
-        contents.barCurves->remove(object);
+    if (contents.barMiddles)
+        contents.barMiddles->remove(object);
     m_inOrder.remove(id);
     object.ownElement().countEntered(-1);
     m_model.changes().drawObjs.removed(id);

@@ -194,7 +194,7 @@ void HBXElementDrawObj::propertyWritten(const PropertyEntry &entry)
         m_shape->followProperties(&entry);
     const bool isBarCurve = m_isEntered && entry.kind == PropertyKind::Curve && isBarType(m_type);
     if (isBarCurve)
-        ownFloor().contents().ofType(m_type).barCurves->placeChanged(*this);
+        ownFloor().contents().ofType(m_type).barMiddles->placeChanged(*this);
 }
 
 void HBXElementDrawObj::propertyRefused(const QString &reason)

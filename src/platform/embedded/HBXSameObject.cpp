@@ -85,13 +85,12 @@ bool areSameBars(const HBXElementDrawObj &a, const HBXElementDrawObj &b)
 
 bool isBarType(qint64 type) { return isOneOf(type, kBarTypes); }
 
-vks::CBox2<double> barCurveBox(const HBXElementDrawObj &bar)
+vks::CBox2<double> barMiddle(const HBXElementDrawObj &bar)
 {
     vks::CBox2<double> box;
     vks::CRefPtr<vks::CCurve2d> held;
     if (const vks::CCurve2d *curve = bar.propertySet().asCurve(held, property::curveData))
-        for (const auto &point : {curve->StartPoint(), curve->MidPoint(), curve->EndPoint()})
-            box.Add(point);
+        box.Add(curve->MidPoint());
     return box;
 }
 

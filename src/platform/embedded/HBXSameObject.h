@@ -15,9 +15,9 @@ class HBXElementDrawObj;
 /** Whether a type is one of bars (22, 23, 49, 50). */
 bool isBarType(qint64 type);
 
-/** The box of both ends and the middle of a bar's "CurveData"; not valid where it has none. Bars that are the same have
- *  them at the same place. */
-vks::CBox2<double> barCurveBox(const HBXElementDrawObj &bar);
+/** The middle of a bar's "CurveData", as a box; not valid where it has none. Bars that are the same have it at the same
+ *  place. */
+vks::CBox2<double> barMiddle(const HBXElementDrawObj &bar);
 
 /** Greatest distance, mm, within which the geometry of two draw objects is the same. */
 constexpr double kSamePlaceTolerance = 1.0;
