@@ -130,7 +130,7 @@ Run runOf(const Step &step, const Subject &subject)
 
 void runBuildingSteps(LoadRunner &runner)
 {
-    if (!runner.isWanted(QStringLiteral("building")))
+    if (!runner.mayWant(QStringLiteral("building")))
         return;
     std::vector<Series> all;
     for (const Step &step : kSteps)
@@ -141,7 +141,8 @@ void runBuildingSteps(LoadRunner &runner)
             all[i].runs.push_back(runOf(kSteps[i], subject));
     }
     for (Series &series : all)
-        runner.add(std::move(series));
+        if (runner.isWanted(series.step))
+            runner.add(std::move(series));
     for (const QString &file : {kBuilding, kProject, kDoors, kFloor, kOther})
         QFile::remove(runner.path(file));
 }

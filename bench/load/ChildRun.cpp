@@ -23,7 +23,8 @@ using Clock = std::chrono::steady_clock;
 constexpr auto kPause = std::chrono::milliseconds(2); // between two looks at a child
 constexpr double kBytesPerUnit = 1024.0;              // of ru_maxrss
 constexpr int kCannotStart = 127;
-constexpr qint64 kKept = 10000; // bytes of what a child writes
+constexpr rlim_t kMostMemory = rlim_t(16) << 30; // bytes: what wants more shall fail, and not the machine
+constexpr qint64 kKept = 10000;                  // bytes of what a child writes
 
 double secondsOf(const timeval &time)
 {
@@ -42,6 +43,8 @@ void openAs(int target, const QByteArray &path)
 
 [[noreturn]] void become(const std::vector<char *> &arguments, const QByteArray &out, const QByteArray &err)
 {
+    const rlimit memory{kMostMemory, kMostMemory};
+    ::setrlimit(RLIMIT_AS, &memory);
     openAs(STDOUT_FILENO, out);
     openAs(STDERR_FILENO, err);
     ::execv(arguments.front(), arguments.data());

@@ -142,7 +142,7 @@ const EntryText &hostileText(int number)
 
 void runHostileSteps(LoadRunner &runner)
 {
-    if (!runner.isWanted(QStringLiteral("hostile")))
+    if (!runner.mayWant(QStringLiteral("hostile")))
         return;
     const QString house = runner.path(QStringLiteral("house.json"));
     runner.prepare({"crowd", "-1", "0", house});

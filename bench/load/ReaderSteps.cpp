@@ -14,7 +14,6 @@ constexpr qint64 kSizes[] = {50 * kMega, 500 * kMega}; // bytes
 constexpr qint64 kSmallSizes[] = {5 * kMega, 50 * kMega};
 constexpr qint64 kToldSize = 100 * kMega; // of what is held to no bound of memory
 
-constexpr double kMemoryOfVerb = 8.0; // to the bytes of the document
 constexpr double kToldAlone = 0.0;
 constexpr double kTimeGrowth = 1.15; // over one order of magnitude
 constexpr double kMemoryGrowth = 1.1;

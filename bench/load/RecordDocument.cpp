@@ -319,8 +319,8 @@ const std::vector<RecordDocument> &recordDocuments()
           R"("sPfnStartPtBottomElev":"0","sPfnEndPtTopElev":"2.8","sPfnEndPtBottomElev":"0","sStrEntName":"QTQ-200",)"
           R"("sWorldLine":"0,0,5000,0","sPolys":"","floorCode":"1","region":"House","sSegmentEntityDataList":""}])",
           "}}"},
-         ofText<countWalls>,
-         false},
+         countWalls,
+         kOfWideText},
         {"archive as XML",
          {"<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<XmlRoot><BrickWallIdentifyData>",
           R"(<key_# edoId="#" entName="QTQ-200" elementType="1003" elementSubType="316" material="3" width="200">)"
