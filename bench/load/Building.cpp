@@ -142,7 +142,7 @@ const ElementKind kKinds[] = {
 void writeElement(TextFile &file, const ElementKind &kind, const std::vector<Bay> &bays, int number)
 {
     file << "{" << text(kind.head, number) << R"(,"drawObjects":[)";
-    for (std::size_t i = static_cast<std::size_t>(number); i < bays.size(); i += kElementsOfAType) {
+    for (auto i = static_cast<std::size_t>(number); i < bays.size(); i += kElementsOfAType) {
         file.comma(i < kElementsOfAType);
         file << kind.objects(bays[i]);
     }
@@ -171,6 +171,7 @@ void Building::writeFloor(TextFile &file, int floor)
     // Not by a distribution of the standard library, which may differ from one to the next.
     const auto below = [this](unsigned limit) { return static_cast<int>(m_random() % limit); };
     std::vector<Bay> bays;
+    bays.reserve(kBays);
     for (int i = 0; i < kBays; ++i)
         bays.push_back({floor + 1, i, i % kBaysInARow * kBaySide + below(kShifts),
                         i / kBaysInARow * kBaySide + below(kShifts), below(kSteps)});

@@ -29,7 +29,6 @@ struct ReadingVerb
     double memory;        ///< as that of a document
 };
 const ReadingVerb kVerbs[] = {
-    {"floors", {"floors", "show"}, "floors", kToldAlone},
     {"floor exchange", {"drawings", "floors"}, "floors", kToldAlone},
     {"labels of beams", {"beam", "result"}, "labels", kToldAlone},
     {"results of columns", {"column", "check"}, "columns", kToldAlone},
