@@ -5,7 +5,8 @@
 
 #include <QFile>
 
-#include <cmath>
+#include <algorithm>
+#include <iterator>
 
 namespace load {
 
@@ -130,7 +131,8 @@ Run runOf(const Step &step, const Subject &subject)
 
 void runBuildingSteps(LoadRunner &runner)
 {
-    if (!runner.mayWant(QStringLiteral("building")))
+    if (std::none_of(std::begin(kSteps), std::end(kSteps),
+                     [&](const Step &step) { return runner.isWanted(QString::fromLatin1(step.name)); }))
         return;
     std::vector<Series> all;
     for (const Step &step : kSteps)

@@ -141,8 +141,6 @@ const EntryText &crowdReply(int number) { return number < 0 ? kEmptyFloor : kCro
 
 void runCrowdedFloorSteps(LoadRunner &runner)
 {
-    if (!runner.mayWant(QStringLiteral("floor")))
-        return;
     const QString house = runner.path(QStringLiteral("house.json"));
     runner.prepare({"crowd", "-1", "0", house});
     runner.prepareByCommand({"project", "import", house, "-o", runner.path(kHouse)});

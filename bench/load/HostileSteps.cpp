@@ -142,8 +142,6 @@ const EntryText &hostileText(int number)
 
 void runHostileSteps(LoadRunner &runner)
 {
-    if (!runner.mayWant(QStringLiteral("hostile")))
-        return;
     const QString house = runner.path(QStringLiteral("house.json"));
     runner.prepare({"crowd", "-1", "0", house});
     runner.prepareByCommand({"project", "import", house, "-o", runner.path(QStringLiteral("P.hbxdb"))});

@@ -31,8 +31,6 @@ public:
 
     const LoadOptions &options() const { return m_options; }
     bool isWanted(const QString &step) const { return step.contains(m_options.only); }
-    /** Whether a step whose name begins so may be wanted. */
-    bool mayWant(const QString &start) const { return isWanted(start) || m_options.only.startsWith(start); }
     QString path(const QString &file) const;
     double bytesOf(const QString &file) const;
 
