@@ -23,7 +23,7 @@ using Clock = std::chrono::steady_clock;
 constexpr auto kPause = std::chrono::milliseconds(2); // between two looks at a child
 constexpr double kBytesPerUnit = 1024.0;              // of ru_maxrss
 constexpr int kCannotStart = 127;
-constexpr rlim_t kMostMemory = rlim_t(16) << 30; // bytes: what wants more shall fail, and not the machine
+constexpr rlim_t kMostMemory = rlim_t(12) << 30; // bytes: what wants more shall fail, and not the machine
 constexpr qint64 kKept = 10000;                  // bytes of what a child writes
 
 double secondsOf(const timeval &time)

@@ -20,12 +20,12 @@ namespace {
 
 constexpr const char *kUsage =
     "usage: LoadRun [--small] [--json] [--compact] [--only STEP] [--seed N] [--dir DIR]\n"
-    "  --small      a tenth of the sizes and less, in some minutes\n"
+    "  --small      a tenth of the sizes and less, in two minutes\n"
     "  --json       one JSON object in place of the table\n"
     "  --compact    record documents without a blank, for which no bound of memory holds\n"
     "  --only STEP  steps that have this in their name\n"
     "  --seed N     of the building (1)\n"
-    "  --dir DIR    where the files go, some 5 GB at most (a new folder in the temporary one)\n";
+    "  --dir DIR    where the files go, some 2 GB at most (a new folder in the temporary one)\n";
 
 /** Takes a flag, or a name and its value, off the front of the list. @return whether it was understood */
 bool takeOption(QStringList &arguments, load::LoadOptions &options)
