@@ -212,6 +212,7 @@ TEST_F(BarsOfOneOutlineTest, collideWhenTheyComeFromAFile)
     while (bars.size() < kBars)
         bars.push_back(makeBar());
     std::vector<qint64> ids;
+    ids.reserve(bars.size());
     for (const Bar &bar : bars)
         ids.push_back(bar.object->id());
     store.load(store.snapshot());
