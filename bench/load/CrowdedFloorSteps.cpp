@@ -106,7 +106,7 @@ const Crowd kCrowds[] = {
       R"("bar_info":"C16@200","ref_point_x":#e1,"ref_point_y":20,"ref_point_valid":true,"forced_type":2,)"
       R"("row_number":1})",
       "]}"},
-     {500, 2000, 8000},
+     {1000, 2500, 6000},
      {500, 1000, 4000}},
     {"floor: bars of one raft in one outline",
      "made",
@@ -117,7 +117,7 @@ const Crowd kCrowds[] = {
       R"("direction_y":1,"bar_info":"C16@200","ref_point_x":#e1,"ref_point_y":20,"ref_point_valid":true,)"
       R"("forced_type":2,"row_number":1})",
       "]}"},
-     {500, 2000, 8000},
+     {1000, 2500, 6000},
      {500, 1000, 4000}},
 };
 
