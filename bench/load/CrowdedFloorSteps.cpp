@@ -149,7 +149,7 @@ void runCrowdedFloorSteps(LoadRunner &runner)
         if (!runner.isWanted(series.step))
             continue;
         for (const int entries : runner.options().isSmall ? crowd.small : crowd.entries)
-            series.runs.push_back(runOf(runner, crowd, entries));
+            series.runs.push_back(LoadRunner::leastOf([&] { return runOf(runner, crowd, entries); }));
         runner.add(std::move(series));
     }
 }

@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 namespace load {
 
 struct EntryText;
@@ -50,6 +52,9 @@ public:
     QString failureOf(const ChildCost &cost, const QString &keys, qint64 expected) const;
     /** The same for a work, which prints a number alone. */
     static QString failureOf(const ChildCost &cost, qint64 expected);
+
+    /** The run of the least time: what else the machine does takes caches from it. Long ones are done once. */
+    static Run leastOf(const std::function<Run()> &once);
 
     void add(Series series) { m_table.add(std::move(series), m_options.isJson); }
 

@@ -50,15 +50,17 @@ void addSeries(LoadRunner &runner, const QString &step, std::size_t number, doub
         series.bounds.ratio = memory;
     const QString file = runner.path(kFile);
     for (const qint64 bytes : runner.options().isSmall ? kSmallSizes : kSizes) {
-        Run run;
         const QString size = QString::number(sizeOf(runner, bytes, memory));
         const qint64 records =
             runner.prepare({"bytes", QString::number(number), size, file, runner.options().isCompact ? "compact" : ""});
-        run.size = static_cast<double>(records);
-        run.documentBytes = runner.bytesOf(kFile);
-        run.cost = cost(file);
-        run.failure = failure(run.cost, records);
-        series.runs.push_back(std::move(run));
+        series.runs.push_back(LoadRunner::leastOf([&] {
+            Run run;
+            run.size = static_cast<double>(records);
+            run.documentBytes = runner.bytesOf(kFile);
+            run.cost = cost(file);
+            run.failure = failure(run.cost, records);
+            return run;
+        }));
     }
     runner.add(std::move(series));
     QFile::remove(file);
