@@ -20,7 +20,7 @@ namespace {
 
 constexpr const char *kUsage =
     "usage: LoadRun [--small] [--json] [--compact] [--only STEP] [--seed N] [--dir DIR]\n"
-    "  --small      a tenth of the sizes and less, in two minutes\n"
+    "  --small      a tenth of the sizes and less, in some minutes\n"
     "  --json       one JSON object in place of the table\n"
     "  --compact    record documents without a blank, for which no bound of memory holds\n"
     "  --only STEP  steps that have this in their name\n"
