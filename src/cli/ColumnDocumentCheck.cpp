@@ -256,9 +256,8 @@ void ColumnDocumentCheck::compareWithWritten(const QJsonObject &document, const 
     QHash<QString, QString> reasons;
     for (const JsonFault &finding : findings())
         reasons.insert(finding.place, finding.reason);
-    for (const JsonDifference &difference : differencesBetween(document, withPicturesInOrderOf(document, written))) {
-        if (difference.before.isUndefined())
-            continue;
+    for (const JsonDifference &difference :
+         differencesBetween(document, withPicturesInOrderOf(document, written), AddedKeys::PassedOver)) {
         const QStringList holders = holdersOf(difference.place);
         const auto found = std::find_if(holders.begin(), holders.end(),
                                         [&](const QString &holder) { return reasons.contains(holder); });

@@ -11,11 +11,18 @@ QString joined(const QString &file, const QString &place, const QString &reason)
     parts.removeAll(QString());
     return parts.join(QStringLiteral(": "));
 }
+
+/** A document may have keys and texts of any length, which its reader then tells. */
+QString cut(const QString &text)
+{
+    constexpr int kMostLetters = 2000;
+    return text.size() > kMostLetters ? text.left(kMostLetters) + QChar(0x2026) : text;
+}
 } // namespace
 
 CommandFailure::CommandFailure(ExitCode code, const QString &file, const QString &place, const QString &reason)
-    : std::runtime_error(joined(file, place, reason).toStdString()), m_code(code), m_file(file), m_place(place),
-      m_reason(reason)
+    : std::runtime_error(joined(file, cut(place), cut(reason)).toStdString()), m_code(code), m_file(file),
+      m_place(cut(place)), m_reason(cut(reason))
 {}
 
 QJsonObject CommandFailure::toJson() const

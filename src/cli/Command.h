@@ -29,6 +29,7 @@ class CommandFailure : public std::runtime_error
 {
 public:
     CommandFailure(ExitCode code, const QString &message) : std::runtime_error(message.toStdString()), m_code(code) {}
+    /** Place and reason are cut where they are long beyond reading. */
     CommandFailure(ExitCode code, const QString &file, const QString &place, const QString &reason);
 
     ExitCode code() const { return m_code; }

@@ -23,6 +23,8 @@ bool isSame(const QJsonValue &before, const QJsonValue &after)
 class Comparison
 {
 public:
+    explicit Comparison(AddedKeys added) : m_added(added) {}
+
     void compare(const QJsonValue &before, const QJsonValue &after, const QString &place)
     {
         if (before.isObject() && after.isObject())
@@ -45,6 +47,8 @@ private:
     {
         for (const QString &key : before.keys())
             compareMember(before, after, key, place);
+        if (m_added == AddedKeys::PassedOver)
+            return;
         for (const QString &key : after.keys())
             if (!before.contains(key))
                 compareMember(before, after, key, place);
@@ -57,15 +61,16 @@ private:
             compare(before.at(i), after.at(i), QStringLiteral("%1[%2]").arg(place).arg(i));
     }
 
+    const AddedKeys m_added;
     QStringList m_keys;
     std::vector<JsonDifference> m_found;
 };
 
 } // namespace
 
-std::vector<JsonDifference> differencesBetween(const QJsonValue &before, const QJsonValue &after)
+std::vector<JsonDifference> differencesBetween(const QJsonValue &before, const QJsonValue &after, AddedKeys added)
 {
-    Comparison comparison;
+    Comparison comparison(added);
     comparison.compare(before, after, QString());
     return comparison.found();
 }

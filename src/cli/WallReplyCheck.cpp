@@ -6,6 +6,7 @@
 
 #include <QJsonDocument>
 #include <QRegularExpression>
+#include <QSet>
 
 #include <algorithm>
 
@@ -188,14 +189,13 @@ void WallReplyCheck::lookAtPieces(const QJsonArray &pieces, const QString &place
 
 void WallReplyCheck::lookForUnread(const QJsonObject &map)
 {
-    QStringList unread = map.keys();
-    for (int number = 0; number < m_memberCount; ++number) {
-        unread.removeOne(wallElementKey(number));
-        unread.removeOne(wallPiecesKey(number));
-    }
-    for (const QString &key : unread)
-        leaveOut(m_kind.document + QLatin1Char('.') + key, {},
-                 QStringLiteral("is not read: half of the %1 keys are entries, counted from 0").arg(map.size()));
+    QSet<QString> read;
+    for (int number = 0; number < m_memberCount; ++number)
+        read << wallElementKey(number) << wallPiecesKey(number);
+    for (const QString &key : map.keys())
+        if (!read.contains(key))
+            leaveOut(m_kind.document + QLatin1Char('.') + key, {},
+                     QStringLiteral("is not read: half of the %1 keys are entries, counted from 0").arg(map.size()));
 }
 
 QString WallReplyCheck::whyNot(const QJsonValue &element, const QJsonValue &pieces) const

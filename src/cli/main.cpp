@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <csignal>
 #include <cstdio>
+#include <new>
 #include <sstream>
 #include <string_view>
 
@@ -156,6 +157,9 @@ try {
     // Names and texts of a building are UTF-8, whatever the terminal's locale.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     return parseAndRun(argc, argv);
+} catch (const std::bad_alloc &) {
+    std::fputs("orvcad: there is not enough memory\n", stderr);
+    return orvcad::kBadInput;
 } catch (const std::exception &error) {
     std::fprintf(stderr, "orvcad: %s\n", error.what());
     return orvcad::kBadInput;

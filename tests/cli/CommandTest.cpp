@@ -25,6 +25,16 @@ TEST(CommandTest, partsOfAFailureThatAreEmptyAreNotTold)
     EXPECT_EQ(failure.toJson()["error"].toObject().keys(), (QStringList{"file", "message", "reason"}));
 }
 
+TEST(CommandTest, placeAndReasonOfAFailureAreCutWhereNobodyWouldReadOn)
+{
+    const QString longText(100000, 'x');
+    const CommandFailure failure(kBadInput, "a.json", longText, longText);
+    const QString cut = QString(2000, 'x') + QChar(0x2026);
+    EXPECT_EQ(failure.message(), "a.json: " + cut + ": " + cut);
+    EXPECT_EQ(failure.toJson()["error"].toObject()["place"].toString(), cut);
+    EXPECT_EQ(failure.toJson()["error"].toObject()["reason"].toString(), cut);
+}
+
 TEST(CommandTest, failureWithoutAFileHasItsMessageAlone)
 {
     const CommandFailure failure(kWrongUsage, QStringLiteral("FLOOR: 楼层 unknown"));

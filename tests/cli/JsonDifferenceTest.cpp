@@ -38,6 +38,15 @@ TEST(JsonDifferenceTest, keysOfTheWayAreToldWithoutIndexes)
     EXPECT_EQ(found[0].after, 2);
 }
 
+TEST(JsonDifferenceTest, keysOfTheLaterDocumentAloneMayBePassedOver)
+{
+    const auto found = differencesBetween(valueOf(R"({"a": 1, "b": [{}], "c": 1})"),
+                                          valueOf(R"({"b": [{"new": 1}], "c": 2, "new": 1})"), AddedKeys::PassedOver);
+    ASSERT_EQ(found.size(), 2U);
+    EXPECT_EQ(found[0].place, "a");
+    EXPECT_EQ(found[1].place, "c");
+}
+
 TEST(JsonDifferenceTest, keyOfOneSideAloneIsUndefinedOnTheOther)
 {
     const auto found = differencesBetween(valueOf(R"({"a": null})"), valueOf(R"({"b": {"c": 1}})"));

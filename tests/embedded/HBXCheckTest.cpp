@@ -1,5 +1,8 @@
 #include "embedded/EmbeddedBuilding.h"
 
+#include <random>
+#include <vector>
+
 namespace hbx::embedded {
 namespace {
 
@@ -121,6 +124,112 @@ TEST_F(HBXCheckTest, farAwayAndUnboundedPlacesAreNoTrouble)
 {
     EXPECT_TRUE(isAcceptable(slab("POLYGON((1e12 1e12, 2e12 1e12, 2e12 2e12, 1e12 1e12))")));
     isAcceptable(slab("POLYGON((-1e300 0, 1e300 0, 1e300 1e300, -1e300 0))"));
+}
+
+/** Many bars in one outline, whose curves, places and texts are the same, nearly the same and not. */
+class BarsOfOneOutlineTest : public HBXCheckTest
+{
+protected:
+    struct Bar
+    {
+        IHBXElementDrawObj *object;
+        vks::CRefPtr<vks::CCurve2d> curve; ///< null: none
+        int text;
+    };
+
+    static constexpr int kBars = 200;
+
+    Bar makeBar()
+    {
+        Bar bar{placed(of), nullptr, 0};
+        as<IHBXFaceShape2D>(bar.object)->setPolygon(polygonOf(kSquare));
+        change(bar);
+        return bar;
+    }
+    void change(Bar &bar)
+    {
+        bar.text = static_cast<int>(random() % 2);
+        bar.curve = makeCurve();
+        bar.object->properties()->setString(L"BarInfo", QStringLiteral("C1%1@200").arg(bar.text), false);
+        bar.object->properties()->setCurve(L"CurveData", bar.curve.get(), false);
+    }
+    /** On a grid of 0.4 mm, near the border between two cells of the index; every fifth bar has none. */
+    vks::CRefPtr<vks::CCurve2d> makeCurve()
+    {
+        if (random() % 5 == 0)
+            return nullptr;
+        const double x = 3999.0 + static_cast<double>(random() % 6) * 0.4;
+        const double y = static_cast<double>(random() % 6) * 0.4;
+        const bool isTurned = random() % 2 == 0;
+        const Point start(x, y);
+        const Point end(x + 500.0, y);
+        return vks::CRefPtr<vks::CCurve2d>(new vks::CLine2d(isTurned ? end : start, isTurned ? start : end));
+    }
+    /** The rule in full: compared with every other bar. */
+    static bool areSame(const Bar &a, const Bar &b)
+    {
+        if (a.text != b.text || !a.curve != !b.curve)
+            return false;
+        return !a.curve || (a.curve->StartPoint().DistanceTo(b.curve->StartPoint()) <= 1.0 &&
+                            a.curve->MidPoint().DistanceTo(b.curve->MidPoint()) <= 1.0 &&
+                            a.curve->EndPoint().DistanceTo(b.curve->EndPoint()) <= 1.0);
+    }
+    void expectSameVerdicts(const std::vector<Bar> &bars)
+    {
+        std::size_t found = 0;
+        for (const Bar &bar : bars) {
+            isAcceptable(bar.object);
+            found += collisions.size();
+            for (const Bar &other : bars)
+                EXPECT_EQ(collisions.count(other.object->id()) > 0, bar.object != other.object && areSame(bar, other));
+        }
+        EXPECT_GT(found, 0u);
+    }
+
+    IHBXElement *of = element(49);
+    std::mt19937 random{7};
+};
+
+TEST_F(BarsOfOneOutlineTest, collideAsTheyWouldIfEachWereComparedWithAll)
+{
+    std::vector<Bar> bars;
+    while (bars.size() < kBars)
+        bars.push_back(makeBar());
+    expectSameVerdicts(bars);
+    for (int i = 0; i < kBars; i += 3)
+        change(bars[static_cast<std::size_t>(i)]);
+    expectSameVerdicts(bars);
+    for (int i = 0; i < kBars / 2; ++i) {
+        bars.back().object->remove();
+        bars.pop_back();
+    }
+    expectSameVerdicts(bars);
+}
+
+TEST_F(BarsOfOneOutlineTest, collideWhenTheyComeFromAFile)
+{
+    std::vector<Bar> bars;
+    while (bars.size() < kBars)
+        bars.push_back(makeBar());
+    std::vector<qint64> ids;
+    ids.reserve(bars.size());
+    for (const Bar &bar : bars)
+        ids.push_back(bar.object->id());
+    store.load(store.snapshot());
+    for (std::size_t i = 0; i < bars.size(); ++i)
+        bars[i].object = drawObjs().drawObjById(ids[i]);
+    expectSameVerdicts(bars);
+}
+
+TEST_F(BarsOfOneOutlineTest, stayQuickHoweverManyTheyAre)
+{
+    constexpr int kMany = 3000;
+    for (int i = 0; i < kMany; ++i) {
+        Bar bar = makeBar();
+        const vks::CRefPtr<vks::CLine2d> curve(new vks::CLine2d(Point(0, i * 10.0), Point(4000, i * 10.0)));
+        bar.object->properties()->setCurve(L"CurveData", curve.get(), false);
+        EXPECT_TRUE(isAcceptable(bar.object));
+    }
 }
 
 TEST_F(HBXCheckTest, checksOfManyObjectsStayQuick)

@@ -14,6 +14,12 @@ template <typename Output>
 using Generate = bool (ORVCADWallEdoGenerator::*)(Output *, ORVCADWallEdoGenerator::DrawObjs &,
                                                   ORVCADWallEdoGenerator::Elements &);
 
+/** The steps between are gone when it returns: each is as large as the document or larger. */
+std::wstring textOf(const QJsonObject &document)
+{
+    return QString(QJsonDocument(document).toJson(QJsonDocument::Compact)).toStdWString();
+}
+
 template <typename Output>
 bool writeReply(IHBXService *service, const QJsonObject &reply, QLatin1String kind, Generate<Output> generate)
 {
@@ -22,7 +28,7 @@ bool writeReply(IHBXService *service, const QJsonObject &reply, QLatin1String ki
     if (!model)
         return false;
     Output output;
-    output.loadFromJson(QString(QJsonDocument(document).toJson(QJsonDocument::Compact)).toStdWString());
+    output.loadFromJson(textOf(document));
     ORVCADWallEdoGenerator generator(*model);
     ORVCADWallEdoGenerator::DrawObjs drawObjs;
     ORVCADWallEdoGenerator::Elements elements;

@@ -42,7 +42,8 @@ void readWalls(ORVCADFileSerialization &archive, QLatin1String documentKey, Wall
     archive.readRecordMap(documentKey, records);
     auto elements = newElements<Element>(records.size());
     auto element = elements.begin();
-    for (auto entry = records.constBegin(); entry != records.constEnd(); ++entry, ++element) {
+    // A record's text goes when it is read: of a large reply both would be much.
+    for (auto entry = records.begin(); entry != records.end(); entry = records.erase(entry), ++element) {
         encoding::readFlatRecord(entry.key(), table, **element);
         std::list<IdentifyResultData> pieces;
         appendRecords(entry.value(), record::piece, pieces);

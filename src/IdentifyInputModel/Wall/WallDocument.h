@@ -20,11 +20,25 @@ template <typename Archive, typename Translator, typename Save> std::wstring doc
     return archive.content().toStdWString();
 }
 
+/** An archive that gives its text up once that is parsed: a large document need not stand in memory twice. */
+template <typename Archive> class ReadingArchive : public Archive
+{
+public:
+    explicit ReadingArchive(const std::wstring &text) : Archive(QString::fromStdWString(text)) {}
+
+    bool parseAndDropText()
+    {
+        const bool isParsed = Archive::parse();
+        Archive::m_content = QString();
+        return isParsed;
+    }
+};
+
 /** Calls load with the translator, unless the text is no document: nothing happens then. */
 template <typename Archive, typename Translator, typename Load> void loadDocument(const std::wstring &text, Load &&load)
 {
-    Archive archive(QString::fromStdWString(text));
-    if (!archive.parse())
+    ReadingArchive<Archive> archive(text);
+    if (!archive.parseAndDropText())
         return;
     Translator translator(&archive);
     load(translator);

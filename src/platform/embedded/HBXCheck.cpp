@@ -76,11 +76,25 @@ QString HBXCheck::faultOf(HBXElementDrawObj &object) const
     return fault.isEmpty() && isArea ? outlineFault(shape.worldPolygon()) : fault;
 }
 
+HBXPlaceIndex::Objects HBXCheck::inSamePlace(HBXElementDrawObj &object)
+{
+    HBXTypeContents &contents = object.ownFloor().contents().ofType(object.type());
+    const vks::CBox2<double> &box = object.placedShape().worldBox();
+    const vks::CBox2<double> middle = contents.barMiddles ? barMiddle(object) : vks::CBox2<double>();
+    if (!middle.IsValid())
+        return contents.places.sameBox(box, kSamePlaceTolerance);
+    HBXPlaceIndex::Objects bars = contents.barMiddles->sameBox(middle, 2.0 * kSamePlaceTolerance); // areSame decides
+    const auto isElsewhere = [&](const HBXElementDrawObj *bar) {
+        return !HBXPlaceIndex::areSameBoxes(bar->placedShape().worldBox(), box, kSamePlaceTolerance);
+    };
+    bars.erase(std::remove_if(bars.begin(), bars.end(), isElsewhere), bars.end());
+    return bars;
+}
+
 std::map<qint64, QString> HBXCheck::collisionsOf(HBXElementDrawObj &object) const
 {
     std::map<qint64, QString> collisions;
-    HBXPlaceIndex &places = object.ownFloor().contents().ofType(object.type()).places;
-    for (const HBXElementDrawObj *other : places.sameBox(object.placedShape().worldBox(), kSamePlaceTolerance))
+    for (const HBXElementDrawObj *other : inSamePlace(object))
         if (other != &object && areSame(object, *other))
             collisions.emplace(other->id(), QStringLiteral("The draw object is the same as draw object %1 of \"%2\".")
                                                 .arg(other->id())

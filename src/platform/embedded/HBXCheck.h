@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/embedded/HBXPlaceIndex.h"
 #include "platform/host/IHBXCheck.h"
 
 namespace hbx::embedded {
@@ -19,6 +20,8 @@ public:
 private:
     /** Why the object could stand nowhere; empty when it could. */
     QString faultOf(HBXElementDrawObj &object) const;
+    /** Entered ones of the type that may be the same as the object. Of bars with "CurveData", those whose is the same. */
+    static HBXPlaceIndex::Objects inSamePlace(HBXElementDrawObj &object);
     std::map<qint64, QString> collisionsOf(HBXElementDrawObj &object) const;
 
     HBXModel &m_model;

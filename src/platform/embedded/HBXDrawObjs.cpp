@@ -3,6 +3,7 @@
 #include "platform/embedded/HBXFloorQuery.h"
 #include "platform/embedded/HBXModel.h"
 #include "platform/embedded/HBXPlacedShape.h"
+#include "platform/embedded/HBXSameObject.h"
 #include "platform/embedded/HBXShapeKinds.h"
 #include "platform/services/HBXElementTypes.h"
 
@@ -58,6 +59,11 @@ void HBXDrawObjs::enter(HBXElementDrawObj &object)
     m_inOrder.insert(object.id(), &object);
     contents.drawObjs.insert(object.id(), &object);
     contents.places.placeChanged(object);
+    if (isBarType(object.type())) {
+        if (!contents.barMiddles)
+            contents.barMiddles = std::make_unique<HBXPlaceIndex>(barMiddle);
+        contents.barMiddles->placeChanged(object);
+    }
     object.ownElement().countEntered(1);
     object.setEntered();
 }
@@ -118,6 +124,8 @@ void HBXDrawObjs::leave(HBXElementDrawObj &object)
     HBXTypeContents &contents = object.ownFloor().contents().ofType(object.type());
     contents.drawObjs.remove(id);
     contents.places.remove(object);
+    if (contents.barMiddles)
+        contents.barMiddles->remove(object);
     m_inOrder.remove(id);
     object.ownElement().countEntered(-1);
     m_model.changes().drawObjs.removed(id);

@@ -3,6 +3,7 @@
 #include "platform/embedded/HBXAttachment.h"
 #include "platform/embedded/HBXModel.h"
 #include "platform/embedded/HBXPlacedShape.h"
+#include "platform/embedded/HBXSameObject.h"
 #include "platform/services/HBXElementTypes.h"
 
 #include <algorithm>
@@ -198,6 +199,9 @@ void HBXElementDrawObj::propertyWritten(const PropertyEntry &entry)
     recordChanged();
     if (entry.role == PropertyRole::Shape)
         m_shape->followProperties(&entry);
+    const bool isBarCurve = m_isEntered && entry.kind == PropertyKind::Curve && isBarType(m_type);
+    if (isBarCurve)
+        ownFloor().contents().ofType(m_type).barMiddles->placeChanged(*this);
 }
 
 void HBXElementDrawObj::propertyRefused(const QString &reason)

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <map>
+#include <memory>
 
 namespace hbx::embedded {
 
@@ -26,6 +27,9 @@ struct HBXTypeContents
     /** By wanted name: a suffix up to which all are taken. A name that becomes free lowers that of its own base. */
     QHash<QString, int> takenSuffixes;
     HBXPlaceIndex places; ///< of the draw objects
+    /** Of bars, by the middles of their "CurveData": a slab or raft may have thousands in one outline. Null where there are
+     *  none. */
+    std::unique_ptr<HBXPlaceIndex> barMiddles;
 };
 
 /** Everything on a floor, by type: no query of a type looks at others. */

@@ -28,9 +28,12 @@ bool isNear(const vks::CVec2<double> &a, const vks::CVec2<double> &b, double tol
 
 bool isPlace(const vks::CBox2<double> &box) { return box.IsValid() && box.minPt.IsFinite() && box.maxPt.IsFinite(); }
 
-const vks::CBox2<double> &boxOf(const HBXElementDrawObj *object) { return object->placedShape().worldBox(); }
-
 } // namespace
+
+HBXPlaceIndex::Box HBXPlaceIndex::worldBoxOf(const HBXElementDrawObj &object)
+{
+    return object.placedShape().worldBox();
+}
 
 std::size_t HBXPlaceIndex::CellHash::operator()(const Cell &cell) const
 {
@@ -70,7 +73,7 @@ void HBXPlaceIndex::fileAll()
     // Not cleared: a set that once held a whole floor would wipe that many buckets at each question.
     for (HBXElementDrawObj *object : std::exchange(m_unfiled, {})) {
         unfile(object);
-        const Box &box = boxOf(object);
+        const Box box = m_boxOf(*object);
         if (!isPlace(box))
             continue;
         const Cell cell = cellOf(box);
@@ -135,10 +138,15 @@ HBXPlaceIndex::Objects HBXPlaceIndex::sameBox(const Box &box, double tolerance)
         return {};
     Objects found = meeting({box.minPt, box.minPt}, tolerance);
     const auto isElsewhere = [&](const HBXElementDrawObj *object) {
-        return !isNear(boxOf(object).minPt, box.minPt, tolerance) || !isNear(boxOf(object).maxPt, box.maxPt, tolerance);
+        return !areSameBoxes(m_boxOf(*object), box, tolerance);
     };
     found.erase(std::remove_if(found.begin(), found.end(), isElsewhere), found.end());
     return found;
+}
+
+bool HBXPlaceIndex::areSameBoxes(const Box &a, const Box &b, double tolerance)
+{
+    return isNear(a.minPt, b.minPt, tolerance) && isNear(a.maxPt, b.maxPt, tolerance);
 }
 
 } // namespace hbx::embedded

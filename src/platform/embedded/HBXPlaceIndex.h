@@ -13,16 +13,23 @@ namespace hbx::embedded {
 
 class HBXElementDrawObj;
 
-/** Finds objects by where their world boxes lie: a hash of the lower corners, in cells that are as large as the boxes in
- *  them. An object whose place changed is filed anew at the next question, so that a change costs nothing more. Does not
- *  own the objects. */
+/** Finds objects by where their boxes lie: a hash of the lower corners, in cells that are as large as the boxes in them. An
+ *  object whose place changed is filed anew at the next question, so that a change costs nothing more. Does not own the
+ *  objects. */
 class HBXPlaceIndex
 {
 public:
     using Box = vks::CBox2<double>;
     using Objects = std::vector<HBXElementDrawObj *>;
 
-    /** For a new object and for each change of its world box. */
+    /** The box by which an object is filed; one that is not valid keeps it out. */
+    using BoxOf = Box (*)(const HBXElementDrawObj &object);
+
+    static Box worldBoxOf(const HBXElementDrawObj &object);
+
+    explicit HBXPlaceIndex(BoxOf boxOf = worldBoxOf) : m_boxOf(boxOf) {}
+
+    /** For a new object and for each change of its box. */
     void placeChanged(HBXElementDrawObj &object) { m_unfiled.insert(&object); }
     void remove(HBXElementDrawObj &object);
 
@@ -31,6 +38,7 @@ public:
     Objects meeting(const Box &box, double tolerance);
     /** Those of them whose boxes have their sides where this box has them, within the tolerance. */
     Objects sameBox(const Box &box, double tolerance);
+    static bool areSameBoxes(const Box &a, const Box &b, double tolerance);
 
 private:
     /** Cells of one level have sides of twice those of the level below; a box lies in the lowest level whose sides are not
@@ -64,6 +72,7 @@ private:
     void addMeetingOneByOne(int level, const Box &reach, Objects &found) const;
     static void addTouching(const std::vector<Entry> &cell, const Box &reach, Objects &found);
 
+    BoxOf m_boxOf;
     std::unordered_map<Cell, std::vector<Entry>, CellHash> m_cells;
     std::unordered_map<HBXElementDrawObj *, Cell> m_filed;
     std::array<std::size_t, kLevelCount> m_counts{}; ///< filed objects by level

@@ -83,6 +83,17 @@ bool areSameBars(const HBXElementDrawObj &a, const HBXElementDrawObj &b)
 
 } // namespace
 
+bool isBarType(qint64 type) { return isOneOf(type, kBarTypes); }
+
+vks::CBox2<double> barMiddle(const HBXElementDrawObj &bar)
+{
+    vks::CBox2<double> box;
+    vks::CRefPtr<vks::CCurve2d> held;
+    if (const vks::CCurve2d *curve = bar.propertySet().asCurve(held, property::curveData))
+        box.Add(curve->MidPoint());
+    return box;
+}
+
 bool shareWholeLength(const vks::CCurve2d *a, const vks::CCurve2d *b)
 {
     return a && b && !a->IsEmpty() && !b->IsEmpty() && liesAlong(*a, *b) && liesAlong(*b, *a);
@@ -90,7 +101,7 @@ bool shareWholeLength(const vks::CCurve2d *a, const vks::CCurve2d *b)
 
 bool areSame(const HBXElementDrawObj &a, const HBXElementDrawObj &b)
 {
-    return a.type() == b.type() && haveSameElevations(a, b) && (!isOneOf(a.type(), kBarTypes) || areSameBars(a, b)) &&
+    return a.type() == b.type() && haveSameElevations(a, b) && (!isBarType(a.type()) || areSameBars(a, b)) &&
            haveSameGeometry(a.placedShape(), b.placedShape());
 }
 

@@ -1,5 +1,9 @@
 #pragma once
 
+#include "platform/geometry/CBox2.h"
+
+#include <QtGlobal>
+
 namespace vks {
 class CCurve2d;
 }
@@ -7,6 +11,13 @@ class CCurve2d;
 namespace hbx::embedded {
 
 class HBXElementDrawObj;
+
+/** Whether a type is one of bars (22, 23, 49, 50). */
+bool isBarType(qint64 type);
+
+/** The middle of a bar's "CurveData", as a box; not valid where it has none. Bars that are the same have it at the same
+ *  place. */
+vks::CBox2<double> barMiddle(const HBXElementDrawObj &bar);
 
 /** Greatest distance, mm, within which the geometry of two draw objects is the same. */
 constexpr double kSamePlaceTolerance = 1.0;
