@@ -23,6 +23,25 @@ const QStringList kElementRequired{key::name, key::elementType, key::floorName, 
 const QStringList kSegmentWhole{key::index};
 const QStringList kSegmentRequired{key::index, key::wordLine, key::lineWidth};
 const QStringList kSpanWhole{key::spanIndex, key::hoopBarLimbCount};
+const QStringList kMemberKeys{key::elementInfo, key::edoInfos};
+const QStringList kChainKeys{key::segmentInfos, key::spanInfos};
+
+// Fresh records: their keys, and the kind that each value has.
+
+QJsonObject elementPattern(qint64 elementType)
+{
+    return BeamModelDataInfo::makeElementInfo(elementType)->toJsonObj();
+}
+const QJsonObject &segmentPattern()
+{
+    static const QJsonObject pattern = BeamSegmentInfo().toJsonObj();
+    return pattern;
+}
+const QJsonObject &spanPattern()
+{
+    static const QJsonObject pattern = BeamSpanInfo().toJsonObj();
+    return pattern;
+}
 
 QString whyNotSize(const QJsonObject &element, QLatin1String key)
 {
@@ -63,15 +82,13 @@ QString whyNotSegment(const QJsonValue &value)
     const QJsonObject segment = value.toObject();
     if (!value.isObject())
         return QStringLiteral("is no object");
-    static const QJsonObject pattern = BeamSegmentInfo().toJsonObj();
-    QString wrong = wrongKey(segment, pattern, kSegmentWhole, kSegmentRequired);
+    QString wrong = wrongKey(segment, segmentPattern(), kSegmentWhole, kSegmentRequired);
     return wrong.isEmpty() ? whyNotAxis(key::wordLine, segment.value(key::wordLine).toString()) : wrong;
 }
 
 QString whyNotSpan(const QJsonValue &value)
 {
-    static const QJsonObject pattern = BeamSpanInfo().toJsonObj();
-    return value.isObject() ? wrongKey(value.toObject(), pattern, kSpanWhole, {}) : QStringLiteral("is no object");
+    return value.isObject() ? wrongKey(value.toObject(), spanPattern(), kSpanWhole, {}) : QStringLiteral("is no object");
 }
 
 /** The first reason that an entry of an array gives, with its place. */
@@ -110,13 +127,12 @@ const std::vector<ReplyArray> &beamArrays()
     return arrays;
 }
 
-BeamReplyCheck::BeamReplyCheck(IHBXModel &model, const QJsonObject &reply, const QString &file) : m_model(model)
+BeamReplyCheck::BeamReplyCheck(IHBXModel &model, const QJsonObject &reply, const QString &file) : ArrayReplyCheck(model)
 {
-    forEachMember(reply, file, beamArrays(), QStringLiteral("reply of beams"),
-                  [&](const ReplyArray &array, const QString &place, const QJsonValue &member) {
-                      ++m_memberCount;
-                      look(place, member, array);
-                  });
+    lookThrough(reply, file, beamArrays(), QStringLiteral("reply of beams"),
+                [&](const ReplyArray &array, const QString &place, const QJsonValue &member) {
+                    look(place, member, array);
+                });
 }
 
 void BeamReplyCheck::look(const QString &place, const QJsonValue &value, const ReplyArray &array)
@@ -124,10 +140,12 @@ void BeamReplyCheck::look(const QString &place, const QJsonValue &value, const R
     QJsonObject object = value.toObject();
     const QString name = object.value(key::elementInfo).toObject().value(key::name).toString();
     const QString reason = whyNot(value, array);
-    if (!reason.isEmpty()) {
-        m_leftOut.push_back({place, name, reason});
-        return;
-    }
+    if (!reason.isEmpty())
+        return leaveOut(place, name, reason);
+    const QString elementPlace = QStringLiteral("%1.%2").arg(place, key::elementInfo);
+    leaveOutUnread(object, kMemberKeys, place, name, m_leftOut);
+    leaveOutUnread(object.value(key::elementInfo).toObject(), elementPattern(array.elementType).keys(), elementPlace,
+                   name, m_leftOut);
     Member member{place, std::make_shared<BeamModelDataInfo>(), {}};
     object.insert(key::edoInfos, soundChains(object.value(key::edoInfos).toArray(), name, member));
     member.beam->fromJson(object);
@@ -138,15 +156,30 @@ QJsonArray BeamReplyCheck::soundChains(const QJsonArray &chains, const QString &
 {
     QJsonArray sound;
     for (int i = 0; i < chains.size(); ++i) {
+        const QString place = QStringLiteral("%1.%2[%3]").arg(member.place, key::edoInfos).arg(i);
         const QString reason = whyNotChain(chains.at(i));
         if (!reason.isEmpty()) {
-            m_leftOut.push_back({QStringLiteral("%1.%2[%3]").arg(member.place, key::edoInfos).arg(i), name, reason});
+            leaveOutPart(place, name, reason);
             continue;
         }
+        lookForParts(chains.at(i).toObject(), place, name);
         sound.append(chains.at(i));
         member.chains.push_back(i);
     }
     return sound;
+}
+
+void BeamReplyCheck::lookForParts(const QJsonObject &chain, const QString &place, const QString &name)
+{
+    leaveOutUnread(chain, kChainKeys, place, name, m_leftOut);
+    const auto lookAtEntries = [&](QLatin1String key, const QStringList &known) {
+        int index = 0;
+        for (const QJsonValue entry : chain.value(key).toArray())
+            leaveOutUnread(entry.toObject(), known, QStringLiteral("%1.%2[%3]").arg(place, key).arg(index++), name,
+                           m_leftOut);
+    };
+    lookAtEntries(key::segmentInfos, segmentPattern().keys());
+    lookAtEntries(key::spanInfos, spanPattern().keys());
 }
 
 QString BeamReplyCheck::whyNot(const QJsonValue &value, const ReplyArray &array) const
@@ -163,8 +196,7 @@ QString BeamReplyCheck::whyNot(const QJsonValue &value, const ReplyArray &array)
 
 QString BeamReplyCheck::whyNotElement(const QJsonObject &element, const ReplyArray &array) const
 {
-    const QJsonObject pattern = BeamModelDataInfo::makeElementInfo(array.elementType)->toJsonObj();
-    QString wrong = wrongKey(element, pattern, kElementWhole, kElementRequired);
+    QString wrong = wrongKey(element, elementPattern(array.elementType), kElementWhole, kElementRequired);
     if (!wrong.isEmpty())
         return wrong;
     QString wrongType = whyNotType(element.value(key::elementType).toInt(), array);

@@ -71,12 +71,15 @@ public:
             ++(isUnit(*m_model.elements()->at(i)) ? kind.units : elements);
         kind.elements += elements;
         kind.reused += elements == 0 ? 1 : 0;
-        kind.placed += placedSince(m_model, drawObjsBefore);
+        const int placed = placedSince(m_model, drawObjsBefore);
+        kind.placed += placed;
         const QStringList refused = refusedSince(m_project, journalBefore);
         for (const QString &reason : refused)
-            leaveOut(member, QStringLiteral("a value was refused: ") + reason);
-        if (!isMade && refused.isEmpty())
-            leaveOut(member, QStringLiteral("the host did not take it whole"));
+            leaveOut(member, QStringLiteral("a value was refused: ") + reason, false);
+        if (placed == 0)
+            leaveOut(member, QStringLiteral("the host placed nothing"), true);
+        else if (!isMade && refused.isEmpty())
+            leaveOut(member, QStringLiteral("the host did not take it whole"), false);
     }
 
 private:
@@ -91,9 +94,9 @@ private:
         kinds.back().type = elementType;
         return kinds.back();
     }
-    void leaveOut(const SeatReplyCheck::Member &member, const QString &reason)
+    void leaveOut(const SeatReplyCheck::Member &member, const QString &reason, bool isWhole)
     {
-        m_outcome.leftOut.push_back({member.place, member.seat->EntName, reason});
+        m_outcome.leftOut.push_back({member.place, member.seat->EntName, reason, isWhole});
     }
 
     HBXProject &m_project;
@@ -123,7 +126,7 @@ QJsonObject SeatOutcome::Kind::toJson() const
 QString SeatOutcome::text() const
 {
     QString text =
-        QStringLiteral("%1 read, %2 left out").arg(counted(members, QStringLiteral("seat"))).arg(leftOut.size());
+        QStringLiteral("%1 read, %2").arg(counted(members, QStringLiteral("seat")), leftOutCount(leftOut));
     for (const Kind &kind : kinds)
         text += QStringLiteral("\n  ") + kind.text();
     return text + leftOutLines(leftOut) + doubledLine(doubled);

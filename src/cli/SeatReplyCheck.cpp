@@ -18,6 +18,12 @@ using Seat = ORVBeamSDCSeatInfoModel;
 const QStringList kSeatWhole{key::elementType, key::elementSubType, key::sectionWidth, key::sectinoHeight, key::height};
 const QStringList kSeatRequired{key::entName, key::elementType, key::floorName, key::regionName};
 
+const QJsonObject &pattern()
+{
+    static const QJsonObject fresh = Seat().toJson();
+    return fresh;
+}
+
 /** A seat stands where its outline is, a tie beam where its centre line is. */
 QString whyNotPlace(const Seat &seat)
 {
@@ -47,23 +53,22 @@ const std::vector<ReplyArray> &seatArrays()
     return arrays;
 }
 
-SeatReplyCheck::SeatReplyCheck(IHBXModel &model, const QJsonObject &reply, const QString &file) : m_model(model)
+SeatReplyCheck::SeatReplyCheck(IHBXModel &model, const QJsonObject &reply, const QString &file) : ArrayReplyCheck(model)
 {
-    forEachMember(reply, file, seatArrays(), QStringLiteral("document of seats"),
-                  [&](const ReplyArray &array, const QString &place, const QJsonValue &member) {
-                      ++m_memberCount;
-                      look(place, member, array);
-                  });
+    lookThrough(reply, file, seatArrays(), QStringLiteral("document of seats"),
+                [&](const ReplyArray &array, const QString &place, const QJsonValue &member) {
+                    look(place, member, array);
+                });
 }
 
 void SeatReplyCheck::look(const QString &place, const QJsonValue &value, const ReplyArray &array)
 {
     const QJsonObject member = value.toObject();
+    const QString name = member.value(key::entName).toString();
     const QString reason = whyNot(value, array);
-    if (!reason.isEmpty()) {
-        m_leftOut.push_back({place, member.value(key::entName).toString(), reason});
-        return;
-    }
+    if (!reason.isEmpty())
+        return leaveOut(place, name, reason);
+    leaveOutUnread(member, pattern().keys(), place, name, m_leftOut);
     m_sound.push_back({place, std::make_shared<Seat>()});
     m_sound.back().seat->fromJson(member);
 }
@@ -73,8 +78,7 @@ QString SeatReplyCheck::whyNot(const QJsonValue &value, const ReplyArray &array)
     const QJsonObject member = value.toObject();
     if (!value.isObject())
         return QStringLiteral("is no object");
-    static const QJsonObject pattern = Seat().toJson();
-    QString reason = wrongKey(member, pattern, kSeatWhole, kSeatRequired);
+    QString reason = wrongKey(member, pattern(), kSeatWhole, kSeatRequired);
     if (reason.isEmpty())
         reason = whyNotType(member.value(key::elementType).toInt(), array);
     if (reason.isEmpty() && member.value(key::entName).toString().isEmpty())

@@ -2,6 +2,7 @@
 
 #include "cli/ExpectedValue.h"
 #include "cli/MemberKinds.h"
+#include "cli/UnreadKeys.h"
 #include "encoding/GeometryFields.h"
 #include "slab/SlabKeys.h"
 
@@ -55,16 +56,20 @@ QJsonObject slabModelOf(const QJsonObject &document, const QString &file)
 
 SlabReplyCheck::SlabReplyCheck(const QJsonObject &model)
 {
-    for (const SlabArray &array : slabArrays())
+    QStringList known;
+    for (const SlabArray &array : slabArrays()) {
+        known.append(array.key);
         if (model.contains(array.key))
             look(array, model.value(array.key));
+    }
+    leaveOutUnread(model, known, {}, {}, m_leftOut);
 }
 
 void SlabReplyCheck::look(const SlabArray &array, const QJsonValue &value)
 {
     const QJsonArray members = value.toArray();
     if (!value.isArray())
-        m_leftOut.push_back({array.key, {}, QStringLiteral("is no array")});
+        m_leftOut.push_back({array.key, {}, QStringLiteral("is no array"), false});
     if (!array.isMade()) {
         m_passedOver += members.size();
         return;
@@ -88,10 +93,11 @@ void SlabReplyCheck::look(const SlabArray &array, int index, const QJsonValue &v
         return;
     }
     const QString reason = whyNot(array, value, pattern);
-    if (reason.isEmpty())
-        take(array, place, member);
-    else
-        m_leftOut.push_back({place, member.value(key::name).toString(), reason});
+    const QString name = member.value(key::name).toString();
+    if (!reason.isEmpty())
+        return m_leftOut.push_back({place, name, reason});
+    leaveOutUnread(member, array.keys(), place, name, m_leftOut);
+    take(array, place, member);
 }
 
 void SlabReplyCheck::take(const SlabArray &array, const QString &place, QJsonObject json)

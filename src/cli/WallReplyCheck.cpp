@@ -166,7 +166,7 @@ void WallReplyCheck::look(const QJsonObject &map, int number)
         return leaveOut(member.place, name, reason);
     m_places.insert(record, member.place);
     for (const QString &cut : cutBars(element.toObject()))
-        leaveOut(member.place, name, cut);
+        leaveOutPart(member.place, name, cut);
     lookAtPieces(pieces.toArray(), above + wallPiecesKey(number), member);
     m_sound.push_back(member);
 }
@@ -177,7 +177,7 @@ void WallReplyCheck::lookAtPieces(const QJsonArray &pieces, const QString &place
         const QString piecePlace = QStringLiteral("%1[%2]").arg(place).arg(i);
         const QString reason = whyNotPiece(pieces.at(i));
         if (!reason.isEmpty()) {
-            leaveOut(piecePlace, member.text(key::entName), reason);
+            leaveOutPart(piecePlace, member.text(key::entName), reason);
             ++member.leftOut;
             continue;
         }
@@ -194,7 +194,7 @@ void WallReplyCheck::lookForUnread(const QJsonObject &map)
         unread.removeOne(wallPiecesKey(number));
     }
     for (const QString &key : unread)
-        leaveOut(m_kind.document + QLatin1Char('.') + key, {},
+        leaveOutPart(m_kind.document + QLatin1Char('.') + key, {},
                  QStringLiteral("is not read: half of the %1 keys are entries, counted from 0").arg(map.size()));
 }
 
@@ -225,6 +225,11 @@ QString WallReplyCheck::whyNot(const QJsonValue &element, const QJsonValue &piec
 void WallReplyCheck::leaveOut(const QString &place, const QString &name, const QString &reason)
 {
     m_leftOut.push_back({place, name, reason});
+}
+
+void WallReplyCheck::leaveOutPart(const QString &place, const QString &name, const QString &reason)
+{
+    m_leftOut.push_back({place, name, reason, false});
 }
 
 } // namespace orvcad

@@ -1,0 +1,206 @@
+#include "CommandRun.h"
+#include "Mutations.h"
+#include "ReplyRoads.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QRegularExpression>
+
+#include <gtest/gtest.h>
+
+using namespace honestytest;
+
+namespace {
+
+constexpr unsigned kSeed = 20261121;
+constexpr std::size_t kCases = 150;
+constexpr int kMostLines = 20; // of what was left out, in a summary for people
+
+std::size_t casesAsked()
+{
+    const int asked = qEnvironmentVariableIntValue("ORVCAD_HONEST_CASES");
+    return asked > 0 ? static_cast<std::size_t>(asked) : kCases;
+}
+
+/** The building without elements of these types. */
+QJsonObject without(QJsonObject building, const std::vector<int> &types)
+{
+    QJsonArray regions;
+    for (const QJsonValue regionValue : building["regions"].toArray()) {
+        QJsonObject region = regionValue.toObject();
+        QJsonArray floors;
+        for (const QJsonValue floorValue : region["floors"].toArray()) {
+            QJsonObject floor = floorValue.toObject();
+            QJsonArray elements;
+            for (const QJsonValue element : floor["elements"].toArray())
+                if (std::find(types.begin(), types.end(), element["type"].toInt()) == types.end())
+                    elements.append(element);
+            floor["elements"] = elements;
+            floors.append(floor);
+        }
+        region["floors"] = floors;
+        regions.append(region);
+    }
+    building["regions"] = regions;
+    return building;
+}
+
+class HonestApplyTest : public ::testing::TestWithParam<ReplyRoad>
+{
+protected:
+    void SetUp() override
+    {
+        const QJsonObject building = fileObject(QStringLiteral(ORVCAD_TEST_DATA "/buildings/made-building.json"));
+        import(building, "whole");
+        import(without(building, GetParam().types), "bare");
+        m_document = given("whole.hbxdb");
+        ASSERT_FALSE(GetParam().members(m_document).empty());
+        m_bare = fileContent("bare.hbxdb");
+        ASSERT_TRUE(GetParam().members(given("bare.hbxdb")).empty());
+    }
+
+    QJsonObject document() const { return m_document; }
+
+    /** Takes a document into the bare building; what is not as it should be, a line each, empty when all is. */
+    std::string dishonestyOf(const QJsonValue &document)
+    {
+        writeFile("house.hbxdb", m_bare);
+        writeFile("reply.json", document);
+        const Ran ran = run(GetParam().apply + QStringList{"house.hbxdb", "reply.json"} + GetParam().applyFlags);
+        const bool isChanged = fileContent("house.hbxdb") != m_bare;
+        ++m_exits[ran.exitCode];
+        if (ran.exitCode == 2)
+            return refusal(ran, isChanged);
+        if (ran.exitCode != 0 && ran.exitCode != 3)
+            return ran.shown();
+        return done(ran, document.toObject());
+    }
+
+    QMap<int, int> m_exits; // how often
+
+private:
+    static void import(const QJsonObject &building, const QString &name)
+    {
+        writeFile(name + ".json", building);
+        const Ran ran = run({"project", "import", name + ".json", "-o", name + ".hbxdb"});
+        ASSERT_EQ(ran.exitCode, 0) << ran.shown();
+    }
+    static QJsonObject given(const QString &project)
+    {
+        const Ran ran = run(GetParam().give + QStringList{project, "-o", "given.json"} + GetParam().giveFlags);
+        EXPECT_EQ(ran.exitCode, 0) << ran.shown();
+        return fileObject("given.json");
+    }
+
+    static std::string refusal(const Ran &ran, bool isChanged)
+    {
+        std::string lines;
+        if (isChanged)
+            lines += "refused, and the project is another one\n";
+        if (ran.error["file"].toString() != "reply.json" || ran.error["reason"].toString().isEmpty())
+            lines += "refused without file or reason: " + ran.shown();
+        return lines;
+    }
+
+    std::string done(const Ran &ran, const QJsonObject &document) const
+    {
+        const Members sent = GetParam().members(document);
+        const QJsonObject after = given("house.hbxdb");
+        const Members arrived = GetParam().members(after);
+        std::string lines = GetParam().unequal(ran.json, sent, arrived) + unequalTexts(ran);
+        const QJsonArray leftOut = ran.json["leftOut"].toArray();
+        if ((ran.exitCode == 3) == leftOut.isEmpty())
+            lines += "exit code " + std::to_string(ran.exitCode) + " with " + std::to_string(leftOut.size()) +
+                     " left out\n";
+        lines += withoutPartner(untold(sent, leftOut), arrived, GetParam().difference);
+        const Ran saved = run({"project", "export", "house.hbxdb", "-o", "after.json"});
+        const Ran again = run({"project", "import", "after.json", "-o", "again.hbxdb"});
+        if (saved.exitCode != 0 || again.exitCode != 0)
+            lines += "what was saved cannot be imported again: " + again.shown();
+        return lines.empty() ? lines : lines + ran.shown();
+    }
+
+    /** The members of which nothing was said: they have to arrive whole. */
+    static Members untold(const Members &sent, const QJsonArray &leftOut)
+    {
+        Members members;
+        for (const Member &member : sent)
+            if (std::none_of(leftOut.begin(), leftOut.end(),
+                             [&](const QJsonValue &entry) { return isAbout(entry, member.place); }))
+                members.push_back(member);
+        return members;
+    }
+    static bool isAbout(const QJsonValue &entry, const QString &member)
+    {
+        const QString place = entry["place"].toString();
+        const QString pieces = QString(member).replace(".key_", ".value_"); // of a wall
+        for (const QString &start : {member, pieces})
+            if (place == start || place.startsWith(start + '.') || place.startsWith(start + '['))
+                return true;
+        return false;
+    }
+
+    static int numberAt(const QJsonObject &json, const QString &path)
+    {
+        QJsonValue value = json;
+        for (const QString &key : path.split('_'))
+            value = value[key];
+        return value.toInt(-1);
+    }
+    /** Where the summary for people says something else than the one for machines. */
+    static std::string unequalTexts(const Ran &ran)
+    {
+        const QStringList lines = ran.text.split('\n');
+        const QRegularExpression headline(QString(GetParam().headline) +
+                                          "(?<whole>\\d+) left out(?:, and (?<parts>\\d+) parts? of others)?$");
+        const auto match = headline.match(lines.first());
+        if (!match.hasMatch())
+            return "the first line of the summary is not understood: " + lines.first().toStdString() + '\n';
+        int whole = 0;
+        for (const QJsonValue entry : ran.json["leftOut"].toArray())
+            whole += entry["whole"].toBool() ? 1 : 0;
+        const int all = ran.json["leftOut"].toArray().size();
+        std::string unequal;
+        for (const QString &group : headline.namedCaptureGroups()) {
+            const int expected = group == "whole"   ? whole
+                                 : group == "parts" ? all - whole
+                                                    : numberAt(ran.json, group);
+            if (!group.isEmpty() && match.captured(group).toInt() != expected)
+                unequal += group.toStdString() + ": the text says otherwise than the object\n";
+        }
+        const int told = lines.filter(QRegularExpression("^  left out: ")).size();
+        const int more = lines.filter(QRegularExpression("^  … and \\d+ more; --json lists all$")).size();
+        if (told != std::min(all, kMostLines) || (more > 0) != (all > kMostLines))
+            unequal += "the text lists " + std::to_string(told) + " of " + std::to_string(all) + " left out\n";
+        return unequal;
+    }
+
+    QJsonObject m_document;
+    QByteArray m_bare;
+};
+
+TEST_P(HonestApplyTest, whatABuildingGivesArrivesWhole)
+{
+    EXPECT_EQ(dishonestyOf(document()), "");
+    EXPECT_EQ(m_exits.value(0), 1);
+}
+
+TEST_P(HonestApplyTest, whatIsChangedIsToldOrArrives)
+{
+    const Mutations mutations(document());
+    for (const Mutation &mutation : mutations.sample(casesAsked(), kSeed))
+        EXPECT_EQ(dishonestyOf(mutation.document), "") << mutation.what.toStdString();
+    EXPECT_GT(m_exits.value(0), 0);
+    EXPECT_GT(m_exits.value(2) + m_exits.value(3), 0);
+    for (auto exit = m_exits.cbegin(); exit != m_exits.cend(); ++exit)
+        RecordProperty("exit" + std::to_string(exit.key()), exit.value());
+    std::cout << "mutations " << mutations.count();
+    for (auto exit = m_exits.cbegin(); exit != m_exits.cend(); ++exit)
+        std::cout << ", exit code " << exit.key() << ": " << exit.value();
+    std::cout << std::endl;
+}
+
+INSTANTIATE_TEST_SUITE_P(Roads, HonestApplyTest, ::testing::ValuesIn(replyRoads()),
+                         [](const auto &test) { return std::string(test.param.name); });
+
+} // namespace
