@@ -3,7 +3,9 @@
 #include "beam/BeamModelDataInfo.h"
 #include "cli/ArrayReplyCheck.h"
 
+#include <QHash>
 #include <QJsonArray>
+#include <QStringList>
 
 #include <memory>
 
@@ -37,10 +39,19 @@ private:
     /** The chains that go on, whose positions the member gets.
      *  @param name  of the beam */
     QJsonArray soundChains(const QJsonArray &chains, const QString &name, Member &member);
+    /** Tells when a beam has another element than one of its name before it: the host has one element for both. */
+    void noteNamesake(const QString &place, QJsonObject element);
     /** Tells what of a chain that goes on does not arrive. */
     void lookForParts(const QJsonObject &chain, const QString &place, const QString &name);
     QString whyNot(const QJsonValue &value, const ReplyArray &array) const;
     QString whyNotElement(const QJsonObject &element, const ReplyArray &array) const;
+
+    struct Element
+    {
+        QString place; ///< of its beam
+        QJsonObject element;
+    };
+    QHash<QStringList, Element> m_elements; // by region, floor, name and type
 };
 
 } // namespace orvcad

@@ -138,6 +138,8 @@ public:
             m_outcome.beams.push_back(beam);
     }
 
+    void finish() {}
+
 private:
     static QString chainPlace(const BeamOutcome::Beam &beam, int position)
     {

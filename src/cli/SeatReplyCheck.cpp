@@ -25,14 +25,23 @@ const QJsonObject &pattern()
 }
 
 /** A seat stands where its outline is, a tie beam where its centre line is. */
-QString whyNotPlace(const Seat &seat)
+QString whyNotPlace(const Seat &seat, const QJsonObject &member)
 {
     if (seat.seatElementType != type::tieBeam)
-        return seat.ipWorldPoly ? QString() : QStringLiteral("%1 is no outline").arg(key::worldPoly);
+        return whyNotOutline(key::worldPoly, member.value(key::worldPoly).toString());
     if (!seat.ipCenterLine)
         return QStringLiteral("%1 is no curve").arg(key::centerLine);
     return seat.ipCenterLine->Length() > vks::g_DistEpsilon ? QString()
                                                             : QStringLiteral("%1 has no length").arg(key::centerLine);
+}
+
+/** Sizes of what is made of them. */
+QString whyNotSize(const QJsonObject &member)
+{
+    for (const QLatin1String size : {key::sectionWidth, key::sectinoHeight, key::height})
+        if (member.value(size).toInt() < 0)
+            return QStringLiteral("%1 is below 0").arg(size);
+    return {};
 }
 
 QString whyNotType(int elementType, const ReplyArray &array)
@@ -69,7 +78,7 @@ void SeatReplyCheck::look(const QString &place, const QJsonValue &value, const R
     if (!reason.isEmpty())
         return leaveOut(place, name, reason);
     leaveOutUnread(member, pattern().keys(), place, name, m_leftOut);
-    m_sound.push_back({place, std::make_shared<Seat>()});
+    m_sound.push_back({place, std::make_shared<Seat>(), member});
     m_sound.back().seat->fromJson(member);
 }
 
@@ -86,11 +95,13 @@ QString SeatReplyCheck::whyNot(const QJsonValue &value, const ReplyArray &array)
     if (reason.isEmpty())
         floorOfNames(m_model, member.value(key::regionName).toString(), member.value(key::floorName).toString(),
                      reason);
+    if (reason.isEmpty())
+        reason = whyNotSize(member);
     if (!reason.isEmpty())
         return reason;
     Seat seat;
     seat.fromJson(member);
-    return whyNotPlace(seat);
+    return whyNotPlace(seat, member);
 }
 
 } // namespace orvcad

@@ -16,6 +16,7 @@ struct CheckedSeat
 {
     QString place; ///< etPile[3]
     std::shared_ptr<ORVBeamSDCSeatInfoModel> seat;
+    QJsonObject json; ///< of which it is made
 };
 
 /** Looks through a document of seats before it is written into a model, and says of each seat that the model would not take,

@@ -4,11 +4,13 @@
 #include "cli/MemberKinds.h"
 #include "cli/UnreadKeys.h"
 #include "encoding/GeometryFields.h"
+#include "platform/geometry/KernelTolerance.h"
 #include "slab/SlabKeys.h"
 
 #include <QJsonArray>
 
 #include <algorithm>
+#include <cmath>
 
 using namespace slab;
 
@@ -16,11 +18,26 @@ namespace orvcad {
 
 namespace {
 
+constexpr double kShortestDirection = 1e-9; // of a vector whose length does not count
+
 QString whyNotGeometry(const SlabArray &array, const QString &text)
 {
-    if (array.geometry == SlabArray::Geometry::Line)
-        return encoding::KernelText::curve(text) ? QString() : QStringLiteral("line is no curve");
-    return encoding::KernelText::polygon(text) ? QString() : QStringLiteral("surface is no outline");
+    if (array.geometry == SlabArray::Geometry::Outline)
+        return encoding::KernelText::polygon(text) ? QString() : QStringLiteral("surface is no outline");
+    const auto line = encoding::KernelText::curve(text);
+    if (!line)
+        return QStringLiteral("line is no curve");
+    return line->Length() > vks::g_DistEpsilon ? QString() : QStringLiteral("line has no length");
+}
+
+/** Bars of an area are drawn along their direction. */
+QString whyNotDirection(const SlabArray &array, const QJsonObject &member)
+{
+    const auto part = [&member](QLatin1String key) { return member.value(key).toDouble(); };
+    const bool isAsked = array.required.contains(key::directionX);
+    return isAsked && std::hypot(part(key::directionX), part(key::directionY)) <= kShortestDirection
+               ? QStringLiteral("its direction has no length")
+               : QString();
 }
 
 QString whyNot(const SlabArray &array, const QJsonValue &value, const QJsonObject &pattern)
@@ -29,7 +46,9 @@ QString whyNot(const SlabArray &array, const QJsonValue &value, const QJsonObjec
     if (!value.isObject())
         return QStringLiteral("is no object");
     QString wrong = wrongKey(member, pattern, array.whole, array.required);
-    return wrong.isEmpty() ? whyNotGeometry(array, member.value(array.geometryKey()).toString()) : wrong;
+    if (wrong.isEmpty())
+        wrong = whyNotGeometry(array, member.value(array.geometryKey()).toString());
+    return wrong.isEmpty() ? whyNotDirection(array, member) : wrong;
 }
 
 bool hasAnyArray(const QJsonObject &model)
@@ -97,6 +116,9 @@ void SlabReplyCheck::look(const SlabArray &array, int index, const QJsonValue &v
     if (!reason.isEmpty())
         return m_leftOut.push_back({place, name, reason});
     leaveOutUnread(member, array.keys(), place, name, m_leftOut);
+    const QString identity = member.value(key::recongnizedID).toString();
+    if (!identity.isEmpty() && QUuid(identity).isNull())
+        m_leftOut.push_back({place + u'.' + key::recongnizedID, name, QStringLiteral("is no identity"), false});
     take(array, place, member);
 }
 

@@ -162,6 +162,8 @@ SlabOutcome applySlabs(HBXProject &project, IHBXFloor &floor, const QJsonObject 
     for (const Stage &stage : stages())
         writer.write(membersOf(check, stage.parts), stage.under);
     SlabOutcome outcome = outcomeOf(check, writer);
+    for (const LeftOut &changed : changedInHost(project, floor, writer.made()))
+        outcome.leftOut.push_back(changed);
     outcome.elementsMade = model.elements()->count() - elementsBefore;
     outcome.doubled = doubledSince(model, drawObjsBefore); // negative bars, which are checked for less
     return outcome;

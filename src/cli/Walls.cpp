@@ -83,6 +83,9 @@ private:
         wall.wanted = member.text(wall::key::entName);
         element.name(wall.name);
         wall.floor = member.text(wall::key::floorCode);
+        if (wall.name != wall.wanted)
+            leaveOut(member, member.place + u'.' + wall::key::entName,
+                     QStringLiteral("the floor has that name already: made as \"%1\"").arg(wall.name), false);
         wall.placed = m_model.drawObjects()->count() - drawObjsBefore;
         wall.leftOut = member.leftOut + member.pieces.size() - wall.placed;
         wall.doubled = doubledSince(m_model, drawObjsBefore);

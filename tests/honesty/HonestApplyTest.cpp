@@ -117,7 +117,7 @@ private:
         const Ran again = run({"project", "import", "after.json", "-o", "again.hbxdb"});
         if (saved.exitCode != 0 || again.exitCode != 0)
             lines += "what was saved cannot be imported again: " + again.shown();
-        return lines.empty() ? lines : lines + ran.shown();
+        return lines.empty() ? lines : lines + ran.text.toStdString() + '\n';
     }
 
     /** The members of which nothing was said: they have to arrive whole. */

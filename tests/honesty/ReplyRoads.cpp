@@ -15,6 +15,10 @@ const QJsonValue kHosts = QJsonValue::Undefined;
 
 CarriedKey text(const char *key) { return {key, How::Same, QString()}; }
 CarriedKey number(const char *key) { return {key, How::Same, kNoNumber}; }
+CarriedKey near(const char *key) { return {key, How::Near, kNoNumber}; }
+CarriedKey sixDigits(const char *key) { return {key, How::Rounded, kNoNumber}; }
+/** Part of a vector whose length does not count. */
+CarriedKey direction(const char *key) { return {key, How::Direction, kHosts}; }
 CarriedKey geometry(const char *key) { return {key, How::Geometry, QString()}; }
 /** An empty text leaves the host's value as it is. */
 CarriedKey hostText(const char *key) { return {key, How::Host, kHosts}; }
@@ -153,7 +157,7 @@ CarriedKeys barKeys(const CarriedKeys &own)
 }
 CarriedKeys areaBarKeys(const CarriedKeys &own)
 {
-    return barKeys(CarriedKeys{geometry("surface"), number("direction_x"), number("direction_y"),
+    return barKeys(CarriedKeys{geometry("surface"), direction("direction_x"), direction("direction_y"),
                                number("left_hook_length"), number("right_hook_length")} +
                    own);
 }
@@ -166,8 +170,8 @@ const QMap<QString, CarriedKeys> &slabArrays()
     const CarriedKeys slabBar{text("distribute_bar_info"), number("saddle_barline_count")};
     const CarriedKeys straddle{number("label_position"), number("left_strech_length"), number("right_strech_length")};
     static const QMap<QString, CarriedKeys> arrays{
-        {"boards", slabKeys({geometry("surface"), number("thinkness"), number("elev"), never("type")})},
-        {"rafts", slabKeys({geometry("surface"), number("thinkness"), number("topElev"), number("bottomElev")})},
+        {"boards", slabKeys({geometry("surface"), number("thinkness"), near("elev"), never("type")})},
+        {"rafts", slabKeys({geometry("surface"), number("thinkness"), near("topElev"), near("bottomElev")})},
         {"board_holes", slabKeys({geometry("surface"), never("bar_info"), text("longSpanReinforceBar"),
                                   text("shortSpanReinforceBar"), text("obliqueReinforceBar")})},
         {"forced_bars", areaBarKeys({number("forced_type"), never("SupportPoly")})},
@@ -234,7 +238,7 @@ const CarriedKeys &beamElementKeys()
                                   hostText("HoopBar"),
                                   hostText("LimbCount"),
                                   hostText("TieBar"),
-                                  number("AxisOffset"),
+                                  sixDigits("AxisOffset"),
                                   when(hostText("SpanCount"), isSpanned),
                                   when(hostText("TopThroughBar"), isSpanned),
                                   when(hostText("BottomThroughBar"), isSpanned),
@@ -250,7 +254,7 @@ const CarriedKeys &segmentKeys()
 {
     static const CarriedKeys keys{never("Index"), // counts up from any number, and arrives counted from 0
                                   geometry("WordLine"), number("LineWidth"),
-                                  number("AxisOffset"), hostText("StartPtTopElev"),
+                                  sixDigits("AxisOffset"), hostText("StartPtTopElev"),
                                   hostText("EndPtTopElev")};
     return keys;
 }
@@ -262,11 +266,12 @@ const CarriedKeys &spanKeys()
         for (const char *key : {"SpanIndex", "HoopBarLimbCount", "StartElev", "EndElev", "SpanLength", "AxisOffset"})
             all.push_back(number(key));
         for (const char *key :
-             {"SpanA1_A4", "Section", "TopThroughBar", "LeftSupportBar", "SpanBar", "RightSupportBar",
+             {"Section", "TopThroughBar", "LeftSupportBar", "SpanBar", "RightSupportBar",
               "BottomThroughBar", "BottomBar", "SideBar", "SideLabelBar", "TieBar", "HoopBar", "SecBeamWidth",
               "SecBeamAddBar", "HangBar", "HangBarAnchor", "DenseLength", "HaunchingLength", "HaunchingHeight",
               "HaunchingBarInfo", "OtherHoopBars"})
             all.push_back(text(key));
+        all.push_back({"SpanA1_A4", How::Geometry, kHosts}); // four numbers
         return all;
     }();
     return keys;
@@ -291,9 +296,9 @@ QString recordsDifference(const QJsonValue &sent, const QJsonValue &arrived, con
 /** Segments in the order of their numbers, in which they make the chain. */
 QJsonValue inOrder(const QJsonValue &segments)
 {
-    QMap<int, QJsonValue> sorted;
+    QMultiMap<int, QJsonValue> sorted;
     for (const QJsonValue segment : segments.toArray())
-        sorted.insertMulti(segment["Index"].toInt(), segment);
+        sorted.insert(segment["Index"].toInt(), segment);
     QJsonArray array;
     for (const QJsonValue &segment : sorted)
         array.append(segment);
@@ -405,14 +410,14 @@ const CarriedKeys &seatKeys()
         never("SectionPoly"),
         when(number("SectionWidth"), tieBeam),
         when(number("SectinoHeight"), tieBeam),
-        when(hostText("TopElev"), tieBeam),
-        when(hostText("BtmElev"), tieBeam),
+        never("TopElev"), // of the element; the placed object's arrives
+        never("BtmElev"),
         when(number("Height"), ofType({52, 53, 54})),
-        when(number("AxisOffset"), tieBeam),
+        when(sixDigits("AxisOffset"), tieBeam),
         never("Mirror"),
         never("Angle"),
-        never("EDOTopElev"),
-        never("EDOBtmElev"),
+        hostText("EDOTopElev"),
+        when(hostText("EDOBtmElev"), ofType({52, 53, 18})),
     };
     return keys;
 }
