@@ -37,8 +37,8 @@ bool isSameCurve(const QString &sent, const QString &arrived)
         return false;
     const bool isForth =
         isSamePoint(one->StartPoint(), other->StartPoint()) && isSamePoint(one->EndPoint(), other->EndPoint());
-    return isForth || (isSamePoint(one->StartPoint(), other->EndPoint()) &&
-                       isSamePoint(one->EndPoint(), other->StartPoint()));
+    return isForth ||
+           (isSamePoint(one->StartPoint(), other->EndPoint()) && isSamePoint(one->EndPoint(), other->StartPoint()));
 }
 
 bool isSameOutline(const QString &sent, const QString &arrived)
@@ -75,10 +75,10 @@ void leaveOutChanged(const QJsonObject &sent, const QJsonObject &arrived, const 
 {
     for (const QString &key : keys)
         if (sent.contains(key) && !isSameValue(sent[key], arrived[key]))
-            leftOut.push_back({place + u'.' + key, name,
-                               QStringLiteral("%1 was sent, and %2 is what the host has")
-                                   .arg(shown(sent[key]), shown(arrived[key])),
-                               false});
+            leftOut.push_back(
+                {place + u'.' + key, name,
+                 QStringLiteral("%1 was sent, and %2 is what the host has").arg(shown(sent[key]), shown(arrived[key])),
+                 false});
 }
 
 } // namespace orvcad

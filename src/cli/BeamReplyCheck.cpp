@@ -34,10 +34,7 @@ const QStringList kChainKeys{key::segmentInfos, key::spanInfos};
 
 // Fresh records: their keys, and the kind that each value has.
 
-QJsonObject elementPattern(qint64 elementType)
-{
-    return BeamModelDataInfo::makeElementInfo(elementType)->toJsonObj();
-}
+QJsonObject elementPattern(qint64 elementType) { return BeamModelDataInfo::makeElementInfo(elementType)->toJsonObj(); }
 const QJsonObject &segmentPattern()
 {
     static const QJsonObject pattern = BeamSegmentInfo().toJsonObj();
@@ -98,7 +95,8 @@ QString whyNotSegment(const QJsonValue &value)
 
 QString whyNotSpan(const QJsonValue &value)
 {
-    return value.isObject() ? wrongKey(value.toObject(), spanPattern(), kSpanWhole, {}) : QStringLiteral("is no object");
+    return value.isObject() ? wrongKey(value.toObject(), spanPattern(), kSpanWhole, {})
+                            : QStringLiteral("is no object");
 }
 
 /** What of a segment is written as something else; empty for nothing. */
@@ -162,10 +160,9 @@ const std::vector<ReplyArray> &beamArrays()
 
 BeamReplyCheck::BeamReplyCheck(IHBXModel &model, const QJsonObject &reply, const QString &file) : ArrayReplyCheck(model)
 {
-    lookThrough(reply, file, beamArrays(), QStringLiteral("reply of beams"),
-                [&](const ReplyArray &array, const QString &place, const QJsonValue &member) {
-                    look(place, member, array);
-                });
+    lookThrough(
+        reply, file, beamArrays(), QStringLiteral("reply of beams"),
+        [&](const ReplyArray &array, const QString &place, const QJsonValue &member) { look(place, member, array); });
 }
 
 void BeamReplyCheck::look(const QString &place, const QJsonValue &value, const ReplyArray &array)

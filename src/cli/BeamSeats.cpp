@@ -190,8 +190,7 @@ QJsonObject SeatOutcome::Kind::toJson() const
 
 QString SeatOutcome::text() const
 {
-    QString text =
-        QStringLiteral("%1 read, %2").arg(counted(members, QStringLiteral("seat")), leftOutCount(leftOut));
+    QString text = QStringLiteral("%1 read, %2").arg(counted(members, QStringLiteral("seat")), leftOutCount(leftOut));
     for (const Kind &kind : kinds)
         text += QStringLiteral("\n  ") + kind.text();
     return text + leftOutLines(leftOut) + doubledLine(doubled);

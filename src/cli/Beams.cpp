@@ -154,10 +154,10 @@ private:
         if (result != Service::kDone) {
             ++beam.stopped;
             leaveOutPart(chainPlace(beam, position), beam.name,
-                     QStringLiteral("stopped behind %1 of %2, which stay unlinked: %3")
-                         .arg(made)
-                         .arg(counted(static_cast<int>(chain.segments.size()), QStringLiteral("segment")),
-                              stopReason(result)));
+                         QStringLiteral("stopped behind %1 of %2, which stay unlinked: %3")
+                             .arg(made)
+                             .arg(counted(static_cast<int>(chain.segments.size()), QStringLiteral("segment")),
+                                  stopReason(result)));
             return;
         }
         ++beam.chains;

@@ -36,12 +36,8 @@ constexpr KeyKind kElementKeys[] = {
     {key::regionName, Expected::Text},
 };
 constexpr KeyKind kPlacedKeys[] = {
-    {key::elementName, Expected::Text},
-    {key::x, Expected::Number, true},
-    {key::y, Expected::Number, true},
-    {key::heightFromFloor, Expected::Integer},
-    {key::floorName, Expected::Text},
-    {key::regionName, Expected::Text},
+    {key::elementName, Expected::Text},        {key::x, Expected::Number, true}, {key::y, Expected::Number, true},
+    {key::heightFromFloor, Expected::Integer}, {key::floorName, Expected::Text}, {key::regionName, Expected::Text},
 };
 
 template <std::size_t Count> QString wrongKeyOf(const QJsonObject &member, const KeyKind (&keys)[Count])

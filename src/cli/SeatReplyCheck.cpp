@@ -64,10 +64,9 @@ const std::vector<ReplyArray> &seatArrays()
 
 SeatReplyCheck::SeatReplyCheck(IHBXModel &model, const QJsonObject &reply, const QString &file) : ArrayReplyCheck(model)
 {
-    lookThrough(reply, file, seatArrays(), QStringLiteral("document of seats"),
-                [&](const ReplyArray &array, const QString &place, const QJsonValue &member) {
-                    look(place, member, array);
-                });
+    lookThrough(
+        reply, file, seatArrays(), QStringLiteral("document of seats"),
+        [&](const ReplyArray &array, const QString &place, const QJsonValue &member) { look(place, member, array); });
 }
 
 void SeatReplyCheck::look(const QString &place, const QJsonValue &value, const ReplyArray &array)

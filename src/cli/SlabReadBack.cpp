@@ -15,7 +15,7 @@ namespace orvcad {
 namespace {
 
 /** Keys of what was not asked of the host. */
-const QStringList kNotAsked{key::id,        key::recongnizedID, key::name,         key::refPointX,
+const QStringList kNotAsked{key::id,        key::recongnizedID, key::name,     key::refPointX,
                             key::refPointY, key::refPointValid, key::rowNumber};
 
 QStringList askedKeys(const SlabArray &array)

@@ -19,6 +19,7 @@ namespace orvcad {
 namespace {
 
 constexpr double kShortestDirection = 1e-9; // of a vector whose length does not count
+constexpr double kFarthestLabel = 1e9;      // mm: beyond it coordinates lose what a bar is drawn by
 
 QString whyNotGeometry(const SlabArray &array, const QString &text)
 {
@@ -30,14 +31,22 @@ QString whyNotGeometry(const SlabArray &array, const QString &text)
     return line->Length() > vks::g_DistEpsilon ? QString() : QStringLiteral("line has no length");
 }
 
-/** Bars of an area are drawn along their direction. */
-QString whyNotDirection(const SlabArray &array, const QJsonObject &member)
+/** What keeps a bar from being drawn: along its direction, or to both sides of its line, through the point of its label. */
+QString whyNotDrawn(const SlabArray &array, const QJsonObject &member)
 {
-    const auto part = [&member](QLatin1String key) { return member.value(key).toDouble(); };
-    const bool isAsked = array.required.contains(key::directionX);
-    return isAsked && std::hypot(part(key::directionX), part(key::directionY)) <= kShortestDirection
-               ? QStringLiteral("its direction has no length")
-               : QString();
+    const auto number = [&member](QLatin1String key) { return member.value(key).toDouble(); };
+    if (!array.required.contains(key::barInfo))
+        return {};
+    if (array.geometry == SlabArray::Geometry::Line) {
+        if (number(key::leftStretchLength) + number(key::rightStretchLength) <= vks::g_DistEpsilon)
+            return QStringLiteral("it stretches to neither side of its line");
+    } else if (std::hypot(number(key::directionX), number(key::directionY)) <= kShortestDirection) {
+        return QStringLiteral("its direction has no length");
+    }
+    for (const QLatin1String key : {key::refPointX, key::refPointY})
+        if (std::fabs(number(key)) > kFarthestLabel)
+            return QStringLiteral("%1 lies beyond %2 m").arg(key, QString::number(kFarthestLabel / 1000, 'f', 0));
+    return {};
 }
 
 QString whyNot(const SlabArray &array, const QJsonValue &value, const QJsonObject &pattern)
@@ -48,7 +57,7 @@ QString whyNot(const SlabArray &array, const QJsonValue &value, const QJsonObjec
     QString wrong = wrongKey(member, pattern, array.whole, array.required);
     if (wrong.isEmpty())
         wrong = whyNotGeometry(array, member.value(array.geometryKey()).toString());
-    return wrong.isEmpty() ? whyNotDirection(array, member) : wrong;
+    return wrong.isEmpty() ? whyNotDrawn(array, member) : wrong;
 }
 
 bool hasAnyArray(const QJsonObject &model)

@@ -7,9 +7,8 @@ namespace orvcad {
 QString whyUnread(const QString &key, const QStringList &known)
 {
     const QString reason = QStringLiteral("is no key of this record, and not read");
-    const auto meant = std::find_if(known.begin(), known.end(), [&](const QString &one) {
-        return one.compare(key, Qt::CaseInsensitive) == 0;
-    });
+    const auto meant = std::find_if(known.begin(), known.end(),
+                                    [&](const QString &one) { return one.compare(key, Qt::CaseInsensitive) == 0; });
     return meant == known.end() ? reason : QStringLiteral("%1: %2 is one").arg(reason, *meant);
 }
 

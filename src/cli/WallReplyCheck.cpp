@@ -223,7 +223,7 @@ void WallReplyCheck::lookForUnread(const QJsonObject &map)
     }
     for (const QString &key : unread)
         leaveOutPart(m_kind.document + QLatin1Char('.') + key, {},
-                 QStringLiteral("is not read: half of the %1 keys are entries, counted from 0").arg(map.size()));
+                     QStringLiteral("is not read: half of the %1 keys are entries, counted from 0").arg(map.size()));
 }
 
 QString WallReplyCheck::whyNot(const QJsonValue &element, const QJsonValue &pieces) const

@@ -30,7 +30,7 @@ Geometry geometryOf(QString text)
 }
 
 constexpr double kSixDigits = 1e-5; // of a number, relative
-constexpr double kNoise = 1e-12;    // of adding and taking away again, relative
+constexpr double kElevation = 1e-6; // m: six digits behind the point
 
 bool isWithin(double share, double a, double b)
 {
@@ -48,7 +48,10 @@ bool areNear(const std::vector<double> &a, const std::vector<double> &b)
     return std::equal(a.begin(), a.end(), b.begin(), b.end(), isNear);
 }
 
-bool isRing(const Geometry &geometry) { return geometry.words.startsWith("POLYGON((0") && geometry.words.count('(') == 2; }
+bool isRing(const Geometry &geometry)
+{
+    return geometry.words.startsWith("POLYGON((0") && geometry.words.count('(') == 2;
+}
 
 bool isCurve(const Geometry &geometry)
 {
@@ -93,9 +96,9 @@ bool isSame(const QJsonValue &sent, const QJsonValue &arrived, How how)
     case How::Same:
         return sent == arrived;
     case How::Near:
+        return sent.isDouble() && arrived.isDouble() && std::fabs(sent.toDouble() - arrived.toDouble()) <= kElevation;
     case How::Rounded:
-        return sent.isDouble() && arrived.isDouble() &&
-               isWithin(how == How::Near ? kNoise : kSixDigits, sent.toDouble(), arrived.toDouble());
+        return sent.isDouble() && arrived.isDouble() && isWithin(kSixDigits, sent.toDouble(), arrived.toDouble());
     case How::Geometry:
         return sent.isString() && arrived.isString() && isSameGeometry(sent.toString(), arrived.toString());
     case How::Host: // blanks around an elevation are none of its own
@@ -184,7 +187,8 @@ std::string withoutPartner(const Members &sent, const Members &arrived, const Co
         QString reason = QStringLiteral("nothing of its kind arrived");
         bool isFirst = true;
         for (const Member &candidate : arrived) {
-            const QString why = candidate.kind == sent[i].kind ? difference(sent[i], candidate) : QStringLiteral("kind");
+            const QString why =
+                candidate.kind == sent[i].kind ? difference(sent[i], candidate) : QStringLiteral("kind");
             fits[i].push_back(why.isEmpty());
             if (candidate.kind == sent[i].kind && (isFirst || candidate.place == sent[i].place))
                 reason = why;

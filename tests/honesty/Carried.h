@@ -11,13 +11,13 @@ namespace honestytest {
 
 /** What becomes of a value of a document that a command took. */
 enum class How {
-    Same,     ///< arrives as it is
-    Near,     ///< arrives but for the noise of adding and taking away again
-    Rounded,  ///< arrives with six digits
-    Geometry, ///< arrives as the same words with the same numbers to six digits; a ring may begin at another corner
-    Host,     ///< an empty text leaves what the host has; any other arrives as it is
+    Same,      ///< arrives as it is
+    Near,      ///< arrives with six digits behind the point
+    Rounded,   ///< arrives with six digits
+    Geometry,  ///< arrives as the same words with the same numbers to six digits; a ring may begin at another corner
+    Host,      ///< an empty text leaves what the host has; any other arrives as it is
     Direction, ///< arrives as a part of a vector along the same line; both parts are compared at once
-    Never,    ///< is not used, as the format tells
+    Never,     ///< is not used, as the format tells
 };
 
 /** A key of a record of a document. */

@@ -92,7 +92,8 @@ void writeFile(const QString &path, const QByteArray &bytes)
 
 void writeFile(const QString &path, const QJsonValue &document)
 {
-    const QJsonDocument json = document.isArray() ? QJsonDocument(document.toArray()) : QJsonDocument(document.toObject());
+    const QJsonDocument json =
+        document.isArray() ? QJsonDocument(document.toArray()) : QJsonDocument(document.toObject());
     writeFile(path, json.toJson());
 }
 

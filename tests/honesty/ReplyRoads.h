@@ -25,6 +25,12 @@ struct ReplyRoad
     /** What a summary says of the members that it took, by kind; what the document that is given afterwards holds more or
      *  fewer of, or how the sums do not come out. Empty when all is well. */
     std::string (*unequal)(const QJsonObject &summary, const Members &sent, const Members &arrived);
+    /** Types of the draw objects that are placed, and how many of them the summary tells. */
+    std::vector<int> placedTypes;
+    int (*placed)(const QJsonObject &summary);
+    /** What of the sample building's document does not arrive, as the command names it, and the document without that. */
+    QStringList told;
+    QJsonObject (*tidied)(QJsonObject document);
     /** The first line of the summary for people: names of groups are paths in the one for machines, with _ for dots;
      *  "whole" and "parts" are numbers of what was left out. */
     const char *headline;
