@@ -35,7 +35,7 @@ QString leftOutCount(int whole, int parts)
 {
     const QString members = QStringLiteral("%1 left out").arg(whole);
     return parts == 0 ? members
-                      : QStringLiteral("%1, and %2 of others").arg(members, counted(parts, QStringLiteral("part")));
+                      : QStringLiteral("%1, and %2 of the rest").arg(members, counted(parts, QStringLiteral("part")));
 }
 
 QJsonArray toJson(const std::vector<LeftOut> &leftOut)

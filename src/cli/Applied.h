@@ -30,7 +30,7 @@ struct LeftOut
 
 QJsonArray toJson(const std::vector<LeftOut> &leftOut);
 
-/** How much was left out: "2 left out", and ", and 1 part of others" where members were written without something. */
+/** How much was left out: "2 left out", and ", and 1 part of the rest" where members were written without something. */
 QString leftOutCount(int whole, int parts);
 /** The same for entries of LeftOut, or of a kind of it. */
 template <typename Entry> QString leftOutCount(const std::vector<Entry> &leftOut)

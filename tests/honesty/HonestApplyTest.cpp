@@ -1,3 +1,4 @@
+#include "Cases.h"
 #include "CommandRun.h"
 #include "Mutations.h"
 #include "ReplyRoads.h"
@@ -12,15 +13,7 @@ using namespace honestytest;
 
 namespace {
 
-constexpr unsigned kSeed = 20261121;
-constexpr std::size_t kCases = 150;
 constexpr int kMostLines = 20; // of what was left out, in a summary for people
-
-std::size_t casesAsked()
-{
-    const int asked = qEnvironmentVariableIntValue("ORVCAD_HONEST_CASES");
-    return asked > 0 ? static_cast<std::size_t>(asked) : kCases;
-}
 
 /** The building without elements of these types. */
 QJsonObject without(QJsonObject building, const std::vector<int> &types)
@@ -177,7 +170,7 @@ private:
     {
         const QStringList lines = ran.text.split('\n');
         const QRegularExpression headline(QString(GetParam().headline) +
-                                          "(?<whole>\\d+) left out(?:, and (?<parts>\\d+) parts? of others)?$");
+                                          "(?<whole>\\d+) left out(?:, and (?<parts>\\d+) parts? of the rest)?$");
         const auto match = headline.match(lines.first());
         if (!match.hasMatch())
             return "the first line of the summary is not understood: " + lines.first().toStdString() + '\n';
