@@ -15,11 +15,11 @@ int typeOf(const QJsonValue &object, int otherwise)
     return object.toObject().contains("type") ? object["type"].toInt() : otherwise;
 }
 
-void countObject(const QJsonValue &object, int type, BuildingWalk::Floor &floor)
+void countObject(const QJsonValue &object, const QJsonValue &element, BuildingWalk::Floor &floor)
 {
-    ++floor.drawObjs[typeOf(object, type)];
+    ++floor.drawObjs[typeOf(object, element["type"].toInt())];
     for (const QJsonValue child : object["children"].toArray())
-        ++floor.children[typeOf(child, type)];
+        ++floor.children[typeOf(child, element["units"][child["unit"].toInt()]["type"].toInt())];
     const QJsonObject shape = object["shape"].toObject();
     const bool hasGeometry = !shape["outline"].isNull() && !shape["axis"].isNull() && !shape["curve"].isNull();
     floor.withoutGeometry += hasGeometry ? 0 : 1;
@@ -42,7 +42,7 @@ BuildingWalk::BuildingWalk(const QJsonObject &building) : regions(building["regi
                 for (const QJsonValue unit : element["units"].toArray())
                     ++floor.units[unit["type"].toInt()];
                 for (const QJsonValue object : element["drawObjects"].toArray())
-                    countObject(object, element["type"].toInt(), floor);
+                    countObject(object, element, floor);
             }
             floors.push_back(floor);
         }

@@ -81,15 +81,6 @@ bool isSameRing(std::vector<double> a, const std::vector<double> &b)
     return false;
 }
 
-bool isSameGeometry(const QString &a, const QString &b)
-{
-    const Geometry one = geometryOf(a);
-    const Geometry other = geometryOf(b);
-    return one.words == other.words &&
-           (areNear(one.numbers, other.numbers) || (isRing(one) && isSameRing(one.numbers, other.numbers)) ||
-            (isCurve(one) && areNear(turned(one.numbers), other.numbers)));
-}
-
 bool isSame(const QJsonValue &sent, const QJsonValue &arrived, How how)
 {
     switch (how) {
@@ -101,6 +92,8 @@ bool isSame(const QJsonValue &sent, const QJsonValue &arrived, How how)
         return sent.isDouble() && arrived.isDouble() && isWithin(kSixDigits, sent.toDouble(), arrived.toDouble());
     case How::Geometry:
         return sent.isString() && arrived.isString() && isSameGeometry(sent.toString(), arrived.toString());
+    case How::Bars:
+        return sent.isString() && arrived.isString() && sent.toString().toUpper() == arrived.toString().toUpper();
     case How::Host: // blanks around an elevation are none of its own
         return sent == arrived || (sent.isString() && sent.toString().isEmpty()) ||
                (sent.isString() && arrived.isString() && sent.toString().trimmed() == arrived.toString());
@@ -163,6 +156,15 @@ private:
 };
 
 } // namespace
+
+bool isSameGeometry(const QString &a, const QString &b)
+{
+    const Geometry one = geometryOf(a);
+    const Geometry other = geometryOf(b);
+    return one.words == other.words &&
+           (areNear(one.numbers, other.numbers) || (isRing(one) && isSameRing(one.numbers, other.numbers)) ||
+            (isCurve(one) && areNear(turned(one.numbers), other.numbers)));
+}
 
 QString whyNotTheSame(const QJsonObject &sent, const QJsonObject &arrived, const CarriedKeys &keys)
 {

@@ -15,6 +15,7 @@ enum class How {
     Near,      ///< arrives with six digits behind the point
     Rounded,   ///< arrives with six digits
     Geometry,  ///< arrives as the same words with the same numbers to six digits; a ring may begin at another corner
+    Bars,      ///< arrives, in capitals
     Host,      ///< an empty text leaves what the host has; any other arrives as it is
     Direction, ///< arrives as a part of a vector along the same line; both parts are compared at once
     Never,     ///< is not used, as the format tells
@@ -31,6 +32,9 @@ struct CarriedKey
     std::function<bool(const QJsonObject &)> counts = {};
 };
 using CarriedKeys = std::vector<CarriedKey>;
+
+/** Whether geometry texts say the same, each number to six digits; other texts have to be alike but for blanks. */
+bool isSameGeometry(const QString &a, const QString &b);
 
 /** The first key of a record that did not arrive, or that the format does not know, with both values; empty when all did. */
 QString whyNotTheSame(const QJsonObject &sent, const QJsonObject &arrived, const CarriedKeys &keys);

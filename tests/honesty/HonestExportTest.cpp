@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <numeric>
+
 using namespace honestytest;
 
 namespace {
@@ -70,7 +72,7 @@ TEST_P(HonestExportTest, openingsAreThoseOfTheBuilding)
     for (const Floor &floor : walk.floors)
         for (const int type : {4, 5, 6, 7})
             elements += floor.elements.value(type);
-    const QJsonArray members = document()["eDoorWin"]["ElementsAndEdos"].toArray();
+    const QJsonArray members = document()["eDoorWin"].toObject()["ElementsAndEdos"].toArray();
     EXPECT_EQ(members.size(), elements + walk.placed({4, 5, 6, 7}));
     EXPECT_EQ(ran.json["elements"], elements);
     EXPECT_EQ(ran.json["placed"], walk.placed({4, 5, 6, 7}));
@@ -150,8 +152,9 @@ TEST_P(HonestExportTest, eachFloorsDocumentsHoldWhatTheFloorHas)
         for (const auto &[array, types] : arrays) {
             const int count = document()[QLatin1String(array)].toArray().size();
             EXPECT_EQ(slabs.json["arrays"][QLatin1String(array)].toInt(), count) << array;
-            if (QLatin1String(array) != QLatin1String("columns")) // with their supports, of which not all are told
-                EXPECT_EQ(count, BuildingWalk::placed(floor, types)) << array;
+            // A column of one kind of section of the host is no support, so there may be fewer of these.
+            EXPECT_LE(count, BuildingWalk::placed(floor, types)) << array;
+            EXPECT_TRUE(count == BuildingWalk::placed(floor, types) || array == std::string("columns")) << array;
         }
         const Ran walls = write({"wall", "export", "--kind", "brick"}, &floor);
         EXPECT_EQ(walls.json["brickLines"], BuildingWalk::placed(floor, {1003}));
@@ -160,8 +163,8 @@ TEST_P(HonestExportTest, eachFloorsDocumentsHoldWhatTheFloorHas)
         write({"beam", "identify-input"}, &floor);
         const Ran plan = write({"draw"}, &floor);
         int all = 0;
-        for (const int count : floor.drawObjs)
-            all += count;
+        for (const auto &counts : {floor.drawObjs, floor.children})
+            all += std::accumulate(counts.begin(), counts.end(), 0);
         EXPECT_EQ(plan.json["drawn"].toInt() + plan.json["withoutGeometry"].toInt(), all);
     }
 }

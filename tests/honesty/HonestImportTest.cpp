@@ -1,4 +1,5 @@
 #include "BuildingWalk.h"
+#include "Carried.h"
 #include "Cases.h"
 #include "CommandRun.h"
 #include "Mutations.h"
@@ -6,6 +7,8 @@
 #include <QJsonArray>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 using namespace honestytest;
 
@@ -22,11 +25,21 @@ bool isStartValue(const QJsonValue &value)
 bool mayBeLeftOut(const QString &key, const QJsonObject &holder)
 {
     // The type of a draw object is its element's, half of a width is the start of a distance to the left.
-    return key == "type" || key == "subType" || (key == "distanceToLeft" && holder.contains("width")) ||
-           key == "width" || key == "order";
+    return key == "type" || key == "subType" || (key == "distanceToLeft" && holder.contains("width")) || key == "width";
 }
 
-QString squeezed(const QString &text) { return QString(text).remove(' '); }
+/** Entries in the order in which they are made, where they tell it. */
+QJsonArray inOrder(const QJsonArray &entries)
+{
+    std::vector<std::pair<int, QJsonValue>> sorted;
+    for (const QJsonValue entry : entries)
+        sorted.emplace_back(entry.toObject().value("order").toInt(static_cast<int>(sorted.size())), entry);
+    std::stable_sort(sorted.begin(), sorted.end(), [](const auto &a, const auto &b) { return a.first < b.first; });
+    QJsonArray array;
+    for (const auto &entry : sorted)
+        array.append(entry.second);
+    return array;
+}
 
 /** The first member that was sent and did not arrive; empty for none. */
 QString firstLost(const QJsonValue &sent, const QJsonValue &arrived, const QString &place)
@@ -35,6 +48,8 @@ QString firstLost(const QJsonValue &sent, const QJsonValue &arrived, const QStri
         const QJsonObject object = sent.toObject();
         for (const QString &key : object.keys()) {
             const QJsonObject there = arrived.toObject();
+            if (key == "order") // a place that is counted anew
+                continue;
             if (!there.contains(key) && (isStartValue(object[key]) || mayBeLeftOut(key, object)))
                 continue;
             const QString lost = firstLost(object[key], there[key], place + '.' + key);
@@ -46,16 +61,18 @@ QString firstLost(const QJsonValue &sent, const QJsonValue &arrived, const QStri
     if (sent.isArray()) {
         if (sent.toArray().size() != arrived.toArray().size())
             return place + " has another length";
-        for (int i = 0; i < sent.toArray().size(); ++i) {
-            const QString lost = firstLost(sent[i], arrived[i], place + QStringLiteral("[%1]").arg(i));
+        const QJsonArray entries = inOrder(sent.toArray());
+        for (int i = 0; i < entries.size(); ++i) {
+            const QString lost = firstLost(entries.at(i), arrived[i], place + QStringLiteral("[%1]").arg(i));
             if (!lost.isEmpty())
                 return lost;
         }
         return {};
     }
-    const bool isSame = sent == arrived ||
-                        (sent.isString() && squeezed(sent.toString()) == squeezed(arrived.toString())) ||
-                        sent.toVariant().toString() == arrived.toString(); // a number stands for its text
+    const bool isSame =
+        sent == arrived ||
+        (sent.isString() && arrived.isString() && isSameGeometry(sent.toString(), arrived.toString())) ||
+        sent.toVariant().toString() == arrived.toString(); // a number stands for its text
     return isSame ? QString() : place;
 }
 

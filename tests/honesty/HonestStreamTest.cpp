@@ -68,8 +68,9 @@ TEST_F(HonestStreamTest, fileHoldsWhatStandardOutputCarries)
             EXPECT_EQ(result.exitCode, 0);
             EXPECT_TRUE(comparable(result.out) == file) << flags.join(' ').toStdString();
             EXPECT_EQ(result.err.isEmpty(), flags.contains("--quiet"));
-            if (flags.contains("--json"))
+            if (flags.contains("--json")) {
                 EXPECT_FALSE(QJsonDocument::fromJson(result.err).object().isEmpty()) << result.err.toStdString();
+            }
         }
     }
 }

@@ -150,7 +150,7 @@ CarriedKeys slabKeys(const CarriedKeys &own)
 }
 CarriedKeys barKeys(const CarriedKeys &own)
 {
-    return slabKeys(CarriedKeys{text("bar_info"),
+    return slabKeys(CarriedKeys{CarriedKey{"bar_info", How::Bars, QString()},
                                 never("ref_point_x"), // of the label on the drawing
                                 never("ref_point_y"), never("ref_point_valid"), never("row_number")} +
                     own);
@@ -158,26 +158,27 @@ CarriedKeys barKeys(const CarriedKeys &own)
 CarriedKeys areaBarKeys(const CarriedKeys &own)
 {
     return barKeys(CarriedKeys{geometry("surface"), direction("direction_x"), direction("direction_y"),
-                               number("left_hook_length"), number("right_hook_length")} +
+                               near("left_hook_length"), near("right_hook_length")} +
                    own);
 }
 
 const QMap<QString, CarriedKeys> &slabArrays()
 {
-    const CarriedKeys line =
-        barKeys({geometry("line"), number("left_hook_length"), never("right_hook_length"), // the left one once more
-                 number("label_position"), number("left_strech_length"), number("right_strech_length")});
-    const CarriedKeys slabBar{text("distribute_bar_info"), number("saddle_barline_count")};
-    const CarriedKeys straddle{number("label_position"), number("left_strech_length"), number("right_strech_length")};
+    const CarriedKeys line = barKeys(
+        {geometry("line"), near("left_hook_length"), never("right_hook_length"), // the left one once more
+         CarriedKey{"label_position", How::Same, kHosts}, near("left_strech_length"), near("right_strech_length")});
+    const CarriedKeys slabBar{CarriedKey{"distribute_bar_info", How::Bars, QString()}, text("saddle_barline_count")};
+    const CarriedKeys straddle{CarriedKey{"label_position", How::Same, kHosts}, near("left_strech_length"),
+                               near("right_strech_length")};
     static const QMap<QString, CarriedKeys> arrays{
-        {"boards", slabKeys({geometry("surface"), number("thinkness"), near("elev"), never("type")})},
-        {"rafts", slabKeys({geometry("surface"), number("thinkness"), near("topElev"), near("bottomElev")})},
+        {"boards", slabKeys({geometry("surface"), near("thinkness"), near("elev"), never("type")})},
+        {"rafts", slabKeys({geometry("surface"), near("thinkness"), near("topElev"), near("bottomElev")})},
         {"board_holes", slabKeys({geometry("surface"), never("bar_info"), hostText("longSpanReinforceBar"),
                                   hostText("shortSpanReinforceBar"), hostText("obliqueReinforceBar")})},
-        {"forced_bars", areaBarKeys({number("forced_type"), never("SupportPoly")})},
+        {"forced_bars", areaBarKeys({near("forced_type"), never("SupportPoly")})},
         {"negative_forced_bars", line + slabBar},
         {"straddle_forced_bars", areaBarKeys(straddle + slabBar + CarriedKeys{never("SupportPolys")})},
-        {"raft_main_forced_bars", areaBarKeys({number("forced_type")})},
+        {"raft_main_forced_bars", areaBarKeys({near("forced_type")})},
         {"raft_straddle_main_forced_bars", areaBarKeys(straddle)},
         {"raft_negative_forced_bars", line},
     };
