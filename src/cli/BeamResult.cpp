@@ -107,7 +107,9 @@ bool isReadAsAnother(const JsonDifference &difference)
     const QString before = difference.before.toString();
     const QString after = difference.after.toString();
     const bool isLine = difference.keys.last() == beam::key::line && !after.isEmpty();
-    return !isLine && (QUuid(before).isNull() || QUuid(before) != QUuid(after));
+    // A text that is no identity names no segment: the seat is lost and counted so.
+    const bool isLostSeat = difference.keys.last() == beam::key::seatSegmentId && difference.before.isString();
+    return !isLine && !isLostSeat && (QUuid(before).isNull() || QUuid(before) != QUuid(after));
 }
 
 QString howRead(const JsonDifference &difference, const QJsonObject &pattern)

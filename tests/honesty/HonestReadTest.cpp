@@ -119,6 +119,7 @@ INSTANTIATE_TEST_SUITE_P(
                 {"drawings", "floors"},
                 ORVCAD_EXAMPLES "/masonry-block.floor-sdc.json",
                 {"notKept", "notStable"}},
+        Reading{"beamResult", {"beam", "result"}, ORVCAD_TEST_DATA "/honesty/beam-result.json", {"leftOut"}},
         Reading{"columnInput", {"column", "check"}, ORVCAD_EXAMPLES "/precast-hall.column-input.json", {"findings"}},
         Reading{
             "columnResults", {"column", "check"}, ORVCAD_EXAMPLES "/precast-hall.column-results.json", {"findings"}},
