@@ -64,8 +64,7 @@ TEST_F(BeamResultTest, valuesThatAreReadAsOthersAreTold)
     EXPECT_EQ(leftOut.join('\n').toStdString(),
               "labels: is no key of this record, and not read\n"
               "elementInfoList[0].StrSection: is no key of this record, and not read: strSection is one\n"
-              "elementInfoList[0].edoInfos: is not read whole\n"
-              "elementInfoList[0].edoInfos[0]: is not read\n"
+              "elementInfoList[0].edoInfos[0]: is not what is read here, and reads as nothing\n"
               "elementInfoList[0].nElementType: is not what is read here, and reads as 0\n"
               "elementInfoList[0].strName: is not what is read here, and reads as nothing");
 }
