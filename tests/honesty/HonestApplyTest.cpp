@@ -152,10 +152,10 @@ private:
     {
         const QString place = entry["place"].toString();
         const QString pieces = QString(member).replace(".key_", ".value_"); // of a wall
-        for (const QString &start : {member, pieces})
-            if (place == start || place.startsWith(start + '.') || place.startsWith(start + '['))
-                return true;
-        return false;
+        const auto isBelow = [&place](const QString &start) {
+            return place == start || place.startsWith(start + '.') || place.startsWith(start + '[');
+        };
+        return isBelow(member) || isBelow(pieces);
     }
 
     static int numberAt(const QJsonObject &json, const QString &path)

@@ -30,7 +30,7 @@ protected:
         if (floor)
             all += QStringList{"--region", floor->region, "--floor", floor->name};
         const QByteArray before = fileContent("house.hbxdb");
-        const Ran ran = run(all);
+        Ran ran = run(all);
         EXPECT_EQ(ran.exitCode, 0) << arguments.join(' ').toStdString() << '\n' << ran.shown();
         EXPECT_EQ(ran.json["output"], "document");
         EXPECT_FALSE(ran.documentOnStdout);

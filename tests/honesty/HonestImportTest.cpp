@@ -52,7 +52,7 @@ QString firstLost(const QJsonValue &sent, const QJsonValue &arrived, const QStri
                 continue;
             if (!there.contains(key) && (isStartValue(object[key]) || mayBeLeftOut(key, object)))
                 continue;
-            const QString lost = firstLost(object[key], there[key], place + '.' + key);
+            QString lost = firstLost(object[key], there[key], place + '.' + key);
             if (!lost.isEmpty())
                 return lost;
         }
@@ -63,7 +63,7 @@ QString firstLost(const QJsonValue &sent, const QJsonValue &arrived, const QStri
             return place + " has another length";
         const QJsonArray entries = inOrder(sent.toArray());
         for (int i = 0; i < entries.size(); ++i) {
-            const QString lost = firstLost(entries.at(i), arrived[i], place + QStringLiteral("[%1]").arg(i));
+            QString lost = firstLost(entries.at(i), arrived[i], place + QStringLiteral("[%1]").arg(i));
             if (!lost.isEmpty())
                 return lost;
         }

@@ -104,6 +104,7 @@ std::vector<Mutation> Mutations::sample(std::size_t most, unsigned seed) const
     numbers.resize(std::min(most, numbers.size()));
     std::sort(numbers.begin(), numbers.end());
     std::vector<Mutation> picked;
+    picked.reserve(numbers.size());
     for (const std::size_t number : numbers)
         picked.push_back(at(number));
     return picked;
