@@ -137,12 +137,14 @@ private:
         return placed;
     }
 
-    /** The members of which nothing was said: they have to arrive whole. Of bars that lie in no slab nothing is exported. */
+    /** The members of which nothing was said: they have to arrive whole. Of bars that lie in no slab and of walls
+     *  without pieces nothing is exported. */
     static Members untold(const Members &sent, const Members &arrived, const QJsonArray &leftOut)
     {
         Members members;
         for (const Member &member : sent)
-            if ((!member.kind.contains("bars") || countOf(arrived, member.kind) > 0) &&
+            if (member.value["pieces"] != QJsonArray() &&
+                (!member.kind.contains("bars") || countOf(arrived, member.kind) > 0) &&
                 std::none_of(leftOut.begin(), leftOut.end(),
                              [&](const QJsonValue &entry) { return isAbout(entry, member.place); }))
                 members.push_back(member);

@@ -35,7 +35,7 @@ const CarriedKeys &seatKeys()
         when(number("SectinoHeight"), tieBeam),
         never("TopElev"), // of the element; the placed object's arrives
         never("BtmElev"),
-        when(number("Height"), ofType({52, 53, 54})),
+        when(CarriedKey{"Height", How::Same, kHosts}, ofType({52, 53, 54})),
         when(sixDigits("AxisOffset"), tieBeam),
         never("Mirror"),
         never("Angle"),
