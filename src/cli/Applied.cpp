@@ -26,7 +26,17 @@ QString LeftOut::text() const
         .arg(place, name.isEmpty() ? QStringLiteral("no name") : shortened(name), reason);
 }
 
-QJsonObject LeftOut::toJson() const { return {{"place", place}, {"name", name}, {"reason", reason}}; }
+QJsonObject LeftOut::toJson() const
+{
+    return {{"place", place}, {"name", name}, {"reason", reason}, {"whole", isWhole}};
+}
+
+QString leftOutCount(int whole, int parts)
+{
+    const QString members = QStringLiteral("%1 left out").arg(whole);
+    return parts == 0 ? members
+                      : QStringLiteral("%1, and %2 of the rest").arg(members, counted(parts, QStringLiteral("part")));
+}
 
 QJsonArray toJson(const std::vector<LeftOut> &leftOut)
 {

@@ -5,6 +5,7 @@
 #include <QJsonArray>
 #include <QStringList>
 
+#include <algorithm>
 #include <vector>
 
 class IHBXModel;
@@ -21,12 +22,22 @@ struct LeftOut
     QString place; ///< in the document: Beam[3].EDOInfo[0]
     QString name;  ///< of the element
     QString reason;
+    bool isWhole = true; ///< a member was not written; else it was, without this part or value of it
 
     QString text() const;
     QJsonObject toJson() const;
 };
 
 QJsonArray toJson(const std::vector<LeftOut> &leftOut);
+
+/** How much was left out: "2 left out", and ", and 1 part of the rest" where members were written without something. */
+QString leftOutCount(int whole, int parts);
+/** The same for entries of LeftOut, or of a kind of it. */
+template <typename Entry> QString leftOutCount(const std::vector<Entry> &leftOut)
+{
+    const auto whole = std::count_if(leftOut.begin(), leftOut.end(), [](const Entry &entry) { return entry.isWhole; });
+    return leftOutCount(static_cast<int>(whole), static_cast<int>(leftOut.size()) - static_cast<int>(whole));
+}
 
 /** A text of a document for a line of a summary: the first sixty characters, and "…" behind them where there are more. */
 QString shortened(const QString &text);

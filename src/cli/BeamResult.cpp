@@ -5,7 +5,9 @@
 #include "cli/Command.h"
 #include "cli/Counted.h"
 #include "cli/Files.h"
+#include "cli/JsonDifference.h"
 #include "cli/TypeTitles.h"
+#include "cli/UnreadKeys.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -33,6 +35,8 @@ public:
     ReadResult &operator=(const ReadResult &) = delete;
 
     QList<ORVCADBeamEdoInfoTmp *> labels() const { return m_model.getElementInfo(); }
+    /** The document as it is written from what was read. */
+    QJsonObject written() const { return m_model.toJson(); }
 
 private:
     ORVCADBeamIdentifyResultModel m_model;
@@ -95,6 +99,41 @@ QString tableRow(const BeamResult::Label &label)
                     numbers);
 }
 
+/** Whether a value is read as another one; lines have more than one form, and identities, too. */
+bool isReadAsAnother(const JsonDifference &difference)
+{
+    if (difference.before.isUndefined())
+        return false;
+    const QString before = difference.before.toString();
+    const QString after = difference.after.toString();
+    const bool isLine = difference.keys.last() == beam::key::line && !after.isEmpty();
+    // A text that is no identity names no segment: the seat is lost and counted so.
+    const bool isLostSeat = difference.keys.last() == beam::key::seatSegmentId && difference.before.isString();
+    return !isLine && !isLostSeat && (QUuid(before).isNull() || QUuid(before) != QUuid(after));
+}
+
+QString howRead(const JsonDifference &difference, const QJsonObject &pattern)
+{
+    if (difference.after.isUndefined())
+        return difference.keys.size() == 1 ? whyUnread(difference.keys.last(), pattern.keys())
+                                           : QStringLiteral("is not read");
+    if (difference.after.isArray())
+        return difference.before.isArray() ? QStringLiteral("is not read whole") : QStringLiteral("is no array");
+    const QString read = difference.after.toVariant().toString();
+    return read.isEmpty() ? QStringLiteral("is not what is read here, and reads as nothing")
+                          : QStringLiteral("is not what is read here, and reads as %1").arg(read);
+}
+
+/** What of a label is not read as it stands, with its places. */
+QStringList changedIn(const QJsonObject &label, const QJsonObject &written, const QString &place)
+{
+    QStringList changed;
+    for (const JsonDifference &difference : differencesBetween(label, written))
+        if (isReadAsAnother(difference))
+            changed.append(QStringLiteral("%1.%2: %3").arg(place, difference.place, howRead(difference, written)));
+    return changed;
+}
+
 } // namespace
 
 QString BeamResult::table() const
@@ -142,15 +181,25 @@ BeamResult readBeamResult(const QString &path)
                              labels.isUndefined() ? QStringLiteral("is missing: no result of beams")
                                                   : QStringLiteral("is no array"));
     BeamResult result;
+    for (const QString &key : document.keys())
+        if (key != beam::key::labels)
+            result.leftOut.append(QStringLiteral("%1: %2").arg(key, whyUnread(key, {beam::key::labels})));
     QJsonArray records;
+    QStringList places;
     for (int i = 0; i < labels.toArray().size(); ++i) {
         const QJsonValue label = labels.toArray().at(i);
-        if (label.isObject())
-            records.append(label);
-        else
-            result.leftOut.append(QStringLiteral("%1[%2]: is no object").arg(beam::key::labels).arg(i));
+        const QString place = QStringLiteral("%1[%2]").arg(beam::key::labels).arg(i);
+        if (!label.isObject()) {
+            result.leftOut.append(place + QStringLiteral(": is no object"));
+            continue;
+        }
+        records.append(label);
+        places.append(place);
     }
     const ReadResult read(QJsonObject{{beam::key::labels, records}});
+    const QJsonArray written = read.written().value(beam::key::labels).toArray();
+    for (int i = 0; i < records.size(); ++i)
+        result.leftOut += changedIn(records.at(i).toObject(), written.at(i).toObject(), places.at(i));
     const QSet<QUuid> segments = segmentIds(read.labels());
     for (const ORVCADBeamEdoInfoTmp *label : read.labels())
         result.labels.push_back(labelOf(*label, segments));

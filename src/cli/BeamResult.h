@@ -28,7 +28,8 @@ struct BeamResult
     };
 
     std::vector<Label> labels;
-    QStringList leftOut; ///< places, with the reason, of labels that are no records
+    QStringList
+        leftOut; ///< places, with the reason, of labels that are no records and of values that are read as others
 
     QString table() const;
     QJsonObject toJson() const;

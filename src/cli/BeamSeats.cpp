@@ -3,6 +3,7 @@
 #include "ModelSerialization/ORVCADBeamLocalModel2HBXService.h"
 #include "beam/BeamIdentifyInput.h"
 #include "beam/BeamKeys.h"
+#include "cli/ArrivedValues.h"
 #include "cli/Counted.h"
 #include "cli/FloorLookup.h"
 #include "cli/ReplyWriting.h"
@@ -20,6 +21,7 @@
 #include <QJsonArray>
 
 #include <algorithm>
+#include <map>
 
 using namespace beam;
 using hbx::embedded::HBXProject;
@@ -51,6 +53,29 @@ int placedSince(IHBXModel &model, int before)
     return placed;
 }
 
+/** What of a seat is asked of the host again, by its kind. */
+const QStringList &askedKeys(qint64 elementType)
+{
+    static const QStringList foundation{key::worldPoly, key::height, key::edoTopElev, key::edoBtmElev};
+    static const QStringList pile{key::elementSubType, key::type, key::worldPoly, key::height, key::edoTopElev};
+    static const QStringList tieBeam{key::centerLine, key::sectionWidth, key::sectinoHeight,
+                                     key::axisOffset, key::edoTopElev,   key::edoBtmElev};
+    if (elementType == type::tieBeam)
+        return tieBeam;
+    return elementType == type::pile ? pile : foundation;
+}
+
+/** All seats of some floors, by their draw objects. */
+std::map<qint64, QJsonObject> seatsInHost(IHBXModel &model, const QSet<qint64> &floors)
+{
+    ORVCADBeamSDCIdentifyInputModel input(false);
+    getBeamSeatInfo(input, &model, floors);
+    std::map<qint64, QJsonObject> seats;
+    for (const Seat *seat : qAsConst(input.beamSeatInfos))
+        seats[seat->nEDOID] = seat->toJson();
+    return seats;
+}
+
 /** Writes seats one by one and keeps account. */
 class SeatWriter
 {
@@ -65,21 +90,50 @@ public:
         const int elementsBefore = m_model.elements()->count();
         const int drawObjsBefore = m_model.drawObjects()->count();
         const bool isMade = reconstruct(m_service, member.seat);
+        if (IHBXElementDrawObj *object = placedObject(drawObjsBefore)) {
+            m_floors.insert(object->floor()->id());
+            m_placed[object->id()] = &member;
+        }
         SeatOutcome::Kind &kind = kindOf(member.seat->seatElementType);
         int elements = 0;
         for (int i = elementsBefore; i < m_model.elements()->count(); ++i)
             ++(isUnit(*m_model.elements()->at(i)) ? kind.units : elements);
         kind.elements += elements;
         kind.reused += elements == 0 ? 1 : 0;
-        kind.placed += placedSince(m_model, drawObjsBefore);
+        const int placed = placedSince(m_model, drawObjsBefore);
+        kind.placed += placed;
         const QStringList refused = refusedSince(m_project, journalBefore);
         for (const QString &reason : refused)
-            leaveOut(member, QStringLiteral("a value was refused: ") + reason);
-        if (!isMade && refused.isEmpty())
-            leaveOut(member, QStringLiteral("the host did not take it whole"));
+            leaveOut(member, QStringLiteral("a value was refused: ") + reason, false);
+        if (placed == 0)
+            leaveOut(member, QStringLiteral("the host placed nothing"), true);
+        else if (!isMade && refused.isEmpty())
+            leaveOut(member, QStringLiteral("the host did not take it whole"), false);
+    }
+
+    /** Tells what seats have become of each other: those of one element share its units and sizes. */
+    void finish()
+    {
+        const std::map<qint64, QJsonObject> seats = seatsInHost(m_model, m_floors);
+        for (const auto &[id, member] : m_placed) {
+            const auto seat = seats.find(id);
+            if (seat == seats.end())
+                leaveOut(*member, QStringLiteral("the host tells no outline of it"), false);
+            else
+                leaveOutChanged(member->json, seat->second, askedKeys(member->seat->seatElementType), member->place,
+                                member->seat->EntName, m_outcome.leftOut);
+        }
     }
 
 private:
+    /** The first object made that stands by itself; null for none. */
+    IHBXElementDrawObj *placedObject(int before) const
+    {
+        for (int i = before; i < m_model.drawObjects()->count(); ++i)
+            if (!m_model.drawObjects()->at(i)->parent())
+                return m_model.drawObjects()->at(i);
+        return nullptr;
+    }
     SeatOutcome::Kind &kindOf(qint64 elementType)
     {
         auto &kinds = m_outcome.kinds;
@@ -91,15 +145,17 @@ private:
         kinds.back().type = elementType;
         return kinds.back();
     }
-    void leaveOut(const SeatReplyCheck::Member &member, const QString &reason)
+    void leaveOut(const SeatReplyCheck::Member &member, const QString &reason, bool isWhole)
     {
-        m_outcome.leftOut.push_back({member.place, member.seat->EntName, reason});
+        m_outcome.leftOut.push_back({member.place, member.seat->EntName, reason, isWhole});
     }
 
     HBXProject &m_project;
     IHBXModel &m_model;
     Service m_service;
     SeatOutcome &m_outcome;
+    QSet<qint64> m_floors; // with seats that were made
+    std::map<qint64, const SeatReplyCheck::Member *> m_placed;
 };
 
 } // namespace
@@ -122,8 +178,7 @@ QJsonObject SeatOutcome::Kind::toJson() const
 
 QString SeatOutcome::text() const
 {
-    QString text =
-        QStringLiteral("%1 read, %2 left out").arg(counted(members, QStringLiteral("seat"))).arg(leftOut.size());
+    QString text = QStringLiteral("%1 read, %2").arg(counted(members, QStringLiteral("seat")), leftOutCount(leftOut));
     for (const Kind &kind : kinds)
         text += QStringLiteral("\n  ") + kind.text();
     return text + leftOutLines(leftOut) + doubledLine(doubled);

@@ -126,17 +126,25 @@ public:
         if (isWritten)
             for (std::size_t i = 0; i < member.chains.size(); ++i)
                 writeChain(*member.beam->edoInfos[i], member.chains[i], *element, beam);
+        else if (element)
+            for (const int chain : member.chains)
+                leaveOutPart(chainPlace(beam, chain), beam.name,
+                             QStringLiteral("was not made, since the host did not take the element whole"));
         else
-            leaveOut(beam.place, beam.name,
-                     element ? QStringLiteral("the host did not take the element whole; its chains were not made")
-                             : QStringLiteral("the host made no element"));
+            leaveOut(beam.place, beam.name, QStringLiteral("the host made no element"));
         for (const QString &reason : refusedSince(m_project, journalBefore))
-            leaveOut(beam.place, beam.name, QStringLiteral("a value was refused: ") + reason);
+            leaveOutPart(beam.place, beam.name, QStringLiteral("a value was refused: ") + reason);
         if (element)
             m_outcome.beams.push_back(beam);
     }
 
+    void finish() {}
+
 private:
+    static QString chainPlace(const BeamOutcome::Beam &beam, int position)
+    {
+        return QStringLiteral("%1.%2[%3]").arg(beam.place, beam::key::edoInfos).arg(position);
+    }
     void writeChain(BeamEdoInfo &chain, int position, IHBXElement &element, BeamOutcome::Beam &beam)
     {
         const int before = m_model.drawObjects()->count();
@@ -145,11 +153,11 @@ private:
         beam.segments += made;
         if (result != Service::kDone) {
             ++beam.stopped;
-            leaveOut(QStringLiteral("%1.%2[%3]").arg(beam.place, beam::key::edoInfos).arg(position), beam.name,
-                     QStringLiteral("stopped behind %1 of %2, which stay unlinked: %3")
-                         .arg(made)
-                         .arg(counted(static_cast<int>(chain.segments.size()), QStringLiteral("segment")),
-                              stopReason(result)));
+            leaveOutPart(chainPlace(beam, position), beam.name,
+                         QStringLiteral("stopped behind %1 of %2, which stay unlinked: %3")
+                             .arg(made)
+                             .arg(counted(static_cast<int>(chain.segments.size()), QStringLiteral("segment")),
+                                  stopReason(result)));
             return;
         }
         ++beam.chains;
@@ -160,6 +168,10 @@ private:
     void leaveOut(const QString &place, const QString &name, const QString &reason)
     {
         m_outcome.leftOut.push_back({place, name, reason});
+    }
+    void leaveOutPart(const QString &place, const QString &name, const QString &reason)
+    {
+        m_outcome.leftOut.push_back({place, name, reason, false});
     }
 
     HBXProject &m_project;
@@ -224,10 +236,9 @@ BeamCounts BeamOutcome::made() const
 
 QString BeamOutcome::headline() const
 {
-    return QStringLiteral("%1 read: %2 made (and %3 elements reused), %4 left out")
+    return QStringLiteral("%1 read: %2 made (and %3 reused), %4")
         .arg(counted(members, QStringLiteral("beam")), made().text())
-        .arg(reused())
-        .arg(leftOut.size());
+        .arg(counted(reused(), QStringLiteral("element")), leftOutCount(leftOut));
 }
 
 QString BeamOutcome::text() const

@@ -2,6 +2,7 @@
 
 #include "cli/ExpectedValue.h"
 #include "cli/JsonFault.h"
+#include "cli/UnreadKeys.h"
 #include "column/ColumnInputFields.h"
 #include "column/ColumnResultFields.h"
 #include "encoding/GeometryTextReader.h"
@@ -10,7 +11,6 @@
 
 #include <QStringList>
 
-#include <algorithm>
 #include <vector>
 
 namespace orvcad {
@@ -48,7 +48,7 @@ public:
                 lookAt(Tag<Kind>(), *member, Place(place, row.key));
         });
         for (const QString &key : qAsConst(unknown))
-            noteUnknown(place, key, inOtherCase(key, known));
+            noteUnknown(place, key, known);
     }
 
 private:
@@ -62,20 +62,10 @@ private:
         if (!fits(value, kind))
             note(place, QStringLiteral("is not ") + wordFor(kind));
     }
-    /** The first of the keys that differs in the case of its letters alone; empty when there is none. */
-    static QString inOtherCase(const QString &key, const QStringList &keys)
-    {
-        const auto same = [&](const QString &one) { return one.compare(key, Qt::CaseInsensitive) == 0; };
-        const auto found = std::find_if(keys.begin(), keys.end(), same);
-        return found == keys.end() ? QString() : *found;
-    }
-    /** @param meant  a key of the record that may be meant, empty for none */
-    void noteUnknown(const Place &place, const QString &key, const QString &meant)
+    void noteUnknown(const Place &place, const QString &key, const QStringList &known)
     {
         const QString holder = place.text();
-        const QString reason = QStringLiteral("is no key of this record, and not read");
-        m_findings.push_back({holder.isEmpty() ? key : holder + u'.' + key,
-                              meant.isEmpty() ? reason : QStringLiteral("%1: %2 is one").arg(reason, meant)});
+        m_findings.push_back({holder.isEmpty() ? key : holder + u'.' + key, whyUnread(key, known)});
     }
 
     void lookAt(Plain<QString>, const QJsonValue &value, const Place &place) { expect(value, Expected::Text, place); }

@@ -103,6 +103,8 @@ std::optional<JsonFault> drawingSetFault(const QJsonObject &set)
     return firstFault(set, kSet);
 }
 
+std::vector<JsonFault> unreadInDrawingSet(const QJsonObject &set) { return unknownMembers(set, kSet); }
+
 QJsonObject readDrawingSet(const QString &path)
 {
     QJsonObject set = readJsonObject(path, QStringLiteral("drawing-set file"));

@@ -79,8 +79,13 @@ QStringList floorLines(const std::vector<Floor> &floors)
 
 Summary showDrawingSet(const Arguments &arguments)
 {
-    const DrawingSetInfo info(readDrawingSet(Arguments::text(arguments.input)));
-    return {info.text(), info.toJson()};
+    const QJsonObject set = readDrawingSet(Arguments::text(arguments.input));
+    const DrawingSetInfo info(set);
+    const std::vector<JsonFault> notRead = unreadInDrawingSet(set);
+    QJsonObject json = info.toJson();
+    json["notRead"] = faultsToJson(notRead);
+    const QStringList lines = QStringList(info.text()) + faultLines(QStringLiteral("not read"), notRead);
+    return {lines.join('\n'), json, notRead.empty() ? kDone : kLeftOut};
 }
 
 Summary showFloorExchange(const Arguments &arguments)
@@ -100,7 +105,7 @@ Summary showFloorExchange(const Arguments &arguments)
              {"same", differences == 0},
              {"notKept", faultsToJson(exchange.notKept)},
              {"notStable", faultsToJson(exchange.notStable)}},
-            kDone,
+            exchange.lost == 0 ? kDone : kLeftOut,
             onStdout};
 }
 

@@ -5,6 +5,10 @@
 #include "cli/JsonDifference.h"
 #include "drawing/DrawingKeys.h"
 
+#include <QJsonArray>
+
+#include <algorithm>
+
 namespace orvcad {
 
 namespace {
@@ -95,6 +99,19 @@ QString reasonOf(const JsonDifference &difference)
     return QStringLiteral("is written as another value");
 }
 
+/** An empty list of settings says as little as none. */
+bool isLoss(const JsonDifference &difference)
+{
+    return !difference.before.isUndefined() &&
+           !(difference.before.isArray() && difference.before.toArray().isEmpty() && isKnown(difference.keys));
+}
+
+int lossesBetween(const QJsonObject &before, const QJsonObject &after)
+{
+    const auto all = differencesBetween(before, after);
+    return static_cast<int>(std::count_if(all.begin(), all.end(), isLoss));
+}
+
 Faults differences(const QJsonObject &before, const QJsonObject &after)
 {
     Faults faults;
@@ -132,6 +149,7 @@ FloorExchange readFloorExchange(const QString &path)
     exchange.floors = readFloors(document, path);
     exchange.written = format.serialize(exchange.floors);
     exchange.notKept = differences(document, exchange.written);
+    exchange.lost = lossesBetween(document, exchange.written);
     exchange.notStable = differences(exchange.written, format.serialize(readFloors(exchange.written, path)));
     return exchange;
 }

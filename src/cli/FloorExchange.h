@@ -17,6 +17,7 @@ struct FloorExchange
     std::vector<ORVCADFloorSDCData::Floor> floors;
     QJsonObject written;              ///< the document again
     std::vector<JsonFault> notKept;   ///< what the document has and the written one lacks or has otherwise
+    int lost = 0;                     ///< of these, values that are in the written one nowhere
     std::vector<JsonFault> notStable; ///< the same between the written one and what is written after reading that
 };
 

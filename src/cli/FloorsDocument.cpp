@@ -1,7 +1,9 @@
 #include "cli/FloorsDocument.h"
 
 #include "cli/Command.h"
+#include "cli/ExpectedValue.h"
 #include "cli/Files.h"
+#include "cli/UnreadKeys.h"
 #include "drawing/DrawingKeys.h"
 #include "drawing/ORVCADFloor.h"
 #include "drawing/ORVCADFloors.h"
@@ -34,6 +36,48 @@ QString reasonToSkip(const QJsonValue &member)
     return floor ? QString() : QStringLiteral("lacks one of Name, BottomElev, Height, StdCount, Remark");
 }
 
+struct KeyKind
+{
+    QLatin1String key;
+    Expected kind;
+};
+constexpr KeyKind kFloorKeys[] = {{drawing::key::name, Expected::Text},
+                                  {drawing::key::bottomElev, Expected::Number},
+                                  {drawing::key::height, Expected::Number},
+                                  {drawing::key::stdCount, Expected::Integer},
+                                  {drawing::key::remark, Expected::Text}};
+
+/** What of a floor that is read is not read as it stands. */
+QStringList changedIn(const QJsonObject &floor)
+{
+    QStringList known{drawing::key::code}; // never read, whatever it is
+    QStringList changed;
+    for (const KeyKind &expected : kFloorKeys) {
+        known.append(expected.key);
+        if (!fits(floor.value(expected.key), expected.kind))
+            changed.append(QStringLiteral("%1: is not %2, and reads as %3")
+                               .arg(expected.key, wordFor(expected.kind),
+                                    expected.kind == Expected::Text ? QStringLiteral("nothing") : QStringLiteral("0")));
+    }
+    for (const QString &key : floor.keys())
+        if (!known.contains(key))
+            changed.append(QStringLiteral("%1: %2").arg(key, whyUnread(key, known)));
+    return changed;
+}
+
+/** The same of the document around the floors. */
+QStringList changedAround(const QJsonObject &document)
+{
+    const QStringList known{drawing::key::areaName, drawing::key::floors};
+    QStringList changed;
+    if (!document.value(drawing::key::areaName).isString())
+        changed.append(QStringLiteral("%1: is not text, and reads as nothing").arg(drawing::key::areaName));
+    for (const QString &key : document.keys())
+        if (!known.contains(key))
+            changed.append(QStringLiteral("%1: %2").arg(key, whyUnread(key, known)));
+    return changed;
+}
+
 } // namespace
 
 std::unique_ptr<ORVCADFloors> floorsOfRegion(IHBXRegion &region)
@@ -55,12 +99,16 @@ FloorsDocument readFloorsDocument(const QString &path)
     const QJsonValue members = json[drawing::key::floors];
     if (!members.isArray())
         throw CommandFailure(kBadInput, path, drawing::key::floors, QStringLiteral("is no array"));
+    document.leftOut = changedAround(json);
     int index = 0;
     for (const QJsonValue &member : members.toArray()) {
+        const QString place = QStringLiteral("%1[%2]").arg(drawing::key::floors).arg(index++);
         const QString reason = reasonToSkip(member);
         if (!reason.isEmpty())
-            document.leftOut.append(QStringLiteral("%1[%2]: %3").arg(drawing::key::floors).arg(index).arg(reason));
-        ++index;
+            document.leftOut.append(place + QStringLiteral(": ") + reason);
+        else
+            for (const QString &changed : changedIn(member.toObject()))
+                document.leftOut.append(place + u'.' + changed);
     }
     return document;
 }

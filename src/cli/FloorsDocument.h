@@ -14,7 +14,7 @@ namespace orvcad {
 struct FloorsDocument
 {
     std::unique_ptr<ORVCADFloors> floors;
-    QStringList leftOut; ///< place and reason of each floor that was skipped
+    QStringList leftOut; ///< place and reason of each floor that was skipped, and of each value that is read as another
 };
 
 /** The floors of a region of the host, with its name as the area's, in the host's order. */

@@ -171,4 +171,36 @@ std::optional<JsonFault> firstFault(const QJsonValue &value, const JsonShape &sh
     return fault;
 }
 
+namespace {
+
+using Faults = std::vector<JsonFault>;
+
+void addUnknown(const QJsonValue &value, const JsonShape &shape, const QString &place, Faults &faults)
+{
+    const QJsonObject object = value.toObject();
+    for (auto member = object.begin(); member != object.end(); ++member) {
+        const JsonShape::Member *known = shape.kind == Kind::Object ? shape.member(member.key()) : nullptr;
+        const JsonShape *below = known ? known->shape : shape.element;
+        if (shape.kind == Kind::Object && !known)
+            faults.push_back({place + step(member.key()), QStringLiteral("is no member of this format, and not read")});
+        else if (below)
+            addUnknown(*member, *below, place + step(member.key()), faults);
+    }
+    const QJsonArray list = value.toArray();
+    for (int i = 0; shape.kind == Kind::List && i < list.size(); ++i)
+        addUnknown(list.at(i), *shape.element, place + step(i), faults);
+}
+
+} // namespace
+
+std::vector<JsonFault> unknownMembers(const QJsonValue &value, const JsonShape &shape)
+{
+    Faults faults;
+    addUnknown(value, shape, {}, faults);
+    for (JsonFault &fault : faults)
+        if (fault.place.startsWith(QLatin1Char('.')))
+            fault.place.remove(0, 1);
+    return faults;
+}
+
 } // namespace orvcad

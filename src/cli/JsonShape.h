@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <vector>
 
 namespace orvcad {
 
@@ -68,5 +69,8 @@ constexpr JsonShape orEmpty(JsonShape shape)
 /** The first value that is not what it has to be, in the order of the shape; nothing for a sound document. Goes no deeper
  *  than the shape, however deep the document is. */
 std::optional<JsonFault> firstFault(const QJsonValue &value, const JsonShape &shape);
+
+/** Members of a sound document that the shape does not know, wherever it allows them: nobody reads them. */
+std::vector<JsonFault> unknownMembers(const QJsonValue &value, const JsonShape &shape);
 
 } // namespace orvcad

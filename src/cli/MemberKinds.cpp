@@ -1,7 +1,9 @@
 #include "cli/MemberKinds.h"
 
 #include "cli/ExpectedValue.h"
+#include "encoding/GeometryFields.h"
 #include "encoding/GeometryTextReader.h"
+#include "platform/embedded/ExchangeGeometry.h"
 #include "platform/geometry/KernelTolerance.h"
 
 namespace orvcad {
@@ -46,6 +48,18 @@ QString whyNotAxis(QLatin1String key, const QString &text)
     if (!GeometryTextReader::reconstructCurve(text, axis))
         return QStringLiteral("%1 is no curve").arg(key);
     return axis->Length() > vks::g_DistEpsilon ? QString() : QStringLiteral("%1 has no length").arg(key);
+}
+
+QString whyNotOutline(QLatin1String key, const QString &text)
+{
+    if (!encoding::KernelText::polygon(text))
+        return QStringLiteral("%1 is no outline").arg(key);
+    try {
+        hbx::embedded::polygonFromJson(text, dwgx::JsonPlace());
+        return {};
+    } catch (const dwgx::JsonRefusal &refusal) {
+        return QStringLiteral("%1 %2").arg(key, refusal.reason);
+    }
 }
 
 } // namespace orvcad

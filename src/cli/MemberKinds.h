@@ -17,4 +17,7 @@ QString wrongKey(const QJsonObject &member, const QJsonObject &pattern, const QS
  *  may have. */
 QString whyNotAxis(QLatin1String key, const QString &text);
 
+/** Why the text of an outline cannot be taken; empty when it can: it is closed, does not cross itself, and has an area. */
+QString whyNotOutline(QLatin1String key, const QString &text);
+
 } // namespace orvcad

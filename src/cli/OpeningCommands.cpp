@@ -36,9 +36,8 @@ Summary applyReply(const Arguments &arguments)
 {
     const QString input = Arguments::text(arguments.input);
     const auto project = openProject(Arguments::text(arguments.project));
-    const QJsonArray members = openingMembers(readJsonFile(input).object(), input);
-    const OpeningOutcome outcome = applyOpenings(*project, members);
-    return saveApplied(*project, outcome.leftOut.empty(), arguments.strict, outcome.text(), outcome.toJson());
+    const QJsonObject reply = readJsonFile(input).object();
+    return saveApplied(*project, applyOpenings(*project, openingMembers(reply, input)), arguments.strict);
 }
 
 Summary exportOptions(const Arguments &arguments)

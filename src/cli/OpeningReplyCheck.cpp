@@ -3,6 +3,7 @@
 #include "cli/ExpectedValue.h"
 #include "cli/FloorLookup.h"
 #include "cli/OpeningTypes.h"
+#include "cli/UnreadKeys.h"
 #include "doorwindow/DoorWindowKeys.h"
 #include "platform/host/IHBXElement.h"
 #include "platform/host/IHBXElements.h"
@@ -17,27 +18,54 @@ namespace orvcad {
 
 namespace {
 
+/** What stands under a key of a member. */
 struct KeyKind
 {
     QLatin1String key;
     Expected kind;
+    bool isRequired = false; ///< without it the opening would have no size or no place
 };
 constexpr KeyKind kElementKeys[] = {
-    {key::name, Expected::Text},      {key::elementType, Expected::Integer}, {key::elementSubType, Expected::Integer},
-    {key::height, Expected::Integer}, {key::width, Expected::Integer},       {key::heightFromFloor, Expected::Integer},
-    {key::floorName, Expected::Text}, {key::regionName, Expected::Text},
+    {key::name, Expected::Text},
+    {key::elementType, Expected::Integer},
+    {key::elementSubType, Expected::Integer},
+    {key::height, Expected::Integer, true},
+    {key::width, Expected::Integer, true},
+    {key::heightFromFloor, Expected::Integer},
+    {key::floorName, Expected::Text},
+    {key::regionName, Expected::Text},
 };
 constexpr KeyKind kPlacedKeys[] = {
-    {key::elementName, Expected::Text},        {key::x, Expected::Number},       {key::y, Expected::Number},
+    {key::elementName, Expected::Text},        {key::x, Expected::Number, true}, {key::y, Expected::Number, true},
     {key::heightFromFloor, Expected::Integer}, {key::floorName, Expected::Text}, {key::regionName, Expected::Text},
 };
 
-template <std::size_t Count> QString mistypedKey(const QJsonObject &member, const KeyKind (&keys)[Count])
+template <std::size_t Count> QString wrongKeyOf(const QJsonObject &member, const KeyKind (&keys)[Count])
 {
-    for (const KeyKind &expected : keys)
-        if (member.contains(expected.key) && !fits(member[expected.key], expected.kind))
+    for (const KeyKind &expected : keys) {
+        const bool isThere = member.contains(expected.key);
+        if (!isThere && expected.isRequired)
+            return QStringLiteral("%1 is missing").arg(expected.key);
+        if (isThere && !fits(member[expected.key], expected.kind))
             return QStringLiteral("%1 is not %2").arg(expected.key, wordFor(expected.kind));
+    }
     return {};
+}
+
+template <std::size_t Count> QStringList keysOf(const KeyKind (&keys)[Count])
+{
+    QStringList known;
+    for (const KeyKind &expected : keys)
+        known.append(expected.key);
+    return known;
+}
+
+/** Keys of an element or of a placed object, whichever the member is. */
+const QStringList &keysOf(const QJsonObject &member)
+{
+    static const QStringList ofElement = QStringList(key::elementId) + keysOf(kElementKeys);
+    static const QStringList ofPlaced = keysOf(kPlacedKeys);
+    return member.contains(key::elementId) ? ofElement : ofPlaced;
 }
 
 QString elementNameOf(const QJsonObject &member)
@@ -49,14 +77,29 @@ QString elementNameOf(const QJsonObject &member)
 
 QString OpeningReplyCheck::LeftOut::text() const
 {
-    return QStringLiteral("member %1 (%2): %3")
+    return QStringLiteral("member %1%2 (%3): %4")
         .arg(index)
-        .arg(name.isEmpty() ? QStringLiteral("no name") : name, reason);
+        .arg(place.mid(placeOf(index).size()), name.isEmpty() ? QStringLiteral("no name") : shortened(name), reason);
 }
 
 QJsonObject OpeningReplyCheck::LeftOut::toJson() const
 {
-    return {{"index", index}, {"name", name}, {"reason", reason}};
+    QJsonObject json = orvcad::LeftOut::toJson();
+    json["index"] = index;
+    return json;
+}
+
+QString OpeningReplyCheck::placeOf(int index)
+{
+    return QStringLiteral("%1.%2[%3]").arg(key::reply, key::elementsAndEdos).arg(index);
+}
+
+OpeningReplyCheck::LeftOut OpeningReplyCheck::leftOut(int index, orvcad::LeftOut told)
+{
+    LeftOut leftOut;
+    static_cast<orvcad::LeftOut &>(leftOut) = std::move(told);
+    leftOut.index = index;
+    return leftOut;
 }
 
 OpeningReplyCheck::OpeningReplyCheck(IHBXModel &model, const QJsonArray &members)
@@ -67,10 +110,20 @@ OpeningReplyCheck::OpeningReplyCheck(IHBXModel &model, const QJsonArray &members
         const QJsonObject member = members[index].toObject();
         const QString reason = members[index].isObject() ? whyNot(index, member) : QStringLiteral("is no object");
         if (reason.isEmpty())
-            m_sound.append(member);
+            take(index, member);
         else
-            m_leftOut.push_back({index, elementNameOf(member), reason});
+            m_leftOut.push_back(leftOut(index, {placeOf(index), elementNameOf(member), reason}));
     }
+}
+
+void OpeningReplyCheck::take(int index, const QJsonObject &member)
+{
+    m_sound.append(member);
+    m_soundPlaces.push_back(index);
+    std::vector<orvcad::LeftOut> unread;
+    leaveOutUnread(member, keysOf(member), placeOf(index), elementNameOf(member), unread);
+    for (const orvcad::LeftOut &key : unread)
+        m_leftOut.push_back(leftOut(index, key));
 }
 
 void OpeningReplyCheck::noteElementPlaces(const QJsonArray &members)
@@ -88,9 +141,9 @@ void OpeningReplyCheck::noteElementPlaces(const QJsonArray &members)
 QString OpeningReplyCheck::whyNot(int index, const QJsonObject &member)
 {
     const bool isElement = member.contains(key::elementId);
-    QString mistyped = isElement ? mistypedKey(member, kElementKeys) : mistypedKey(member, kPlacedKeys);
-    if (!mistyped.isEmpty())
-        return mistyped;
+    QString wrong = isElement ? wrongKeyOf(member, kElementKeys) : wrongKeyOf(member, kPlacedKeys);
+    if (!wrong.isEmpty())
+        return wrong;
     return isElement ? whyNotElement(member) : whyNotPlaced(index, member);
 }
 

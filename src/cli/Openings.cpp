@@ -32,29 +32,59 @@ const QSet<qint64> &openingTypes()
     return types;
 }
 
-/** Counts what has come since the model had so many elements and draw objects: ids only ever grow. */
-OpeningCounts countNew(IHBXModel &model, int elementsBefore, int drawObjsBefore)
+/** Writes members one by one, so that what the host says is about one of them, and keeps account. */
+class OpeningWriter
 {
-    OpeningCounts counts;
-    counts.elements = model.elements()->count() - elementsBefore;
-    counts.placed = model.drawObjects()->count() - drawObjsBefore;
-    for (int i = drawObjsBefore; i < model.drawObjects()->count(); ++i)
-        if (model.drawObjects()->at(i)->parent())
-            ++counts.attached;
-    return counts;
-}
+public:
+    OpeningWriter(HBXProject &project, OpeningOutcome &outcome)
+        : m_project(project), m_model(*project.service()->model()), m_outcome(outcome)
+    {}
+
+    void write(int index, const QJsonObject &member)
+    {
+        const std::size_t journalBefore = m_project.journal().entries().size();
+        const int elementsBefore = m_model.elements()->count();
+        const int drawObjsBefore = m_model.drawObjects()->count();
+        const QJsonObject alone{{key::elementsAndEdos, QJsonArray{member}}};
+        jsonDoorWin2HBX(m_project.service(), {{key::reply, alone}});
+        const int made = m_model.elements()->count() - elementsBefore;
+        const int placed = m_model.drawObjects()->count() - drawObjsBefore;
+        m_outcome.made.elements += made;
+        m_outcome.made.placed += placed;
+        if (placed > 0 && m_model.drawObjects()->at(drawObjsBefore)->parent())
+            ++m_outcome.made.attached;
+        const bool isMade = made + placed > 0;
+        const QStringList refused = refusedSince(m_project, journalBefore);
+        for (const QString &reason : refused)
+            leaveOut(index, member, QStringLiteral("a value was refused: ") + reason, false);
+        if (!isMade)
+            leaveOut(index, member, QStringLiteral("the host did not make it"), true);
+    }
+
+private:
+    void leaveOut(int index, const QJsonObject &member, const QString &reason, bool isWhole)
+    {
+        const QString name = member[member.contains(key::elementId) ? key::name : key::elementName].toString();
+        m_outcome.leftOut.push_back(
+            OpeningReplyCheck::leftOut(index, {OpeningReplyCheck::placeOf(index), name, reason, isWhole}));
+    }
+
+    HBXProject &m_project;
+    IHBXModel &m_model;
+    OpeningOutcome &m_outcome;
+};
 
 } // namespace
 
 QString OpeningOutcome::text() const
 {
     const QString text =
-        QStringLiteral("%1 read: %2 made, %3 placed (%4 in a wall, %5 in none), %6 left out")
+        QStringLiteral("%1 read: %2 made, %3 placed (%4 in a wall, %5 in none), %6")
             .arg(counted(members, QStringLiteral("member")), counted(made.elements, QStringLiteral("element")),
                  counted(made.placed, QStringLiteral("opening")))
             .arg(made.attached)
             .arg(made.placed - made.attached)
-            .arg(leftOut.size());
+            .arg(leftOutCount(leftOut));
     QStringList lines;
     for (const auto &member : leftOut)
         lines.append(QStringLiteral("left out: ") + member.text());
@@ -118,12 +148,10 @@ OpeningOutcome applyOpenings(HBXProject &project, const QJsonArray &members)
     outcome.members = check.memberCount();
     outcome.leftOut = check.leftOut();
 
-    const int elementsBefore = model.elements()->count();
-    const int drawObjsBefore = model.drawObjects()->count();
     const HBXBatch batch(model, "orvcad opening apply");
-    const QJsonObject sound{{key::elementsAndEdos, check.sound()}};
-    jsonDoorWin2HBX(project.service(), {{key::reply, sound}});
-    outcome.made = countNew(model, elementsBefore, drawObjsBefore);
+    OpeningWriter writer(project, outcome);
+    for (int i = 0; i < check.sound().size(); ++i)
+        writer.write(check.soundPlaces()[static_cast<std::size_t>(i)], check.sound().at(i).toObject());
     return outcome;
 }
 

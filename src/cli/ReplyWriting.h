@@ -12,7 +12,8 @@ namespace orvcad {
 /** Writes the sound members of a reply into a project, between the brackets of one batch, and tells what came of it.
  *  Nothing is saved.
  *  @tparam Outcome  has members, leftOut and doubled, which are filled here
- *  @tparam Writer   made of project and outcome; its write() takes one member and keeps account of it
+ *  @tparam Writer   made of project and outcome; its write() takes one member and keeps account of it, its
+ *                  finish() comes behind the last one
  *  @param check     has memberCount(), leftOut() and sound() */
 template <typename Outcome, typename Writer, typename Check>
 Outcome writeSound(hbx::embedded::HBXProject &project, const Check &check, const char *batchKey)
@@ -26,6 +27,7 @@ Outcome writeSound(hbx::embedded::HBXProject &project, const Check &check, const
     Writer writer(project, outcome);
     for (const auto &member : check.sound())
         writer.write(member);
+    writer.finish();
     outcome.doubled = doubledSince(model, drawObjsBefore);
     return outcome;
 }

@@ -18,15 +18,30 @@ using Seat = ORVBeamSDCSeatInfoModel;
 const QStringList kSeatWhole{key::elementType, key::elementSubType, key::sectionWidth, key::sectinoHeight, key::height};
 const QStringList kSeatRequired{key::entName, key::elementType, key::floorName, key::regionName};
 
+const QJsonObject &pattern()
+{
+    static const QJsonObject fresh = Seat().toJson();
+    return fresh;
+}
+
 /** A seat stands where its outline is, a tie beam where its centre line is. */
-QString whyNotPlace(const Seat &seat)
+QString whyNotPlace(const Seat &seat, const QJsonObject &member)
 {
     if (seat.seatElementType != type::tieBeam)
-        return seat.ipWorldPoly ? QString() : QStringLiteral("%1 is no outline").arg(key::worldPoly);
+        return whyNotOutline(key::worldPoly, member.value(key::worldPoly).toString());
     if (!seat.ipCenterLine)
         return QStringLiteral("%1 is no curve").arg(key::centerLine);
     return seat.ipCenterLine->Length() > vks::g_DistEpsilon ? QString()
                                                             : QStringLiteral("%1 has no length").arg(key::centerLine);
+}
+
+/** Sizes of what is made of them. */
+QString whyNotSize(const QJsonObject &member)
+{
+    for (const QLatin1String size : {key::sectionWidth, key::sectinoHeight, key::height})
+        if (member.value(size).toInt() < 0)
+            return QStringLiteral("%1 is below 0").arg(size);
+    return {};
 }
 
 QString whyNotType(int elementType, const ReplyArray &array)
@@ -47,24 +62,22 @@ const std::vector<ReplyArray> &seatArrays()
     return arrays;
 }
 
-SeatReplyCheck::SeatReplyCheck(IHBXModel &model, const QJsonObject &reply, const QString &file) : m_model(model)
+SeatReplyCheck::SeatReplyCheck(IHBXModel &model, const QJsonObject &reply, const QString &file) : ArrayReplyCheck(model)
 {
-    forEachMember(reply, file, seatArrays(), QStringLiteral("document of seats"),
-                  [&](const ReplyArray &array, const QString &place, const QJsonValue &member) {
-                      ++m_memberCount;
-                      look(place, member, array);
-                  });
+    lookThrough(
+        reply, file, seatArrays(), QStringLiteral("document of seats"),
+        [&](const ReplyArray &array, const QString &place, const QJsonValue &member) { look(place, member, array); });
 }
 
 void SeatReplyCheck::look(const QString &place, const QJsonValue &value, const ReplyArray &array)
 {
     const QJsonObject member = value.toObject();
+    const QString name = member.value(key::entName).toString();
     const QString reason = whyNot(value, array);
-    if (!reason.isEmpty()) {
-        m_leftOut.push_back({place, member.value(key::entName).toString(), reason});
-        return;
-    }
-    m_sound.push_back({place, std::make_shared<Seat>()});
+    if (!reason.isEmpty())
+        return leaveOut(place, name, reason);
+    leaveOutUnread(member, pattern().keys(), place, name, m_leftOut);
+    m_sound.push_back({place, std::make_shared<Seat>(), member});
     m_sound.back().seat->fromJson(member);
 }
 
@@ -73,8 +86,7 @@ QString SeatReplyCheck::whyNot(const QJsonValue &value, const ReplyArray &array)
     const QJsonObject member = value.toObject();
     if (!value.isObject())
         return QStringLiteral("is no object");
-    static const QJsonObject pattern = Seat().toJson();
-    QString reason = wrongKey(member, pattern, kSeatWhole, kSeatRequired);
+    QString reason = wrongKey(member, pattern(), kSeatWhole, kSeatRequired);
     if (reason.isEmpty())
         reason = whyNotType(member.value(key::elementType).toInt(), array);
     if (reason.isEmpty() && member.value(key::entName).toString().isEmpty())
@@ -82,11 +94,13 @@ QString SeatReplyCheck::whyNot(const QJsonValue &value, const ReplyArray &array)
     if (reason.isEmpty())
         floorOfNames(m_model, member.value(key::regionName).toString(), member.value(key::floorName).toString(),
                      reason);
+    if (reason.isEmpty())
+        reason = whyNotSize(member);
     if (!reason.isEmpty())
         return reason;
     Seat seat;
     seat.fromJson(member);
-    return whyNotPlace(seat);
+    return whyNotPlace(seat, member);
 }
 
 } // namespace orvcad

@@ -1,15 +1,9 @@
 #pragma once
 
-#include "cli/Applied.h"
-#include "cli/ReplyArrays.h"
-
-#include <QJsonObject>
-#include <QString>
+#include "cli/ArrayReplyCheck.h"
 
 #include <memory>
-#include <vector>
 
-class IHBXModel;
 class ORVBeamSDCSeatInfoModel;
 
 namespace orvcad {
@@ -17,33 +11,27 @@ namespace orvcad {
 /** The arrays of the seats that can be made anew: foundations before piles before tie beams. */
 const std::vector<ReplyArray> &seatArrays();
 
+/** A seat of a document that can be written. */
+struct CheckedSeat
+{
+    QString place; ///< etPile[3]
+    std::shared_ptr<ORVBeamSDCSeatInfoModel> seat;
+    QJsonObject json; ///< of which it is made
+};
+
 /** Looks through a document of seats before it is written into a model, and says of each seat that the model would not take,
  *  or would take for something else, why not. Nothing is changed. */
-class SeatReplyCheck
+class SeatReplyCheck : public ArrayReplyCheck<CheckedSeat>
 {
 public:
-    struct Member
-    {
-        QString place; ///< etPile[3]
-        std::shared_ptr<ORVBeamSDCSeatInfoModel> seat;
-    };
+    using Member = CheckedSeat;
 
     /** Throws CommandFailure naming file and place when the document holds no seats. */
     SeatReplyCheck(IHBXModel &model, const QJsonObject &reply, const QString &file);
 
-    /** The seats that can be written, kind by kind. */
-    const std::vector<Member> &sound() const { return m_sound; }
-    const std::vector<LeftOut> &leftOut() const { return m_leftOut; }
-    int memberCount() const { return m_memberCount; }
-
 private:
     void look(const QString &place, const QJsonValue &value, const ReplyArray &array);
     QString whyNot(const QJsonValue &value, const ReplyArray &array) const;
-
-    IHBXModel &m_model;
-    std::vector<Member> m_sound;
-    std::vector<LeftOut> m_leftOut;
-    int m_memberCount = 0;
 };
 
 } // namespace orvcad

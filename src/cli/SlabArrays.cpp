@@ -64,6 +64,8 @@ QJsonObject SlabArray::pattern() const
     return member;
 }
 
+QStringList SlabArray::keys() const { return emptyMember(*this).keys(); }
+
 const std::vector<SlabArray> &slabArrays()
 {
     namespace type = hbx::type;

@@ -27,6 +27,8 @@ struct SlabArray
     QLatin1String geometryKey() const;
     /** A member with each key that is read, of the kind that its value has to have. */
     QJsonObject pattern() const;
+    /** Keys that a member may have; some of them are passed over. */
+    QStringList keys() const;
 };
 
 /** In the order in which a reply is written into a project: what bars lie in goes first. */

@@ -2,12 +2,15 @@
 
 #include "cli/ExpectedValue.h"
 #include "cli/MemberKinds.h"
+#include "cli/UnreadKeys.h"
 #include "encoding/GeometryFields.h"
+#include "platform/geometry/KernelTolerance.h"
 #include "slab/SlabKeys.h"
 
 #include <QJsonArray>
 
 #include <algorithm>
+#include <cmath>
 
 using namespace slab;
 
@@ -15,11 +18,35 @@ namespace orvcad {
 
 namespace {
 
+constexpr double kShortestDirection = 1e-9; // of a vector whose length does not count
+constexpr double kFarthestLabel = 1e9;      // mm: beyond it coordinates lose what a bar is drawn by
+
 QString whyNotGeometry(const SlabArray &array, const QString &text)
 {
-    if (array.geometry == SlabArray::Geometry::Line)
-        return encoding::KernelText::curve(text) ? QString() : QStringLiteral("line is no curve");
-    return encoding::KernelText::polygon(text) ? QString() : QStringLiteral("surface is no outline");
+    if (array.geometry == SlabArray::Geometry::Outline)
+        return encoding::KernelText::polygon(text) ? QString() : QStringLiteral("surface is no outline");
+    const auto line = encoding::KernelText::curve(text);
+    if (!line)
+        return QStringLiteral("line is no curve");
+    return line->Length() > vks::g_DistEpsilon ? QString() : QStringLiteral("line has no length");
+}
+
+/** What keeps a bar from being drawn: along its direction, or to both sides of its line, through the point of its label. */
+QString whyNotDrawn(const SlabArray &array, const QJsonObject &member)
+{
+    const auto number = [&member](QLatin1String key) { return member.value(key).toDouble(); };
+    if (!array.required.contains(key::barInfo))
+        return {};
+    if (array.geometry == SlabArray::Geometry::Line) {
+        if (number(key::leftStretchLength) + number(key::rightStretchLength) <= vks::g_DistEpsilon)
+            return QStringLiteral("it stretches to neither side of its line");
+    } else if (std::hypot(number(key::directionX), number(key::directionY)) <= kShortestDirection) {
+        return QStringLiteral("its direction has no length");
+    }
+    for (const QLatin1String key : {key::refPointX, key::refPointY})
+        if (std::fabs(number(key)) > kFarthestLabel)
+            return QStringLiteral("%1 lies beyond %2 m").arg(key, QString::number(kFarthestLabel / 1000, 'f', 0));
+    return {};
 }
 
 QString whyNot(const SlabArray &array, const QJsonValue &value, const QJsonObject &pattern)
@@ -28,7 +55,9 @@ QString whyNot(const SlabArray &array, const QJsonValue &value, const QJsonObjec
     if (!value.isObject())
         return QStringLiteral("is no object");
     QString wrong = wrongKey(member, pattern, array.whole, array.required);
-    return wrong.isEmpty() ? whyNotGeometry(array, member.value(array.geometryKey()).toString()) : wrong;
+    if (wrong.isEmpty())
+        wrong = whyNotGeometry(array, member.value(array.geometryKey()).toString());
+    return wrong.isEmpty() ? whyNotDrawn(array, member) : wrong;
 }
 
 bool hasAnyArray(const QJsonObject &model)
@@ -55,16 +84,20 @@ QJsonObject slabModelOf(const QJsonObject &document, const QString &file)
 
 SlabReplyCheck::SlabReplyCheck(const QJsonObject &model)
 {
-    for (const SlabArray &array : slabArrays())
+    QStringList known;
+    for (const SlabArray &array : slabArrays()) {
+        known.append(array.key);
         if (model.contains(array.key))
             look(array, model.value(array.key));
+    }
+    leaveOutUnread(model, known, {}, {}, m_leftOut);
 }
 
 void SlabReplyCheck::look(const SlabArray &array, const QJsonValue &value)
 {
     const QJsonArray members = value.toArray();
     if (!value.isArray())
-        m_leftOut.push_back({array.key, {}, QStringLiteral("is no array")});
+        m_leftOut.push_back({array.key, {}, QStringLiteral("is no array"), false});
     if (!array.isMade()) {
         m_passedOver += members.size();
         return;
@@ -88,10 +121,14 @@ void SlabReplyCheck::look(const SlabArray &array, int index, const QJsonValue &v
         return;
     }
     const QString reason = whyNot(array, value, pattern);
-    if (reason.isEmpty())
-        take(array, place, member);
-    else
-        m_leftOut.push_back({place, member.value(key::name).toString(), reason});
+    const QString name = member.value(key::name).toString();
+    if (!reason.isEmpty())
+        return m_leftOut.push_back({place, name, reason});
+    leaveOutUnread(member, array.keys(), place, name, m_leftOut);
+    const QString identity = member.value(key::recongnizedID).toString();
+    if (!identity.isEmpty() && QUuid(identity).isNull())
+        m_leftOut.push_back({place + u'.' + key::recongnizedID, name, QStringLiteral("is no identity"), false});
+    take(array, place, member);
 }
 
 void SlabReplyCheck::take(const SlabArray &array, const QString &place, QJsonObject json)

@@ -116,6 +116,7 @@ Members SlabWriter::run(const Members &members, dwgx::DWGXBaseBoxTree &slabs)
             continue;
         }
         m_ids[*place] = member->identity;
+        m_membersMade[*place] = member;
         ++m_made[member->array];
     }
     return missing;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/SlabReadBack.h"
 #include "cli/SlabReplyCheck.h"
 
 #include <QSet>
@@ -37,6 +38,8 @@ public:
 
     /** Draw objects, and the identities of their members in the reply. */
     const IdMap &ids() const { return m_ids; }
+    /** Draw objects, and the members that they were made of. */
+    const SlabsMade &made() const { return m_membersMade; }
     /** Members that came in, by array. */
     int madeOf(const SlabArray &array) const;
     const std::vector<LeftOut> &leftOut() const { return m_leftOut; }
@@ -49,6 +52,7 @@ private:
     hbx::embedded::HBXProject &m_project;
     IHBXFloor &m_floor;
     IdMap m_ids;
+    SlabsMade m_membersMade;
     std::map<const SlabArray *, int> m_made;
     std::vector<LeftOut> m_leftOut;
 };

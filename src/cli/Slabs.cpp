@@ -102,12 +102,12 @@ int SlabOutcome::sum(int Array::*number) const
 
 QString SlabOutcome::headline() const
 {
-    return QStringLiteral("%1 read: %2 made in %3, %4 in the host already, %5 left out")
+    return QStringLiteral("%1 read: %2 made in %3, %4 in the host already, %5")
         .arg(counted(sum(&Array::members), QStringLiteral("member")))
         .arg(sum(&Array::made))
         .arg(counted(elementsMade, QStringLiteral("new element")))
         .arg(sum(&Array::known))
-        .arg(leftOut.size());
+        .arg(leftOutCount(leftOut));
 }
 
 QString SlabOutcome::text() const
@@ -162,6 +162,8 @@ SlabOutcome applySlabs(HBXProject &project, IHBXFloor &floor, const QJsonObject 
     for (const Stage &stage : stages())
         writer.write(membersOf(check, stage.parts), stage.under);
     SlabOutcome outcome = outcomeOf(check, writer);
+    for (const LeftOut &changed : changedInHost(project, floor, writer.made()))
+        outcome.leftOut.push_back(changed);
     outcome.elementsMade = model.elements()->count() - elementsBefore;
     outcome.doubled = doubledSince(model, drawObjsBefore); // negative bars, which are checked for less
     return outcome;

@@ -3,6 +3,7 @@
 #include "IdentifyInputModel/Wall/WallKeys.h"
 #include "cli/FloorLookup.h"
 #include "cli/MemberKinds.h"
+#include "cli/UnreadKeys.h"
 
 #include <QJsonDocument>
 #include <QRegularExpression>
@@ -67,6 +68,30 @@ QString whyNotValue(const QJsonValue &value, const KeyRule &rule)
     const bool isNumber = rule.use == Use::Whole || (rule.use == Use::WholeOrEmpty && !text.isEmpty());
     return isNumber && !isWholeText(text) ? QStringLiteral("%1 is not the text of a whole number").arg(rule.key)
                                           : QString();
+}
+
+/** Keys of the records that tell where a wall comes from and what it was recognised by; nothing is written of them. */
+const QStringList kUnusedElementKeys{key::edoId, key::typePropertyValue};
+const QStringList kUnusedPieceKeys{key::pieceWidth, key::pieceText, key::pieceEntName, key::piecePolygon,
+                                   key::floorCode,  key::region,    key::segments};
+
+/** What the walls of one kind alone have. */
+const QStringList kBrickKeys{key::material, key::throughBar, key::transverseBar};
+const QStringList kForceKeys{key::tieBar, key::hreBar, key::vreBar};
+
+template <std::size_t Count> QStringList keysOf(const KeyRule (&rules)[Count], QStringList unused)
+{
+    for (const KeyRule &rule : rules)
+        unused.append(rule.key);
+    return unused;
+}
+
+QStringList elementKeysOf(const WallKind &kind)
+{
+    QStringList keys = keysOf(kElementKeys, kUnusedElementKeys);
+    for (const QString &other : kind.isBrick() ? kForceKeys : kBrickKeys)
+        keys.removeOne(other);
+    return keys;
 }
 
 template <std::size_t Count> QString whyNotRecord(const QJsonObject &record, const KeyRule (&rules)[Count])
@@ -166,8 +191,9 @@ void WallReplyCheck::look(const QJsonObject &map, int number)
     if (!reason.isEmpty())
         return leaveOut(member.place, name, reason);
     m_places.insert(record, member.place);
+    leaveOutUnread(element.toObject(), elementKeysOf(m_kind), member.place, name, m_leftOut);
     for (const QString &cut : cutBars(element.toObject()))
-        leaveOut(member.place, name, cut);
+        leaveOutPart(member.place, name, cut);
     lookAtPieces(pieces.toArray(), above + wallPiecesKey(number), member);
     m_sound.push_back(member);
 }
@@ -178,10 +204,12 @@ void WallReplyCheck::lookAtPieces(const QJsonArray &pieces, const QString &place
         const QString piecePlace = QStringLiteral("%1[%2]").arg(place).arg(i);
         const QString reason = whyNotPiece(pieces.at(i));
         if (!reason.isEmpty()) {
-            leaveOut(piecePlace, member.text(key::entName), reason);
+            leaveOutPart(piecePlace, member.text(key::entName), reason);
             ++member.leftOut;
             continue;
         }
+        leaveOutUnread(pieces.at(i).toObject(), keysOf(kPieceKeys, kUnusedPieceKeys), piecePlace,
+                       member.text(key::entName), m_leftOut);
         member.pieces.append(used(pieces.at(i).toObject(), kPieceKeys));
         member.piecePlaces.append(piecePlace);
     }
@@ -194,8 +222,9 @@ void WallReplyCheck::lookForUnread(const QJsonObject &map)
         read << wallElementKey(number) << wallPiecesKey(number);
     for (const QString &key : map.keys())
         if (!read.contains(key))
-            leaveOut(m_kind.document + QLatin1Char('.') + key, {},
-                     QStringLiteral("is not read: half of the %1 keys are entries, counted from 0").arg(map.size()));
+            leaveOutPart(
+                m_kind.document + QLatin1Char('.') + key, {},
+                QStringLiteral("is not read: half of the %1 keys are entries, counted from 0").arg(map.size()));
 }
 
 QString WallReplyCheck::whyNot(const QJsonValue &element, const QJsonValue &pieces) const
@@ -225,6 +254,11 @@ QString WallReplyCheck::whyNot(const QJsonValue &element, const QJsonValue &piec
 void WallReplyCheck::leaveOut(const QString &place, const QString &name, const QString &reason)
 {
     m_leftOut.push_back({place, name, reason});
+}
+
+void WallReplyCheck::leaveOutPart(const QString &place, const QString &name, const QString &reason)
+{
+    m_leftOut.push_back({place, name, reason, false});
 }
 
 } // namespace orvcad

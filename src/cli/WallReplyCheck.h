@@ -47,6 +47,8 @@ private:
     void lookForUnread(const QJsonObject &map);
     QString whyNot(const QJsonValue &element, const QJsonValue &pieces) const;
     void leaveOut(const QString &place, const QString &name, const QString &reason);
+    /** Of a wall that is written all the same. */
+    void leaveOutPart(const QString &place, const QString &name, const QString &reason);
 
     IHBXModel &m_model;
     const WallKind &m_kind;

@@ -51,7 +51,7 @@ public:
         if (m_model.elements()->count() > elementsBefore)
             noteWall(member, *m_model.elements()->at(elementsBefore), drawObjsBefore);
         else
-            leaveOut(member, member.place, QStringLiteral("the host made no element"));
+            leaveOut(member, member.place, QStringLiteral("the host made no element"), true);
     }
 
 private:
@@ -73,7 +73,7 @@ private:
             if (entries[i].kind == JournalEntry::kWriteThrew) {
                 const auto piece = places.find(entries[i].objectId);
                 leaveOut(member, piece == places.end() ? member.place : piece->second,
-                         QStringLiteral("a value was refused: ") + entries[i].reason);
+                         QStringLiteral("a value was refused: ") + entries[i].reason, false);
             }
     }
     void noteWall(const WallReplyCheck::Member &member, const IHBXElement &element, int drawObjsBefore)
@@ -83,6 +83,9 @@ private:
         wall.wanted = member.text(wall::key::entName);
         element.name(wall.name);
         wall.floor = member.text(wall::key::floorCode);
+        if (wall.name != wall.wanted)
+            leaveOut(member, member.place + u'.' + wall::key::entName,
+                     QStringLiteral("the floor has that name already: made as \"%1\"").arg(wall.name), false);
         wall.placed = m_model.drawObjects()->count() - drawObjsBefore;
         wall.leftOut = member.leftOut + member.pieces.size() - wall.placed;
         wall.doubled = doubledSince(m_model, drawObjsBefore);
@@ -91,11 +94,12 @@ private:
             leaveOut(member, member.place,
                      QStringLiteral("the host made %1 of its %2")
                          .arg(wall.placed)
-                         .arg(counted(member.pieces.size(), QStringLiteral("piece"))));
+                         .arg(counted(member.pieces.size(), QStringLiteral("piece"))),
+                     false);
     }
-    void leaveOut(const WallReplyCheck::Member &member, const QString &place, const QString &reason)
+    void leaveOut(const WallReplyCheck::Member &member, const QString &place, const QString &reason, bool isWhole)
     {
-        m_outcome.leftOut.push_back({place, member.text(wall::key::entName), reason});
+        m_outcome.leftOut.push_back({place, member.text(wall::key::entName), reason, isWhole});
     }
 
     HBXProject &m_project;
@@ -138,12 +142,11 @@ int WallOutcome::doubled() const
 
 QString WallOutcome::headline() const
 {
-    return QStringLiteral("%1 read: %2 made (%3 under another name), %4 placed, %5 left out")
+    return QStringLiteral("%1 read: %2 made (%3 under another name), %4 placed, %5")
         .arg(counted(members, kind + QStringLiteral(" wall")),
              counted(static_cast<int>(walls.size()), QStringLiteral("element")))
         .arg(renamed())
-        .arg(counted(placed(), QStringLiteral("piece")))
-        .arg(leftOut.size());
+        .arg(counted(placed(), QStringLiteral("piece")), leftOutCount(leftOut));
 }
 
 QString WallOutcome::text() const

@@ -46,7 +46,19 @@ TEST(AppliedTest, memberThatIsLeftOutIsToldWithPlaceNameAndReason)
     EXPECT_EQ((LeftOut{"a", lettersOf(61), "b"}.text()), "a (" + lettersOf(60) + QStringLiteral("…): b"));
     EXPECT_EQ(leftOutLines({member}), "\n  left out: Beam[3] (KL-1): has no segment");
     EXPECT_EQ(toJson({member}),
-              (QJsonArray{QJsonObject{{"place", "Beam[3]"}, {"name", "KL-1"}, {"reason", "has no segment"}}}));
+              (QJsonArray{
+                  QJsonObject{{"place", "Beam[3]"}, {"name", "KL-1"}, {"reason", "has no segment"}, {"whole", true}}}));
+}
+
+TEST(AppliedTest, membersAndPartsThatAreLeftOutAreCountedApart)
+{
+    const LeftOut member{"Beam[3]", "KL-1", "has no name"};
+    const LeftOut part{"Beam[2].EDOInfo[0]", "KL-2", "has no segment", false};
+    EXPECT_EQ(leftOutCount(std::vector<LeftOut>()), "0 left out");
+    EXPECT_EQ(leftOutCount(std::vector<LeftOut>{member, member}), "2 left out");
+    EXPECT_EQ(leftOutCount(std::vector<LeftOut>{part}), "0 left out, and 1 part of the rest");
+    EXPECT_EQ(leftOutCount(std::vector<LeftOut>{part, member, part}), "1 left out, and 2 parts of the rest");
+    EXPECT_EQ(part.toJson()["whole"], false);
 }
 
 TEST(AppliedTest, refusedWritesAreThoseSinceTheJournalHadSoManyEntries)

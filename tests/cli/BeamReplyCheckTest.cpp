@@ -101,6 +101,67 @@ TEST_F(BeamReplyCheckTest, sizeThatTheHostWouldGetAsZeroIsLeftOut)
               "Beam[0]: SectionWidth is not a whole number of millimetres");
 }
 
+TEST_F(BeamReplyCheckTest, sizeBelowZeroIsLeftOut)
+{
+    EXPECT_EQ(leftOutElement(with(element(), "SectionHeight", -600)), "Beam[0]: SectionHeight is below 0");
+    EXPECT_EQ(leftOutSegment(with(segment(1), "LineWidth", -300)),
+              "Beam[0].EDOInfo[0]: BeamSegmentInfo[1]: LineWidth is below 0");
+}
+
+TEST_F(BeamReplyCheckTest, widthThatIsRoundedIsToldAndTheChainGoesOn)
+{
+    EXPECT_EQ(leftOutSegment(with(segment(1), "LineWidth", 250.5)),
+              "Beam[0].EDOInfo[0].BeamSegmentInfo[1]: LineWidth 250.5 is written as a whole number of millimetres");
+    EXPECT_EQ(check({{"Beam", QJsonArray{beam(element(), {chain({with(segment(0), "LineWidth", 250.5)})})}}})
+                  .sound()[0]
+                  .chains.size(),
+              1U);
+}
+
+TEST_F(BeamReplyCheckTest, supportsOfASpanThatAreNoFourNumbersAreTold)
+{
+    const auto spanOf = [](const char *supports) {
+        return with(chain({segment(0)}), "BeamSpanInfo", QJsonArray{QJsonObject{{"SpanA1_A4", supports}}});
+    };
+    EXPECT_EQ(leftOutChain(spanOf("250,250,-60,60.5")), "");
+    EXPECT_EQ(leftOutChain(spanOf("")), "");
+    for (const char *wrong : {"nan", "250,250,250", "1,2,3,x", "1,2,3,inf"})
+        EXPECT_EQ(leftOutChain(spanOf(wrong)),
+                  "Beam[0].EDOInfo[0].BeamSpanInfo[0]: SpanA1_A4 is not four numbers, and is read as such");
+}
+
+TEST_F(BeamReplyCheckTest, keysThatNothingReadsAreToldAtEachLevel)
+{
+    const QJsonObject spans = with(chain({with(segment(0), "Linewidth", 1)}), "Spans", QJsonArray());
+    const BeamReplyCheck reply = check(
+        {{"Beam", QJsonArray{with(beam(with(element(), "SpanCounts", "1"), {spans}), "Remark", "")}}, {"Beams", 4}});
+    EXPECT_EQ(
+        textOf(reply.leftOut()),
+        "Beam[0].Remark: is no key of this record, and not read\n"
+        "Beam[0].ElementInfo.SpanCounts: is no key of this record, and not read\n"
+        "Beam[0].EDOInfo[0].Spans: is no key of this record, and not read\n"
+        "Beam[0].EDOInfo[0].BeamSegmentInfo[0].Linewidth: is no key of this record, and not read: LineWidth is one\n"
+        "Beams: is no key of this record, and not read");
+    EXPECT_EQ(reply.sound().size(), 1U);
+}
+
+TEST_F(BeamReplyCheckTest, beamsOfOneNameWithOtherValuesAreTold)
+{
+    const QJsonObject wide = with(element(), "SectionWidth", 400);
+    const QJsonObject elsewhere = with(element(), "StartTopElev", "2.5"); // never written
+    EXPECT_EQ(leftOut({beam(element(), {}), beam(elsewhere, {})}), "");
+    EXPECT_EQ(leftOut({beam(element(), {}), beam(wide, {})}),
+              "Beam[0]: has the name of Beam[1], whose values take the place of its own");
+    EXPECT_EQ(leftOut({beam(element(), {}), beam(with(wide, "Name", "KL-2"), {})}), "");
+}
+
+TEST_F(BeamReplyCheckTest, outlineThatWouldLoseItsLastCornerIsLeftOut)
+{
+    const QJsonObject odd = with(element(), "ElementSubType", 11);
+    EXPECT_EQ(leftOutElement(with(odd, "SectionPoly", "0,0;300,0;300,600;0,600")),
+              "Beam[0]: SectionPoly does not end in \";\", and its last corner would be lost");
+}
+
 TEST_F(BeamReplyCheckTest, outlineIsForItsSubTypesAlone)
 {
     const QJsonObject outlined = with(element(), "SectionPoly", "0,0;300,0;300,600;0,600;");

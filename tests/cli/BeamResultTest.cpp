@@ -48,6 +48,27 @@ TEST_F(BeamResultTest, labelThatIsNoRecordIsLeftOut)
     EXPECT_EQ(result.json()["leftOut"], QJsonValue(QJsonArray{"elementInfoList[0]: is no object"}));
 }
 
+TEST_F(BeamResultTest, valuesThatAreReadAsOthersAreTold)
+{
+    QJsonObject odd = label();
+    odd["strName"] = 5;
+    odd["nElementType"] = 15.5;
+    odd["StrSection"] = "200*400";
+    odd["edoInfos"] = QJsonArray{7};
+    write("result.json", QJsonObject{{"elementInfoList", QJsonArray{odd}}, {"labels", QJsonArray()}});
+    const Result result = run({"beam", "result", "result.json", "--json"});
+    EXPECT_EQ(result.exitCode, 3);
+    QStringList leftOut;
+    for (const QJsonValue line : result.json()["leftOut"].toArray())
+        leftOut.append(line.toString());
+    EXPECT_EQ(leftOut.join('\n').toStdString(),
+              "labels: is no key of this record, and not read\n"
+              "elementInfoList[0].StrSection: is no key of this record, and not read: strSection is one\n"
+              "elementInfoList[0].edoInfos[0]: is not what is read here, and reads as nothing\n"
+              "elementInfoList[0].nElementType: is not what is read here, and reads as 0\n"
+              "elementInfoList[0].strName: is not what is read here, and reads as nothing");
+}
+
 TEST_F(BeamResultTest, documentThatIsNoResultIsRefused)
 {
     write("result.json", QByteArray("{}"));

@@ -83,6 +83,31 @@ TEST_F(BeamSeatsTest, pileIsTakenAndWhatIsNoneIsToldWithItsReason)
     EXPECT_EQ(leftOut("etPileCap", pile()), "type 54 is no pile cap");
 }
 
+TEST_F(BeamSeatsTest, elevationOfAPlacedObjectThatIsNotItsElementsIsTold)
+{
+    EXPECT_EQ(leftOut("etPile", with(pile(), "EDOTopElev", "-1")), "");
+    EXPECT_EQ(leftOut("etPile", with(pile(), "EDOTopElev", "-2.5")),
+              "\"-2.5\" was sent, and \"-1\" is what the host has");
+}
+
+TEST_F(BeamSeatsTest, footingWhoseOutlineAnotherOneOfItsElementReplacesIsTold)
+{
+    const QJsonObject small = with(with(pile(), "ElementType", 52), "Height", 800);
+    const QString large = "POLYGON((0 0, 900 0, 900 900, 0 900, 0 0))";
+    const Result result = apply("etIsolatedFD", {small, with(small, "WorldPoly", large)});
+    EXPECT_EQ(result.exitCode, 3);
+    const QJsonArray told = result.json()["leftOut"].toArray();
+    ASSERT_EQ(told.size(), 1);
+    EXPECT_EQ(told[0].toObject()["place"], "etIsolatedFD[0].WorldPoly");
+    EXPECT_EQ(told[0].toObject()["whole"], false);
+    EXPECT_EQ(apply("etIsolatedFD", {small, with(with(small, "WorldPoly", large), "EntName", "DJ-2")}).exitCode, 0);
+}
+
+TEST_F(BeamSeatsTest, valueThatTheHostHasOtherwiseIsTold)
+{
+    EXPECT_EQ(leftOut("etPile", with(pile(), "Height", 1234567)), "1234567 was sent, and 0 is what the host has");
+}
+
 TEST_F(BeamSeatsTest, elevationThatTheHostRefusesIsTold)
 {
     const std::string told = leftOut("etPile", with(pile(), "TopElev", "roof"));

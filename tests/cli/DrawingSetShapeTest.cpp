@@ -86,4 +86,12 @@ TEST(DrawingSetShapeTest, membersOfRecordsThatTheFormatDoesNotKnowArePassedOver)
               "sound");
 }
 
+TEST(DrawingSetShapeTest, membersThatArePassedOverAreToldWithTheirPlaces)
+{
+    const auto unread = [](const QJsonObject &set) { return clitest::textOf(orvcad::unreadInDrawingSet(set)); };
+    EXPECT_EQ(unread(emptySet()), "");
+    EXPECT_EQ(unread(setWith("matchElementInfo", R"([{"DrawingName": "S", "ElementTypes": [], "Scale": 1}])")),
+              "matchElementInfo[0].Scale: is no member of this format, and not read");
+}
+
 } // namespace

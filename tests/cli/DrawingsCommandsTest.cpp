@@ -46,7 +46,7 @@ TEST_F(DrawingsCommandsTest, showTellsStagesFloorsDrawingsAndLayersOfTheExample)
     const Result result = run({"drawings", "show", kSet, "--json"});
     EXPECT_EQ(result.exitCode, 0) << result.err.toStdString();
     const QJsonObject shown = result.json();
-    EXPECT_EQ(keys(shown), "areaName,drawings,floors,layers,stages");
+    EXPECT_EQ(keys(shown), "areaName,drawings,floors,layers,notRead,stages");
     EXPECT_EQ(shown["areaName"], "Hall");
     ASSERT_EQ(shown["stages"].toArray().size(), 8);
     EXPECT_EQ(shown["stages"].toArray()[0].toObject(),
@@ -183,6 +183,32 @@ TEST_F(DrawingsCommandsTest, floorsArePrintedAsATableWithADashForNoValue)
     EXPECT_EQ(lines[1].simplified(), "id floor code height elevation storeys region settings");
     EXPECT_EQ(lines[2].simplified(), "1 - - 3.3 - - - 0");
     EXPECT_EQ(lines[3], "not kept: FloorSDCData[0].Remark: is no text, so the field has no value");
+}
+
+TEST_F(DrawingsCommandsTest, exchangeOfWhichSomethingIsNotWrittenAgainIsNotDone)
+{
+    const auto exitCodeOf = [&](const char *floor) {
+        write("floors.json", QByteArray(R"({"FloorSDCData": [{"Region": {}, )") + floor + "}]}");
+        return run({"drawings", "floors", "floors.json"}).exitCode;
+    };
+    EXPECT_EQ(exitCodeOf(R"("Remark": "7")"), 0);
+    EXPECT_EQ(exitCodeOf(R"("ConcreteAnchorJoint": [])"), 0); // says as little as none
+    EXPECT_EQ(exitCodeOf(R"("Remark": 7)"), 3);
+    EXPECT_EQ(exitCodeOf(R"("Remarks": "7")"), 3);
+}
+
+TEST_F(DrawingsCommandsTest, memberOfASetThatNothingReadsIsTold)
+{
+    QJsonObject set = clitest::fileObject(kSet);
+    set["splitDrawing"] = with(set["splitDrawing"].toObject(), "SavePath", "/");
+    write("set.json", set);
+    const Result result = run({"drawings", "show", "set.json", "--json"});
+    EXPECT_EQ(result.exitCode, 3);
+    EXPECT_EQ(result.json()["notRead"],
+              QJsonValue(QJsonArray{QJsonObject{{"place", "splitDrawing.SavePath"},
+                                                {"reason", "is no member of this format, and not read"}}}));
+    EXPECT_TRUE(run({"drawings", "show", "set.json"})
+                    .out.endsWith("\nnot read: splitDrawing.SavePath: is no member of this format, and not read\n"));
 }
 
 TEST_F(DrawingsCommandsTest, exchangeThatIsRefusedWritesNoFile)

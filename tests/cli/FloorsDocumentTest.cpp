@@ -28,6 +28,21 @@ TEST_F(FloorsDocumentTest, regionGivesItsNameAndFloorsInTheOrderOfTheHost)
     EXPECT_EQ(floors->getFloor(1)->stdCount(), 1);
 }
 
+TEST_F(FloorsDocumentTest, valuesThatAreReadAsOthersAreTold)
+{
+    const QString file = fileOf("floors.json", R"({"AreaName": 5, "Region": "A", "Floors": [
+        {"Name": "F1", "Code": 1, "BottomElev": "0", "Height": 3, "StdCount": 2.5, "Remark": null, "height": 4}]})");
+    const FloorsDocument document = readFloorsDocument(file);
+    ASSERT_EQ(document.floors->getCount(), 1);
+    EXPECT_EQ(document.leftOut.join('\n').toStdString(),
+              "AreaName: is not text, and reads as nothing\n"
+              "Region: is no key of this record, and not read\n"
+              "Floors[0].BottomElev: is not a number, and reads as 0\n"
+              "Floors[0].StdCount: is not a whole number of 32 bits, and reads as 0\n"
+              "Floors[0].Remark: is not text, and reads as nothing\n"
+              "Floors[0].height: is no key of this record, and not read: Height is one");
+}
+
 TEST_F(FloorsDocumentTest, floorsThatTheReaderPassesOverAreToldWithTheirPlaces)
 {
     const QString file = fileOf("floors.json", R"({"AreaName": "A", "Floors": [7,

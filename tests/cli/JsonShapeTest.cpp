@@ -34,6 +34,16 @@ std::string fault(const QByteArray &text, const JsonShape &shape)
     return found ? (found->place + ": " + found->reason).toStdString() : "sound";
 }
 
+TEST(JsonShapeTest, unknownMembersAreTheKeysThatNoShapeHasAndNoMapNames)
+{
+    const auto document = valueOf(R"({"entries": [{"name": "a", "point": [0, 1]}, {"Name": "b", "remark": "c"}],
+                                      "names": {"any": ["x"]}})");
+    const auto unknown = unknownMembers(document, kTop);
+    ASSERT_EQ(unknown.size(), 1U);
+    EXPECT_EQ(unknown[0].place, "entries[1].Name");
+    EXPECT_EQ(unknown[0].reason, "is no member of this format, and not read");
+}
+
 TEST(JsonShapeTest, valuesOfTheirKindAreSound)
 {
     const std::pair<QByteArray, JsonShape> cases[] = {

@@ -1,5 +1,6 @@
 #include "cli/OpeningReplyCheck.h"
 
+#include "JsonTexts.h"
 #include "OpeningReplies.h"
 #include "platform/embedded/HBXProject.h"
 #include "platform/host/IHBXDrawObjs.h"
@@ -11,6 +12,8 @@
 
 #include <memory>
 
+using clitest::with;
+using clitest::without;
 using hbx::embedded::HBXProject;
 using hbx::embedded::ProjectError;
 using orvcad::OpeningReplyCheck;
@@ -92,11 +95,26 @@ TEST_F(OpeningReplyCheckTest, elementThatTheModelHasMayBePlaced)
     EXPECT_EQ(reasons({placed("East", "Q1")}), "0: element \"Q1\" is no door or window");
 }
 
-TEST_F(OpeningReplyCheckTest, missingKeysOfASizeAreNoFault)
+TEST_F(OpeningReplyCheckTest, openingWithoutASizeOrAPlaceIsLeftOut)
 {
-    QJsonObject sparse{
-        {"elementID", 1}, {"name", "M2"}, {"nElementType", 4}, {"floorName", "1"}, {"regionName", "West"}};
+    const QJsonObject sparse{{"elementID", 1},  {"name", "M2"},     {"nElementType", 4},   {"nWidth", 900},
+                             {"nHeight", 2100}, {"floorName", "1"}, {"regionName", "West"}};
     EXPECT_EQ(reasons({sparse}), "");
+    for (const char *key : {"nWidth", "nHeight"})
+        EXPECT_EQ(reasons({without(sparse, key)}), std::string("0: ") + key + " is missing");
+    for (const char *key : {"X", "Y"})
+        EXPECT_EQ(reasons({without(placed("East", "M1"), key)}), std::string("0: ") + key + " is missing");
+    EXPECT_EQ(reasons({without(placed("East", "M1"), "nHeightFromFloor")}), "");
+}
+
+TEST_F(OpeningReplyCheckTest, keyThatNothingReadsIsToldAndTheMemberGoesOn)
+{
+    const OpeningReplyCheck check(model(), {with(element("West", "M1"), "nwidth", 900)});
+    EXPECT_EQ(check.sound().size(), 1);
+    ASSERT_EQ(check.leftOut().size(), 1U);
+    EXPECT_EQ(check.leftOut()[0].text(), "member 0.nwidth (M1): is no key of this record, and not read: nWidth is one");
+    EXPECT_FALSE(check.leftOut()[0].isWhole);
+    EXPECT_EQ(check.soundPlaces(), std::vector<int>{0});
 }
 
 TEST_F(OpeningReplyCheckTest, everyKeyOfAWrongTypeIsNamed)
@@ -143,8 +161,11 @@ TEST_F(OpeningReplyCheckTest, leftOutMemberIsToldInWordsAndAsJson)
     ASSERT_EQ(check.leftOut().size(), 2U);
     EXPECT_EQ(check.leftOut()[0].text(), "member 0 (M1): unknown region \"North\"");
     EXPECT_EQ(check.leftOut()[1].text(), "member 1 (no name): is no object");
-    EXPECT_EQ(check.leftOut()[0].toJson(),
-              (QJsonObject{{"index", 0}, {"name", "M1"}, {"reason", "unknown region \"North\""}}));
+    EXPECT_EQ(check.leftOut()[0].toJson(), (QJsonObject{{"index", 0},
+                                                        {"place", "eDoorWin.ElementsAndEdos[0]"},
+                                                        {"name", "M1"},
+                                                        {"reason", "unknown region \"North\""},
+                                                        {"whole", true}}));
 }
 
 } // namespace

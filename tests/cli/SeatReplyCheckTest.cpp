@@ -71,6 +71,29 @@ TEST_F(SeatReplyCheckTest, seatsThatCannotBeUsedAreLeftOut)
     EXPECT_EQ(leftOut("etTieBeam", with(tieBeam(), "CenterLine", "LINESTRING(0 0, 0 0)")), "CenterLine has no length");
 }
 
+TEST_F(SeatReplyCheckTest, outlineThatIsNoneIsLeftOutWithWhatIsWrongAboutIt)
+{
+    const auto pileOf = [](const char *outline) { return with(pile(), "WorldPoly", outline); };
+    EXPECT_EQ(leftOut("etPile", pileOf("POLYGON((0 0, 900 900, 900 0, 0 900, 0 0))")), "WorldPoly crosses itself");
+    EXPECT_EQ(leftOut("etPile", pileOf("POLYGON((0 0, 900 0, 900 900, 0 900))")), "WorldPoly has an open ring");
+}
+
+TEST_F(SeatReplyCheckTest, sizeBelowZeroIsLeftOut)
+{
+    EXPECT_EQ(leftOut("etTieBeam", with(tieBeam(), "SectionWidth", -1)), "SectionWidth is below 0");
+    EXPECT_EQ(leftOut("etPile", with(pile(), "Height", -1)), "Height is below 0");
+}
+
+TEST_F(SeatReplyCheckTest, keyThatNothingReadsIsToldAndTheSeatGoesOn)
+{
+    const SeatReplyCheck document =
+        check({{"etPile", QJsonArray{with(pile(), "SectionHeight", 400)}}, {"etPiles", QJsonArray{pile()}}});
+    EXPECT_EQ(document.sound().size(), 1U);
+    EXPECT_EQ(textOf(document.leftOut()), "etPile[0].SectionHeight: is no key of this record, and not read\n"
+                                          "etPiles: is no key of this record, and not read");
+    EXPECT_FALSE(document.leftOut()[0].isWhole);
+}
+
 TEST_F(SeatReplyCheckTest, heightWithAFractionWouldBeReadAsZeroAndIsLeftOut)
 {
     EXPECT_EQ(leftOut("etPile", with(pile(), "Height", 2900.5)), "Height is not a whole number of 32 bits");

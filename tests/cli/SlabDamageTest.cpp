@@ -77,13 +77,54 @@ TEST_F(SlabDamageTest, outlinesThatAreNoneAreRefusedByTheHost)
 
 TEST_F(SlabDamageTest, oddValuesAreReadAsTheyStand)
 {
-    EXPECT_EQ(takenAs(with(board(1), "id", 0))["name"], "B-h100"); // only an id above 0 is the host's
-    EXPECT_EQ(takenAs(with(board(2), "thinkness", 120.9))["name"], "B-h120");
-    EXPECT_EQ(takenAs(with(board(3), "type", "any"))["name"], "B-h100");           // never read
-    EXPECT_EQ(takenAs(with(board(4), "state_descript", 7))["name"], "B-h100");     // never written
-    EXPECT_EQ(takenAs(with(board(5), "of another version", 7))["name"], "B-h100"); // unknown keys
+    EXPECT_EQ(takenAs(with(board(1), "id", 0))["name"], "B-h100");             // only an id above 0 is the host's
+    EXPECT_EQ(takenAs(with(board(3), "type", "any"))["name"], "B-h100");       // never read
+    EXPECT_EQ(takenAs(with(board(4), "state_descript", 7))["name"], "B-h100"); // never written
     EXPECT_EQ(takenAs(without(board(6), "name"))["name"], "B-h100");
     EXPECT_EQ(takenAs(without(board(8), "id"))["name"], "B-h100");
+}
+
+TEST_F(SlabDamageTest, valueThatArrivesAsAnotherOneIsTold)
+{
+    const Result result = apply({{"boards", QJsonArray{with(board(2), "thinkness", 120.9)}}});
+    EXPECT_EQ(result.exitCode, 3);
+    EXPECT_EQ(leftOut(result), "boards[0].thinkness: 120.9 was sent, and 120 is what the host has");
+    EXPECT_EQ(result.json()["made"], 1);
+}
+
+TEST_F(SlabDamageTest, keyThatNothingReadsIsToldAndTheMemberIsMade)
+{
+    const Result result = apply(
+        {{"boards", QJsonArray{with(with(board(5), "of another version", 7), "Elev", 3)}}, {"board", QJsonArray()}});
+    EXPECT_EQ(result.exitCode, 3);
+    EXPECT_EQ(leftOut(result), "boards[0].Elev: is no key of this record, and not read: elev is one\n"
+                               "boards[0].of another version: is no key of this record, and not read\n"
+                               "board: is no key of this record, and not read");
+    EXPECT_EQ(result.json()["made"], 1);
+}
+
+TEST_F(SlabDamageTest, barThatCannotBeDrawnIsLeftOut)
+{
+    const QJsonObject still = with(with(bar(), "direction_x", 0), "direction_y", 1e-300);
+    const QJsonObject narrow = with(with(negativeBar(), "left_strech_length", 0), "right_strech_length", 0);
+    const Result result =
+        apply({{"boards", QJsonArray{board(1)}},
+               {"forced_bars", QJsonArray{still, with(bar(), "ref_point_y", -2e9)}},
+               {"negative_forced_bars", QJsonArray{narrow, with(negativeBar(), "line", "LINESTRING(5 5, 5 5)")}}});
+    EXPECT_EQ(result.exitCode, 3);
+    EXPECT_EQ(leftOut(result), "forced_bars[0]: its direction has no length\n"
+                               "forced_bars[1]: ref_point_y lies beyond 1000000 m\n"
+                               "negative_forced_bars[0]: it stretches to neither side of its line\n"
+                               "negative_forced_bars[1]: line has no length");
+    EXPECT_EQ(result.json()["made"], 1);
+}
+
+TEST_F(SlabDamageTest, identityThatIsNoneIsTold)
+{
+    const Result result = apply({{"boards", QJsonArray{with(board(1), "recongnizedID", "first")}}});
+    EXPECT_EQ(result.exitCode, 3);
+    EXPECT_EQ(leftOut(result), "boards[0].recongnizedID: is no identity");
+    EXPECT_EQ(result.json()["made"], 1);
 }
 
 TEST_F(SlabDamageTest, nameOfAMillionCharactersIsTaken)

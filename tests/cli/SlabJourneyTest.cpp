@@ -65,7 +65,12 @@ const Exception kExceptions[] = {
      "lost: slab B-no-outline (100, 0 m, nowhere)"},
     // A turned rectangle is no rectangle but an odd hole, for which the name of the straight one is taken. And the top bar over
     // the arc is drawn at right angles to the arc's end, on the other side of it, so that the arc is read the other way round.
-    {"第1层", "",
+    // Bar texts of holes are not written.
+    {"第1层",
+     "\n  left out: board_holes[0].longSpanReinforceBar (BD-800*1200): \"2C14\" was sent, and \"\" is what the host has"
+     "\n  left out: board_holes[0].shortSpanReinforceBar (BD-800*1200): \"2C12\" was sent, and \"\" is what the host "
+     "has"
+     "\n  left out: board_holes[3].obliqueReinforceBar (BD-r=300): \"8C10\" was sent, and \"\" is what the host has",
      "lost: hole BD-800*1200 (around 3000, 4000)\n"
      "lost: slab negative bar FJ-C8-150 (C8@150, 1, 800, 0, 90, , , around 12000, 4000)\n"
      "added: hole BD-800*1200-1 (around 3000, 4000)\n"
@@ -93,7 +98,7 @@ TEST_P(SlabJourneyTest, everyFloorComesBackWithNothingLostAddedOrMoved)
         const Exception exception = exceptionOf(floor->name());
         EXPECT_EQ(journey.leftOut(), exception.leftOut) << floor->name().toStdString();
         EXPECT_EQ(journey.deviations(), exception.deviations) << floor->name().toStdString();
-        EXPECT_EQ(journey.outcome.sum(&SlabOutcome::Array::made) + static_cast<int>(journey.outcome.leftOut.size()),
+        EXPECT_EQ(journey.outcome.sum(&SlabOutcome::Array::made) + journey.outcome.sum(&SlabOutcome::Array::leftOut),
                   journey.comparison.compared);
         members += journey.comparison.compared;
     }
@@ -159,7 +164,12 @@ TEST(SlabJourneyOfOddHolesTest, oddHolesThatShareAnElementTakeTheOutlineOfTheFir
     const QJsonObject second = hole("POLYGON((5000 5000, 7000 5000, 6000 6000, 5000 5000))");
     const SlabOutcome outcome =
         applySlabs(*project, floor, {{"board_holes", QJsonArray{first, second}}}, QStringLiteral("reply.json"));
-    EXPECT_EQ(leftOutLines(outcome.leftOut).toStdString(), "");
+    EXPECT_EQ(
+        leftOutLines(outcome.leftOut).toStdString(),
+        "\n  left out: board_holes[0].bar_info (BD-1): \"2C12\" was sent, and \"\" is what the host has"
+        "\n  left out: board_holes[1].bar_info (BD-1): \"2C12\" was sent, and \"\" is what the host has"
+        "\n  left out: board_holes[1].surface (BD-1): \"POLYGON((5000 5000, 7000 5000, 6000 6000, 5000 5000))\" was "
+        "sent, and \"POLYGON((5500 5000, 6500 5000, 6000 6000, 5500 5000))\" is what the host has");
     EXPECT_EQ(outcome.elementsMade, 1);
     const QJsonArray holes = slabDocument(*project, floor, SlabParts())["board_holes"].toArray();
     ASSERT_EQ(holes.size(), 2);

@@ -81,15 +81,20 @@ TEST_F(WallCommandsTest, applySaysWhatWasMadeAndLeftOut)
     const Result result = applyFile(QStringList());
     EXPECT_EQ(result.exitCode, 3);
     EXPECT_EQ(result.out.toStdString(),
-              "1 brick wall read: 1 element made (1 under another name), 1 piece placed, 1 left out\n"
+              "1 brick wall read: 1 element made (1 under another name), 1 piece placed, 0 left out, and 2 parts of "
+              "the rest\n"
               "  Q1 on floor 1: made as Q1-1, 1 piece placed, 1 left out\n"
-              "  left out: BrickWallIdentifyData.value_0[1] (Q1): is no object\n");
+              "  left out: BrickWallIdentifyData.value_0[1] (Q1): is no object\n"
+              "  left out: BrickWallIdentifyData.key_0.entName (Q1): the floor has that name already: made as "
+              "\"Q1-1\"\n");
 }
 
 TEST_F(WallCommandsTest, nameThatIsTakenIsToldWithTheOneMade)
 {
     const Result result = apply({{element("Q1"), QJsonArray{piece()}}});
-    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.exitCode, 3);
+    EXPECT_EQ(leftOut(result),
+              QStringList(kPlace + "key_0.entName: the floor has that name already: made as \"Q1-1\""));
     EXPECT_EQ(result.json()["renamed"], 1);
     EXPECT_EQ(made(result), (QStringList{"Q1: Q1-1, 1"}));
 }
@@ -106,7 +111,8 @@ TEST_F(WallCommandsTest, wallWhereTheSameOneStandsIsToldAsDoubled)
 TEST_F(WallCommandsTest, forceWallsComeByTheirOwnKey)
 {
     importSmallHouse();
-    const QJsonObject document{{"ForceWallIdentifyData", walltest::mapOf({{element("W1", "0"), QJsonArray{piece()}}})}};
+    const QJsonObject document{
+        {"ForceWallIdentifyData", walltest::mapOf({{without(element("W1", "0"), "material"), QJsonArray{piece()}}})}};
     write("walls.json", QJsonObject{{"eWall", QJsonObject{{"ElementsAndEdos", document}}}});
     const Result result = run({"wall", "apply", "house.hbxdb", "--kind", "force", "walls.json", "--json"});
     EXPECT_EQ(result.exitCode, 0) << result.err.toStdString();

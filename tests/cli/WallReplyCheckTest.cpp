@@ -43,7 +43,8 @@ TEST_F(WallReplyCheckTest, soundWallsKeepTheKeysThatAreUsedAndTellTheirPlaces)
     const WallReplyCheck checked =
         check(mapOf({{with(element("Q2"), "remark", "x"), QJsonArray{with(piece(), "sStrTextInfo", "a/b"), piece()}}}));
     EXPECT_EQ(checked.memberCount(), 1);
-    EXPECT_TRUE(checked.leftOut().empty());
+    EXPECT_EQ(textOf(checked.leftOut()), "BrickWallIdentifyData.key_0.remark: is no key of this record, and not read");
+    EXPECT_FALSE(checked.leftOut()[0].isWhole);
     ASSERT_EQ(checked.sound().size(), 1U);
     const WallReplyCheck::Member &member = checked.sound()[0];
     EXPECT_EQ(member.place, "BrickWallIdentifyData.key_0");
@@ -54,6 +55,16 @@ TEST_F(WallReplyCheckTest, soundWallsKeepTheKeysThatAreUsedAndTellTheirPlaces)
     EXPECT_EQ(member.piecePlaces,
               (QStringList{"BrickWallIdentifyData.value_0[0]", "BrickWallIdentifyData.value_0[1]"}));
     EXPECT_EQ(member.leftOut, 0);
+}
+
+TEST_F(WallReplyCheckTest, keysThatNothingReadsAreToldOfElementsAndPieces)
+{
+    const WallReplyCheck checked =
+        check(mapOf({{with(element("Q2"), "tieBar", "A6@500"), QJsonArray{with(piece(), "sworldline", "")}}}));
+    EXPECT_EQ(textOf(checked.leftOut()),
+              "BrickWallIdentifyData.key_0.tieBar: is no key of this record, and not read\n" // of force walls
+              "BrickWallIdentifyData.value_0[0].sworldline: is no key of this record, and not read: sWorldLine is one");
+    EXPECT_EQ(checked.sound().size(), 1U);
 }
 
 TEST_F(WallReplyCheckTest, wallGoesOnWithoutThePiecesThatAreLeftOut)

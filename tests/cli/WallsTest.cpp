@@ -86,7 +86,8 @@ TEST_F(WallsTest, piecesThatWereLeftOutAreCountedAtTheirWall)
     const WallOutcome outcome = apply({{element("Q2"), QJsonArray{piece(), 17}}});
     EXPECT_EQ(outcome.walls[0].text(), "Q2 on floor 1: made, 1 piece placed, 1 left out");
     EXPECT_EQ(outcome.headline(),
-              "1 brick wall read: 1 element made (0 under another name), 1 piece placed, 1 left out");
+              "1 brick wall read: 1 element made (0 under another name), 1 piece placed, 0 left out, and 1 part of the "
+              "rest");
 }
 
 TEST_F(WallsTest, documentThatIsNoReplyChangesNothing)

@@ -1,0 +1,23 @@
+#include "cli/UnreadKeys.h"
+
+#include <algorithm>
+
+namespace orvcad {
+
+QString whyUnread(const QString &key, const QStringList &known)
+{
+    const QString reason = QStringLiteral("is no key of this record, and not read");
+    const auto meant = std::find_if(known.begin(), known.end(),
+                                    [&](const QString &one) { return one.compare(key, Qt::CaseInsensitive) == 0; });
+    return meant == known.end() ? reason : QStringLiteral("%1: %2 is one").arg(reason, *meant);
+}
+
+void leaveOutUnread(const QJsonObject &record, const QStringList &known, const QString &place, const QString &name,
+                    std::vector<LeftOut> &leftOut)
+{
+    for (const QString &key : record.keys())
+        if (!known.contains(key))
+            leftOut.push_back({place.isEmpty() ? key : place + u'.' + key, name, whyUnread(key, known), false});
+}
+
+} // namespace orvcad

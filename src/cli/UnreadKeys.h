@@ -1,0 +1,23 @@
+#pragma once
+
+#include "cli/Applied.h"
+
+#include <QJsonObject>
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+namespace orvcad {
+
+/** Why a value is not read: none of a record's keys is the one that it stands under. One that differs in the case of its
+ *  letters alone is named, since it is likely to be meant. */
+QString whyUnread(const QString &key, const QStringList &known);
+
+/** Adds each key of a record that nothing reads, and with it the value that does not arrive.
+ *  @param place  of the record; empty for the document itself
+ *  @param name   of the element that it is about */
+void leaveOutUnread(const QJsonObject &record, const QStringList &known, const QString &place, const QString &name,
+                    std::vector<LeftOut> &leftOut);
+
+} // namespace orvcad
