@@ -69,6 +69,12 @@ TEST_F(OpeningCommandsTest, memberOfAnUnknownFloorIsLeftOut)
     EXPECT_EQ(reasonFor(with(elementMember("M1"), "floorName", "9")), "unknown floor code \"9\" in region \"House\"");
 }
 
+TEST_F(OpeningCommandsTest, placedObjectOfAnUnknownFloorIsLeftOut)
+{
+    EXPECT_EQ(reasonFor(1, {elementMember("M1"), with(placedMember("M1", 0, 0), "floorName", "9")}),
+              "unknown floor code \"9\" in region \"House\"");
+}
+
 TEST_F(OpeningCommandsTest, placedObjectAheadOfItsElementIsLeftOut)
 {
     EXPECT_EQ(reasonFor(0, {placedMember("M1", 0, 0), elementMember("M1")}),
