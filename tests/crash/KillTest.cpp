@@ -55,7 +55,7 @@ protected:
         m_old = read("old.hbxdb");
         m_oldBuilding = buildingIn("old.hbxdb");
         // A kill may come while a command writes its counts for coverage, and half of them would spoil those of others.
-        setVariable("GCOV_PREFIX", "/dev/null");
+        setVariable("GCOV_PREFIX", path("counts"));
     }
     std::string buildingIn(const QString &name) const
     {
