@@ -28,6 +28,15 @@ if(ORVCAD_FUZZ)
     target_link_options(ORVCADDeveloper INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
+# orvcad_count_coverage(<target>): with ORVCAD_COVERAGE, its programs count which of its lines and branches they run, in
+# .gcda files beside the objects. Commands are run by several tests at a time, and each adds its counts to the same files.
+function(orvcad_count_coverage target)
+    if(ORVCAD_COVERAGE)
+        target_compile_options(${target} PRIVATE -O0 --coverage -fprofile-abs-path)
+        target_link_options(${target} PUBLIC $<BUILD_INTERFACE:--coverage>) # also of programs with the objects of cli
+    endif()
+endfunction()
+
 if(PROJECT_IS_TOP_LEVEL)
     set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
     set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)

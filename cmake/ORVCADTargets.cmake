@@ -16,6 +16,7 @@ function(orvcad_add_library target export_name)
     add_library(${target} SHARED)
     add_library(ORVCADModelData::${export_name} ALIAS ${target})
     orvcad_configure_target(${target})
+    orvcad_count_coverage(${target})
     generate_export_header(${target} EXPORT_FILE_NAME ${PROJECT_BINARY_DIR}/include/${target}Export.h)
     target_sources(${target} PRIVATE ${PROJECT_BINARY_DIR}/include/${target}Export.h)
     target_include_directories(${target} PUBLIC

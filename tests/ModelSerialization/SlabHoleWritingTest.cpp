@@ -153,6 +153,22 @@ TEST_F(SlabHoleWritingTest, otherOutlinesOfOneNameHaveTheFirstOne)
     EXPECT_DOUBLE_EQ(worldPoly(holes[1])->Area(), 3e6);
 }
 
+TEST_F(SlabHoleWritingTest, circlesAndOtherOutlinesOfOneNameShareAnElementAcrossGroups)
+{
+    addHole(shapes::circle({3000, 3000}, 250));
+    addHole(shapes::circle({5000, 3000}, 250), "", "2C16");
+    addHole(shapes::circle({7000, 3000}, 250), "BD-r=250", "2C18");
+    addHole(wedge(1000, 5000));
+    addHole(wedge(5000, 5000), "", "2C16");
+    write();
+    const auto holes = written(24);
+    ASSERT_EQ(holes.size(), 5);
+    EXPECT_EQ(holes[1]->element(), holes[0]->element());
+    EXPECT_EQ(holes[2]->element(), holes[0]->element());
+    EXPECT_EQ(holes[4]->element(), holes[3]->element());
+    EXPECT_EQ(elementCount(24), 2);
+}
+
 TEST_F(SlabHoleWritingTest, edgeBarsAreNotWritten)
 {
     auto *hole = addHole(shapes::rectangle(1000, 1000, 400, 300), "", "2C16");

@@ -39,6 +39,15 @@ TEST_F(BeamResultTest, seatsAreToldAsResolvedOrNot)
     EXPECT_EQ(table.out.count('\n'), 3);
 }
 
+TEST_F(BeamResultTest, labelWithoutANameIsToldAsSuchInTheTable)
+{
+    QJsonObject nameless = label();
+    nameless["strName"] = "";
+    write("result.json", QJsonObject{{"elementInfoList", QJsonArray{nameless}}});
+    EXPECT_TRUE(run({"beam", "result", "result.json"}).out.contains("\n(no name) "));
+    EXPECT_EQ(run({"beam", "result", "result.json", "--json"}).json()["labels"].toArray().at(0)["name"], "");
+}
+
 TEST_F(BeamResultTest, labelThatIsNoRecordIsLeftOut)
 {
     write("result.json", QJsonObject{{"elementInfoList", QJsonArray{"KL-1", label()}}});

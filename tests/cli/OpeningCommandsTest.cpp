@@ -36,6 +36,29 @@ TEST_F(OpeningCommandsTest, applyMakesPlacesAndAttachesAndSaves)
     EXPECT_EQ(run({"opening", "export", "house.hbxdb", "-o", "out.json", "--json"}).json()["placed"], 2);
 }
 
+TEST_F(OpeningCommandsTest, optionsWritesThoseOfDoorsAndWindowsByName)
+{
+    write("house.json", R"~({"format": "hbx-project", "version": 1, "name": "House", "regions": [], "options": [
+        {"group": "WallHolesSetting", "name": "width", "value": "900"},
+        {"group": "BeamSetting", "name": "KL", "value": "WKL"},
+        {"group": "WallHolesSetting", "name": "sill", "value": "1"}]})~");
+    ASSERT_EQ(run({"project", "import", "house.json", "-o", "house.hbxdb"}).exitCode, 0);
+    const Result result = run({"opening", "options", "house.hbxdb", "-o", "options.json", "--json"});
+    EXPECT_EQ(result.exitCode, 0) << result.err.toStdString();
+    EXPECT_EQ(result.json()["options"], 2);
+    EXPECT_EQ(exchangetest::parsed(read("options.json")),
+              (QJsonObject{{"ORVCADWindoorDataInputModel",
+                            QJsonArray{QJsonObject{{"sill", "1"}}, QJsonObject{{"width", "900"}}}}}));
+}
+
+TEST_F(OpeningCommandsTest, optionsWithoutAFileGoToStandardOutput)
+{
+    importSmallHouse();
+    const Result result = run({"opening", "options", "house.hbxdb"});
+    EXPECT_EQ(result.exitCode, 0) << result.err.toStdString();
+    EXPECT_EQ(exchangetest::parsed(result.out), (QJsonObject{{"ORVCADWindoorDataInputModel", QJsonArray()}}));
+}
+
 TEST_F(OpeningCommandsTest, memberOfAnUnknownRegionIsLeftOut)
 {
     EXPECT_EQ(reasonFor(with(elementMember("M1"), "regionName", "Barn")), "unknown region \"Barn\"");
@@ -44,6 +67,12 @@ TEST_F(OpeningCommandsTest, memberOfAnUnknownRegionIsLeftOut)
 TEST_F(OpeningCommandsTest, memberOfAnUnknownFloorIsLeftOut)
 {
     EXPECT_EQ(reasonFor(with(elementMember("M1"), "floorName", "9")), "unknown floor code \"9\" in region \"House\"");
+}
+
+TEST_F(OpeningCommandsTest, placedObjectOfAnUnknownFloorIsLeftOut)
+{
+    EXPECT_EQ(reasonFor(1, {elementMember("M1"), with(placedMember("M1", 0, 0), "floorName", "9")}),
+              "unknown floor code \"9\" in region \"House\"");
 }
 
 TEST_F(OpeningCommandsTest, placedObjectAheadOfItsElementIsLeftOut)

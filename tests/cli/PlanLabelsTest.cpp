@@ -216,4 +216,13 @@ TEST_F(PlanLabelsTest, lineThatIsTooShortOrHasNoLengthGetsNoText)
     EXPECT_FALSE(labels.placeAlong(vks::CLine2d({0, 0}, {900, 0}), ""));
 }
 
+TEST_F(PlanLabelsTest, nothingHasAFrameOfNoSize)
+{
+    const PlanLabels::Frame frame = PlanLabels::frameOf(vks::CPolygon());
+    EXPECT_EQ(frame.along, vks::CVec2<double>(1, 0));
+    EXPECT_EQ(frame.halfLength, 0.0);
+    EXPECT_EQ(frame.halfWidth, 0.0);
+    EXPECT_FALSE(labels.placeInside(vks::CPolygon(), "Q1"));
+}
+
 } // namespace

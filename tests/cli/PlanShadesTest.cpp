@@ -52,6 +52,17 @@ TEST(PlanShadesTest, manyElevationsShareEightShadesAndLoseNone)
     EXPECT_EQ(shades.opacity(0.0), bands.back().opacity);
 }
 
+TEST(PlanShadesTest, shadeOfSeveralElevationsTellsTheLowestAndTheHighest)
+{
+    PlanShades shades;
+    for (int i = 0; i < 100; ++i)
+        shades.add(i * 10.0);
+    const auto bands = shades.bands();
+    ASSERT_EQ(bands.size(), 8U); // 12 or 13 elevations each
+    EXPECT_EQ(bands.front().text(), QStringLiteral("+0.880 … +0.990 m"));
+    EXPECT_EQ(bands.back().text(), QStringLiteral("±0.000 … +0.120 m"));
+}
+
 TEST(PlanShadesTest, signsAreWritten)
 {
     EXPECT_EQ(shadesOf({0}).bands()[0].text(), QStringLiteral("±0.000 m"));

@@ -46,6 +46,24 @@ protected:
 
 const QByteArray kWall = "LINESTRING(0 0, 5000 0)";
 
+TEST_F(PlanSvgTest, whatIsTooLargeForEveryRoundScaleIsDrawnWholeAllTheSame)
+{
+    const Picture picture = drawHouse(wall("Q1", "LINESTRING(0 0, 20000000 0)")); // 20 km
+    const QString data = picture.groupOfType(1003).firstChildElement("path").attribute("d");
+    auto points = QRegularExpression("[ML]([-\\d.]+) ([-\\d.]+)").globalMatch(data);
+    ASSERT_TRUE(points.hasNext());
+    double least = 1e9;
+    double most = -1e9;
+    while (points.hasNext()) {
+        const double x = points.next().captured(1).toDouble();
+        least = std::min(least, x);
+        most = std::max(most, x);
+    }
+    EXPECT_GT(least, 0.0);
+    EXPECT_GT(most - least, 100.0);
+    EXPECT_LT(most, 420.0);
+}
+
 TEST_F(PlanSvgTest, pageIsA3AndTellsBuildingRegionFloorAndScale)
 {
     const Picture picture = drawHouse(wall("Q1", kWall));

@@ -20,15 +20,15 @@ protected:
         return compare(expected, found).deviations.join('\n').toStdString();
     }
     /** A slab with bars in it; bars that lie in none are not read. */
-    static QByteArray slabWithBars(const char *info)
+    static QByteArray slabWithBars(const char *info, const char *line = "LINESTRING(0 500, 900 500)")
     {
         return QString(R"~({"name": "B1", "type": 19, "drawObjects": [{"key": "slab", "shape": {"kind": "face",
             "outline": "POLYGON((0 0, 900 0, 900 900, 0 900, 0 0))", "height": -120}}]},
             {"name": "SLJ", "type": 22, "drawObjects": [{"properties": {"BarInfo": "%1", "Type": 0, "Position": 1,
-            "CurveData": "LINESTRING(0 500, 900 500)", "ReferenceCurve": "LINESTRING(0 500, 900 500)",
+            "CurveData": "%2", "ReferenceCurve": "%2",
             "ReinforcementInfo": "slab,1;"}, "shape": {"kind": "face2d",
             "outline": "POLYGON((0 0, 900 0, 900 900, 0 900, 0 0))"}}]})~")
-            .arg(QLatin1String(info))
+            .arg(QLatin1String(info), QLatin1String(line))
             .toUtf8();
     }
 
@@ -73,6 +73,16 @@ TEST_F(SlabComparisonTest, barsAreComparedByWhatTheySay)
     EXPECT_EQ(compare(slabWithBars("C10@200"), slabWithBars("C10@200")).compared, 2);
     EXPECT_TRUE(compare(slabWithBars("C10@200"), slabWithBars("C10@200")).isSame());
     EXPECT_FALSE(compare(slabWithBars("C10@200"), slabWithBars("C12@200")).isSame());
+}
+
+TEST_F(SlabComparisonTest, barsRunBothWaysAlongTheirDirection)
+{
+    const QByteArray bars = slabWithBars("C10@200");
+    EXPECT_EQ(deviations(bars, slabWithBars("C10@200", "LINESTRING(900 500, 0 500)")), "");
+    EXPECT_FALSE(compare(bars, slabWithBars("C10@200", "LINESTRING(500 0, 500 900)")).isSame());
+    EXPECT_EQ(deviations(slabWithBars("C10@200", "LINESTRING(500 0, 500 900)"),
+                         slabWithBars("C10@200", "LINESTRING(500 900, 500 0)")),
+              "");
 }
 
 TEST_F(SlabComparisonTest, floorsWithoutSlabsAreTheSame)

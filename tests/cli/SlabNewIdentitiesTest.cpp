@@ -37,6 +37,16 @@ TEST(SlabNewIdentitiesTest, referencesFollow)
     EXPECT_FALSE(QUuid(bar["recongnizedID"].toString()).isNull()); // it had none
 }
 
+TEST(SlabNewIdentitiesTest, referencesInsideObjectsFollowToo)
+{
+    QJsonObject nested = document();
+    nested["forced_bars"] = QJsonArray{QJsonObject{{"host", QJsonObject{{"slab", kOld}, {"side", "top"}}}}};
+    const QJsonObject renewed = withNewIdentities(nested);
+    const QJsonValue host = renewed["forced_bars"].toArray().at(0)["host"];
+    EXPECT_EQ(host["slab"], renewed["boards"].toArray().at(0)["recongnizedID"]);
+    EXPECT_EQ(host["side"], "top");
+}
+
 TEST(SlabNewIdentitiesTest, membersThatSharedAnIdentityNoLongerDo)
 {
     const QJsonObject same{{"recongnizedID", kOld}};

@@ -54,6 +54,7 @@ TEST(StrictJsonTextTest, wholeNumberThatWouldBeRoundedIsTakenWhereTheVerbTellsIt
 TEST(StrictJsonTextTest, numberBeyondADoubleIsAFault)
 {
     EXPECT_EQ(faultOf("[1e308]"), "");
+    EXPECT_EQ(faultOf("[1.8e308]"), "line 1, column 2: the number 1.8e308 is too large");
     EXPECT_NE(faultOf("[1e309]"), "");
     EXPECT_NE(faultOf(QByteArray("[") + QByteArray(400, '9') + "]"), "");
 }

@@ -149,6 +149,21 @@ TEST_F(SvgPageTest, controlCharactersThatXmlForbidsAreLeftOut)
     EXPECT_EQ(elements("text").at(0).toElement().text(), "ab");
 }
 
+TEST_F(SvgPageTest, pairsOfTheSupplementaryPlanesStayAndLoneHalvesGo)
+{
+    const QString house = QString::fromUtf8("\xF0\x9F\x8F\xA0");
+    page.addText({0, 0}, 2, "a\tb" + house + "\nc" + house.left(1));
+    EXPECT_EQ(elements("text").at(0).toElement().text(), "a\tb" + house + "\nc");
+}
+
+TEST_F(SvgPageTest, loopWithoutCurvesHasNoPath)
+{
+    vks::CPolygon polygon;
+    polygon.AddLoop(new vks::CLoop, true);
+    page.addPolygon(polygon, "fill=\"#fff\"");
+    EXPECT_EQ(pathData(), "");
+}
+
 TEST_F(SvgPageTest, groupHoldsWhatIsAddedUntilItsEnd)
 {
     page.beginGroup("walls", "opacity=\".5\"");

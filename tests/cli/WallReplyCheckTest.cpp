@@ -85,6 +85,13 @@ TEST_F(WallReplyCheckTest, wallsStandInTheOrderOfTheirIds)
     EXPECT_EQ(places(checked), "BrickWallIdentifyData.key_1\nBrickWallIdentifyData.key_2\nBrickWallIdentifyData.key_0");
 }
 
+TEST_F(WallReplyCheckTest, widthOfMinusOneLeavesTheHostsOwn)
+{
+    const WallReplyCheck checked = check(mapOf({{with(element("Q2"), "width", "-1"), QJsonArray{piece()}}}));
+    EXPECT_EQ(textOf(checked.leftOut()), "");
+    EXPECT_EQ(checked.sound().size(), 1U);
+}
+
 TEST_F(WallReplyCheckTest, checkChangesNothing)
 {
     check(mapOf({{element("Q2"), QJsonArray{piece()}}}));

@@ -13,6 +13,7 @@ protected:
     void SetUp() override
     {
         makeHouse();
+        leaveCountsOut();
         give(folder());
         for (const QString &name : filesIn(folder()).keys())
             give(path(name));

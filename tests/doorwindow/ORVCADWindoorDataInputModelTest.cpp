@@ -53,6 +53,14 @@ TEST_F(ORVCADWindoorDataInputModelTest, optionThatStandsTwiceKeepsItsFirstValue)
     EXPECT_EQ(model.identifyOptions.value("width"), "900");
 }
 
+TEST_F(ORVCADWindoorDataInputModelTest, savingIntoNothingDoesNothing)
+{
+    ORVCADWindoorDataInputModel model;
+    model.identifyOptions = {{"width", "900"}};
+    model.saveToJason(nullptr);
+    EXPECT_EQ(model.identifyOptions.value("width"), "900");
+}
+
 TEST_F(ORVCADWindoorDataInputModelTest, optionsThatAreThereAlreadyStay)
 {
     load({}, "[" + option(ptnWallHolesSetting, "width", "900") + "," + option(ptnWallHolesSetting, "sill", "1") + "]");

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -238,6 +239,24 @@ TEST_F(Cadi2OperatorTest, fileThatCannotBeWrittenIsRefusedWithAReason)
 {
     EXPECT_FALSE(m_operator->write(path("no/such/folder.cadi2"), m_model.get(), QString(), QString()));
     EXPECT_FALSE(m_operator->lastErrorReason().isEmpty());
+}
+
+TEST_F(Cadi2OperatorTest, folderIsNotReplacedByAFile)
+{
+    EXPECT_FALSE(m_operator->write(m_folder.path(), m_model.get(), QString(), QString()));
+    EXPECT_EQ(m_operator->lastErrorReason(), "is no file");
+    EXPECT_TRUE(QFileInfo(m_folder.path()).isDir());
+}
+
+TEST_F(Cadi2OperatorTest, fileBeyondTheLimitIsRefusedUnread)
+{
+    QFile file(put(QByteArray()));
+    ASSERT_TRUE(file.resize(134217729)); // zeros that take no room on the disk
+    EXPECT_FALSE(read());
+    EXPECT_EQ(m_operator->lastErrorReason(), "is larger than 134217728 bytes");
+    ASSERT_TRUE(file.resize(134217728));
+    EXPECT_FALSE(read());
+    EXPECT_EQ(m_operator->lastErrorReason().left(11), "is not JSON");
 }
 
 TEST_F(Cadi2OperatorTest, viewerDataThatIsNotFiniteIsNotWrittenAndTheOldFileStays)

@@ -16,10 +16,20 @@ const Damage kDamages[] = {
      "element_property[element_id=3, position=0].value: is no number"},
     {"UPDATE element_property SET value=200 WHERE element_id=3",
      "element_property[element_id=3, position=0].value: is no number"},
+    {"UPDATE element_property SET value=9e999 WHERE element_id=3",
+     "element_property[element_id=3, position=0].value: is no number"},
     {"INSERT INTO element_property VALUES(3,1,'Thickness',200.0)",
      "element_property[element_id=3, position=1].name: stands twice: \"Thickness\""},
     {"UPDATE draw_object_property SET value='roof' WHERE draw_object_id=18 AND name='TopElev'",
      "draw_object_property[draw_object_id=18, position=1].value: is no elevation"},
+    {"UPDATE draw_object_property SET value=3 WHERE draw_object_id=18 AND name='TopElev'",
+     "draw_object_property[draw_object_id=18, position=1].value: is no elevation"},
+    {"UPDATE draw_object_property SET value=7 WHERE draw_object_id=18 AND name='ReinforcementInfo'",
+     "draw_object_property[draw_object_id=18, position=0].value: is no text"},
+    {"UPDATE draw_object_property SET value='18' WHERE name='DependSlabID'",
+     "draw_object_property[draw_object_id=20, position=0].value: is no whole number"},
+    {"UPDATE draw_object_property SET value=-3000000000 WHERE name='DependSlabID'",
+     "draw_object_property[draw_object_id=20, position=0].value: is no whole number"},
     {"UPDATE draw_object_property SET value=3000000000 WHERE name='DependSlabID'",
      "draw_object_property[draw_object_id=20, position=0].value: is no whole number"},
 };
@@ -106,6 +116,10 @@ TEST_F(DatabasePropertyReaderTest, aNameLongerThanAnyIsNoProperty)
 TEST_F(DatabasePropertyReaderTest, textsOfAnotherFormAreNoPointsAndNoGeometry)
 {
     EXPECT_EQ(refusalOf("(1,0,'InsertPt','1 2 3')", 15), "property[owner=1, position=0].value: is no point");
+    connection.run("DELETE FROM property");
+    EXPECT_EQ(refusalOf("(1,0,'InsertPt',1.5)", 15), "property[owner=1, position=0].value: is no point");
+    connection.run("DELETE FROM property");
+    EXPECT_EQ(refusalOf("(1,0,'CurveData',5)", 22), "property[owner=1, position=0].value: is no curve");
     connection.run("DELETE FROM property");
     EXPECT_EQ(refusalOf("(1,0,'SectionPoly','LINESTRING(0 0, 5 0)')", 15),
               "property[owner=1, position=0].value: is no polygon");

@@ -65,6 +65,9 @@ TEST_F(DatabaseRowsTest, whatDoesNotFitIsRefusedWithItsPlace)
     EXPECT_EQ(toldBy([&] { rows.number(2); }), "owner[id=4].size: is not finite");
     EXPECT_EQ(toldBy([&] { rows.refuse(0, "is odd"); }), "owner[id=4].id: is odd");
     EXPECT_EQ(toldBy([&] { rows.refuseRow("is odd"); }), "owner[id=4]: is odd");
+    connection.run("INSERT INTO owner VALUES(5,-2147483649,0)");
+    ASSERT_TRUE(rows.next());
+    EXPECT_EQ(toldBy([&] { rows.integer32(1); }), "owner[id=5].amount: is out of range");
 }
 
 TEST_F(DatabaseRowsTest, aKeyOfSeveralColumnsIsToldWhole)

@@ -37,6 +37,9 @@ const Refusal kDrawObjRefusals[] = {
     {OBJECT(4) ".key", "\"slab\"", OBJECT(4) ".key: \"slab\" stands twice in the file"},
     {OBJECT(0) ".attachedTo", "[0, \"Q-200\", 0]", OBJECT(0) ".attachedTo: belongs to doors, windows and holes only"},
     {OBJECT(1) ".attachedTo", "[0, \"Q-200\"]", OBJECT(1) ".attachedTo: is not [type, element name, position]"},
+    {OBJECT(1) ".attachedTo", "[\"0\", \"Q-200\", 0]", OBJECT(1) ".attachedTo: is not [type, element name, position]"},
+    {OBJECT(1) ".attachedTo", "[0, 200, 0]", OBJECT(1) ".attachedTo: is not [type, element name, position]"},
+    {OBJECT(1) ".attachedTo", "[0, \"Q-200\", -1]", OBJECT(1) ".attachedTo: is not [type, element name, position]"},
     {OBJECT(1) ".attachedTo", "[0, \"Q-300\", 0]", OBJECT(1) ".attachedTo: names no wall"},
     {OBJECT(1) ".attachedTo", "[19, \"B-1\", 0]", OBJECT(1) ".attachedTo: names no wall"},
     {OBJECT(1) ".attachedTo", "[0, \"Q-200\", 1]", OBJECT(1) ".attachedTo: names no draw object of \"Q-200\""},
@@ -86,6 +89,14 @@ TEST(ExchangeFloorReaderTest, orderSaysWhichObjectsOfAFloorAreMadeFirst)
     EXPECT_EQ(drawObjOf(project, "GZ-B", 0).id, first + 1) << "order 20";
     EXPECT_EQ(drawObjOf(project, "GZ-A", 1).id, first + 2) << "order 30";
     EXPECT_EQ(drawObjOf(project, "QTQ-no-axis", 0).id, first + 3) << "order 40";
+}
+
+TEST(ExchangeFloorReaderTest, orderOfAChildIsItsOwnWhereItIsTold)
+{
+    const ProjectRecord project = recordOf(smallBuildingWith(OBJECT(6) ".children[0].order", "-1"));
+    EXPECT_EQ(drawObjOf(project, "DJ-1-1").id, 14) << "the first of all";
+    EXPECT_EQ(drawObjOf(project, "Q-200").id, 15);
+    EXPECT_EQ(drawObjOf(project, "DJ-1-1").owner, drawObjOf(project, "DJ-1").id);
 }
 
 TEST(ExchangeFloorReaderTest, aChainThatIsARingIsRefused)

@@ -56,6 +56,7 @@ TEST(ExchangeGeometryTest, aPointIsAnArrayOfTwoNumbers)
 {
     const auto point = pointFromJson(QJsonArray{1.5, -2}, JsonPlace());
     EXPECT_EQ(pointToJson(point), (QJsonArray{1.5, -2}));
-    for (const QJsonValue &value : {QJsonValue(1), QJsonValue(QJsonArray{1}), QJsonValue(QJsonArray{1, "2"})})
+    for (const QJsonValue &value :
+         {QJsonValue(1), QJsonValue(QJsonArray{1}), QJsonValue(QJsonArray{1, "2"}), QJsonValue(QJsonArray{"1", 2})})
         EXPECT_THROW(pointFromJson(value, JsonPlace()), dwgx::JsonRefusal);
 }

@@ -111,6 +111,25 @@ TEST_F(HBXChainTest, spansGoUpToANewHead)
     EXPECT_TRUE(store.drawObjRecord(links[1]->id())->spans.empty());
 }
 
+TEST_F(HBXChainTest, spansGoUpPastEveryLinkToTheHead)
+{
+    store.setSpans(links[2], {span(1)});
+    links[0]->linkNext(links[1]);
+    links[1]->linkNext(links[2]);
+    EXPECT_EQ(store.drawObjRecord(links[0]->id())->spans.size(), 1u);
+    EXPECT_TRUE(store.drawObjRecord(links[1]->id())->spans.empty());
+    EXPECT_TRUE(store.drawObjRecord(links[2]->id())->spans.empty());
+}
+
+TEST_F(HBXChainTest, spansOfTheHeadStayWhenAChainWithSpansFollows)
+{
+    store.setSpans(links[0], {span(1), span(2)});
+    store.setSpans(links[1], {span(7)});
+    links[0]->linkNext(links[1]);
+    EXPECT_EQ(store.drawObjRecord(links[0]->id())->spans.size(), 2u);
+    EXPECT_TRUE(store.drawObjRecord(links[1]->id())->spans.empty());
+}
+
 TEST_F(HBXChainTest, whatIsInNoChainHasNoSpans)
 {
     EXPECT_FALSE(store.setSpans(nullptr, {span(1)}));

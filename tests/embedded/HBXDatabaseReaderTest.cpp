@@ -21,6 +21,7 @@ const Damage kDamages[] = {
     {"UPDATE shape SET curve='' WHERE draw_object_id=14",
      "shape[draw_object_id=14].curve: is not the text of its geometry"},
     {"UPDATE shape SET kind=7 WHERE draw_object_id=14", "shape[draw_object_id=14].kind: is no kind of shape"},
+    {"UPDATE shape SET kind=-1 WHERE draw_object_id=14", "shape[draw_object_id=14].kind: is no kind of shape"},
     {"UPDATE shape SET width=9e999 WHERE draw_object_id=14", "shape[draw_object_id=14].width: is not finite"},
     {"UPDATE shape SET v_z=NULL WHERE draw_object_id=25", "shape[draw_object_id=25].v_z: is missing"},
     {"DELETE FROM shape WHERE draw_object_id=14", "draw_object[id=14]: has no shape"},
@@ -31,6 +32,8 @@ const Damage kDamages[] = {
      " is not the text of its geometry"},
     {"UPDATE shape_axis SET axis_group=4",
      "shape_axis[draw_object_id=23, axis_group=4, position=0, curve_position=0].axis_group: is no group of axes"},
+    {"UPDATE shape_axis SET axis_group=-1",
+     "shape_axis[draw_object_id=23, axis_group=-1, position=0, curve_position=0].axis_group: is no group of axes"},
     {"UPDATE shape_axis SET curve_position=1",
      "shape_axis[draw_object_id=23, axis_group=0, position=0, curve_position=1].curve_position:"
      " has no axis in front of it"},

@@ -74,4 +74,14 @@ TEST_F(HBXDatabaseWriterTest, optionsAndMaterialsAreReplacedWhereTheUpdateSaysSo
     ASSERT_EQ(again->options.size(), 2U);
     EXPECT_EQ(again->options[1].value, QString("2"));
     EXPECT_EQ(again->materials[0].name, QString("C30"));
+    update.hasOptions = false;
+    update.hasMaterials = true;
+    update.content.options.clear();
+    save();
+    const auto third = HBXDatabaseFile(path()).read(error);
+    ASSERT_TRUE(third);
+    EXPECT_EQ(third->options.size(), 2U);
+    ASSERT_EQ(third->materials.size(), 1U);
+    EXPECT_EQ(third->materials[0].number, 3);
+    EXPECT_EQ(third->materials[0].name, QString("M5"));
 }

@@ -57,6 +57,16 @@ TEST_F(HBXSameObjectTest, elevationsAreComparedByValue)
     EXPECT_FALSE(isAcceptable(second));
 }
 
+TEST_F(HBXSameObjectTest, anElevationThatOnlyOneHasMakesAnother)
+{
+    IHBXElementDrawObj *first = slab(kSquare);
+    IHBXElementDrawObj *second = slab(kSquare);
+    EXPECT_FALSE(isAcceptable(second));
+    second->properties()->setString(L"TopElev", QStringLiteral("2.9"), false);
+    EXPECT_TRUE(isAcceptable(second));
+    EXPECT_TRUE(isAcceptable(first));
+}
+
 TEST_F(HBXSameObjectTest, wallsCollideOnTheSameStrip)
 {
     wall("LINESTRING(0 0, 3000 0)", 200.0);

@@ -265,6 +265,19 @@ TEST(RecordFieldsTest, ownedRecordsAreNewAndRefusedOnesAreLeftOut)
     qDeleteAll(owner.bars);
 }
 
+TEST(RecordFieldsTest, ownedRecordsStayWhereNoArrayStands)
+{
+    struct Owner
+    {
+        QList<OwnedBar *> bars;
+    };
+    constexpr auto table = std::make_tuple(field("bars"_key, &Owner::bars));
+    OwnedBar bar{QStringLiteral("a")};
+    Owner owner{{&bar}};
+    EXPECT_TRUE(readFields({{"bars", 5}}, table, owner));
+    EXPECT_EQ(owner.bars, QList<OwnedBar *>{&bar});
+}
+
 TEST(RecordFieldsTest, rowsAreVisitedInTableOrder)
 {
     QStringList keys;

@@ -67,6 +67,14 @@ TEST(CLine2dTest, startBeyondTheEndMakesAnEmptyCurve)
     EXPECT_FALSE(line.Box().IsValid());
 }
 
+TEST(CLine2dTest, nearestPointOfAnEmptyLineIsItsStart)
+{
+    CLine2d line({0, 0}, {200, 0});
+    line.SetStartT(150);
+    line.SetEndT(50);
+    EXPECT_EQ(line.NearestT({75, 10}), 150);
+}
+
 TEST(CLine2dTest, lineMayBeLengthened)
 {
     CLine2d line({0, 0}, {200, 0});

@@ -120,6 +120,16 @@ TEST(CPolygonTest, otherShapesAreNoRectangles)
     const auto bulged =
         CPolygon::LoadFromString("CURVEPOLYGON(COMPOUNDCURVE((0 0, 9 0, 9 9, 0 9), CIRCULARSTRING(0 9, -1 4.5, 0 0)))");
     EXPECT_FALSE(bulged->IsRectangle());
+    EXPECT_FALSE(bulged->IsRectangle());
+    EXPECT_FALSE(CPolygon::LoadFromString("POLYGON((0 0, 9 0, 9 9, 0 9, 0 1))")->IsRectangle()) << "open";
+}
+
+TEST(CPolygonTest, loopOutOfRangeIsNull)
+{
+    const auto holed = polygon({box(0, 0, 9, 9), box(1, 1, 1, 1)});
+    EXPECT_EQ(holed->GetLoop(-1), nullptr);
+    EXPECT_EQ(holed->GetLoop(2), nullptr);
+    EXPECT_NE(holed->GetLoop(1), nullptr);
 }
 
 TEST(CPolygonTest, emptyPolygonHasNoAreaNoBoxAndTheOrigin)

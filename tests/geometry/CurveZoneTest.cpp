@@ -45,6 +45,16 @@ TEST(CurveZoneTest, aCurveHasADiscAtEachEnd)
     EXPECT_EQ(ofCircle.border().size(), 2U);
 }
 
+TEST(CurveZoneTest, aDistanceBeyondTheRadiusHasNoInnerSide)
+{
+    CurveZone zone(kEverywhere);
+    zone.addPolygon(*circle({0, 0}, 5), 10.0);
+    const std::vector<double> cuts = zone.cuts(vks::CLine2d({-50, 0}, {50, 0}));
+    ASSERT_EQ(cuts.size(), 4U);
+    EXPECT_NEAR(cuts[1], 35.0, 1e-6);
+    EXPECT_NEAR(cuts[2], 65.0, 1e-6);
+}
+
 TEST(CurveZoneTest, whatIsOutOfRangeIsLeftOut)
 {
     CurveZone zone({{90, -5}, {200, 5}});

@@ -115,6 +115,7 @@ TEST(OrientProjectCurve2dTest, polygonGoesCurveByCurve)
     EXPECT_EQ(moved->Box().minPt, Vec(4990, 1000));
     EXPECT_EQ(OrientProjectPolygon(kTilted, shapes::circle({0, 0}, 1), Frame(), kDown), nullptr);
     EXPECT_EQ(OrientProjectPolygon(Frame(), nullptr, Frame(), kDown), nullptr);
+    EXPECT_EQ(OrientProjectPolygon(Frame(), shape, Frame(), {1, 0, 0}), nullptr) << "a direction within the plane";
 }
 
 } // namespace

@@ -217,6 +217,16 @@ TEST(PolygonRelationTest, nothingAndUnsoundPolygonsAreInvalid)
     EXPECT_EQ(PolygonPolygonPosition(sound, sound, nan), -1);
 }
 
+TEST(PolygonRelationTest, aPolygonThatCrossesItselfIsInvalidThoughItHasAnArea)
+{
+    const PolygonPtr sound = rectangle(0, 0, 100, 100);
+    const PolygonPtr crossing = polygon({{{0, 0}, {100, 100}, {100, 0}, {0, 50}}});
+    EXPECT_EQ(PolygonPolygonPosition(crossing, sound, 0), -1);
+    EXPECT_EQ(PolygonPolygonPosition(sound, crossing, 0), -1);
+    EXPECT_EQ(vks::CurvePolygonPosition(vks::CRefPtr<vks::CLine2d>(new vks::CLine2d({10, 5}, {20, 5})), crossing, 0),
+              -1);
+}
+
 TEST(PolygonRelationTest, polygonsOfSeveralPartsRelateAsAWhole)
 {
     const PolygonPtr two = polygon({box(0, 0, 100, 100), box(300, 0, 100, 100)});

@@ -119,6 +119,39 @@ TEST(PolygonRepairTest, overlappingHolesAreTakenApartAndOtherArcsStay)
     EXPECT_EQ(arcs, 1);
 }
 
+TEST(PolygonRepairTest, aLoopThatMeetsATangledOneIsTakenApartWithIt)
+{
+    // The box lies half in the right half of the bow tie: what both hold is out, by the even-odd rule.
+    const PolygonPtr result =
+        repaired(polygon({{{0, 0}, {1000, 1000}, {1000, 0}, {0, 1000}}, box(900, 400, 200, 200)}));
+    expectSound(result, 500000 - 20000 + 20000, 1.0);
+    EXPECT_EQ(result->LoopCount(), 3);
+    EXPECT_NEAR(result->Box().maxPt.x, 1100, 0.01);
+}
+
+TEST(PolygonRepairTest, aLoopThatATangledOneDoesNotMeetStaysAsItIs)
+{
+    const Points bowTie{{0, 0}, {1000, 1000}, {1000, 0}, {0, 1000}};
+    const PolygonPtr withHole = repaired(polygon({bowTie, box(800, 450, 100, 100)}));
+    expectSound(withHole, 500000 - 10000, 1.0);
+    EXPECT_EQ(withHole->LoopCount(), 3);
+    const PolygonPtr source = polygon({bowTie});
+    source->AddLoop(circleLoop({5000, 5000}, 100), true);
+    const PolygonPtr withDisc = repaired(source);
+    expectSound(withDisc, 500000 + kPi * 1e4, 1.0);
+    EXPECT_EQ(withDisc->GetLoop(2)->GetCurve(0)->Type(), vks::CCurve2d::kArc);
+}
+
+TEST(PolygonRepairTest, tangledLoopsThatCancelLeaveTheOthers)
+{
+    const Points bowTie{{0, 0}, {1000, 1000}, {1000, 0}, {0, 1000}};
+    const PolygonPtr source = polygon({bowTie, bowTie});
+    source->AddLoop(circleLoop({5000, 5000}, 100), true);
+    const PolygonPtr result = repaired(source);
+    expectSound(result, kPi * 1e4);
+    EXPECT_TRUE(result->IsCircle());
+}
+
 TEST(PolygonRepairTest, flagOneTurnsOuterLoopsLeftAndHolesRight)
 {
     const PolygonPtr source = frame(0, 0, 1000, 200);

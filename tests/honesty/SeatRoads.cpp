@@ -33,7 +33,7 @@ const CarriedKeys &seatKeys()
         never("SectionPoly"),
         when(number("SectionWidth"), tieBeam),
         when(number("SectinoHeight"), tieBeam),
-        never("TopElev"), // of the element; the placed object's arrives
+        never("TopElev"), // of the element; the placed object gets it, and is compared
         never("BtmElev"),
         when(CarriedKey{"Height", How::Same, kHosts}, ofType({52, 53, 54})),
         when(sixDigits("AxisOffset"), tieBeam),
@@ -78,9 +78,20 @@ int placedSeatsOf(const QJsonObject &summary)
     return sum;
 }
 
-QJsonObject withNamesOfTheirOwn(QJsonObject document)
+/** Footings of names of their own, and seats at the elevations of their elements: what the form carries. */
+QJsonObject asCarried(QJsonObject document)
 {
     document = withValue(document, {"etIsolatedFD", "1", "EntName"}, "DJ-2").toObject();
+    for (const QString &array : kSeatArrays) {
+        QJsonArray entries = document[array].toArray();
+        for (int i = 0; i < entries.size(); ++i) {
+            QJsonObject seat = entries[i].toObject();
+            seat["TopElev"] = seat["EDOTopElev"];
+            seat["BtmElev"] = seat["EDOBtmElev"];
+            entries[i] = seat;
+        }
+        document[array] = entries;
+    }
     return document;
 }
 
@@ -99,8 +110,10 @@ std::vector<ReplyRoad> seatRoads()
              seatsUnequal,
              {52, 53, 54, 18},
              placedSeatsOf,
-             {"etIsolatedFD[0].WorldPoly"},
-             withNamesOfTheirOwn,
+             {"etIsolatedFD[0].WorldPoly", "etIsolatedFD[0].EDOTopElev", "etIsolatedFD[0].EDOBtmElev",
+              "etIsolatedFD[1].EDOTopElev", "etIsolatedFD[1].EDOBtmElev", "etPileCap[0].EDOTopElev",
+              "etPileCap[0].EDOBtmElev", "etPile[0].EDOTopElev", "etPile[1].EDOTopElev"},
+             asCarried,
              "^(?<members>\\d+) seats? read, "}};
 }
 

@@ -120,11 +120,6 @@ void HBXModelStore::setName(const QString &name) { setMarked(m_state->settings.n
 
 const QString &HBXModelStore::source() const { return m_state->settings.source; }
 
-void HBXModelStore::setSource(const QString &source)
-{
-    setMarked(m_state->settings.source, source, m_state->isHeaderChanged);
-}
-
 const QString &HBXModelStore::planeRule() const { return m_state->settings.planeRule; }
 
 void HBXModelStore::setPlaneRule(const QString &rule)

@@ -83,7 +83,6 @@ public:
     const QString &name() const;
     void setName(const QString &name);
     const QString &source() const;
-    void setSource(const QString &source);
     const QString &planeRule() const;
     void setPlaneRule(const QString &rule);
 
