@@ -227,14 +227,6 @@ TEST_F(Cadi2OperatorTest, missingFileAndFolderAreRefused)
     EXPECT_FALSE(m_operator->read(QString(), m_model.get()));
 }
 
-TEST_F(Cadi2OperatorTest, fileBeyondTheLimitIsRefusedUnread)
-{
-    QFile sparse(path());
-    ASSERT_TRUE(sparse.open(QIODevice::WriteOnly) && sparse.resize(134217729));
-    EXPECT_FALSE(read());
-    EXPECT_EQ(m_operator->lastErrorReason(), "is larger than 134217728 bytes");
-}
-
 TEST_F(Cadi2OperatorTest, fileThatCannotBeWrittenIsRefusedWithAReason)
 {
     EXPECT_FALSE(m_operator->write(path("no/such/folder.cadi2"), m_model.get(), QString(), QString()));
