@@ -1,0 +1,118 @@
+"""What ./dev mutants needs to know of the build tree: how a source is compiled, how the library is linked, and which test
+programs and which tests in them belong to a source. A changed source never stands among the others: it is compiled in a
+folder of its own, linked with the objects of the unchanged ones, and laid over the library by LD_PRELOAD."""
+
+import json
+import os
+import pathlib
+import re
+import resource
+import shlex
+import shutil
+import signal
+import subprocess
+
+LIBRARY = "lib/libORVCADModelData.so"
+MEMORY = 4 << 30
+COMPILE_SECONDS = 300
+# What the optimiser makes of two texts tells whether they differ at all.
+OPTIMISED = ["-O2", "-DNDEBUG", "-DQT_NO_DEBUG", "-U_GLIBCXX_ASSERTIONS"]
+
+
+def limit_memory():
+    """A changed bound may ask for all memory there is."""
+    resource.setrlimit(resource.RLIMIT_AS, (MEMORY, MEMORY))
+    resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
+
+
+def run(command, folder, seconds, **surroundings):
+    """Exit code, or None when it took too long; then it and all that it started is ended."""
+    process = subprocess.Popen(command, cwd=folder, env={**os.environ, **surroundings}, start_new_session=True,
+                               preexec_fn=limit_memory, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                               stderr=subprocess.DEVNULL)
+    try:
+        return process.wait(seconds)
+    except subprocess.TimeoutExpired:
+        return None
+    finally:
+        if process.poll() is None:
+            os.killpg(process.pid, signal.SIGKILL)
+            process.wait()
+
+
+def suites_in(test_source):
+    return set(re.findall(r"^(?:TYPED_)?TEST(?:_F|_P)?\((\w+),", test_source.read_text(encoding="utf-8"), re.MULTILINE))
+
+
+def filter_of(suites):
+    """For suites plain, with values and with types."""
+    return ":".join(f"{suite}.*:*/{suite}.*:{suite}/*" for suite in sorted(suites))
+
+
+class TestProgram:
+    def __init__(self, path):
+        self.path = path
+        self.seconds = {}  # of each suite, by its plain name
+
+    def prepare(self, folder):
+        """Runs all tests once; they have to pass with the library as it is."""
+        report = folder / f"{self.path.name}.json"
+        if run([self.path, f"--gtest_output=json:{report}"], folder, COMPILE_SECONDS) != 0:
+            raise SystemExit(f"{self.path.name} fails before anything was changed")
+        for suite in json.loads(report.read_text(encoding="utf-8"))["testsuites"]:
+            name = re.sub(r"^\w+/|/\d+$", "", suite["name"])
+            self.seconds[name] = self.seconds.get(name, 0.0) + float(suite["time"].rstrip("s"))
+
+    def kills(self, folder, library, suites):
+        """Whether a test of these suites fails, or they take five times as long and ten seconds."""
+        limit = 5 * sum(self.seconds[suite] for suite in suites) + 10
+        return bool(suites) and run([self.path, f"--gtest_filter={filter_of(suites)}", "--gtest_fail_fast"], folder, limit,
+                                    LD_PRELOAD=str(library)) != 0
+
+
+class BuildTree:
+    """A configured tree of the preset "mutants"."""
+
+    def __init__(self, folder):
+        self.folder = folder
+        commands = json.loads((folder / "compile_commands.json").read_text(encoding="utf-8"))
+        self.commands = {pathlib.Path(entry["file"]): shlex.split(entry["command"]) for entry in commands}
+
+    def build(self, programs):
+        """The library as it is, and the test programs."""
+        subprocess.run(["ninja", "-C", self.folder, LIBRARY, *programs], check=True, stdout=subprocess.DEVNULL)
+
+    def programs_of(self, tests):
+        """Names of the test programs that are made from the sources of a folder."""
+        return {self.object_of(source).parts[-2].replace(".dir", "") for source in self.commands if source.parent == tests}
+
+    def object_of(self, source):
+        command = self.commands[source]
+        return pathlib.Path(command[command.index("-o") + 1])
+
+    def compile(self, source, text, made, flags=()):
+        """The object of a source with this text in its place; None when it does not compile."""
+        copy = made.with_suffix(".cpp")
+        copy.write_text(f'#line 1 "{source}"\n{text}', encoding="utf-8")
+        places = {str(source): str(copy), str(self.object_of(source)): str(made), "-Werror": "-w"}
+        command = [places.get(part, part) for part in self.commands[source]] + list(flags)
+        return made if run(command, self.folder, COMPILE_SECONDS) == 0 else None
+
+    def link(self, source, changed, library):
+        """The library with one object in place of another."""
+        real = (self.folder / LIBRARY).resolve().relative_to(self.folder.resolve())
+        listed = subprocess.run(["ninja", "-C", self.folder, "-t", "commands", "-s", real], check=True,
+                                capture_output=True, text=True).stdout
+        line = next(line for line in listed.splitlines() if " -shared " in line)
+        places = {str(self.object_of(source)): str(changed), str(real): str(library)}
+        command = [places.get(part, part) for part in shlex.split(line.split("&&")[1])]
+        if shutil.which("ld.lld"):
+            command.append("-fuse-ld=lld")
+        return library if run(command, self.folder, COMPILE_SECONDS) == 0 else None
+
+    def compiles_to_the_same(self, source, text, folder):
+        """Whether the optimiser sees no difference, so that no test can."""
+        made = folder / "optimised.o"  # one name, as it stands in the object
+        versions = [source.read_text(encoding="utf-8"), text]
+        objects = [self.compile(source, version, made, OPTIMISED) and made.read_bytes() for version in versions]
+        return all(objects) and objects[0] == objects[1]
