@@ -14,7 +14,8 @@ import subprocess
 
 LIBRARY = "lib/libORVCADModelData.so"
 MEMORY = 4 << 30
-COMPILE_SECONDS = 300
+LONGEST_SECONDS = 600  # for a compiler, or for all tests of a program
+SLOW_SECONDS = 0.5  # a test that takes longer waits for the others
 # What the optimiser makes of two texts tells whether they differ at all.
 OPTIMISED = ["-O2", "-DNDEBUG", "-DQT_NO_DEBUG", "-U_GLIBCXX_ASSERTIONS"]
 
@@ -44,30 +45,41 @@ def suites_in(test_source):
     return set(re.findall(r"^(?:TYPED_)?TEST(?:_F|_P)?\((\w+),", test_source.read_text(encoding="utf-8"), re.MULTILINE))
 
 
-def filter_of(suites):
-    """For suites plain, with values and with types."""
-    return ":".join(f"{suite}.*:*/{suite}.*:{suite}/*" for suite in sorted(suites))
+def plain_suite(test):
+    """The suite as its source names it, without what stands around it for values and types."""
+    return re.sub(r"^\w+/|/\d+$", "", test.split(".")[0])
 
 
 class TestProgram:
     def __init__(self, path):
         self.path = path
-        self.seconds = {}  # of each suite, by its plain name
+        self.seconds = {}  # of each test, by suite and name as --gtest_filter takes them
 
-    def prepare(self, folder):
-        """Runs all tests once; they have to pass with the library as it is."""
+    def prepare(self, folder, library):
+        """Runs all tests once, unless that was done since program and library were made; they have to pass with nothing
+        changed."""
         report = folder / f"{self.path.name}.json"
-        if run([self.path, f"--gtest_output=json:{report}"], folder, COMPILE_SECONDS) != 0:
-            raise SystemExit(f"{self.path.name} fails before anything was changed")
+        newest = max(self.path.stat().st_mtime, library.stat().st_mtime)
+        if not report.exists() or report.stat().st_mtime < newest:
+            if run([self.path, f"--gtest_output=json:{report}"], folder, LONGEST_SECONDS) != 0:
+                report.unlink(missing_ok=True)
+                raise SystemExit(f"{self.path.name} fails before anything was changed")
         for suite in json.loads(report.read_text(encoding="utf-8"))["testsuites"]:
-            name = re.sub(r"^\w+/|/\d+$", "", suite["name"])
-            self.seconds[name] = self.seconds.get(name, 0.0) + float(suite["time"].rstrip("s"))
+            for test in suite["testsuite"]:
+                self.seconds[f"{suite['name']}.{test['name']}"] = float(test["time"].rstrip("s"))
 
-    def kills(self, folder, library, suites):
-        """Whether a test of these suites fails, or they take five times as long and ten seconds."""
-        limit = 5 * sum(self.seconds[suite] for suite in suites) + 10
-        return bool(suites) and run([self.path, f"--gtest_filter={filter_of(suites)}", "--gtest_fail_fast"], folder, limit,
-                                    LD_PRELOAD=str(library)) != 0
+    def tests(self, wanted):
+        return {test for test in self.seconds if wanted(plain_suite(test), self.seconds[test] > SLOW_SECONDS)}
+
+    def kills(self, folder, library, tests):
+        """Whether one of these tests fails, or they take five times as long and ten seconds."""
+        if not tests:
+            return False
+        selection = folder / "selection"
+        selection.write_text(f"--gtest_filter={':'.join(sorted(tests))}\n", encoding="utf-8")
+        limit = 5 * sum(self.seconds[test] for test in tests) + 10
+        return run([self.path, f"--gtest_flagfile={selection}", "--gtest_fail_fast"], folder, limit,
+                   LD_PRELOAD=str(library)) != 0
 
 
 class BuildTree:
@@ -96,7 +108,7 @@ class BuildTree:
         copy.write_text(f'#line 1 "{source}"\n{text}', encoding="utf-8")
         places = {str(source): str(copy), str(self.object_of(source)): str(made), "-Werror": "-w"}
         command = [places.get(part, part) for part in self.commands[source]] + list(flags)
-        return made if run(command, self.folder, COMPILE_SECONDS) == 0 else None
+        return made if run(command, self.folder, LONGEST_SECONDS) == 0 else None
 
     def link(self, source, changed, library):
         """The library with one object in place of another."""
@@ -108,7 +120,7 @@ class BuildTree:
         command = [places.get(part, part) for part in shlex.split(line.split("&&")[1])]
         if shutil.which("ld.lld"):
             command.append("-fuse-ld=lld")
-        return library if run(command, self.folder, COMPILE_SECONDS) == 0 else None
+        return library if run(command, self.folder, LONGEST_SECONDS) == 0 else None
 
     def compiles_to_the_same(self, source, text, folder):
         """Whether the optimiser sees no difference, so that no test can."""

@@ -94,12 +94,11 @@ class Tests:
         self.folder, self.programs = folder, programs
 
     def kill(self, source, folder, library):
-        """The tests of the class of the source come first."""
+        """The tests of the class of the source come first, slow ones last."""
         file = self.folder / f"{source.stem}Test.cpp"
         own = build_tree.suites_in(file) if file.exists() else set()
-        steps = [(program, program.seconds.keys() & own) for program in self.programs]
-        steps += [(program, program.seconds.keys() - own) for program in self.programs]
-        return any(program.kills(folder, library, suites) for program, suites in steps)
+        return any(program.kills(folder, library, program.tests(lambda suite, is_slow: (suite in own, is_slow) == step))
+                   for step in ((True, False), (False, False), (True, True), (False, True)) for program in self.programs)
 
 
 def verdict(tree, tests, change, folder):
@@ -175,7 +174,7 @@ def tests_of(tree, folder, work):
     tree.build(names)
     programs = [build_tree.TestProgram(tree.folder / "bin" / name) for name in names]
     for program in programs:
-        program.prepare(work)
+        program.prepare(work, tree.folder / build_tree.LIBRARY)
     return Tests(folder, programs)
 
 

