@@ -161,6 +161,10 @@ class Trials(unittest.TestCase):
     def test_a_crash_and_an_end_in_vain_are_killed(self):
         self.assertEqual(self.result("return a;", "__builtin_trap();"), mutate.KILLED)
 
+    @unittest.skipUnless(build_tree.leak_checker(), "the compiler has no leak checker")
+    def test_a_leak_is_noticed(self):
+        self.assertEqual(self.result("return a;", "return __builtin_malloc(8) ? a : b;"), mutate.KILLED)
+
     def test_sources_and_library_stay_as_they_are(self):
         library = (self.tree.folder / build_tree.LIBRARY).read_bytes()
         self.run_all()
