@@ -93,22 +93,22 @@ class Tests:
     def __init__(self, folder, programs):
         self.folder, self.programs = folder, programs
 
-    def kill(self, source, folder, library):
+    def kill(self, source, folder, made):
         """The tests of the class of the source come first, slow ones last."""
         file = self.folder / f"{source.stem}Test.cpp"
         own = build_tree.suites_in(file) if file.exists() else set()
-        return any(program.kills(folder, library, program.tests(lambda suite, is_slow: (suite in own, is_slow) == step))
+        return any(program.kills(folder, made, program.tests(lambda suite, is_slow: (suite in own, is_slow) == step))
                    for step in ((True, False), (False, False), (True, True), (False, True)) for program in self.programs)
 
 
 def verdict(tree, tests, change, folder):
-    made = tree.compile(change.source, change.applied(), folder / "changed.o")
-    library = made and tree.link(change.source, made, folder / "changed.so")
-    if not library:
+    made = tree.make(change.source, change.applied(), tests.folder, tests.programs, folder)
+    if not made:
         return UNCOMPILED
-    if tests.kill(change.source, folder, library):
+    if tests.kill(change.source, folder, made):
         return KILLED
-    return SAME if tree.compiles_to_the_same(change.source, change.applied(), folder) else SURVIVED
+    same = tree.compiles_to_the_same(change.source, change.applied(), tests.folder, folder)
+    return SAME if same else SURVIVED
 
 
 class Trial:
@@ -132,13 +132,14 @@ class Trial:
         with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
             changes = iter(changes)
             while sum(result in (KILLED, SURVIVED) for _, result in found) < number:
-                while len(waiting) < jobs and (change := next(changes, None)):
+                while len(waiting) < 8 * jobs and (change := next(changes, None)):
                     waiting.append((change, pool.submit(self.result_of, change, again)))
                 if not waiting:
                     break
                 change, future = waiting.popleft()
                 found.append((change, future.result()))
                 progress(len(found), *found[-1])
+            pool.shutdown(cancel_futures=True)
         return found
 
 
@@ -174,7 +175,7 @@ def tests_of(tree, folder, work):
     tree.build(names)
     programs = [build_tree.TestProgram(tree.folder / "bin" / name) for name in names]
     for program in programs:
-        program.prepare(work, tree.folder / build_tree.LIBRARY)
+        program.prepare(work, tree.library)
     return Tests(folder, programs)
 
 
@@ -184,6 +185,7 @@ def arguments():
     parser.add_argument("seed", nargs="?", type=int, default=1, help="another seed, another choice of them")
     parser.add_argument("--build", type=pathlib.Path, required=True, help="tree configured by the preset mutants")
     parser.add_argument("--folders", nargs="+", choices=FOLDERS, default=FOLDERS, metavar="FOLDER", help="below src")
+    parser.add_argument("--headers", action="store_true", help="change headers instead, which takes far longer")
     parser.add_argument("--survivors", action="store_true", help="try again what has survived before")
     parser.add_argument("--afresh", action="store_true", help="forget what was tried before")
     parser.add_argument("--jobs", type=int, default=os.cpu_count())
@@ -198,10 +200,11 @@ def main():
     if given.afresh:
         (given.build / "results.jsonl").unlink(missing_ok=True)
     results = Results(given.build / "results.jsonl")
-    tree = build_tree.BuildTree(given.build.resolve())
+    tree = build_tree.BuildTree(given.build.resolve(), root / "src")
     tests = {root / "src" / folder: tests_of(tree, root / "tests" / folder, work) for folder in given.folders}
     trial = Trial(tree, tests, results, work)
-    sources = [source for folder in given.folders for source in sorted((root / "src" / folder).glob("*.cpp"))]
+    pattern = "*.h" if given.headers else "*.cpp"
+    sources = [source for folder in given.folders for source in sorted((root / "src" / folder).glob(pattern))]
 
     def progress(number, change, result):
         print(f"{number}: {result}, {change.source.name}:{change.line()} ({change.mutant.kind})", file=sys.stderr, flush=True)

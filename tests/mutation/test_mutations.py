@@ -89,7 +89,8 @@ class Places(unittest.TestCase):
             self.assertTrue(mutant.applied(source).endswith(source[mutant.end:]))
 
 
-CODE = "extern \"C\" int larger(int a, int b)\n{\n    if (a > b)\n        return a;\n    return b;\n}\n"
+HEADER = "#pragma once\ninline int least() { return -5; }\n"
+CODE = "#include \"part/larger.h\"\nextern \"C\" int larger(int a, int b)\n{\n    if (a > b)\n        return a;\n    return b + (b < least());\n}\n"
 TEST = """extern "C" int larger(int a, int b);
 #include <cstdio>
 #include <cstring>
@@ -104,14 +105,16 @@ int main(int count, char **values)
 }
 """
 NINJA = """rule compile
-  command = c++ -fPIC -Werror -o $out -c $in
+  command = c++ -fPIC -Werror -I {folder}/src -MD -MF $out.d -o $out -c $in
+  depfile = $out.d
+  deps = gcc
 rule link
   command = : && c++ -shared -Wl,-soname,libORVCADModelData.so -o $out $in && :
 rule program
-  command = c++ -o $out $in -Llib -lORVCADModelData -Wl,-rpath,$$PWD/lib
-build larger.o: compile {folder}/src/larger.cpp
-build lib/libORVCADModelData.so: link larger.o
-build bin/LargerTests: program {folder}/tests/largerTest.cpp | lib/libORVCADModelData.so
+  command = : && c++ -o $out $in -Llib -lORVCADModelData -Wl,-rpath,$$PWD/lib && :
+build CMakeFiles/ORVCADModelData.dir/larger.o: compile {folder}/src/part/larger.cpp
+build lib/libORVCADModelData.so: link CMakeFiles/ORVCADModelData.dir/larger.o
+build bin/LargerTests: program {folder}/tests/part/largerTest.cpp | lib/libORVCADModelData.so
 build LargerTests: phony bin/LargerTests
 """
 
@@ -123,18 +126,19 @@ class Trials(unittest.TestCase):
         temporary = tempfile.TemporaryDirectory()
         self.addCleanup(temporary.cleanup)
         self.folder = pathlib.Path(temporary.name).resolve()
-        for name in ("src", "tests", "build/lib", "build/bin", "work"):
+        for name in ("src/part", "tests/part", "build/lib", "build/bin", "work"):
             (self.folder / name).mkdir(parents=True)
-        self.source = self.folder / "src/larger.cpp"
+        self.source = self.folder / "src/part/larger.cpp"
         self.source.write_text(CODE, encoding="utf-8")
-        (self.folder / "tests/largerTest.cpp").write_text(TEST, encoding="utf-8")
+        (self.folder / "src/part/larger.h").write_text(HEADER, encoding="utf-8")
+        (self.folder / "tests/part/largerTest.cpp").write_text(TEST, encoding="utf-8")
         (self.folder / "build/build.ninja").write_text(NINJA.format(folder=self.folder), encoding="utf-8")
-        commands = [{"file": str(self.folder / file), "command": f"c++ -fPIC -Werror -o {made} -c {self.folder / file}"}
-                    for file, made in (("src/larger.cpp", "larger.o"),
-                                       ("tests/largerTest.cpp", "CMakeFiles/LargerTests.dir/largerTest.o"))]
+        commands = [{"file": str(self.folder / file), "command": f"c++ -fPIC -Werror -I {self.folder}/src -o {made} -c {self.folder / file}"}
+                    for file, made in (("src/part/larger.cpp", "CMakeFiles/ORVCADModelData.dir/larger.o"),
+                                       ("tests/part/largerTest.cpp", "CMakeFiles/LargerTests.dir/largerTest.o"))]
         (self.folder / "build/compile_commands.json").write_text(json.dumps(commands), encoding="utf-8")
-        self.tree = build_tree.BuildTree(self.folder / "build")
-        self.tests = {self.source.parent: mutate.tests_of(self.tree, self.folder / "tests", self.folder / "work")}
+        self.tree = build_tree.BuildTree(self.folder / "build", self.folder / "src")
+        self.tests = {self.source.parent: mutate.tests_of(self.tree, self.folder / "tests/part", self.folder / "work")}
 
     def run_all(self, again=()):
         results = mutate.Results(self.folder / "results.jsonl")
@@ -143,14 +147,20 @@ class Trials(unittest.TestCase):
         found = trial.run(mutate.spread([self.source], 1), 100, again, 1, lambda *step: tried.append(step))
         return {(change.mutant.kind, change.mutant.replacement): result for change, result in found}
 
-    def result(self, old, new):
-        start = CODE.index(old)
-        change = mutate.Change(self.source, CODE, mutations.Mutant("", start, start + len(old), new))
+    def result(self, old, new, source=None, text=CODE):
+        start = text.index(old)
+        change = mutate.Change(source or self.source, text, mutations.Mutant("", start, start + len(old), new))
         return mutate.verdict(self.tree, self.tests[self.source.parent], change, self.folder / "work")
 
     def test_a_noticed_change_is_killed_and_another_survives(self):
         self.assertEqual(self.result("return a;", "return b;"), mutate.KILLED)
-        self.assertEqual(self.result("return b;", "return b + (b < -5);"), mutate.SURVIVED)
+        self.assertEqual(self.result("return b + (b < least());", "return b;"), mutate.SURVIVED)
+
+    def test_a_change_of_a_header_reaches_what_includes_it(self):
+        header = self.folder / "src/part/larger.h"
+        self.assertEqual(self.result("-5", "5", header, HEADER), mutate.KILLED)
+        self.assertEqual(self.result("-5", "-6", header, HEADER), mutate.SURVIVED)
+        self.assertEqual(header.read_text(encoding="utf-8"), HEADER)
 
     def test_what_does_not_compile_does_not_count(self):
         self.assertEqual(self.result("return a;", "return c;"), mutate.UNCOMPILED)
@@ -170,7 +180,7 @@ class Trials(unittest.TestCase):
         self.run_all()
         self.assertEqual(self.source.read_text(encoding="utf-8"), CODE)
         self.assertEqual((self.tree.folder / build_tree.LIBRARY).read_bytes(), library)
-        self.assertEqual([path.name for path in self.source.parent.iterdir()], ["larger.cpp"])
+        self.assertEqual(sorted(path.name for path in self.source.parent.iterdir()), ["larger.cpp", "larger.h"])
 
     def test_what_was_tried_is_not_tried_again(self):
         first = self.run_all()
