@@ -1,7 +1,7 @@
-"""What ./dev mutants needs to know of the build tree: how a source is compiled, how the library is linked, and which test
-programs and which tests in them belong to a source. A changed source never stands among the others: it is compiled in a
-folder of its own, linked with the objects of the unchanged ones, and laid over the library by LD_PRELOAD. Of a header, all
-that includes it is compiled and linked aside so, in the library and in the tests."""
+"""What ./dev mutants needs to know of the build tree: how a source is compiled, how the library is linked, and which
+test programs and which tests in them belong to a source. A changed source never stands among the others: it is compiled
+in a folder of its own, linked with the objects of the unchanged ones, and laid over the library by LD_PRELOAD. Of a
+header, all that includes it is compiled and linked aside so, in the library and in the tests."""
 
 import json
 import os
@@ -22,7 +22,7 @@ OPTIMISED = ["-O2", "-DNDEBUG", "-DQT_NO_DEBUG", "-U_GLIBCXX_ASSERTIONS"]
 
 
 def limit_memory():
-    """A changed bound may ask for all memory there is. What the leak checker reserves and does not use is not counted."""
+    """A changed bound may ask for all memory there is. What the leak checker reserves and does not use counts not."""
     resource.setrlimit(resource.RLIMIT_DATA, (MEMORY, MEMORY))
     resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
 
@@ -52,9 +52,9 @@ def plain_suite(test):
 
 
 def leak_checker():
-    """The compiler's own, to be loaded first, so that what is never deleted is noticed; none where it is not installed."""
-    named = subprocess.run(["c++", "-print-file-name=liblsan.so"], check=True, capture_output=True, text=True).stdout.strip()
-    return [os.path.realpath(named)] if os.path.isabs(named) else []
+    """The compiler's own, to be loaded first, so that what is never deleted is noticed; none where it is missing."""
+    named = subprocess.run(["c++", "-print-file-name=liblsan.so"], check=True, capture_output=True, text=True).stdout
+    return [os.path.realpath(named.strip())] if os.path.isabs(named) else []
 
 
 class TestProgram:
@@ -80,7 +80,8 @@ class TestProgram:
         return {test for test in self.seconds if wanted(plain_suite(test), self.seconds[test] > SLOW_SECONDS)}
 
     def kills(self, folder, made, tests):
-        """With what was made in place of library and program; whether one of these tests fails, or they take five times as long and ten seconds."""
+        """Whether one of these tests fails with what was made in place of library and program, or they take five times
+        as long and ten seconds."""
         if not tests:
             return False
         selection = folder / "selection"
@@ -90,7 +91,8 @@ class TestProgram:
 
     def run(self, arguments, folder, seconds, made):
         libraries = [*self.leak_checker, *(path for path in made.values() if path.suffix == ".so")]
-        return run([made.get(self.path, self.path), *arguments], folder, seconds, LD_PRELOAD=":".join(map(str, libraries)))
+        program = made.get(self.path, self.path)
+        return run([program, *arguments], folder, seconds, LD_PRELOAD=":".join(map(str, libraries)))
 
 
 class BuildTree:
@@ -125,7 +127,8 @@ class BuildTree:
 
     def programs_of(self, tests):
         """Names of the test programs that are made from the sources of a folder."""
-        return {self.object_of(source).parts[-2].replace(".dir", "") for source in self.commands if source.parent == tests}
+        return {self.object_of(source).parent.name.replace(".dir", "")
+                for source in self.commands if source.parent == tests}
 
     def object_of(self, source):
         command = self.commands[source]

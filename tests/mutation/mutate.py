@@ -1,9 +1,9 @@
 """Changes one small thing in a source at a time, and looks whether a test notices.
 
-Prints a table by folder and the changes that no test has noticed, and fails when less than 90 of 100 were noticed. A change
-that does not compile does not count, nor one of which the optimiser makes the same code. Nothing in the checkout is
-written: see build_tree.py. What was tried once with the same source stands in the file of results and is not tried again;
---survivors tries what had survived once more, after tests were added."""
+Prints a table by folder and the changes that no test has noticed, and fails when less than 90 of 100 were noticed. A
+change that does not compile does not count, nor one of which the optimiser makes the same code. Nothing in the checkout
+is written: see build_tree.py. What was tried once with the same source stands in the file of results and is not tried
+again; --survivors tries what had survived once more, after tests were added."""
 
 import argparse
 import collections
@@ -44,7 +44,8 @@ class Change:
         start = self.text.rfind("\n", 0, self.mutant.start) + 1
         end = self.text.find("\n", self.mutant.end)
         after = self.text[start:self.mutant.start] + self.mutant.replacement + self.text[self.mutant.end:end]
-        return [f"{sign} {line}" for sign, lines in (("-", self.text[start:end]), ("+", after)) for line in lines.split("\n")]
+        return [f"{sign} {line}" for sign, lines in (("-", self.text[start:end]), ("+", after))
+                for line in lines.split("\n")]
 
 
 def changes_of(source, chance):
@@ -97,8 +98,9 @@ class Tests:
         """The tests of the class of the source come first, slow ones last."""
         file = self.folder / f"{source.stem}Test.cpp"
         own = build_tree.suites_in(file) if file.exists() else set()
+        steps = ((True, False), (False, False), (True, True), (False, True))
         return any(program.kills(folder, made, program.tests(lambda suite, is_slow: (suite in own, is_slow) == step))
-                   for step in ((True, False), (False, False), (True, True), (False, True)) for program in self.programs)
+                   for step in steps for program in self.programs)
 
 
 def verdict(tree, tests, change, folder):
@@ -207,9 +209,11 @@ def main():
     sources = [source for folder in given.folders for source in sorted((root / "src" / folder).glob(pattern))]
 
     def progress(number, change, result):
-        print(f"{number}: {result}, {change.source.name}:{change.line()} ({change.mutant.kind})", file=sys.stderr, flush=True)
+        print(f"{number}: {result}, {change.source.name}:{change.line()} ({change.mutant.kind})", file=sys.stderr,
+              flush=True)
 
-    found = trial.run(spread(sources, given.seed), given.number, (SURVIVED,) if given.survivors else (), given.jobs, progress)
+    again = (SURVIVED,) if given.survivors else ()
+    found = trial.run(spread(sources, given.seed), given.number, again, given.jobs, progress)
     lines, share = table(found, root / "src")
     print("\n".join([*lines, *survivors(found, root)]))
     return 0 if share >= LEAST_SHARE else 1

@@ -1,15 +1,16 @@
 """The small changes that a test ought to notice, and where in a C++ source they can be made.
 
-The source is cut into tokens, not parsed. The rest is told from the formatting, which `./dev lint` keeps: an operator of
-two operands has blanks on both sides, a bracket of a template, a pointer or a reference has not. What is no code is left
-alone: comments, texts, characters, preprocessor lines, static_assert, the inside of template brackets."""
+The source is cut into tokens, not parsed. The rest is told from the formatting, which ./dev lint keeps: an operator of
+two operands has blanks on both sides, a bracket of a template, a pointer or a reference has not. What is no code is
+left alone: comments, texts, characters, preprocessor lines, static_assert, the inside of template brackets."""
 
 import dataclasses
 import re
 
 TOKEN = re.compile(r"""
     (?P<skip>\s+|//[^\n]*|/\*.*?\*/|\#(?:\\.|[^\n\\])*)
-  | (?P<text>(?:u8|[uUL])?R"(?P<mark>[^(\s]*)\(.*?\)(?P=mark)"|(?:u8|[uUL])?(?:"(?:\\.|[^"\\\n])*"|'(?:\\.|[^'\\\n])*')(?:_\w+)?)
+  | (?P<text>(?:u8|[uUL])?R"(?P<mark>[^(\s]*)\(.*?\)(?P=mark)"
+      | (?:u8|[uUL])?(?:"(?:\\.|[^"\\\n])*"|'(?:\\.|[^'\\\n])*')(?:_\w+)?)
   | (?P<number>(?:0[xX][0-9a-fA-F']+|\d[\d']*(?:\.\d*)?(?:[eE][+-]?\d+)?|\.\d+(?:[eE][+-]?\d+)?)[a-zA-Z_]*)
   | (?P<word>[A-Za-z_]\w*)
   | (?P<sign><<=|>>=|->\*|\.\.\.|::|->|\+\+|--|<<|>>|<=|>=|==|!=|&&|\|\||[-+*/%&|^]=|.)
@@ -22,8 +23,9 @@ SWAPS = {
 WORD_SWAPS = {"true": "false", "false": "true", "continue": "break"}
 OPENING, CLOSING = {"(": ")", "[": "]", "{": "}"}, set(")]}")
 # Words that no call starts with.
-STATEMENT_WORDS = set("""return if for while do switch case default else delete throw using typedef static const constexpr
-    struct class enum namespace template goto break continue try catch static_assert auto co_return""".split())
+STATEMENT_WORDS = set("""return if for while do switch case default else delete throw using typedef static const
+    constexpr struct class enum namespace template goto break continue try catch static_assert
+    auto""".split())
 
 
 @dataclasses.dataclass(frozen=True)
@@ -123,8 +125,8 @@ class Source:
         for index, token in enumerate(self.tokens):
             if index in self.closed or not index or self.tokens[index - 1].text == "operator":
                 continue
-            found += [place for place in (self.swapped(token), self.negated(index), self.dropped(index), self.left(index))
-                      if place]
+            here = (self.swapped(token), self.negated(index), self.dropped(index), self.left(index))
+            found += [place for place in here if place]
         return found
 
     def swapped(self, token):
@@ -208,7 +210,8 @@ class Source:
             return []
         end = self.partners[at]
         at = end - 1
-        while at >= 0 and (at in self.closed or self.tokens[at].kind == "word" or self.tokens[at].text in ("::", "*", "&", "~")):
+        while at >= 0 and (at in self.closed or self.tokens[at].kind == "word"
+                           or self.tokens[at].text in ("::", "*", "&", "~")):
             at -= 1
         head = self.tokens[at + 1:end]
         at_scope = at < 0 or self.tokens[at].text in (";", "{", "}")

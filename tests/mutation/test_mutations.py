@@ -53,13 +53,15 @@ class Places(unittest.TestCase):
     def test_a_call_is_dropped_and_a_declaration_is_not(self):
         self.assertEqual(changed("void f() { a.b(c)->d(e); }", "drop call"), ["void f() { ; }"])
         self.assertEqual(changed("void f() { if (a)\n b::c<T>(d); }", "drop call"), ["void f() { if (a)\n ; }"])
-        for kept in ("T a(b);", "T *a(b);", "const T &a(b);", "return a(b);", "delete a(b);", "a = b(c);", "using a::b;"):
+        for kept in ("T a(b);", "T *a(b);", "const T &a(b);", "return a(b);", "delete a(b);", "a = b(c);",
+                     "using a::b;"):
             self.assertEqual(changed(f"void f() {{ {kept} }}", "drop call"), [], kept)
 
     def test_a_longer_function_returns_early(self):
         self.assertEqual(changed("int A::f() const { a(); b(); }", "return early"),
                          ["int A::f() const { return {}; a(); b(); }"])
-        self.assertEqual(changed("void f(int a) { b(); c(); }", "return early"), ["void f(int a) { return; b(); c(); }"])
+        self.assertEqual(changed("void f(int a) { b(); c(); }", "return early"),
+                         ["void f(int a) { return; b(); c(); }"])
         self.assertEqual(changed("A::A(int a) { b(); c(); }", "return early"), ["A::A(int a) { return; b(); c(); }"])
         self.assertEqual(changed("int f() { return a; }", "return early"), [])
 
@@ -74,8 +76,8 @@ class Places(unittest.TestCase):
 
     def test_declarations_keep_their_signs(self):
         for source in ("template <typename T, int N = 1> class A;", "std::array<int, 4> a;", "QMap<int, QList<A *>> a;",
-                       "T f(A &&a, B &b, C *c);", "bool operator<(A a);", "bool operator==(A a);", "const auto &&a = b;",
-                       "for (const A &a : b) {}"):
+                       "T f(A &&a, B &b, C *c);", "bool operator<(A a);", "bool operator==(A a);",
+                       "const auto &&a = b;", "for (const A &a : b) {}"):
             self.assertEqual(changed(source), [], source)
 
     def test_a_quote_between_digits_opens_no_character(self):
@@ -90,19 +92,27 @@ class Places(unittest.TestCase):
 
 
 HEADER = "#pragma once\ninline int least() { return -5; }\n"
-CODE = "#include \"part/larger.h\"\nextern \"C\" int larger(int a, int b)\n{\n    if (a > b)\n        return a;\n    return b + (b < least());\n}\n"
-TEST = """extern "C" int larger(int a, int b);
+CODE = """#include "part/larger.h"
+extern "C" int larger(int a, int b)
+{
+    if (a > b)
+        return a;
+    return b + (b < least());
+}
+"""
+REPORT = {"testsuites": [{"name": "LargerTest", "testsuite": [{"name": "holds", "time": "0s"}]}]}
+TEST = f"""extern "C" int larger(int a, int b);
 #include <cstdio>
 #include <cstring>
 int main(int count, char **values)
-{
-    if (count > 1 && std::strncmp(values[1], "--gtest_output=json:", 20) == 0) {
+{{
+    if (count > 1 && std::strncmp(values[1], "--gtest_output=json:", 20) == 0) {{
         std::FILE *file = std::fopen(values[1] + 20, "w");
-        std::fputs("{\\"testsuites\\": [{\\"name\\": \\"LargerTest\\", \\"testsuite\\": [{\\"name\\": \\"holds\\", \\"time\\": \\"0s\\"}]}]}", file);
+        std::fputs(R"({json.dumps(REPORT)})", file);
         std::fclose(file);
-    }
+    }}
     return larger(2, 1) == 2 && larger(3, 3) == 3 ? 0 : 1;
-}
+}}
 """
 NINJA = """rule compile
   command = c++ -fPIC -Werror -I {folder}/src -MD -MF $out.d -o $out -c $in
@@ -120,7 +130,7 @@ build LargerTests: phony bin/LargerTests
 
 
 class Trials(unittest.TestCase):
-    """With a library of one function, whose test does not tell > from >=, as nobody can."""
+    """With a library of one function, whose test asks for no number below the least."""
 
     def setUp(self):
         temporary = tempfile.TemporaryDirectory()
@@ -133,18 +143,20 @@ class Trials(unittest.TestCase):
         (self.folder / "src/part/larger.h").write_text(HEADER, encoding="utf-8")
         (self.folder / "tests/part/largerTest.cpp").write_text(TEST, encoding="utf-8")
         (self.folder / "build/build.ninja").write_text(NINJA.format(folder=self.folder), encoding="utf-8")
-        commands = [{"file": str(self.folder / file), "command": f"c++ -fPIC -Werror -I {self.folder}/src -o {made} -c {self.folder / file}"}
-                    for file, made in (("src/part/larger.cpp", "CMakeFiles/ORVCADModelData.dir/larger.o"),
-                                       ("tests/part/largerTest.cpp", "CMakeFiles/LargerTests.dir/largerTest.o"))]
+        commands = [self.command("src/part/larger.cpp", "CMakeFiles/ORVCADModelData.dir/larger.o"),
+                    self.command("tests/part/largerTest.cpp", "CMakeFiles/LargerTests.dir/largerTest.o")]
         (self.folder / "build/compile_commands.json").write_text(json.dumps(commands), encoding="utf-8")
         self.tree = build_tree.BuildTree(self.folder / "build", self.folder / "src")
         self.tests = {self.source.parent: mutate.tests_of(self.tree, self.folder / "tests/part", self.folder / "work")}
 
+    def command(self, name, made):
+        source = self.folder / name
+        return {"file": str(source), "command": f"c++ -fPIC -Werror -I {self.folder}/src -o {made} -c {source}"}
+
     def run_all(self, again=()):
         results = mutate.Results(self.folder / "results.jsonl")
         trial = mutate.Trial(self.tree, self.tests, results, self.folder / "work")
-        tried = []
-        found = trial.run(mutate.spread([self.source], 1), 100, again, 1, lambda *step: tried.append(step))
+        found = trial.run(mutate.spread([self.source], 1), 100, again, 1, lambda *_: None)
         return {(change.mutant.kind, change.mutant.replacement): result for change, result in found}
 
     def result(self, old, new, source=None, text=CODE):
