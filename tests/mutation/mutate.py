@@ -171,14 +171,20 @@ def survivors(found, root):
             yield from change.difference()
 
 
-def tests_of(tree, folder, work):
-    """The test programs of a folder, built and run once with nothing changed."""
-    names = sorted(tree.programs_of(folder))
-    tree.build(names)
-    programs = [build_tree.TestProgram(tree.folder / "bin" / name) for name in names]
-    for program in programs:
-        program.prepare(work, tree.library)
-    return Tests(folder, programs)
+def tests_of(tree, folders, work, jobs):
+    """The test programs for each folder of sources, built and run once with nothing changed.
+
+    folders: for each of sources that of its tests"""
+    names = {sources: sorted(tree.programs_of(tests)) for sources, tests in folders.items()}
+    tree.build([name for of_folder in names.values() for name in of_folder])
+    tests = {}
+    for sources, of_folder in names.items():
+        programs = [build_tree.TestProgram(tree.folder / "bin" / name) for name in of_folder]
+        tests[sources] = Tests(folders[sources], programs)
+    with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
+        list(pool.map(lambda program: program.prepare(work, tree.library),
+                      [program for of_folder in tests.values() for program in of_folder.programs]))
+    return tests
 
 
 def arguments():
@@ -203,8 +209,8 @@ def main():
         (given.build / "results.jsonl").unlink(missing_ok=True)
     results = Results(given.build / "results.jsonl")
     tree = build_tree.BuildTree(given.build.resolve(), root / "src")
-    tests = {root / "src" / folder: tests_of(tree, root / "tests" / folder, work) for folder in given.folders}
-    trial = Trial(tree, tests, results, work)
+    folders = {root / "src" / folder: root / "tests" / folder for folder in given.folders}
+    trial = Trial(tree, tests_of(tree, folders, work, given.jobs), results, work)
     pattern = "*.h" if given.headers else "*.cpp"
     sources = [source for folder in given.folders for source in sorted((root / "src" / folder).glob(pattern))]
 

@@ -147,7 +147,8 @@ class Trials(unittest.TestCase):
                     self.command("tests/part/largerTest.cpp", "CMakeFiles/LargerTests.dir/largerTest.o")]
         (self.folder / "build/compile_commands.json").write_text(json.dumps(commands), encoding="utf-8")
         self.tree = build_tree.BuildTree(self.folder / "build", self.folder / "src")
-        self.tests = {self.source.parent: mutate.tests_of(self.tree, self.folder / "tests/part", self.folder / "work")}
+        folders = {self.source.parent: self.folder / "tests/part"}
+        self.tests = mutate.tests_of(self.tree, folders, self.folder / "work", 1)
 
     def command(self, name, made):
         source = self.folder / name
