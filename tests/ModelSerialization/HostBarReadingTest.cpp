@@ -122,8 +122,8 @@ TEST_F(HostBarReadingTest, outlineLosesStepsBelowAMillimetreAndBendsBelowAThousa
     };
     EXPECT_EQ(sidesWith("3000 0, 3000 0.8, 6000 0.8"), 4U);
     EXPECT_EQ(sidesWith("3000 0, 3000 1.2, 6000 1.2"), 6U);
-    EXPECT_EQ(sidesWith("3000 -1.2, 6000 0"), 4U); // a bend of 0.0008 rad
-    EXPECT_EQ(sidesWith("3000 -2.4, 6000 0"), 5U); // and of 0.0016 rad
+    EXPECT_EQ(sidesWith("3000 -0.9, 6000 0"), 4U); // a bend of 0.0006 rad
+    EXPECT_EQ(sidesWith("500 -0.9, 6000 0"), 5U);  // and of 0.002 rad
 }
 
 TEST_F(HostBarReadingTest, outlineOfATurnedFrameComesInWorldGeometry)
