@@ -27,19 +27,37 @@ def limit_memory():
     resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
 
 
+running = set()  # process groups of what was started and has not ended
+
+
+def end_group(number):
+    try:
+        os.killpg(number, signal.SIGKILL)
+    except ProcessLookupError:
+        pass  # it has ended by itself
+
+
+def end_all(*_):
+    """For a signal that ends the script: nothing goes on behind it."""
+    for number in list(running):
+        end_group(number)
+    os._exit(1)
+
+
 def run(command, folder, seconds, **surroundings):
     """Exit code, or None when it took too long; then it and all that it started is ended."""
     process = subprocess.Popen(command, cwd=folder, env={**os.environ, **surroundings}, start_new_session=True,
                                preexec_fn=limit_memory, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
                                stderr=subprocess.DEVNULL)
+    running.add(process.pid)
     try:
         return process.wait(seconds)
     except subprocess.TimeoutExpired:
         return None
     finally:
-        if process.poll() is None:
-            os.killpg(process.pid, signal.SIGKILL)
-            process.wait()
+        end_group(process.pid)
+        process.wait()
+        running.discard(process.pid)
 
 
 def suites_in(test_source):

@@ -13,6 +13,8 @@ import json
 import os
 import pathlib
 import random
+import shutil
+import signal
 import sys
 import tempfile
 import threading
@@ -205,6 +207,10 @@ def main():
     root = pathlib.Path(__file__).resolve().parents[2]
     work = given.build.resolve() / "work"
     work.mkdir(exist_ok=True)
+    for left in work.glob("tmp*"):  # by a run that was broken off
+        shutil.rmtree(left)
+    for ending in (signal.SIGINT, signal.SIGTERM):
+        signal.signal(ending, build_tree.end_all)
     if given.afresh:
         (given.build / "results.jsonl").unlink(missing_ok=True)
     results = Results(given.build / "results.jsonl")

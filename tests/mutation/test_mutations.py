@@ -2,8 +2,8 @@
 alone what is no code, notices what the tests notice, and never writes to the sources."""
 
 import json
+import os
 import pathlib
-import subprocess
 import tempfile
 import unittest
 
@@ -187,6 +187,15 @@ class Trials(unittest.TestCase):
     @unittest.skipUnless(build_tree.leak_checker(), "the compiler has no leak checker")
     def test_a_leak_is_noticed(self):
         self.assertEqual(self.result("return a;", "return __builtin_malloc(8) ? a : b;"), mutate.KILLED)
+
+    def test_what_does_not_end_is_ended_with_all_that_it_started(self):
+        os.mkfifo(self.folder / "alive")
+        reader = os.open(self.folder / "alive", os.O_RDONLY | os.O_NONBLOCK)
+        self.addCleanup(os.close, reader)
+        self.assertIsNone(build_tree.run(["sh", "-c", "exec 3>alive; sleep 1000 & wait"], self.folder, 1))
+        os.set_blocking(reader, True)
+        self.assertEqual(os.read(reader, 1), b"")  # which comes when nobody has it open any more
+        self.assertFalse(build_tree.running)
 
     def test_sources_and_library_stay_as_they_are(self):
         library = (self.tree.folder / build_tree.LIBRARY).read_bytes()
