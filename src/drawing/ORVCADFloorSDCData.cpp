@@ -126,8 +126,8 @@ bool ORVCADFloorSDCData::setJsonValueToData(const QJsonValue &json, Data<double>
 
 bool ORVCADFloorSDCData::setJsonValueToData(const QJsonValue &json, Data<QString> &data) const
 {
-    const QString value = json.toString();
-    if (json.isString() && !value.isNull())
+    const QString value = json.toString(); // null for what is no text
+    if (!value.isNull())
         data.set(value);
     return true; // meant: a text field is never a reason to refuse
 }

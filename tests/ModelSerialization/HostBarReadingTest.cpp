@@ -110,6 +110,22 @@ TEST_F(HostBarReadingTest, outlineIsCleaned)
     EXPECT_GT(along.Cross(sides[1]->EndPoint() - sides[1]->StartPoint()), 0.0); // counter-clockwise now
 }
 
+TEST_F(HostBarReadingTest, outlineLosesStepsBelowAMillimetreAndBendsBelowAThousandthOfARadian)
+{
+    object = areaBar(22, "SLJ");
+    const auto sidesWith = [this](const char *southern) {
+        as<IHBXFaceShape2D>(object)->setPolygon(
+            polygonOf(QString("POLYGON((0 0, %1, 6000 4000, 0 4000, 0 0))").arg(southern).toUtf8().constData()));
+        std::vector<vks::CCurve2d *> sides;
+        told<Model::ForcedBar>().surface->GetCurves(sides);
+        return sides.size();
+    };
+    EXPECT_EQ(sidesWith("3000 0, 3000 0.8, 6000 0.8"), 4U);
+    EXPECT_EQ(sidesWith("3000 0, 3000 1.2, 6000 1.2"), 6U);
+    EXPECT_EQ(sidesWith("3000 -0.9, 6000 0"), 4U); // a bend of 0.0006 rad
+    EXPECT_EQ(sidesWith("500 -0.9, 6000 0"), 5U);  // and of 0.002 rad
+}
+
 TEST_F(HostBarReadingTest, outlineOfATurnedFrameComesInWorldGeometry)
 {
     object = areaBar(22, "SLJ");

@@ -122,6 +122,16 @@ TEST(RowPointTest, rowsAreToldOffAlongTheLine)
     expectPoint(rowPoint(*line, 6), 0, 2400);
 }
 
+TEST(RowPointTest, partsOfATrimmedLineCountFromWhereItStartsNow)
+{
+    const Curve line = new vks::CLine2d(Point(0, 0), Point(0, 4000));
+    line->SetStartT(1000);
+    line->SetEndT(3000);
+    expectPoint(rowPoint(*line, 0), 0, 2000);
+    expectPoint(rowPoint(*line, 1), 0, 1400);
+    expectPoint(rowPoint(*line, 6), 0, 2200);
+}
+
 TEST(BarAcrossTest, barLiesAcrossTheEndOfItsLine)
 {
     const Curve line = new vks::CLine2d(Point(0, 0), Point(0, 4000));

@@ -340,6 +340,17 @@ TEST_F(BeamIdentifyInputTest, axisLineWithoutAProjectionIsANullOne)
     EXPECT_EQ(input->axisLines[1]->Length(), 4000.0);
 }
 
+TEST_F(BeamIdentifyInputTest, axisArcThatLeansIsANullOne)
+{
+    load(element("Grid", 74, "", drawObject(R"grid({"kind": "grid",
+        "coordinates": {"origin": [0, 0, 0], "u": [0.6, 0, 0.8], "v": [0, 1, 0]},
+        "outline": null, "axes": [
+            [{"label": "1", "curve": "CIRCULARSTRING(1000 0, 0 1000, -1000 0)"}], [], [], []]})grid")));
+    const Input input = create();
+    ASSERT_EQ(input->axisLines.size(), 1U);
+    EXPECT_FALSE(input->axisLines[0]); // it is part of an ellipse
+}
+
 TEST_F(BeamIdentifyInputTest, hostIsAskedForEachTypeByItselfAndForTheGridsLast)
 {
     load(everySeat());

@@ -102,6 +102,12 @@ TEST(FlatItemTextTest, setOfNumbersHasCommasBetween)
     EXPECT_EQ(read<std::set<int>>("30,2,2,x"), (std::set<int>{0, 2, 30}));
 }
 
+TEST(FlatItemTextTest, emptyPieceIsAZeroAndDoesNotEndTheList)
+{
+    EXPECT_EQ(read<std::set<int>>(",5"), (std::set<int>{0, 5}));
+    EXPECT_EQ(read<Segments>(",5,,7"), (Segments{{0, 5, 0, 7}}));
+}
+
 TEST(FlatItemTextTest, emptySetReadsBackAsZero) { EXPECT_EQ(read<std::set<int>>(""), std::set<int>{0}); }
 
 TEST(FlatItemTextTest, segmentsEndInSlashesAndTheirNumbersInCommas)

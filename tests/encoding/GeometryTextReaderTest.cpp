@@ -81,6 +81,19 @@ TEST(GeometryTextReaderTest, fiveNumbersAreAnArcWithItsBulgeInTheMiddle)
     expectPoint(arc->MidPoint(), 500, -500); // counter-clockwise from left to right runs below the chord
 }
 
+/** A half circle over a chord of 600 by 800: no two numbers of the text are the same. */
+TEST(GeometryTextReaderTest, eachNumberOfACurveHasItsPlace)
+{
+    Reader::Curve curve;
+    ASSERT_TRUE(Reader::reconstructCurve(QStringLiteral("100,250,-1,700,1050"), curve));
+    expectPoint(curve->StartPoint(), 100, 250);
+    expectPoint(curve->EndPoint(), 700, 1050);
+    expectPoint(curve->MidPoint(), 0, 950); // clockwise along the chord runs on its left
+    ASSERT_TRUE(Reader::reconstructCurve(QStringLiteral("100,250,700,1050"), curve));
+    expectPoint(curve->StartPoint(), 100, 250);
+    expectPoint(curve->EndPoint(), 700, 1050);
+}
+
 TEST(GeometryTextReaderTest, anyOtherCountOfNumbersIsNoCurve)
 {
     for (const char *text : {"", "1", "1,2", "1,2,3,4,5,6", "1,2,3,4,5,6,7,8,9"})

@@ -196,6 +196,18 @@ TEST(NumberTextTest, whatIsNoNumberIsRefused)
     }
 }
 
+/** ı, Ů and ᄹ stand at 0x131, 0x16e and 0x1139: their low bytes are those of 1, n and 9. */
+TEST(NumberTextTest, characterThatOnlyEndsLikeADigitIsNone)
+{
+    for (const char *text : {"ı", "ı2", "1ᄹ", "1.ı", "Ůan"}) {
+        bool ok = true;
+        EXPECT_EQ(readNumber(QString::fromUtf8(text), &ok), 0.0) << text;
+        EXPECT_FALSE(ok) << text;
+        EXPECT_EQ(encoding::readInt(QString::fromUtf8(text)), 0) << text;
+        EXPECT_EQ(encoding::readLongLong(QString::fromUtf8(text)), 0) << text;
+    }
+}
+
 TEST(NumberTextTest, whiteSpaceAndALeadingPlusPass)
 {
     for (const char *text : {" 5", "5 ", "\t5\n", "+5", " +5 ", "\u00a05"}) {

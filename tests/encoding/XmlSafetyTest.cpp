@@ -53,6 +53,13 @@ TEST(XmlSafetyTest, siblingsAndMarkupInSectionsAreNoLevels)
     EXPECT_TRUE(isSafeXml("<a><![CDATA[" + QString("<b>").repeated(1000) + "]]></a>"));
 }
 
+TEST(XmlSafetyTest, processingInstructionsAreNoLevelsAndHaveNoQuotes)
+{
+    EXPECT_TRUE(isSafeXml(QString("<?a b?>").repeated(1000) + "<c/>"));
+    EXPECT_TRUE(isSafeXml("<?a " + QString("<b>").repeated(1000) + "?><c/>"));
+    EXPECT_FALSE(isSafe("<?a it's?><!DOCTYPE b><c/>"));
+}
+
 TEST(XmlSafetyTest, endTagsTooManyDoNotMakeRoomForMoreLevels)
 {
     EXPECT_FALSE(isSafeXml(QString("</a>").repeated(1000) + nested(257)));

@@ -161,6 +161,7 @@ TEST(AnyTest, doubleOfANumberIsTheNumber)
     EXPECT_EQ(Any(2.5F).to<double>(), 2.5);
     EXPECT_EQ(Any(5L).to<double>(), 5.0);
     EXPECT_EQ(Any(0.1).to<double>(), 0.1);
+    EXPECT_EQ(Any(0x1p-30F).to<double>(), 0x1p-30); // which the text of a number does not tell
     EXPECT_EQ(Any(qint64(-9000000000)).to<double>(), -9e9);
     EXPECT_EQ(Any(quint64(9000000000)).to<double>(), 9e9);
     EXPECT_EQ(Any('A').to<double>(), 65.0);

@@ -23,9 +23,10 @@ protected:
     IOModel model;
 };
 
-TEST_F(ORVCADBoardLocalIOModelTest, newModelHasNoDrawingAndATopElevationThatIsNoNumber)
+TEST_F(ORVCADBoardLocalIOModelTest, newModelHasNoDrawingAndOfItsElevationsOnlyTheTopIsNoNumber)
 {
     EXPECT_TRUE(std::isnan(model.currentFloorTopElev()));
+    EXPECT_EQ(model.currentFloorBtmElev(), 0.0);
     EXPECT_EQ(model.drawing(), nullptr);
     EXPECT_EQ(model.orvFileName(), QString());
     EXPECT_EQ(model.currentRegionName(), QString());
@@ -225,6 +226,7 @@ TEST_F(ORVCADBoardLocalIOModelTest, movedModelTakesEverythingAndLeavesANewOne)
     // NOLINTNEXTLINE(bugprone-use-after-move): a moved model is as new
     EXPECT_EQ(model.drawing(), nullptr);
     EXPECT_TRUE(std::isnan(model.currentFloorTopElev()));
+    EXPECT_EQ(model.currentFloorBtmElev(), 0.0);
     EXPECT_EQ(model.options().value("grade"), QString());
 }
 
