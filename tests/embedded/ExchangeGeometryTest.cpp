@@ -50,7 +50,19 @@ TEST(ExchangeGeometryTest, theFirstRuleThatAPolygonBreaksIsTold)
     EXPECT_EQ(polygonReason("POLYGON((0 0, 5 5, 5 0, 0 5, 0 0))"), "crosses itself");
 }
 
-TEST(ExchangeGeometryTest, aCurveHasALength) { EXPECT_EQ(curveReason("LINESTRING(5 5, 5 5)"), "has no length"); }
+TEST(ExchangeGeometryTest, anAxisHasALength)
+{
+    const QJsonValue point = "LINESTRING(5 5, 5 5)";
+    EXPECT_EQ(refusaltest::toldBy([&] { placedCurveFromJson(point, JsonPlace()); }), "has no length");
+    EXPECT_EQ(refusaltest::toldBy([&] { placedCurveFromJson("line", JsonPlace()); }), "is not the text of a curve");
+    EXPECT_FALSE(placedCurveFromJson(QJsonValue::Null, JsonPlace()));
+    EXPECT_EQ(placedCurveFromJson("LINESTRING(5 5, 9 5)", JsonPlace())->Length(), 4.0);
+}
+
+TEST(ExchangeGeometryTest, anotherCurveMayHaveNone)
+{
+    EXPECT_EQ(curveFromJson("LINESTRING(5 5, 5 5)", JsonPlace())->Length(), 0.0);
+}
 
 TEST(ExchangeGeometryTest, aPointIsAnArrayOfTwoNumbers)
 {

@@ -104,7 +104,7 @@ TEST(HBXPropertyValueTest, geometryIsReadFromTextOfItsOwnKind)
     EXPECT_EQ(kept(PropertyKind::Polygon, curveOf("LINESTRING(0 0, 1 2)")), "refused");
 }
 
-TEST(HBXPropertyValueTest, geometryThatNoObjectCanHaveIsRefusedHoweverItComes)
+TEST(HBXPropertyValueTest, outlineThatNoObjectCanHaveIsRefusedHoweverItComes)
 {
     constexpr const char *kUnsound[] = {"POLYGON((0 0, 9 0, 9 9))", "POLYGON((0 0, 9 9, 9 0, 0 9, 0 0))",
                                         "POLYGON((0 0, 9 0, 0 0))", "POLYGON EMPTY",
@@ -114,7 +114,11 @@ TEST(HBXPropertyValueTest, geometryThatNoObjectCanHaveIsRefusedHoweverItComes)
         EXPECT_EQ(kept(PropertyKind::Polygon, QString(text)), "refused") << text;
         EXPECT_EQ(kept(PropertyKind::Text, polygonOf(text)), text);
     }
-    EXPECT_EQ(kept(PropertyKind::Curve, curveOf("LINESTRING(3 3, 3 3)")), "refused");
+}
+
+TEST(HBXPropertyValueTest, aCurveOfNoLengthIsKept) // of a bar without a direction
+{
+    EXPECT_EQ(kept(PropertyKind::Curve, curveOf("LINESTRING(3 3, 3 3)")), "LINESTRING(3 3, 3 3)");
 }
 
 TEST(HBXPropertyValueTest, whatStandsBehindAZeroInATextIsNotOverlooked)

@@ -38,12 +38,6 @@ TEST(StoredGeometryTest, soundOutlinesAreClosedAndHoldAnArea)
         EXPECT_FALSE(isSoundText(text)) << text;
 }
 
-TEST(StoredGeometryTest, soundCurvesHaveALength)
-{
-    EXPECT_TRUE(isSound(*storedGeometry<vks::CCurve2d>("LINESTRING(0 0, 0.001 0)")));
-    EXPECT_FALSE(isSound(*storedGeometry<vks::CCurve2d>("LINESTRING(3 3, 3 3)")));
-}
-
 TEST(StoredGeometryTest, aPointIsTwoNumbersWithABlankBetween)
 {
     const auto point = storedPoint("1.5 -2");

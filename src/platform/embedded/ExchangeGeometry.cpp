@@ -1,6 +1,7 @@
 #include "platform/embedded/ExchangeGeometry.h"
 
 #include "platform/embedded/StoredGeometry.h"
+#include "platform/geometry/KernelTolerance.h"
 
 namespace hbx::embedded {
 namespace {
@@ -51,12 +52,15 @@ CRefPtr<CPolygon> polygonFromJson(const QJsonValue &value, const JsonPlace &plac
 
 CRefPtr<CCurve2d> curveFromJson(const QJsonValue &value, const JsonPlace &place)
 {
-    if (value.isNull())
-        return nullptr;
-    CRefPtr<CCurve2d> curve = read<CCurve2d>(value, place, "curve");
-    if (!isSound(*curve))
+    return value.isNull() ? nullptr : read<CCurve2d>(value, place, "curve");
+}
+
+CRefPtr<CCurve2d> placedCurveFromJson(const QJsonValue &value, const JsonPlace &place)
+{
+    CRefPtr<CCurve2d> axis = curveFromJson(value, place);
+    if (axis && !(axis->Length() > vks::g_DistEpsilon))
         place.refuse(QStringLiteral("has no length"));
-    return curve;
+    return axis;
 }
 
 vks::CVec2<double> pointFromJson(const QJsonValue &value, const JsonPlace &place)

@@ -18,7 +18,7 @@ vks::CRefPtr<vks::CPolygon> outlineOf(const ExchangeObject &json)
 
 vks::CRefPtr<vks::CCurve2d> curveOf(const ExchangeObject &json, QLatin1String member)
 {
-    return json.has(member) ? curveFromJson(json.value(member), json.placeOf(member)) : nullptr;
+    return json.has(member) ? placedCurveFromJson(json.value(member), json.placeOf(member)) : nullptr;
 }
 
 vks::CVec3<double> vectorOf(const ExchangeObject &json, QLatin1String member)
@@ -68,7 +68,7 @@ void readPlanCurve(const ExchangeObject &json, ShapeRecord &record) { record.cur
 HBXAxis axisFromJson(const QJsonValue &value, const JsonPlace &place)
 {
     const ExchangeObject json(value, place, {key::label, key::curve});
-    const auto curve = curveFromJson(json.value(key::curve), json.placeOf(key::curve));
+    const auto curve = placedCurveFromJson(json.value(key::curve), json.placeOf(key::curve));
     if (!curve)
         json.placeOf(key::curve).refuse(QStringLiteral("is not the text of a curve"));
     return {json.text(key::label), {curve}};

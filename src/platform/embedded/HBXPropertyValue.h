@@ -10,9 +10,9 @@
 namespace hbx::embedded {
 
 /** A value as a property of a kind keeps it: as it is, or converted where nothing is lost. Nothing where that cannot be,
- *  for a number or point that is not finite, for a text that is no elevation under an elevation, and for geometry that is
- *  not sound: an open ring, one that crosses itself or holds no area, a curve of no length. Null geometry is no value. A
- *  number becomes an elevation of as many metres. */
+ *  for a number or point that is not finite, for a text that is no elevation under an elevation, and for an outline that
+ *  is not sound: an open ring, one that crosses itself or holds no area. Null geometry is no value. A number becomes an
+ *  elevation of as many metres. */
 ORVCADPLATFORM_EXPORT std::optional<PropertyValue> keptAs(PropertyKind kind, const PropertyValue &value);
 /** The value of a text in the catalogue. */
 ORVCADPLATFORM_EXPORT PropertyValue valueOfText(PropertyKind kind, const QString &text);

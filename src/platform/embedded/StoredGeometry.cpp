@@ -1,15 +1,12 @@
 #include "platform/embedded/StoredGeometry.h"
 
 #include "platform/embedded/HBXPropertyValue.h"
-#include "platform/geometry/KernelTolerance.h"
 
 #include <QByteArrayList>
 
 namespace hbx::embedded {
 
 bool isSound(const vks::CPolygon &outline) { return outline.IsValid(vks::CPolygon::kAllChecks, nullptr, nullptr); }
-
-bool isSound(const vks::CCurve2d &curve) { return curve.Length() > vks::g_DistEpsilon; }
 
 std::optional<vks::CVec2<double>> storedPoint(std::string_view text)
 {

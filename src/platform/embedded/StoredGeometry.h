@@ -20,10 +20,10 @@ template <typename Geometry> vks::CRefPtr<Geometry> storedGeometry(std::string_v
     return dynamic_cast<Geometry *>(geometry.get());
 }
 
-/** Whether an outline is one that an object can have: closed rings that cross nothing and hold an area, holes inside. */
+/** Whether an outline is one that a property can have: closed rings that cross nothing and hold an area, holes inside. */
 ORVCADPLATFORM_EXPORT bool isSound(const vks::CPolygon &outline);
-/** Whether a curve has a length. */
-ORVCADPLATFORM_EXPORT bool isSound(const vks::CCurve2d &curve);
+/** Every curve is: that of a bar without a direction has no length. */
+inline bool isSound(const vks::CCurve2d & /*curve*/) { return true; }
 
 /** The point of a text with two numbers and one blank between them; nothing for any other text, and for a number that
  *  is not finite. */
