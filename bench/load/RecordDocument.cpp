@@ -37,9 +37,7 @@ namespace {
 using SlabModel = ORVCADBoardLocalModel_Sample;
 using SlabService = ORVCADBoardLocalModelPersistenceService_Sample;
 
-// Bounds of peak memory to the bytes of the document.
-constexpr double kOfWideText = 10.0; // four of them are the text itself
-constexpr double kToldAlone = 0.0;
+constexpr double kToldAlone = 0.0; // no bound of peak memory to the bytes of the document
 
 /** The reader of a kind of JSON document, from its file on. */
 template <qint64 (*Count)(const QJsonObject &)> qint64 ofJson(const QString &path)
@@ -315,8 +313,7 @@ const RecordDocument kDocuments[] = {
       R"("sPfnStartPtBottomElev":"0","sPfnEndPtTopElev":"2.8","sPfnEndPtBottomElev":"0","sStrEntName":"QTQ-200",)"
       R"("sWorldLine":"0,0,5000,0","sPolys":"","floorCode":"1","region":"House","sSegmentEntityDataList":""}])",
       "}}"},
-     countWalls,
-     kOfWideText},
+     countWalls},
     {"archive as XML",
      {"<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<XmlRoot><BrickWallIdentifyData>",
       R"(<key_# edoId="#" entName="QTQ-200" elementType="1003" elementSubType="316" material="3" width="200">)"

@@ -146,10 +146,14 @@ void ORVCADJsonFileSerialization::save(const QString & /*text*/)
     m_content = QString::fromUtf8(m_document.toJson(QJsonDocument::Indented));
 }
 
-bool ORVCADJsonFileSerialization::parse()
+bool ORVCADJsonFileSerialization::parse() { return parse(encodedContent()); }
+
+QByteArray ORVCADJsonFileSerialization::encodedContent() const { return m_content.toUtf8(); }
+
+bool ORVCADJsonFileSerialization::parse(const QByteArray &bytes)
 {
     QJsonParseError error;
-    m_document = QJsonDocument::fromJson(m_content.toUtf8(), &error);
+    m_document = QJsonDocument::fromJson(bytes, &error);
     return error.error == QJsonParseError::NoError && !m_document.isNull();
 }
 

@@ -37,6 +37,12 @@ public:
     /** Inserts the root object into the object under the key, which may be empty. Null does nothing. */
     void insertRootInto(const QString &key, QJsonObject *object) const;
 
+protected:
+    /** The content as it is parsed, in UTF-8. */
+    QByteArray encodedContent() const;
+    /** The same as parse(), of these bytes in place of the content. */
+    bool parse(const QByteArray &bytes);
+
 private:
     QJsonDocument m_document;
     QJsonObject m_root;

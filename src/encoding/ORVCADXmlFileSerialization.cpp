@@ -153,10 +153,14 @@ void ORVCADXmlFileSerialization::save(const QString & /*text*/)
                                 : QLatin1String("<XmlRoot>\n") + body + QLatin1String("</XmlRoot>\n");
 }
 
-bool ORVCADXmlFileSerialization::parse()
+bool ORVCADXmlFileSerialization::parse() { return parse(encodedContent()); }
+
+QByteArray ORVCADXmlFileSerialization::encodedContent() const { return m_content.toLocal8Bit(); }
+
+bool ORVCADXmlFileSerialization::parse(const QByteArray &bytes)
 {
     m_elementsByName.clear();
-    const QString text = encoding::decodedXml(m_content.toLocal8Bit());
+    const QString text = encoding::decodedXml(bytes);
     if (!encoding::isSafeXml(text) || !m_document.setContent(text, false) || m_document.isNull())
         return false;
     for (QDomNode child = m_document.documentElement().firstChild(); !child.isNull(); child = child.nextSibling())

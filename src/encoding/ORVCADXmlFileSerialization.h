@@ -42,6 +42,12 @@ public:
      *  several children of the root that have one name the last one counts. */
     bool parse();
 
+protected:
+    /** The content as it is parsed, in the local 8-bit encoding. */
+    QByteArray encodedContent() const;
+    /** The same as parse(), of these bytes in place of the content. */
+    bool parse(const QByteArray &bytes);
+
 private:
     bool mayWrite(const QString &key) const { return m_isNew && !key.isEmpty(); }
 

@@ -20,7 +20,7 @@ template <typename Archive, typename Translator, typename Save> std::wstring doc
     return archive.content().toStdWString();
 }
 
-/** An archive that gives its text up once that is parsed: a large document need not stand in memory twice. */
+/** An archive that gives its text up for the bytes that are parsed: a large document need not stand in memory twice. */
 template <typename Archive> class ReadingArchive : public Archive
 {
 public:
@@ -28,9 +28,9 @@ public:
 
     bool parseAndDropText()
     {
-        const bool isParsed = Archive::parse();
+        const QByteArray bytes = Archive::encodedContent();
         Archive::m_content = QString();
-        return isParsed;
+        return Archive::parse(bytes);
     }
 };
 
