@@ -91,44 +91,43 @@ QJsonObject withoutBarsOfHoles(QJsonObject document)
     return document;
 }
 
+constexpr char kSummary[] =
+    "^(?<members>\\d+) members? read: (?<made>\\d+) made in (?<elementsMade>\\d+) new elements?, "
+    "(?<known>\\d+) in the host already, ";
+
 } // namespace
 
 std::vector<ReplyRoad> slabRoads()
 {
-    return {
-        {"slabs",
-         {"slab", "apply"},
-         {"--region", "主楼", "--floor", "1", "--as-new"},
-         {"slab", "export"},
-         {"--region", "主楼", "--floor", "1"},
-         {19, 24, 22, 23},
-         slabs,
-         slabDifference,
-         slabsUnequal,
-         {19, 24, 22, 23},
-         madeOf,
-         {"board_holes[0].longSpanReinforceBar", "board_holes[0].shortSpanReinforceBar",
-          "board_holes[3].obliqueReinforceBar"},
-         withoutBarsOfHoles,
-         "^(?<members>\\d+) members? read: (?<made>\\d+) made in (?<elementsMade>\\d+) new elements?, (?<known>\\d+) "
-         "in "
-         "the host already, "},
-        {"rafts",
-         {"slab", "apply"},
-         {"--region", "主楼", "--floor", "0", "--as-new"},
-         {"slab", "export"},
-         {"--region", "主楼", "--floor", "0"},
-         {48, 24, 49, 50},
-         slabs,
-         slabDifference,
-         slabsUnequal,
-         {48, 24, 49, 50},
-         madeOf,
-         {},
-         asItIs,
-         "^(?<members>\\d+) members? read: (?<made>\\d+) made in (?<elementsMade>\\d+) new elements?, (?<known>\\d+) "
-         "in "
-         "the host already, "}};
+    return {{"slabs",
+             {"slab", "apply"},
+             {"--region", "主楼", "--floor", "1", "--as-new"},
+             {"slab", "export"},
+             {"--region", "主楼", "--floor", "1"},
+             {19, 24, 22, 23},
+             slabs,
+             slabDifference,
+             slabsUnequal,
+             {19, 24, 22, 23},
+             madeOf,
+             {"board_holes[0].longSpanReinforceBar", "board_holes[0].shortSpanReinforceBar",
+              "board_holes[3].obliqueReinforceBar"},
+             withoutBarsOfHoles,
+             kSummary},
+            {"rafts",
+             {"slab", "apply"},
+             {"--region", "主楼", "--floor", "0", "--as-new"},
+             {"slab", "export"},
+             {"--region", "主楼", "--floor", "0"},
+             {48, 24, 49, 50},
+             slabs,
+             slabDifference,
+             slabsUnequal,
+             {48, 24, 49, 50},
+             madeOf,
+             {},
+             asItIs,
+             kSummary}};
 }
 
 } // namespace honestytest
