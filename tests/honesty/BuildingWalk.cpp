@@ -64,7 +64,7 @@ int BuildingWalk::drawObjs() const
     return sum;
 }
 
-int BuildingWalk::placed(const Floor &floor, std::initializer_list<int> types)
+int BuildingWalk::placed(const Floor &floor, const std::vector<int> &types)
 {
     int sum = 0;
     for (const int type : types)
@@ -72,7 +72,7 @@ int BuildingWalk::placed(const Floor &floor, std::initializer_list<int> types)
     return sum;
 }
 
-int BuildingWalk::placed(std::initializer_list<int> types) const
+int BuildingWalk::placed(const std::vector<int> &types) const
 {
     int sum = 0;
     for (const Floor &floor : floors)

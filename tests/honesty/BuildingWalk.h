@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <functional>
+#include <vector>
 
 namespace honestytest {
 
@@ -30,8 +31,8 @@ struct BuildingWalk
     int elements() const;
     int drawObjs() const;
     /** Draw objects of some types, on a floor or on all. */
-    static int placed(const Floor &floor, std::initializer_list<int> types);
-    int placed(std::initializer_list<int> types) const;
+    static int placed(const Floor &floor, const std::vector<int> &types);
+    int placed(const std::vector<int> &types) const;
 };
 
 /** The sample building of that name. */

@@ -147,7 +147,7 @@ TEST_P(HonestExportTest, eachFloorsDocumentsHoldWhatTheFloorHas)
     for (const Floor &floor : walk.floors) {
         SCOPED_TRACE(floor.name.toStdString());
         const Ran slabs = write({"slab", "export"}, &floor);
-        const std::pair<const char *, std::initializer_list<int>> arrays[] = {
+        const std::pair<const char *, std::vector<int>> arrays[] = {
             {"boards", {19}}, {"rafts", {48}}, {"board_holes", {24}}, {"axisGrids", {74}}, {"columns", {25, 26, 1002}}};
         for (const auto &[array, types] : arrays) {
             const int count = document()[QLatin1String(array)].toArray().size();
