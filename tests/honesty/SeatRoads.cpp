@@ -84,11 +84,11 @@ QJsonObject asCarried(QJsonObject document)
     document = withValue(document, {"etIsolatedFD", "1", "EntName"}, "DJ-2").toObject();
     for (const QString &array : kSeatArrays) {
         QJsonArray entries = document[array].toArray();
-        for (int i = 0; i < entries.size(); ++i) {
-            QJsonObject seat = entries[i].toObject();
+        for (QJsonValueRef entry : entries) {
+            QJsonObject seat = entry.toObject();
             seat["TopElev"] = seat["EDOTopElev"];
             seat["BtmElev"] = seat["EDOBtmElev"];
-            entries[i] = seat;
+            entry = seat;
         }
         document[array] = entries;
     }
