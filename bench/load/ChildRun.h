@@ -17,8 +17,8 @@ struct ChildCost
     qint64 errBytes = 0; ///< all of what it wrote to standard error
 };
 
-/** Runs a program to its end, or until the limit; it gets 12 GiB of memory at most. This process must be small: a child's peak is at least what its parent had
- *  when it was made. So not all that it writes is kept here.
+/** Runs a program to its end, or until the limit; it gets 12 GiB of memory at most. This process must be small: a child's
+ *  peak is at least what its parent had when it was made. So not all that it writes is kept here.
  *  @param file  what it writes goes into files of this name, with ".out" and ".err" behind */
 ChildCost runChild(const QString &program, const QStringList &arguments, const QString &file, int limitSeconds);
 

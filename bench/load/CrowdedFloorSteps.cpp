@@ -41,6 +41,7 @@ struct Crowd
     EntryText reply;
     int entries[kSteps];
     int small[kSteps];
+    int exitCode = 0;
 };
 
 const Crowd kCrowds[] = {
@@ -54,7 +55,8 @@ const Crowd kCrowds[] = {
       R"("sPfnStartPtTopElev":"2.8","sPfnStartPtBottomElev":"0","sPfnEndPtTopElev":"2.8","sPfnEndPtBottomElev":"0"}])",
       "}}}}"},
      {2000, 20000, 200000},
-     {500, 2000, 10000}},
+     {500, 2000, 10000},
+     3}, // all but one get another name, which is told
     {"floor: doors of one element",
      "placed",
      {"opening", "apply"},
@@ -131,7 +133,7 @@ Run runOf(const LoadRunner &runner, const Crowd &crowd, int entries)
     run.size = entries;
     run.documentBytes = runner.bytesOf(kReply);
     run.cost = runner.command(crowd.verb + QStringList{runner.path(kProject), runner.path(kReply)} + crowd.place);
-    run.failure = runner.failureOf(run.cost, QString::fromLatin1(crowd.count), entries);
+    run.failure = runner.failureOf(run.cost, QString::fromLatin1(crowd.count), entries, crowd.exitCode);
     return run;
 }
 

@@ -65,9 +65,9 @@ qint64 LoadRunner::prepare(const QStringList &arguments) const
 
 void LoadRunner::prepareByCommand(const QStringList &arguments) const { require(command(arguments), arguments); }
 
-QString LoadRunner::failureOf(const ChildCost &cost, const QString &keys, qint64 expected) const
+QString LoadRunner::failureOf(const ChildCost &cost, const QString &keys, qint64 expected, int exitCode) const
 {
-    if (cost.exitCode != 0)
+    if (cost.exitCode != exitCode)
         return failedText(cost);
     // A summary may be large: a child looks into it.
     const ChildCost look = runChild(m_options.self, {"work", "number", keys, path(kMeasured) + QStringLiteral(".out")},

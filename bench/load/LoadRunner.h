@@ -47,9 +47,9 @@ public:
     /** orvcad where it belongs to no step; ends the program when it fails. */
     void prepareByCommand(const QStringList &arguments) const;
 
-    /** Why a command did not do what it should: it failed, or the number at a path of keys ("project.drawObjects") in its
+    /** Why a command did not do what it should: it ended with another exit code, or the number at a path of keys ("project.drawObjects") in its
      *  summary is another one; a list counts by its entries. Empty where it did. To be asked before the next command. */
-    QString failureOf(const ChildCost &cost, const QString &keys, qint64 expected) const;
+    QString failureOf(const ChildCost &cost, const QString &keys, qint64 expected, int exitCode = 0) const;
     /** The same for a work, which prints a number alone. */
     static QString failureOf(const ChildCost &cost, qint64 expected);
 
