@@ -35,10 +35,11 @@ double secondsSince(Clock::time_point start) { return std::chrono::duration<doub
 
 void openAs(int target, const QByteArray &path)
 {
-    const int file =
-        ::open(path.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600); // NOLINT: has no other form
+    const int file = ::creat(path.constData(), 0600);
     if (::dup2(file, target) < 0)
         ::_exit(kCannotStart);
+    if (file != target)
+        ::close(file);
 }
 
 [[noreturn]] void become(const std::vector<char *> &arguments, const QByteArray &out, const QByteArray &err)

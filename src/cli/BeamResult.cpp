@@ -181,9 +181,7 @@ BeamResult readBeamResult(const QString &path)
                              labels.isUndefined() ? QStringLiteral("is missing: no result of beams")
                                                   : QStringLiteral("is no array"));
     BeamResult result;
-    for (const QString &key : document.keys())
-        if (key != beam::key::labels)
-            result.leftOut.append(QStringLiteral("%1: %2").arg(key, whyUnread(key, {beam::key::labels})));
+    result.leftOut += unreadIn(document, {beam::key::labels});
     QJsonArray records;
     QStringList places;
     for (int i = 0; i < labels.toArray().size(); ++i) {

@@ -36,11 +36,6 @@ QString reasonToSkip(const QJsonValue &member)
     return floor ? QString() : QStringLiteral("lacks one of Name, BottomElev, Height, StdCount, Remark");
 }
 
-struct KeyKind
-{
-    QLatin1String key;
-    Expected kind;
-};
 constexpr KeyKind kFloorKeys[] = {{drawing::key::name, Expected::Text},
                                   {drawing::key::bottomElev, Expected::Number},
                                   {drawing::key::height, Expected::Number},
@@ -59,23 +54,16 @@ QStringList changedIn(const QJsonObject &floor)
                                .arg(expected.key, wordFor(expected.kind),
                                     expected.kind == Expected::Text ? QStringLiteral("nothing") : QStringLiteral("0")));
     }
-    for (const QString &key : floor.keys())
-        if (!known.contains(key))
-            changed.append(QStringLiteral("%1: %2").arg(key, whyUnread(key, known)));
-    return changed;
+    return changed + unreadIn(floor, known);
 }
 
 /** The same of the document around the floors. */
 QStringList changedAround(const QJsonObject &document)
 {
-    const QStringList known{drawing::key::areaName, drawing::key::floors};
     QStringList changed;
     if (!document.value(drawing::key::areaName).isString())
         changed.append(QStringLiteral("%1: is not text, and reads as nothing").arg(drawing::key::areaName));
-    for (const QString &key : document.keys())
-        if (!known.contains(key))
-            changed.append(QStringLiteral("%1: %2").arg(key, whyUnread(key, known)));
-    return changed;
+    return changed + unreadIn(document, {drawing::key::areaName, drawing::key::floors});
 }
 
 } // namespace

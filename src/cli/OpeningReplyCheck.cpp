@@ -18,13 +18,7 @@ namespace orvcad {
 
 namespace {
 
-/** What stands under a key of a member. */
-struct KeyKind
-{
-    QLatin1String key;
-    Expected kind;
-    bool isRequired = false; ///< without it the opening would have no size or no place
-};
+// Without what is required an opening would have no size or no place.
 constexpr KeyKind kElementKeys[] = {
     {key::name, Expected::Text},
     {key::elementType, Expected::Integer},

@@ -12,6 +12,15 @@ QString whyUnread(const QString &key, const QStringList &known)
     return meant == known.end() ? reason : QStringLiteral("%1: %2 is one").arg(reason, *meant);
 }
 
+QStringList unreadIn(const QJsonObject &record, const QStringList &known)
+{
+    QStringList unread;
+    for (const QString &key : record.keys())
+        if (!known.contains(key))
+            unread.append(QStringLiteral("%1: %2").arg(key, whyUnread(key, known)));
+    return unread;
+}
+
 void leaveOutUnread(const QJsonObject &record, const QStringList &known, const QString &place, const QString &name,
                     std::vector<LeftOut> &leftOut)
 {

@@ -14,6 +14,9 @@ namespace orvcad {
  *  letters alone is named, since it is likely to be meant. */
 QString whyUnread(const QString &key, const QStringList &known);
 
+/** Each key of a record that nothing reads, with the reason behind it. */
+QStringList unreadIn(const QJsonObject &record, const QStringList &known);
+
 /** Adds each key of a record that nothing reads, and with it the value that does not arrive.
  *  @param place  of the record; empty for the document itself
  *  @param name   of the element that it is about */

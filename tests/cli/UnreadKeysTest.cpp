@@ -13,6 +13,14 @@ TEST(UnreadKeysTest, keyInAnotherCaseNamesTheOneThatIsMeant)
     EXPECT_EQ(whyUnread("width", {}), "is no key of this record, and not read");
 }
 
+TEST(UnreadKeysTest, unreadKeysOfARecordStandWithTheirReasons)
+{
+    EXPECT_EQ(unreadIn({{"Beams", 1}, {"beam", 2}, {"Beam", 3}}, {"Beam"}),
+              (QStringList{"Beams: is no key of this record, and not read",
+                           "beam: is no key of this record, and not read: Beam is one"}));
+    EXPECT_EQ(unreadIn({{"Beam", 3}}, {"Beam"}), QStringList());
+}
+
 TEST(UnreadKeysTest, eachUnreadKeyIsAPartThatIsLeftOut)
 {
     std::vector<LeftOut> leftOut;

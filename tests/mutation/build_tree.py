@@ -13,7 +13,7 @@ import shutil
 import signal
 import subprocess
 
-LIBRARY = "lib/libORVCADModelData.so"
+SHARED_OBJECT = "lib/libORVCADModelData.so"
 MEMORY = 4 << 30
 LONGEST_SECONDS = 600  # for a compiler, or for all tests of a program
 SLOW_SECONDS = 0.5  # a test that takes longer waits for the others
@@ -120,12 +120,12 @@ class BuildTree:
         self.folder, self.includes = folder, includes
         commands = json.loads((folder / "compile_commands.json").read_text(encoding="utf-8"))
         self.commands = {pathlib.Path(entry["file"]): shlex.split(entry["command"]) for entry in commands}
-        self.library = folder / LIBRARY
+        self.shared_object = folder / SHARED_OBJECT
         self.readers = {}  # sources that include a header, by header
 
     def build(self, programs):
         """The library as it is, and the test programs."""
-        subprocess.run(["ninja", "-C", self.folder, LIBRARY, *programs], check=True, stdout=subprocess.DEVNULL)
+        subprocess.run(["ninja", "-C", self.folder, SHARED_OBJECT, *programs], check=True, stdout=subprocess.DEVNULL)
         self.readers = self.readers_of_headers()
 
     def ninja(self, *arguments):
@@ -188,7 +188,7 @@ class BuildTree:
             if not made:
                 return None
             objects[self.object_of(reader)] = made
-        targets = [self.library, *(program.path for program in programs if source not in self.commands)]
+        targets = [self.shared_object, *(program.path for program in programs if source not in self.commands)]
         made = {target: self.link(target, objects, folder / target.name) for target in targets}
         return made if all(made.values()) else None
 

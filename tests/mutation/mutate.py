@@ -184,7 +184,7 @@ def tests_of(tree, folders, work, jobs):
         programs = [build_tree.TestProgram(tree.folder / "bin" / name) for name in of_folder]
         tests[sources] = Tests(folders[sources], programs)
     with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
-        list(pool.map(lambda program: program.prepare(work, tree.library),
+        list(pool.map(lambda program: program.prepare(work, tree.shared_object),
                       [program for of_folder in tests.values() for program in of_folder.programs]))
     return tests
 

@@ -198,10 +198,10 @@ class Trials(unittest.TestCase):
         self.assertFalse(build_tree.running)
 
     def test_sources_and_library_stay_as_they_are(self):
-        library = (self.tree.folder / build_tree.LIBRARY).read_bytes()
+        library = (self.tree.folder / build_tree.SHARED_OBJECT).read_bytes()
         self.run_all()
         self.assertEqual(self.source.read_text(encoding="utf-8"), CODE)
-        self.assertEqual((self.tree.folder / build_tree.LIBRARY).read_bytes(), library)
+        self.assertEqual((self.tree.folder / build_tree.SHARED_OBJECT).read_bytes(), library)
         self.assertEqual(sorted(path.name for path in self.source.parent.iterdir()), ["larger.cpp", "larger.h"])
 
     def test_what_was_tried_is_not_tried_again(self):
