@@ -41,59 +41,65 @@ struct Step
 {
     const char *name;
     QString file; ///< that it reads
-    ChildCost (*run)(const Subject &subject);
-    QString (*failure)(const ChildCost &cost, const Subject &subject);
+    bench::ChildCost (*run)(const Subject &subject);
+    QString (*failure)(const bench::ChildCost &cost, const Subject &subject);
 };
 
-QString totalFailure(const ChildCost &cost, const Subject &subject)
+QString totalFailure(const bench::ChildCost &cost, const Subject &subject)
 {
     return subject.runner.failureOf(cost, QStringLiteral("drawObjects"), subject.drawObjects);
 }
 
-QString totalBelowProject(const ChildCost &cost, const Subject &subject)
+QString totalBelowProject(const bench::ChildCost &cost, const Subject &subject)
 {
     return subject.runner.failureOf(cost, QStringLiteral("project.drawObjects"), subject.drawObjects);
 }
 
-ChildCost import(const Subject &subject)
+bench::ChildCost import(const Subject &subject)
 {
     return subject.runner.command({"project", "import", subject.path(kBuilding), "-o", subject.path(kProject)});
 }
 
-ChildCost open(const Subject &subject) { return subject.runner.command({"project", "info", subject.path(kProject)}); }
+bench::ChildCost open(const Subject &subject)
+{
+    return subject.runner.command({"project", "info", subject.path(kProject)});
+}
 
-ChildCost exportFloor(const Subject &subject)
+bench::ChildCost exportFloor(const Subject &subject)
 {
     return subject.runner.command(
         {"slab", "export", subject.path(kProject), "--floor", subject.floor, "-o", subject.path(kFloor)});
 }
 
 /** Bars, slabs and holes of the floor. */
-QString floorFailure(const ChildCost &cost, const Subject &subject)
+QString floorFailure(const bench::ChildCost &cost, const Subject &subject)
 {
     return subject.runner.failureOf(cost, QStringLiteral("arrays.boards"), subject.doors);
 }
 
-ChildCost apply(const Subject &subject)
+bench::ChildCost apply(const Subject &subject)
 {
     QFile::remove(subject.path(kOther));
     QFile::copy(subject.path(kProject), subject.path(kOther));
     return subject.runner.command({"opening", "apply", subject.path(kOther), subject.path(kDoors)});
 }
 
-QString applyFailure(const ChildCost &cost, const Subject &subject)
+QString applyFailure(const bench::ChildCost &cost, const Subject &subject)
 {
     return subject.runner.failureOf(cost, QStringLiteral("placed"), subject.doors);
 }
 
-ChildCost save(const Subject &subject)
+bench::ChildCost save(const Subject &subject)
 {
     return subject.runner.work({"save", subject.path(kProject), subject.path(kOther)});
 }
 
-QString saveFailure(const ChildCost &cost, const Subject & /*subject*/) { return LoadRunner::failureOf(cost, 1); }
+QString saveFailure(const bench::ChildCost &cost, const Subject & /*subject*/)
+{
+    return LoadRunner::failureOf(cost, 1);
+}
 
-ChildCost exportAll(const Subject &subject)
+bench::ChildCost exportAll(const Subject &subject)
 {
     return subject.runner.command({"project", "export", subject.path(kProject), "-o", subject.path(kOther)});
 }

@@ -87,7 +87,7 @@ struct Texts
     std::vector<EntryText> all;
 };
 
-QString whyNotPlain(const ChildCost &cost)
+QString whyNotPlain(const bench::ChildCost &cost)
 {
     if (cost.exitCode != 0 && cost.exitCode != 2 && cost.exitCode != 3)
         return QStringLiteral("ended with %1").arg(cost.exitCode);

@@ -19,14 +19,14 @@ constexpr int kMostShown = 300; // bytes of what a process said
 const QString kMeasured = QStringLiteral("command");
 const QString kOther = QStringLiteral("work");
 
-QString failedText(const ChildCost &cost)
+QString failedText(const bench::ChildCost &cost)
 {
     return QStringLiteral("exit code %1: %2")
         .arg(cost.exitCode)
         .arg(QString::fromUtf8(cost.err.left(kMostShown)).simplified());
 }
 
-void require(const ChildCost &cost, const QStringList &arguments)
+void require(const bench::ChildCost &cost, const QStringList &arguments)
 {
     if (cost.exitCode == 0)
         return;
@@ -41,37 +41,39 @@ QString LoadRunner::path(const QString &file) const { return QDir(m_options.fold
 
 double LoadRunner::bytesOf(const QString &file) const { return static_cast<double>(QFileInfo(path(file)).size()); }
 
-ChildCost LoadRunner::command(const QStringList &arguments) const
+bench::ChildCost LoadRunner::command(const QStringList &arguments) const
 {
     return commandForPeople(arguments + QStringList{QStringLiteral("--json")});
 }
 
-ChildCost LoadRunner::commandForPeople(const QStringList &arguments) const
+bench::ChildCost LoadRunner::commandForPeople(const QStringList &arguments) const
 {
-    return runChild(m_options.command, arguments, path(kMeasured), kLimitSeconds);
+    return bench::runChild(m_options.command, arguments, path(kMeasured), kLimitSeconds);
 }
 
-ChildCost LoadRunner::work(const QStringList &arguments) const
+bench::ChildCost LoadRunner::work(const QStringList &arguments) const
 {
-    return runChild(m_options.self, QStringList{QStringLiteral("work")} + arguments, path(kOther), kLimitSeconds);
+    return bench::runChild(m_options.self, QStringList{QStringLiteral("work")} + arguments, path(kOther),
+                           kLimitSeconds);
 }
 
 qint64 LoadRunner::prepare(const QStringList &arguments) const
 {
-    const ChildCost cost = work(arguments);
+    const bench::ChildCost cost = work(arguments);
     require(cost, arguments);
     return cost.out.trimmed().toLongLong();
 }
 
 void LoadRunner::prepareByCommand(const QStringList &arguments) const { require(command(arguments), arguments); }
 
-QString LoadRunner::failureOf(const ChildCost &cost, const QString &keys, qint64 expected, int exitCode) const
+QString LoadRunner::failureOf(const bench::ChildCost &cost, const QString &keys, qint64 expected, int exitCode) const
 {
     if (cost.exitCode != exitCode)
         return failedText(cost);
     // A summary may be large: a child looks into it.
-    const ChildCost look = runChild(m_options.self, {"work", "number", keys, path(kMeasured) + QStringLiteral(".out")},
-                                    path(kOther), kLimitSeconds);
+    const bench::ChildCost look =
+        bench::runChild(m_options.self, {"work", "number", keys, path(kMeasured) + QStringLiteral(".out")},
+                        path(kOther), kLimitSeconds);
     const QString failure = failureOf(look, expected);
     return failure.isEmpty() ? failure : keys + QStringLiteral(": ") + failure;
 }
@@ -87,7 +89,7 @@ Run LoadRunner::leastOf(const std::function<Run()> &once)
     return least;
 }
 
-QString LoadRunner::failureOf(const ChildCost &cost, qint64 expected)
+QString LoadRunner::failureOf(const bench::ChildCost &cost, qint64 expected)
 {
     if (cost.exitCode != 0)
         return failedText(cost);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "load/ChildRun.h"
 #include "load/LoadTable.h"
+#include "support/ChildRun.h"
 
 #include <QString>
 #include <QStringList>
@@ -37,11 +37,11 @@ public:
     double bytesOf(const QString &file) const;
 
     /** Runs orvcad with --json. */
-    ChildCost command(const QStringList &arguments) const;
+    bench::ChildCost command(const QStringList &arguments) const;
     /** Runs orvcad as people do, with a summary in words. */
-    ChildCost commandForPeople(const QStringList &arguments) const;
+    bench::ChildCost commandForPeople(const QStringList &arguments) const;
     /** Runs a work of this program: see LoadWork.h. */
-    ChildCost work(const QStringList &arguments) const;
+    bench::ChildCost work(const QStringList &arguments) const;
     /** A work that belongs to no step. Ends the program when it fails. @return the number that it tells */
     qint64 prepare(const QStringList &arguments) const;
     /** orvcad where it belongs to no step; ends the program when it fails. */
@@ -49,9 +49,9 @@ public:
 
     /** Why a command did not do what it should: it ended with another exit code, or the number at a path of keys ("project.drawObjects") in its
      *  summary is another one; a list counts by its entries. Empty where it did. To be asked before the next command. */
-    QString failureOf(const ChildCost &cost, const QString &keys, qint64 expected, int exitCode = 0) const;
+    QString failureOf(const bench::ChildCost &cost, const QString &keys, qint64 expected, int exitCode = 0) const;
     /** The same for a work, which prints a number alone. */
-    static QString failureOf(const ChildCost &cost, qint64 expected);
+    static QString failureOf(const bench::ChildCost &cost, qint64 expected);
 
     /** The run of the least time: what else the machine does takes caches from it. Long ones are done once. */
     static Run leastOf(const std::function<Run()> &once);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "load/ChildRun.h"
+#include "support/ChildRun.h"
 
 #include <QString>
 
@@ -23,7 +23,7 @@ struct Run
 {
     double size = 0.0;          ///< objects that it handles
     double documentBytes = 0.0; ///< of what it reads; 0 where that is told nowhere
-    ChildCost cost;
+    bench::ChildCost cost;
     QString failure; ///< why it did not do what it should; empty where it did
 };
 
@@ -41,7 +41,7 @@ class LoadTable
 {
 public:
     /** @param empty  what a process takes that does nothing */
-    explicit LoadTable(ChildCost empty) : m_empty(std::move(empty)) {}
+    explicit LoadTable(bench::ChildCost empty) : m_empty(std::move(empty)) {}
 
     void printHead() const;
     /** Takes a series over and prints its rows. */
@@ -65,7 +65,7 @@ private:
     QString verdict(const Series &series, const Run &run) const;
     void print(const Series &series) const;
 
-    ChildCost m_empty;
+    bench::ChildCost m_empty;
     std::vector<Series> m_all;
 };
 

@@ -86,13 +86,13 @@ void runReaderSteps(LoadRunner &runner)
             [&](const QString &file) {
                 return runner.work({"read", QString::number(number), file});
             },
-            [](const ChildCost &cost, qint64 records) { return LoadRunner::failureOf(cost, records); });
+            [](const bench::ChildCost &cost, qint64 records) { return LoadRunner::failureOf(cost, records); });
     }
     for (const ReadingVerb &verb : kVerbs)
         addSeries(
             runner, QStringLiteral("verb: ") + verb.words.join(QLatin1Char(' ')), numberOf(verb.document), verb.memory,
             [&](const QString &file) { return runner.command(verb.words + QStringList{file}); },
-            [&](const ChildCost &cost, qint64 records) {
+            [&](const bench::ChildCost &cost, qint64 records) {
                 return runner.failureOf(cost, QString::fromLatin1(verb.list), records);
             });
 }

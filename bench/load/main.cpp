@@ -54,8 +54,8 @@ bool takeOption(QStringList &arguments, load::LoadOptions &options)
 
 int runAll(const load::LoadOptions &options)
 {
-    load::LoadTable table(load::runChild(options.command, {QStringLiteral("--help")},
-                                         QDir(options.folder).filePath(QStringLiteral("help")), 60));
+    load::LoadTable table(bench::runChild(options.command, {QStringLiteral("--help")},
+                                          QDir(options.folder).filePath(QStringLiteral("help")), 60));
     if (!options.isJson)
         table.printHead();
     load::LoadRunner runner(options, table);

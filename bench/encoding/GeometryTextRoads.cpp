@@ -4,11 +4,12 @@
 #include "encoding/NumberText.h"
 #include "platform/geometry/CArc2d.h"
 #include "platform/geometry/CLine2d.h"
-#include "support/RatioBench.h"
+#include "suite/Families.h"
 
 #include <QRegExp>
 #include <QStringList>
 
+#include <memory>
 #include <random>
 
 // The geometry texts against the plain Qt way to the same result, which is the floor under it.
@@ -20,7 +21,6 @@ using Curve = vks::CRefPtr<vks::CCurve2d>;
 using Polygon = vks::CRefPtr<vks::CPolygon>;
 using Vertex = GeometryTextReader::Vertex;
 
-constexpr std::size_t kSize = 2000;
 constexpr double kPlanSize = 80'000; // mm
 
 // Ceilings of the ratios.
@@ -33,15 +33,23 @@ constexpr double kCharacterSet = 0.05;
 class Plan
 {
 public:
-    Plan()
+    /** List by list, so that each lies in one piece: a look at the next member costs the same in a long list. */
+    explicit Plan(std::size_t size)
     {
-        for (std::size_t i = 0; i < kSize; ++i) {
+        for (std::size_t i = 0; i < size; ++i)
             lines.emplace_back(new vks::CLine2d(point(), point()));
+        for (std::size_t i = 0; i < size; ++i)
             arcs.emplace_back(new vks::CArc2d(point(), point(), 0.25));
+        for (std::size_t i = 0; i < size; ++i)
             polygons.push_back(polygon());
-            lineTexts.append(getCurveInfo(lines.back()));
-            polygonTexts.append(getPolyInfo(polygons.back()));
-        }
+        for (const Curve &line : lines)
+            numbers.push_back(line->StartPoint().x);
+        for (const Curve &line : lines)
+            lineTexts.append(getCurveInfo(line));
+        for (const Polygon &polygon : polygons)
+            polygonTexts.append(getPolyInfo(polygon));
+        for (const double number : numbers)
+            numberTexts.append(QString::number(number));
     }
 
     std::vector<Curve> lines;
@@ -49,6 +57,8 @@ public:
     std::vector<Polygon> polygons;
     QStringList lineTexts;
     QStringList polygonTexts;
+    std::vector<double> numbers;
+    QStringList numberTexts;
 
 private:
     double coordinate() { return std::round(m_coordinate(m_random) * 10) / 10; }
@@ -162,92 +172,103 @@ Polygon builtPolygon(const std::vector<Vertex> &vertices)
     return polygon;
 }
 
-/** Work that handles each member of a list. */
-template <typename List, typename Handle> bench::Work each(const List &list, Handle handle)
+/** A road that handles each geometry of a list of the plan, and the plain way to the same. */
+template <typename List, typename Ours, typename Plain>
+bench::Road road(const char *name, const char *floor, double ceiling, List Plan::*list, Ours ours, Plain plain)
 {
-    return [&list, handle] {
-        for (const auto &one : list)
-            bench::keep(handle(one));
+    const auto each = [list](const auto &plan, const auto &handle) {
+        return [plan, list, handle] {
+            for (const auto &one : *plan.*list)
+                bench::keep(handle(one));
+        };
     };
+    const auto make = [each, ours, plain](const bench::Load &load) {
+        const auto plan = std::make_shared<const Plan>(load.size);
+        return bench::Sides{each(plan, ours), each(plan, plain), static_cast<double>(load.items())};
+    };
+    return {name, floor, bench::kSizes, {ceiling}, make};
 }
 
-void addWriting(bench::RatioTable &table, const Plan &plan)
+void addNumbers(bench::Roads &roads)
 {
-    const auto written = [](const Curve &curve) { return getCurveInfo(curve); };
-    table.row("line written (four numbers)", kSize, each(plan.lines, written),
-              each(plan.lines, [](const Curve &line) { return argLine(*line); }), kFourNumbers);
-    table.row("arc written (five numbers)", kSize, each(plan.arcs, written),
-              each(plan.arcs, [](const Curve &arc) { return argArc(static_cast<vks::CArc2d &>(*arc)); }), kFourNumbers);
-    table.row("polygon written", kSize,
-              each(plan.polygons, [](const Polygon &polygon) { return getPolyInfo(polygon); }),
-              each(plan.polygons, [](const Polygon &polygon) { return argPolygon(*polygon); }), kPolygonWritten);
-}
-
-void addReading(bench::RatioTable &table, const Plan &plan)
-{
-    const auto readVertices = [](const QString &text) {
-        std::vector<Vertex> vertices;
-        GeometryTextReader::reconstructPoly_Simplified_Normal_StringToDouble(text, vertices);
-        return vertices;
-    };
-    const auto readCurve = [](const QString &text) {
-        Curve curve;
-        GeometryTextReader::reconstructCurve(text, curve);
-        return curve;
-    };
-    const auto readPolygon = [](const QString &text) {
-        Polygon polygon;
-        GeometryTextReader::reconstructPoly(text, polygon);
-        return polygon;
-    };
-    const QRegExp pattern(QStringLiteral("^[-0-9\\.e+,]+$"));
-    const auto splitLine = [&pattern](const QString &text) {
-        double n[4] = {};
-        if (!pattern.exactMatch(text) || !splitNumbers(text, n))
-            return Curve();
-        return Curve(new vks::CLine2d(Point(n[0], n[1]), Point(n[2], n[3])));
-    };
-    table.row("polygon read, text to vertices", kSize, each(plan.polygonTexts, readVertices),
-              each(plan.polygonTexts, splitVertices), kPolygonRead);
-    table.row("line read, with building it", kSize, each(plan.lineTexts, readCurve), each(plan.lineTexts, splitLine));
-    table.row("polygon read, with building and IsValid", kSize, each(plan.polygonTexts, readPolygon),
-              each(plan.polygonTexts, [](const QString &text) { return builtPolygon(splitVertices(text)); }));
-}
-
-void addNumbers(bench::RatioTable &table, const QStringList &texts, const std::vector<double> &numbers)
-{
-    const auto appended = [](double number) {
+    const auto written = [](double number) {
         QString text;
         encoding::appendNumber(text, number);
         return text;
     };
     const auto read = [](const QString &text) { return encoding::readNumber(text, nullptr); };
-    table.row("number written", numbers.size(), each(numbers, appended),
-              each(numbers, [](double number) { return withNumber(QStringLiteral("%1"), number); }));
-    table.row("number read", numbers.size(), each(texts, read),
-              each(texts, [](const QString &text) { return text.toDouble(); }));
+    roads.push_back(road("number written", "QString::arg", 0.0, &Plan::numbers, written,
+                         [](double number) { return withNumber(QStringLiteral("%1"), number); }));
+    roads.push_back(road("number read", "toDouble", 0.0, &Plan::numberTexts, read,
+                         [](const QString &text) { return text.toDouble(); }));
+}
+
+void addWriting(bench::Roads &roads)
+{
+    const auto written = [](const Curve &curve) { return getCurveInfo(curve); };
+    roads.push_back(road("line of four numbers written", "QString::arg chain", kFourNumbers, &Plan::lines, written,
+                         [](const Curve &line) { return argLine(*line); }));
+    roads.push_back(road("arc of five numbers written", "QString::arg chain", kFourNumbers, &Plan::arcs, written,
+                         [](const Curve &arc) { return argArc(static_cast<vks::CArc2d &>(*arc)); }));
+    roads.push_back(road(
+        "polygon text written", "QString::arg chain", kPolygonWritten, &Plan::polygons,
+        [](const Polygon &polygon) { return getPolyInfo(polygon); },
+        [](const Polygon &polygon) { return argPolygon(*polygon); }));
+}
+
+std::vector<Vertex> readVertices(const QString &text)
+{
+    std::vector<Vertex> vertices;
+    GeometryTextReader::reconstructPoly_Simplified_Normal_StringToDouble(text, vertices);
+    return vertices;
+}
+
+Polygon readPolygon(const QString &text)
+{
+    Polygon polygon;
+    GeometryTextReader::reconstructPoly(text, polygon);
+    return polygon;
+}
+
+Curve readCurve(const QString &text)
+{
+    Curve curve;
+    GeometryTextReader::reconstructCurve(text, curve);
+    return curve;
+}
+
+Curve splitCurve(const QString &text)
+{
+    static const QRegExp pattern(QStringLiteral("^[-0-9\\.e+,]+$"));
+    double n[4] = {};
+    if (!pattern.exactMatch(text) || !splitNumbers(text, n))
+        return {};
+    return Curve(new vks::CLine2d(Point(n[0], n[1]), Point(n[2], n[3])));
+}
+
+void addReading(bench::Roads &roads)
+{
+    roads.push_back(road("polygon text read to vertices", "split and toDouble", kPolygonRead, &Plan::polygonTexts,
+                         &readVertices, &splitVertices));
+    roads.push_back(road("polygon text read, built and validated", "the same by split and toDouble", 0.0,
+                         &Plan::polygonTexts, &readPolygon,
+                         [](const QString &text) { return builtPolygon(splitVertices(text)); }));
+    roads.push_back(road("line text read and built", "pattern, split and toDouble", 0.0, &Plan::lineTexts, &readCurve,
+                         &splitCurve));
+    const QRegExp pattern(QStringLiteral("^[-0-9\\.e+,;]+$"));
+    roads.push_back(road(
+        "character set of a polygon text", "kept QRegExp", kCharacterSet, &Plan::polygonTexts,
+        [](const QString &text) { return encoding::isPolygonText(text); },
+        [pattern](const QString &text) { return pattern.exactMatch(text); }));
 }
 
 } // namespace
 
-int main()
+bench::Roads bench::geometryTextRoads()
 {
-    const Plan plan;
-    std::vector<double> numbers;
-    QStringList texts;
-    for (const Curve &line : plan.lines) {
-        numbers.push_back(line->StartPoint().x);
-        texts.append(QString::number(numbers.back()));
-    }
-    const QRegExp pattern(QStringLiteral("^[-0-9\\.e+,;]+$"));
-
-    bench::RatioTable table("Geometry text, per curve, polygon, number");
-    addNumbers(table, texts, numbers);
-    addWriting(table, plan);
-    addReading(table, plan);
-    table.row("character set of a polygon text", kSize,
-              each(plan.polygonTexts, [](const QString &text) { return encoding::isPolygonText(text); }),
-              each(plan.polygonTexts, [&pattern](const QString &text) { return pattern.exactMatch(text); }),
-              kCharacterSet);
-    return table.print();
+    Roads roads;
+    addNumbers(roads);
+    addWriting(roads);
+    addReading(roads);
+    return roads;
 }

@@ -1,4 +1,4 @@
-#include "load/ChildRun.h"
+#include "support/ChildRun.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -14,7 +14,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace load {
+namespace bench {
 
 namespace {
 
@@ -103,4 +103,4 @@ ChildCost runChild(const QString &program, const QStringList &arguments, const Q
     return cost;
 }
 
-} // namespace load
+} // namespace bench

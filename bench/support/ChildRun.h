@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QStringList>
 
-namespace load {
+namespace bench {
 
 /** What a process took, by the system's own account. */
 struct ChildCost
@@ -22,4 +22,4 @@ struct ChildCost
  *  @param file  what it writes goes into files of this name, with ".out" and ".err" behind */
 ChildCost runChild(const QString &program, const QStringList &arguments, const QString &file, int limitSeconds);
 
-} // namespace load
+} // namespace bench

@@ -1,0 +1,130 @@
+#include "suite/RoadTable.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+
+namespace bench {
+
+namespace {
+
+/** The exponent k of time = c * size^k for a time per item that grows so many times. */
+double exponent(double growth, double sizes) { return 1.0 + std::log(growth) / std::log(sizes); }
+
+double sizesOf(const Road &road)
+{
+    return static_cast<double>(road.sizes.back()) / static_cast<double>(road.sizes.front());
+}
+
+double growthBound(const Road &road)
+{
+    return road.bounds.growth > 0.0 && road.sizes.size() > 1 ? exponent(road.bounds.growth, sizesOf(road)) : 0.0;
+}
+
+QString number(double value, const char *format)
+{
+    return value > 0.0 ? QString::asprintf(format, value) : QString("-");
+}
+
+QString time(double nanoseconds)
+{
+    return nanoseconds < 1000.0 ? number(nanoseconds, "%.1f") : QString::asprintf("%.0f", nanoseconds);
+}
+
+/** A value and its bound. */
+QString held(double value, double bound)
+{
+    const QString text = number(value, "%.2f");
+    return bound > 0.0 ? QString::asprintf("%s of %.2f", qPrintable(text), bound) : text;
+}
+
+void note(QStringList &wrong, const char *what, double value, double bound)
+{
+    if (bound > 0.0 && value > bound)
+        wrong.append(QString::asprintf("%s beyond %.2f", what, bound));
+}
+
+QJsonValue orNull(double value) { return value > 0.0 ? QJsonValue(value) : QJsonValue(); }
+
+} // namespace
+
+RoadTable::RoadTable(Form form) : m_form(form)
+{
+    if (m_form == Form::Table)
+        std::printf(
+            "Times in ns for each item, medians; peak: of memory, to the bytes of the document; growth: exponent of "
+            "the time\nfrom the smallest size to the largest; value of bound.\n%-74s %7s %9s %9s %13s %8s %13s %13s\n",
+            "road / floor under it", "size", "ours", "floor", "ratio", "allocs", "peak", "growth");
+}
+
+void RoadTable::add(const Road &road, const std::vector<Measurement> &sizes)
+{
+    for (const Measurement &one : sizes) {
+        QStringList wrong{one.failure};
+        const bool isLargest = sizes.size() > 1 && &one == &sizes.back();
+        const bool hasFigures = one.failure.isEmpty() && sizes.front().failure.isEmpty();
+        const double growth = isLargest && hasFigures ? exponent(one.ours / sizes.front().ours, sizesOf(road)) : 0.0;
+        note(wrong, "ratio", one.ratio(), road.bounds.ratio);
+        note(wrong, "allocations", one.allocations, road.bounds.allocations);
+        note(wrong, "peak", one.memory(), road.bounds.memory);
+        note(wrong, "growth", growth, growthBound(road));
+        wrong.removeAll(QString());
+        m_rows.push_back({&road, one, growth, wrong.join(QStringLiteral(", "))});
+        if (m_form == Form::Table)
+            print(m_rows.back());
+    }
+}
+
+void RoadTable::print(const Row &row) const
+{
+    const Road &road = *row.road;
+    const std::string name = road.floor.empty() ? road.name : road.name + " / " + road.floor;
+    std::printf("%-74s %7zu %9s %9s %13s %8s %13s %13s%s%s\n", name.c_str(), row.cost.size,
+                qPrintable(time(row.cost.ours)), qPrintable(time(row.cost.floor)),
+                qPrintable(held(row.cost.ratio(), road.bounds.ratio)), qPrintable(number(row.cost.allocations, "%.1f")),
+                qPrintable(held(row.cost.memory(), road.bounds.memory)),
+                qPrintable(row.growth > 0.0 ? held(row.growth, growthBound(road)) : QString()),
+                row.verdict.isEmpty() ? "" : "  ", qUtf8Printable(row.verdict));
+    std::fflush(stdout);
+}
+
+int RoadTable::finish() const
+{
+    const auto isGood = [](const Row &row) { return row.verdict.isEmpty(); };
+    const auto bad = m_rows.size() - static_cast<std::size_t>(std::count_if(m_rows.begin(), m_rows.end(), isGood));
+    if (m_form == Form::Table) {
+        std::printf("%zu rows, %zu beyond a bound\n", m_rows.size(), bad);
+        return bad == 0 ? 0 : 1;
+    }
+    QJsonArray rows;
+    for (const Row &row : m_rows) {
+        const Bounds &bounds = row.road->bounds;
+        const Measurement &cost = row.cost;
+        rows.append(QJsonObject{{"road", QString::fromStdString(row.road->name)},
+                                {"floor", QString::fromStdString(row.road->floor)},
+                                {"size", static_cast<qint64>(cost.size)},
+                                {"nanosecondsPerItem", orNull(cost.ours)},
+                                {"floorNanosecondsPerItem", orNull(cost.floor)},
+                                {"ratio", orNull(cost.ratio())},
+                                {"ratioBound", orNull(bounds.ratio)},
+                                {"allocationsPerItem", cost.allocations},
+                                {"allocationsBound", orNull(bounds.allocations)},
+                                {"peakBytes", cost.peakBytes},
+                                {"documentBytes", orNull(cost.documentBytes)},
+                                {"peakToDocument", orNull(cost.memory())},
+                                {"peakToDocumentBound", orNull(bounds.memory)},
+                                {"growthExponent", orNull(row.growth)},
+                                {"growthExponentBound", orNull(growthBound(*row.road))},
+                                {"isGood", isGood(row)},
+                                {"reason", row.verdict}});
+    }
+    std::fputs(QJsonDocument(QJsonObject{{"rows", rows}}).toJson().constData(), stdout);
+    return bad == 0 ? 0 : 1;
+}
+
+} // namespace bench

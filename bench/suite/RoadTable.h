@@ -1,0 +1,35 @@
+#pragma once
+
+#include "suite/Measurement.h"
+
+namespace bench {
+
+/** All roads with all their sizes, as one table for people or one document for machines. */
+class RoadTable
+{
+public:
+    enum class Form { Table, Json };
+
+    explicit RoadTable(Form form);
+
+    /** Takes the measurements of a road, by growing size; as a table, prints them. */
+    void add(const Road &road, const std::vector<Measurement> &sizes);
+    /** Prints what the form has at its end. @return exit code: 0 where everything is within its bounds, else 1 */
+    int finish() const;
+
+private:
+    struct Row
+    {
+        const Road *road;
+        Measurement cost;
+        double growth;   ///< exponent of the time from the smallest size to this one; 0 where there is none
+        QString verdict; ///< what is wrong; empty for nothing
+    };
+
+    void print(const Row &row) const;
+
+    Form m_form;
+    std::vector<Row> m_rows;
+};
+
+} // namespace bench

@@ -1,0 +1,121 @@
+#include "suite/Families.h"
+#include "suite/RoadTable.h"
+
+#include <QFile>
+#include <QStringList>
+
+#include <algorithm>
+#include <cstdio>
+
+// Every road against the floor under it: see usage below.
+
+namespace {
+
+constexpr const char *kUsage =
+    "usage: RoadBench [--only TEXT] [--size N] [--json] [--quick] [--list] [--run TIMES]\n"
+    "  --only TEXT  roads that have this in their name\n"
+    "  --size N     this size alone, of those that a road has\n"
+    "  --json       one JSON object in place of the table\n"
+    "  --quick      each side once: shows that the roads work, in a minute; only failures count\n"
+    "  --list       the names of the roads\n"
+    "  --run TIMES  our side of the chosen roads so many times in this process, for a profiler; nothing is measured\n"
+    "The exit code is 1 where a ratio, a growth, a peak of memory or a failure is beyond its bound.\n";
+
+struct Options
+{
+    QString only;
+    std::size_t size = 0;
+    bool isJson = false;
+    bool isQuick = false;
+    bool isList = false;
+    int runs = 0;
+};
+
+/** Takes a flag, or a name and its value, off the front of the list. @return whether it was understood */
+bool takeOption(QStringList &arguments, Options &options)
+{
+    const QString name = arguments.takeFirst();
+    if (name == QLatin1String("--json"))
+        return options.isJson = true;
+    if (name == QLatin1String("--quick"))
+        return options.isQuick = true;
+    if (name == QLatin1String("--list"))
+        return options.isList = true;
+    if (arguments.isEmpty())
+        return false;
+    const QString value = arguments.takeFirst();
+    bool isUnderstood = true;
+    if (name == QLatin1String("--only"))
+        options.only = value;
+    else if (name == QLatin1String("--size"))
+        options.size = value.toUInt(&isUnderstood);
+    else if (name == QLatin1String("--run"))
+        options.runs = static_cast<int>(value.toUInt(&isUnderstood));
+    else
+        isUnderstood = false;
+    return isUnderstood;
+}
+
+/** A quick run tells no times, so no bound holds of them; and the smallest size shows as much as any. */
+void makeQuick(bench::Road &road)
+{
+    road.bounds = {};
+    road.sizes.resize(1);
+}
+
+bench::Roads chosen(const Options &options)
+{
+    bench::Roads roads;
+    for (const auto family : bench::kFamilies)
+        for (bench::Road &road : family()) {
+            if (!QString::fromStdString(road.name).contains(options.only))
+                continue;
+            if (options.isQuick)
+                makeQuick(road);
+            if (options.size > 0)
+                road.sizes = {options.size};
+            roads.push_back(std::move(road));
+        }
+    return roads;
+}
+
+int run(const bench::Roads &roads, const Options &options)
+{
+    bench::RoadTable table(options.isJson ? bench::RoadTable::Form::Json : bench::RoadTable::Form::Table);
+    const auto effort = options.isQuick ? bench::Effort::Single : bench::Effort::Full;
+    for (const bench::Road &road : roads) {
+        std::vector<bench::Measurement> sizes;
+        for (const std::size_t size : road.sizes)
+            sizes.push_back(bench::measure(road, size, effort));
+        table.add(road, sizes);
+    }
+    return table.finish();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments.append(QFile::decodeName(argv[i]));
+    Options options;
+    while (!arguments.isEmpty())
+        if (!takeOption(arguments, options)) {
+            std::fputs(kUsage, stderr);
+            return 1;
+        }
+    const bench::Roads roads = chosen(options);
+    if (roads.empty()) {
+        std::fprintf(stderr, "no road has \"%s\" in its name; --list shows them\n", qUtf8Printable(options.only));
+        return 1;
+    }
+    if (!options.isList && options.runs == 0)
+        return run(roads, options);
+    for (const bench::Road &road : roads) {
+        std::printf("%s\n", road.name.c_str());
+        if (!options.isList)
+            bench::runForProfiler(road, road.sizes.back(), options.runs);
+    }
+    return 0;
+}
