@@ -49,10 +49,12 @@ QByteArray columnsText(int beams)
 class Buildings
 {
 public:
-    explicit Buildings(const bench::Load &load)
-        : m_building(columnsText(static_cast<int>(load.size))),
-          m_beams(load.documents, bench::beamRecords(static_cast<int>(load.size)))
-    {}
+    explicit Buildings(const bench::Load &load) : m_building(columnsText(static_cast<int>(load.size)))
+    {
+        // Each building has records of its own: shared ones would stay in the caches where they are few.
+        while (m_beams.size() < load.documents)
+            m_beams.push_back(bench::beamRecords(static_cast<int>(load.size)));
+    }
 
     void clear()
     {

@@ -17,6 +17,7 @@
 #include <QJsonObject>
 
 #include <cstdlib>
+#include <deque>
 #include <memory>
 #include <vector>
 
@@ -81,26 +82,34 @@ struct Building
     Tree tree{dwgx::DWGXBaseBoxTree::createObject()};
 };
 
+using Models = std::deque<Model>; // which cannot be moved
+
 /** Buildings with a floor of so many slabs each. */
 class Floors
 {
 public:
-    Floors(std::size_t floors, int slabs) : m_floors(floors)
+    /** Each floor has models of its own: shared ones would stay in the caches where they are small. */
+    Floors(std::size_t floors, int slabs) : m_slabs(floors), m_bars(floors)
     {
-        Model floor;
-        bench::addSlabFloor(floor, slabs);
-        bench::addSlabFloor(m_slabs, slabs);
-        bench::addSlabBars(floor, m_bars);
+        for (std::size_t i = 0; i < floors; ++i) {
+            Model floor;
+            bench::addSlabFloor(floor, slabs);
+            bench::addSlabFloor(m_slabs[i], slabs);
+            bench::addSlabBars(floor, m_bars[i]);
+        }
     }
 
-    double slabCount() const { return static_cast<double>(m_floors * m_slabs.boards().size()); }
-    double barCount() const { return static_cast<double>(m_floors * m_bars.objects().size()); }
-    double elementCount() const { return static_cast<double>(m_floors * m_slabs.objects().size()) + barCount(); }
+    double slabCount() const { return static_cast<double>(m_slabs.size() * m_slabs.front().boards().size()); }
+    double barCount() const { return static_cast<double>(m_bars.size() * m_bars.front().objects().size()); }
+    double elementCount() const
+    {
+        return static_cast<double>(m_slabs.size() * m_slabs.front().objects().size()) + barCount();
+    }
 
     void openAll()
     {
         m_buildings.clear();
-        m_buildings.resize(m_floors);
+        m_buildings.resize(m_slabs.size());
     }
     void openWithSlabs()
     {
@@ -124,19 +133,18 @@ public:
     }
 
 private:
-    std::size_t writeAll(const Model &local)
+    std::size_t writeAll(const Models &locals)
     {
         std::size_t written = 0;
-        for (Building &building : m_buildings) {
-            building.project->makeCurrent();
-            written += building.write(local);
+        for (std::size_t i = 0; i < m_buildings.size(); ++i) {
+            m_buildings[i].project->makeCurrent();
+            written += m_buildings[i].write(locals[i]);
         }
         return written;
     }
 
-    std::size_t m_floors;
-    Model m_slabs;
-    Model m_bars;
+    Models m_slabs; ///< of each floor
+    Models m_bars;
     std::vector<Building> m_buildings;
 };
 
@@ -173,10 +181,29 @@ bench::Sides elementsRead(const bench::Load &load)
 class TopBars
 {
 public:
-    explicit TopBars(const bench::Load &load) : m_count(load.documents)
+    explicit TopBars(const bench::Load &load) : m_bars(load.documents)
     {
-        for (std::size_t i = 0; i < load.size; ++i) {
-            auto *bar = new Model::NegativeForcedBar(&m_bars);
+        for (Model &bars : m_bars)
+            add(bars, load.size);
+    }
+    void open()
+    {
+        m_buildings.clear();
+        m_buildings.resize(m_bars.size());
+    }
+    void write()
+    {
+        for (std::size_t i = 0; i < m_buildings.size(); ++i) {
+            m_buildings[i].project->makeCurrent();
+            m_buildings[i].write(m_bars[i]);
+        }
+    }
+
+private:
+    static void add(Model &bars, std::size_t count)
+    {
+        for (std::size_t i = 0; i < count; ++i) {
+            auto *bar = new Model::NegativeForcedBar(&bars);
             const std::size_t row = i / 100;
             const vks::CVec2<double> start(static_cast<double>(i % 100) * 3000.0, static_cast<double>(row) * 2000.0);
             bar->line = vks::CRefPtr<vks::CCurve2d>(new vks::CLine2d(start, start + vks::CVec2<double>(3000, 0)));
@@ -184,22 +211,8 @@ public:
             bar->leftStretchLength = bar->rightStretchLength = 800;
         }
     }
-    void open()
-    {
-        m_buildings.clear();
-        m_buildings.resize(m_count);
-    }
-    void write()
-    {
-        for (Building &building : m_buildings) {
-            building.project->makeCurrent();
-            building.write(m_bars);
-        }
-    }
 
-private:
-    Model m_bars;
-    std::size_t m_count;
+    Models m_bars; ///< of each building
     std::vector<Building> m_buildings;
 };
 

@@ -72,11 +72,18 @@ bench::Roads chosen(const Options &options)
                 continue;
             if (options.isQuick)
                 makeQuick(road);
-            if (options.size > 0)
-                road.sizes = {options.size};
             roads.push_back(std::move(road));
         }
     return roads;
+}
+
+std::vector<std::size_t> chosenSizes(const bench::Road &road, const Options &options)
+{
+    std::vector<std::size_t> sizes;
+    for (const std::size_t size : road.sizes)
+        if (options.size == 0 || options.size == size)
+            sizes.push_back(size);
+    return sizes;
 }
 
 int run(const bench::Roads &roads, const Options &options)
@@ -85,7 +92,7 @@ int run(const bench::Roads &roads, const Options &options)
     const auto effort = options.isQuick ? bench::Effort::Single : bench::Effort::Full;
     for (const bench::Road &road : roads) {
         std::vector<bench::Measurement> sizes;
-        for (const std::size_t size : road.sizes)
+        for (const std::size_t size : chosenSizes(road, options))
             sizes.push_back(bench::measure(road, size, effort));
         table.add(road, sizes);
     }
@@ -114,8 +121,10 @@ int main(int argc, char **argv)
         return run(roads, options);
     for (const bench::Road &road : roads) {
         std::printf("%s\n", road.name.c_str());
-        if (!options.isList)
-            bench::runForProfiler(road, road.sizes.back(), options.runs);
+        if (options.isList)
+            continue;
+        for (const std::size_t size : chosenSizes(road, options))
+            bench::runForProfiler(road, size, options.runs);
     }
     return 0;
 }

@@ -171,7 +171,7 @@ void writeGroups(const SlabTarget &target, const std::vector<std::vector<Record>
         if (IHBXElement *element = elementOf(target, elements[i], ruleOf(groups[i])))
             for (const Record &record : groups[i])
                 if (const DrawObjId id = writtenOrNone([&] { return write(*element, record); }))
-                    target.ids[*id] = record.id;
+                    target.ids.insert_or_assign(target.ids.end(), *id, record.id);
         elements.done(i);
     }
 }

@@ -45,8 +45,8 @@ struct PlateRecord
 {
     QUuid id;
     QString name;
-    int thickness; // mm
-    vks::CRefPtr<vks::CPolygon> surface;
+    int thickness;                          // mm
+    const vks::CPolygon *surface;           // of the local model
     std::vector<PlateElevation> elevations; // in the order of writing
 };
 
@@ -59,11 +59,10 @@ std::vector<PlateElevation> elevationsOf(const Model::Raft &raft)
 
 template <typename Plate> PlateRecord recordOf(const Plate &plate, const PlateKind &kind)
 {
-    PlateRecord record{plate.recongnizedID, plate.name, clampedInt(plate.thickness), nullptr, elevationsOf(plate)};
+    PlateRecord record{plate.recongnizedID, plate.name, clampedInt(plate.thickness), plate.surface.get(),
+                       elevationsOf(plate)};
     if (record.name.isEmpty())
         record.name = QLatin1String(kind.namePrefix) + QString::number(record.thickness);
-    if (plate.surface)
-        record.surface = plate.surface->Clone();
     return record;
 }
 

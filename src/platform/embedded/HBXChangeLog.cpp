@@ -1,32 +1,20 @@
 #include "platform/embedded/HBXChangeLog.h"
 
-#include <algorithm>
-#include <utility>
-
 namespace hbx::embedded {
-namespace {
-
-std::vector<qint64> sorted(const std::unordered_set<qint64> &ids)
-{
-    std::vector<qint64> ascending(ids.begin(), ids.end());
-    std::sort(ascending.begin(), ascending.end());
-    return ascending;
-}
-
-} // namespace
 
 void HBXChangedIds::removed(qint64 id)
 {
     m_changed.erase(id);
-    if (m_stored.erase(id) > 0)
+    if (m_stored.erase(id))
         m_removed.insert(id);
 }
 
 void HBXChangedIds::take(std::vector<qint64> &changedIds, std::vector<qint64> &removedIds)
 {
-    changedIds = sorted(m_changed);
-    removedIds = sorted(m_removed);
-    m_stored.insert(m_changed.begin(), m_changed.end());
+    changedIds = m_changed.ascending();
+    removedIds = m_removed.ascending();
+    for (const qint64 id : changedIds)
+        m_stored.insert(id);
     m_changed.clear();
     m_removed.clear();
 }
@@ -34,9 +22,10 @@ void HBXChangedIds::take(std::vector<qint64> &changedIds, std::vector<qint64> &r
 void HBXChangedIds::giveBack(const std::vector<qint64> &changedIds, const std::vector<qint64> &removedIds)
 {
     for (const qint64 id : changedIds)
-        if (m_removed.count(id) == 0)
+        if (!m_removed.contains(id))
             m_changed.insert(id);
-    m_removed.insert(removedIds.begin(), removedIds.end());
+    for (const qint64 id : removedIds)
+        m_removed.insert(id);
 }
 
 void HBXChangedIds::clear() { *this = HBXChangedIds(); }

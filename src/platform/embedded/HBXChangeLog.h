@@ -1,10 +1,10 @@
 #pragma once
 
 #include "ORVCADPlatformExport.h"
+#include "platform/embedded/HBXIdSet.h"
 
 #include <QtGlobal>
 
-#include <unordered_set>
 #include <vector>
 
 namespace hbx::embedded {
@@ -26,9 +26,9 @@ public:
     void clear();
 
 private:
-    std::unordered_set<qint64> m_changed;
-    std::unordered_set<qint64> m_removed;
-    std::unordered_set<qint64> m_stored;
+    HBXIdSet m_changed;
+    HBXIdSet m_removed;
+    HBXIdSet m_stored;
 };
 
 /** What differs from the last save, as the objects report it. */

@@ -61,7 +61,7 @@ void HBXDrawObjs::enter(HBXElementDrawObj &object)
     contents.places.placeChanged(object);
     if (isBarType(object.type())) {
         if (!contents.barMiddles)
-            contents.barMiddles = std::make_unique<HBXPlaceIndex>(barMiddle);
+            contents.barMiddles = std::make_unique<HBXPlaceIndex>(HBXPlaceIndex::kBarMiddles);
         contents.barMiddles->placeChanged(object);
     }
     object.ownElement().countEntered(1);

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "platform/embedded/HBXDrawObjStatus.h"
+#include "platform/embedded/HBXPlaceIndex.h"
 #include "platform/embedded/HBXProperties.h"
 #include "platform/embedded/HBXSectionHolder.h"
 #include "platform/host/IHBXElementDrawObj.h"
 
+#include <array>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -59,6 +61,7 @@ public:
     HBXModel &model() const;
     const HBXProperties &propertySet() const { return m_properties; }
     HBXPlacedShape &placedShape() const { return *m_shape; }
+    HBXPlaceFiling &placeFiling(HBXPlaceIndex::Kind kind) { return m_placeFilings[kind]; }
     const std::vector<HBXElementDrawObj *> &children() const { return m_children; }
     HBXElementDrawObj *attachedTo() const { return m_attachedTo; }
     HBXElementDrawObj *owner() const { return m_owner; }
@@ -101,6 +104,7 @@ private:
     bool m_isEntered = false;
     HBXProperties m_properties;
     std::unique_ptr<HBXPlacedShape> m_shape;
+    std::array<HBXPlaceFiling, 2> m_placeFilings; ///< by HBXPlaceIndex::Kind
     HBXDrawObjStatus m_status;
     std::optional<HBXSectionHolder> m_section;
     HBXElementDrawObj *m_next = nullptr;

@@ -2,6 +2,7 @@
 
 #include "platform/embedded/HBXElementDrawObj.h"
 #include "platform/embedded/HBXPlacedShape.h"
+#include "platform/embedded/HBXSameObject.h"
 
 #include <algorithm>
 #include <cmath>
@@ -30,10 +31,12 @@ bool isPlace(const vks::CBox2<double> &box) { return box.IsValid() && box.minPt.
 
 } // namespace
 
-HBXPlaceIndex::Box HBXPlaceIndex::worldBoxOf(const HBXElementDrawObj &object)
+HBXPlaceIndex::Box HBXPlaceIndex::boxOf(const HBXElementDrawObj &object) const
 {
-    return object.placedShape().worldBox();
+    return m_kind == kWorldBoxes ? object.placedShape().worldBox() : barMiddle(object);
 }
+
+HBXPlaceFiling &HBXPlaceIndex::filingOf(HBXElementDrawObj &object) const { return object.placeFiling(m_kind); }
 
 std::size_t HBXPlaceIndex::CellHash::operator()(const Cell &cell) const
 {
@@ -51,36 +54,56 @@ HBXPlaceIndex::Cell HBXPlaceIndex::cellOf(const Box &box)
     return {level, lineOf(box.minPt.x, level), lineOf(box.minPt.y, level)};
 }
 
+void HBXPlaceIndex::placeChanged(HBXElementDrawObj &object)
+{
+    HBXPlaceFiling &filing = filingOf(object);
+    if (filing.turn)
+        return;
+    filing.turn = m_queue.size();
+    m_queue.push_back(&object);
+}
+
 void HBXPlaceIndex::remove(HBXElementDrawObj &object)
 {
-    m_unfiled.erase(&object);
     unfile(&object);
+    if (const auto turn = std::exchange(filingOf(object).turn, std::nullopt))
+        m_queue[*turn] = nullptr;
 }
 
 void HBXPlaceIndex::unfile(HBXElementDrawObj *object)
 {
-    const auto filed = m_filed.find(object);
-    if (filed == m_filed.end())
+    const auto cell = std::exchange(filingOf(*object).cell, std::nullopt);
+    if (!cell)
         return;
-    std::vector<Entry> &cell = m_cells[filed->second];
-    cell.erase(std::find_if(cell.begin(), cell.end(), [object](const Entry &entry) { return entry.object == object; }));
-    --m_counts[static_cast<std::size_t>(filed->second.level)];
-    m_filed.erase(filed);
+    std::vector<Entry> &entries = m_cells[*cell];
+    entries.erase(
+        std::find_if(entries.begin(), entries.end(), [object](const Entry &entry) { return entry.object == object; }));
+    --m_count;
+    --m_counts[static_cast<std::size_t>(cell->level)];
+}
+
+void HBXPlaceIndex::file(HBXElementDrawObj *object)
+{
+    const Box box = boxOf(*object);
+    if (!isPlace(box))
+        return;
+    const Cell cell = cellOf(box);
+    filingOf(*object).cell = cell;
+    m_cells[cell].push_back({object, box});
+    ++m_count;
+    ++m_counts[static_cast<std::size_t>(cell.level)];
 }
 
 void HBXPlaceIndex::fileAll()
 {
-    // Not cleared: a set that once held a whole floor would wipe that many buckets at each question.
-    for (HBXElementDrawObj *object : std::exchange(m_unfiled, {})) {
-        unfile(object);
-        const Box box = m_boxOf(*object);
-        if (!isPlace(box))
-            continue;
-        const Cell cell = cellOf(box);
-        m_cells[cell].push_back({object, box});
-        m_filed.emplace(object, cell);
-        ++m_counts[static_cast<std::size_t>(cell.level)];
-    }
+    for (std::size_t i = 0; i < m_queue.size(); ++i)
+        if (HBXElementDrawObj *object = m_queue[i]) {
+            unfile(object);
+            file(object);
+            filingOf(*object).turn.reset();
+            m_queue[i] = nullptr; // where one fails, those behind it keep their turn
+        }
+    m_queue.clear();
 }
 
 HBXPlaceIndex::Objects HBXPlaceIndex::meeting(const Box &box, double tolerance)
@@ -108,7 +131,7 @@ void HBXPlaceIndex::addMeeting(int level, const Box &reach, Objects &found) cons
     const double cells =
         (static_cast<double>(lastColumn - firstColumn) + 1) * (static_cast<double>(lastRow - firstRow) + 1);
     // The boxes of the highest level may be of any size.
-    if (level == kLevelCount - 1 || cells > static_cast<double>(m_filed.size())) {
+    if (level == kLevelCount - 1 || cells > static_cast<double>(m_count)) {
         addMeetingOneByOne(level, reach, found);
         return;
     }
@@ -138,7 +161,7 @@ HBXPlaceIndex::Objects HBXPlaceIndex::sameBox(const Box &box, double tolerance)
         return {};
     Objects found = meeting({box.minPt, box.minPt}, tolerance);
     const auto isElsewhere = [&](const HBXElementDrawObj *object) {
-        return !areSameBoxes(m_boxOf(*object), box, tolerance);
+        return !areSameBoxes(boxOf(*object), box, tolerance);
     };
     found.erase(std::remove_if(found.begin(), found.end(), isElsewhere), found.end());
     return found;

@@ -5,13 +5,33 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <unordered_map>
-#include <unordered_set>
 #include <vector>
 
 namespace hbx::embedded {
 
 class HBXElementDrawObj;
+
+/** A cell of a place index. Cells of one level have sides of twice those of the level below; a box lies in the lowest level
+ *  whose sides are not shorter than its own, so that it reaches no further than into the next cell. */
+struct HBXPlaceCell
+{
+    int level;
+    std::int64_t column;
+    std::int64_t row;
+    bool operator==(const HBXPlaceCell &other) const
+    {
+        return level == other.level && column == other.column && row == other.row;
+    }
+};
+
+/** Where an index has an object. The object keeps it: asking a table for each object would be most of the work. */
+struct HBXPlaceFiling
+{
+    std::optional<HBXPlaceCell> cell; ///< none: its box keeps it out, or it is new
+    std::optional<std::size_t> turn;  ///< in the queue of those whose place changed
+};
 
 /** Finds objects by where their boxes lie: a hash of the lower corners, in cells that are as large as the boxes in them. An
  *  object whose place changed is filed anew at the next question, so that a change costs nothing more. Does not own the
@@ -22,15 +42,13 @@ public:
     using Box = vks::CBox2<double>;
     using Objects = std::vector<HBXElementDrawObj *>;
 
-    /** The box by which an object is filed; one that is not valid keeps it out. */
-    using BoxOf = Box (*)(const HBXElementDrawObj &object);
+    /** What an object is filed by. It is in one index of each kind at most. A box that is not valid keeps it out. */
+    enum Kind { kWorldBoxes, kBarMiddles };
 
-    static Box worldBoxOf(const HBXElementDrawObj &object);
-
-    explicit HBXPlaceIndex(BoxOf boxOf = worldBoxOf) : m_boxOf(boxOf) {}
+    explicit HBXPlaceIndex(Kind kind = kWorldBoxes) : m_kind(kind) {}
 
     /** For a new object and for each change of its box. */
-    void placeChanged(HBXElementDrawObj &object) { m_unfiled.insert(&object); }
+    void placeChanged(HBXElementDrawObj &object);
     void remove(HBXElementDrawObj &object);
 
     /** Objects whose boxes share a point with this box or come within a tolerance of it (mm), in no particular order;
@@ -41,19 +59,8 @@ public:
     static bool areSameBoxes(const Box &a, const Box &b, double tolerance);
 
 private:
-    /** Cells of one level have sides of twice those of the level below; a box lies in the lowest level whose sides are not
-     *  shorter than its own, so that it reaches no further than into the next cell. */
     enum { kLevelCount = 24 };
-    struct Cell
-    {
-        int level;
-        std::int64_t column;
-        std::int64_t row;
-        bool operator==(const Cell &other) const
-        {
-            return level == other.level && column == other.column && row == other.row;
-        }
-    };
+    using Cell = HBXPlaceCell;
     /** The box as it was filed: a question looks at many boxes and at few objects. */
     struct Entry
     {
@@ -64,19 +71,21 @@ private:
     {
         std::size_t operator()(const Cell &cell) const;
     };
-
     static Cell cellOf(const Box &box);
     void fileAll();
+    void file(HBXElementDrawObj *object);
     void unfile(HBXElementDrawObj *object);
+    Box boxOf(const HBXElementDrawObj &object) const;
+    HBXPlaceFiling &filingOf(HBXElementDrawObj &object) const;
     void addMeeting(int level, const Box &reach, Objects &found) const;
     void addMeetingOneByOne(int level, const Box &reach, Objects &found) const;
     static void addTouching(const std::vector<Entry> &cell, const Box &reach, Objects &found);
 
-    BoxOf m_boxOf;
+    Kind m_kind;
     std::unordered_map<Cell, std::vector<Entry>, CellHash> m_cells;
-    std::unordered_map<HBXElementDrawObj *, Cell> m_filed;
-    std::array<std::size_t, kLevelCount> m_counts{}; ///< filed objects by level
-    std::unordered_set<HBXElementDrawObj *> m_unfiled;
+    std::size_t m_count = 0;                         ///< filed objects
+    std::array<std::size_t, kLevelCount> m_counts{}; ///< the same by level
+    std::vector<HBXElementDrawObj *> m_queue;        ///< whose places changed; null for one that is gone since
 };
 
 } // namespace hbx::embedded
