@@ -6,8 +6,17 @@
 namespace bench {
 
 Roads geometryTextRoads();
+Roads objectTreeRoads();
+Roads boxTreeRoads();
+Roads slabModelRoads();
+Roads slabSearchRoads();
+Roads drawingSetRoads();
+Roads drawingLookupRoads();
 
 /** In the order of the table. */
-inline constexpr Roads (*kFamilies[])() = {&geometryTextRoads};
+inline constexpr Roads (*kFamilies[])() = {
+    &geometryTextRoads, &objectTreeRoads, &boxTreeRoads,       &slabModelRoads,
+    &slabSearchRoads,   &drawingSetRoads, &drawingLookupRoads,
+};
 
 } // namespace bench
