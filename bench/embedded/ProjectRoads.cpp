@@ -1,217 +1,268 @@
 #include "platform/embedded/HBXDatabaseFile.h"
 #include "platform/embedded/HBXExchangeReader.h"
 #include "platform/embedded/HBXProject.h"
-#include "support/RatioBench.h"
-
-#include <sqlite3.h>
+#include "suite/Families.h"
+#include "support/BareDatabase.h"
+#include "support/Building.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QTemporaryDir>
 
 #include <cstdlib>
+#include <memory>
+#include <vector>
 
-// Import, open and save of the largest sample building, each against the floor under it: the JSON parser alone, and the
-// same rows through the bare C API of SQLite with kept statements in one transaction.
+// Import, export, open and save of a project, against the floors under them: the JSON of Qt alone, and the same rows
+// through the bare C API of SQLite. An item is a draw object.
 
 namespace {
 
+using bench::Load;
+using bench::Sides;
 using hbx::embedded::HBXDatabaseFile;
 using hbx::embedded::HBXExchangeReader;
+using hbx::embedded::HBXProject;
 using hbx::embedded::ProjectError;
+using hbx::embedded::ProjectRecord;
 
-// Ceilings of the ratios.
+// Bounds.
 constexpr double kSave = 1.3;
 constexpr double kOpen = 1.3;
 constexpr double kCheck = 0.4;
+constexpr double kGrowth = 1.3;
 
-QByteArray buildingJson()
-{
-    QFile file(QStringLiteral(ORVCAD_TEST_DATA "/buildings/masonry-block.json"));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
+constexpr std::size_t kSampleDrawObjs = 641;
+constexpr unsigned kSeed = 1;
 
-/** A value of a row as the C API gives it. */
-struct Value
+QByteArray bytesOf(const QString &path)
 {
-    int type = SQLITE_NULL;
-    sqlite3_int64 integer = 0;
-    double number = 0.0;
-    QByteArray text;
-};
-
-struct Table
-{
-    QByteArray name;
-    QByteArray definition;
-    int columns = 0;
-    std::vector<Value> values; ///< row by row
-};
-
-void must(bool isGood)
-{
-    if (!isGood)
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
         std::abort();
+    return file.readAll();
 }
 
-class Connection
+// Where a building comes from: its exchange document, of so many draw objects.
+using Source = QByteArray (*)(std::size_t drawObjs);
+
+/** The largest building of the tests, which has one size. */
+QByteArray sampleBuilding(std::size_t /*drawObjs*/)
+{
+    return bytesOf(QStringLiteral(ORVCAD_TEST_DATA "/buildings/masonry-block.json"));
+}
+
+QByteArray generatedBuilding(std::size_t drawObjs)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("building.json"));
+    bench::Building(static_cast<int>(drawObjs), kSeed).write(path);
+    return bytesOf(path);
+}
+
+/** A building, as often as a load has documents: in files of their own, and in memory once they are read. What was read
+ *  stays until the next run, so that many small buildings take as much memory as a large one. */
+class Projects
 {
 public:
-    Connection(const QString &path, int flags)
+    Projects(const Load &load, Source source) : m_json(source(load.size))
     {
-        must(sqlite3_open_v2(path.toUtf8().constData(), &m_handle, flags, nullptr) == SQLITE_OK);
+        const auto project = HBXExchangeReader::read(m_json, QString(), m_error);
+        if (!project)
+            std::abort();
+        m_record = *project;
+        for (std::size_t i = 0; i < load.documents; ++i)
+            m_paths.append(m_folder.filePath(QString::number(i)));
+        createFile(m_paths.first());
+        for (const QString &path : qAsConst(m_paths))
+            QFile::copy(m_paths.first(), path);
+        m_tables = bench::bareTablesOf(m_paths.first());
     }
-    ~Connection() { sqlite3_close(m_handle); }
-    Connection(const Connection &) = delete;
-    Connection &operator=(const Connection &) = delete;
 
-    void run(const char *sql) { must(sqlite3_exec(m_handle, sql, nullptr, nullptr, nullptr) == SQLITE_OK); }
-    template <typename Visit> void each(const QByteArray &sql, Visit visit)
+    double drawObjs() const { return static_cast<double>(m_record.drawObjs.size()) * m_paths.size(); }
+    double jsonBytes() const { return static_cast<double>(m_json.size()) * m_paths.size(); }
+    double fileBytes() const { return static_cast<double>(QFileInfo(m_paths.first()).size()) * m_paths.size(); }
+    QString differenceFrom(const Load &load) const
     {
-        sqlite3_stmt *statement = prepared(sql);
-        while (sqlite3_step(statement) == SQLITE_ROW)
-            visit(statement);
-        sqlite3_finalize(statement);
+        return drawObjs() == static_cast<double>(load.items())
+                   ? QString()
+                   : QStringLiteral("the building has %1 draw objects").arg(m_record.drawObjs.size());
     }
-    sqlite3_stmt *prepared(const QByteArray &sql)
+
+    void clear()
     {
-        sqlite3_stmt *statement = nullptr;
-        must(sqlite3_prepare_v2(m_handle, sql.constData(), -1, &statement, nullptr) == SQLITE_OK);
-        return statement;
+        m_records.clear();
+        m_projects.clear();
+    }
+    void importAll()
+    {
+        for (int i = 0; i < m_paths.size(); ++i)
+            m_records.push_back(HBXExchangeReader::read(m_json, QString(), m_error));
+    }
+    void importToModels()
+    {
+        for (int i = 0; i < m_paths.size(); ++i)
+            m_projects.push_back(HBXProject::fromJson(m_json, QString(), m_error));
+    }
+    void parseJson()
+    {
+        for (int i = 0; i < m_paths.size(); ++i)
+            bench::keep(m_document = QJsonDocument::fromJson(m_json));
+    }
+    void exportAll()
+    {
+        for (const auto &project : m_projects)
+            bench::keep(project->toJson());
+    }
+    void writeJson()
+    {
+        for (int i = 0; i < m_paths.size(); ++i)
+            bench::keep(m_document.toJson());
+    }
+    void save() { createFile(m_paths.first()); }
+    void saveBare() { bench::writeBare(barePath(), m_tables); }
+    void removeBare() { QFile::remove(barePath()); }
+    void open()
+    {
+        for (const QString &path : qAsConst(m_paths))
+            m_records.push_back(HBXDatabaseFile(path).read(m_error));
+    }
+    void openToModels()
+    {
+        for (const QString &path : qAsConst(m_paths))
+            m_projects.push_back(HBXProject::open(path, m_error));
+    }
+    void check()
+    {
+        for (const QString &path : qAsConst(m_paths))
+            bench::checkBare(path);
+    }
+    /** The check has a ceiling of its own, so it stands on both sides of the ratio of reading. */
+    void openBare()
+    {
+        for (const QString &path : qAsConst(m_paths)) {
+            bench::checkBare(path);
+            bench::readBare(path);
+        }
     }
 
 private:
-    sqlite3 *m_handle = nullptr;
+    QString barePath() const { return m_folder.filePath(QStringLiteral("bare")); }
+    void createFile(const QString &path)
+    {
+        if (!HBXDatabaseFile(path).create(m_record, m_error))
+            std::abort();
+    }
+
+    QByteArray m_json;
+    ProjectError m_error;
+    ProjectRecord m_record;
+    QTemporaryDir m_folder;
+    QStringList m_paths;
+    std::vector<bench::BareTable> m_tables;
+    QJsonDocument m_document = QJsonDocument::fromJson(m_json);
+    std::vector<std::optional<ProjectRecord>> m_records;
+    std::vector<std::unique_ptr<HBXProject>> m_projects;
 };
 
-Value valueAt(sqlite3_stmt *row, int column)
+using Operation = void (Projects::*)();
+
+/** One road over projects, whatever building they are of. */
+struct ProjectRoad
 {
-    Value value;
-    value.type = sqlite3_column_type(row, column);
-    value.integer = sqlite3_column_int64(row, column);
-    value.number = sqlite3_column_double(row, column);
-    if (value.type == SQLITE_TEXT)
-        value.text = QByteArray(reinterpret_cast<const char *>(sqlite3_column_text(row, column)),
-                                sqlite3_column_bytes(row, column));
-    return value;
+    const char *name;
+    const char *floor;
+    bench::Bounds bounds;
+    Operation ours;
+    Operation bare;
+    double (Projects::*documentBytes)() const = &Projects::fileBytes;
+    Operation prepare = &Projects::clear; ///< before each run of ours
+    Operation prepareBare = nullptr;
+    bool waitsForDisk = false;
+};
+
+const std::vector<ProjectRoad> &projectRoadList()
+{
+    static const std::vector<ProjectRoad> roads{
+        {"imported", "JSON parser", {0.0, kGrowth}, &Projects::importAll, &Projects::parseJson, &Projects::jsonBytes},
+        {"imported to the model",
+         "JSON parser",
+         {0.0, kGrowth},
+         &Projects::importToModels,
+         &Projects::parseJson,
+         &Projects::jsonBytes},
+        {"exported",
+         "toJson of the same document",
+         {0.0, kGrowth},
+         &Projects::exportAll,
+         &Projects::writeJson,
+         &Projects::jsonBytes,
+         nullptr},
+        {"saved",
+         "the same rows by the C API",
+         {kSave},
+         &Projects::save,
+         &Projects::saveBare,
+         &Projects::fileBytes,
+         nullptr,
+         &Projects::removeBare,
+         true},
+        {"opened", "check and reading of the rows", {kOpen, kGrowth}, &Projects::open, &Projects::openBare},
+        {"opened to the model",
+         "check and reading of the rows",
+         {0.0, kGrowth},
+         &Projects::openToModels,
+         &Projects::openBare},
+        {"checked",
+         "full read",
+         {kCheck},
+         &Projects::check,
+         &Projects::open,
+         &Projects::fileBytes,
+         nullptr,
+         &Projects::clear}};
+    return roads;
 }
 
-/** All rows of a project file. */
-std::vector<Table> tablesOf(const QString &path)
+bench::Work work(const std::shared_ptr<Projects> &projects, Operation prepare, Operation operation)
 {
-    Connection file(path, SQLITE_OPEN_READONLY);
-    std::vector<Table> tables;
-    file.each("SELECT name, sql FROM sqlite_schema", [&](sqlite3_stmt *row) {
-        tables.push_back({valueAt(row, 0).text, valueAt(row, 1).text, 0, {}});
-    });
-    for (Table &table : tables)
-        file.each("SELECT * FROM " + table.name, [&](sqlite3_stmt *row) {
-            table.columns = sqlite3_column_count(row);
-            for (int i = 0; i < table.columns; ++i)
-                table.values.push_back(valueAt(row, i));
-        });
-    return tables;
+    const auto run = [projects, operation] { (projects.get()->*operation)(); };
+    if (!prepare)
+        return run;
+    return {[projects, prepare] { (projects.get()->*prepare)(); }, run};
 }
 
-void bind(sqlite3_stmt *insert, int place, const Value &value)
+bench::Road roadOf(const std::string &building, Source source, const std::vector<std::size_t> &sizes,
+                   const ProjectRoad &road)
 {
-    if (value.type == SQLITE_INTEGER)
-        sqlite3_bind_int64(insert, place, value.integer);
-    else if (value.type == SQLITE_FLOAT)
-        sqlite3_bind_double(insert, place, value.number);
-    else if (value.type == SQLITE_TEXT)
-        sqlite3_bind_text(insert, place, value.text.constData(), value.text.size(), SQLITE_STATIC);
-    else
-        sqlite3_bind_null(insert, place);
-}
-
-void writeRows(Connection &file, const Table &table)
-{
-    if (table.values.empty())
-        return;
-    QByteArray places("?");
-    for (int i = 1; i < table.columns; ++i)
-        places += ",?";
-    sqlite3_stmt *insert = file.prepared("INSERT INTO " + table.name + " VALUES(" + places + ')');
-    const auto columns = static_cast<std::size_t>(table.columns);
-    for (std::size_t row = 0; row < table.values.size(); row += columns) {
-        for (std::size_t i = 0; i < columns; ++i)
-            bind(insert, static_cast<int>(i) + 1, table.values[row + i]);
-        sqlite3_step(insert);
-        sqlite3_reset(insert);
-    }
-    sqlite3_finalize(insert);
-}
-
-void writeBare(const QString &path, const std::vector<Table> &tables)
-{
-    Connection file(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
-    file.run("BEGIN");
-    for (const Table &table : tables)
-        file.run(table.definition.constData());
-    for (const Table &table : tables)
-        writeRows(file, table);
-    file.run("COMMIT");
-}
-
-/** Reads each row and makes a value of each column, which any reader must. */
-void readBare(const QString &path, const std::vector<Table> &tables)
-{
-    Connection file(path, SQLITE_OPEN_READONLY);
-    for (const Table &table : tables)
-        file.each("SELECT * FROM " + table.name, [](sqlite3_stmt *row) {
-            for (int i = 0; i < sqlite3_column_count(row); ++i)
-                if (sqlite3_column_type(row, i) == SQLITE_TEXT)
-                    bench::keep(QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(row, i)),
-                                                  sqlite3_column_bytes(row, i)));
-                else
-                    bench::keep(sqlite3_column_double(row, i));
-        });
-}
-
-void checkBare(const QString &path)
-{
-    Connection file(path, SQLITE_OPEN_READONLY);
-    file.each("PRAGMA quick_check(1)", [](sqlite3_stmt *row) { bench::keep(sqlite3_column_text(row, 0)); });
-}
-
-/** The check has a ceiling of its own, so it stands on both sides of the ratio of reading. */
-void readChecked(const QString &path, const std::vector<Table> &tables)
-{
-    checkBare(path);
-    readBare(path, tables);
+    const auto make = [source, road](const Load &load) {
+        const auto projects = std::make_shared<Projects>(load, source);
+        if (road.ours == &Projects::exportAll)
+            projects->importToModels();
+        Sides sides{work(projects, road.prepare, road.ours), work(projects, road.prepareBare, road.bare),
+                    projects->drawObjs(), (projects.get()->*road.documentBytes)()};
+        sides.wrong = [projects, load] { return projects->differenceFrom(load); };
+        return sides;
+    };
+    // A file that is waited for costs much however small it is, so that many would show that alone.
+    return {building + ": " + road.name,
+            road.floor,
+            sizes,
+            road.bounds,
+            make,
+            road.waitsForDisk ? bench::Time::Wall : bench::Time::Cpu,
+            road.waitsForDisk ? bench::Small::Alone : bench::Small::Many};
 }
 
 } // namespace
 
-int main()
+bench::Roads bench::projectRoads()
 {
-    const QByteArray json = buildingJson();
-    ProjectError error;
-    const auto project = HBXExchangeReader::read(json, QStringLiteral("masonry-block.json"), error);
-    must(project.has_value());
-    const QTemporaryDir folder;
-    const QString ours = folder.filePath(QStringLiteral("ours.hbxdb"));
-    const QString bare = folder.filePath(QStringLiteral("bare.hbxdb"));
-    must(HBXDatabaseFile(ours).create(*project, error));
-    const std::vector<Table> tables = tablesOf(ours);
-    const std::size_t objects = project->drawObjs.size();
-
-    bench::RatioTable table("Project of the largest sample building, per draw object");
-    table.row(
-        "import / JSON parser", objects, [&] { bench::keep(HBXExchangeReader::read(json, QString(), error)); },
-        [&] { bench::keep(QJsonDocument::fromJson(json)); });
-    table.row(
-        "save / the same rows by the C API", objects, [&] { HBXDatabaseFile(ours).create(*project, error); },
-        bench::Work([&] { QFile::remove(bare); }, [&] { writeBare(bare, tables); }), kSave);
-    table.row(
-        "open / check and reading of the rows", objects, [&] { bench::keep(HBXDatabaseFile(ours).read(error)); },
-        [&] { readChecked(ours, tables); }, kOpen);
-    table.row(
-        "open to the model / check and reading of the rows", objects,
-        [&] { bench::keep(hbx::embedded::HBXProject::open(ours, error)); }, [&] { readChecked(ours, tables); });
-    table.row(
-        "check of the file / full read", objects, [&] { checkBare(ours); },
-        [&] { bench::keep(HBXDatabaseFile(ours).read(error)); }, kCheck);
-    return table.print();
+    Roads roads;
+    for (const ProjectRoad &road : projectRoadList()) {
+        roads.push_back(roadOf("project of the sample building", &sampleBuilding, {kSampleDrawObjs}, road));
+        roads.push_back(roadOf("project", &generatedBuilding, kSizes, road));
+    }
+    return roads;
 }

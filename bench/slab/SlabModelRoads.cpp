@@ -17,7 +17,6 @@ using ModelPtr = std::unique_ptr<Model>;
 
 // Bounds.
 constexpr double kGrowth = 1.3;
-constexpr double kReadingGrowth = 2.0; // the list of what is read grows out of the caches, too
 constexpr double kReader = 0.15;
 const std::vector<std::size_t> kReaderSizes{1'000, 20'000};
 
@@ -139,9 +138,9 @@ Sides reading(const Load &load)
     return {readingAll(models), {}, static_cast<double>(load.items())};
 }
 
-bench::Road growthRoad(const char *name, Sides (*make)(const Load &load), double growth = kGrowth)
+bench::Road growthRoad(const char *name, Sides (*make)(const Load &load))
 {
-    return {name, {}, bench::kSizes, {0.0, growth}, make, bench::Time::Cpu, bench::Small::Many};
+    return {name, {}, bench::kSizes, {0.0, kGrowth}, make, bench::Time::Cpu, bench::Small::Many};
 }
 
 } // namespace
@@ -149,28 +148,21 @@ bench::Road growthRoad(const char *name, Sides (*make)(const Load &load), double
 bench::Roads bench::slabModelRoads()
 {
     constexpr const char *kScan = "dynamic_cast scan";
-    return {{"slab model: one kind, in order",
-             kScan,
-             kReaderSizes,
-             {kReader},
-             readingKinds<Model::Board, &Model::boards>(&built)},
-            {"slab model: one kind, mixed",
-             kScan,
-             kReaderSizes,
-             {kReader},
-             readingKinds<Model::Board, &Model::boards>(&builtMixed)},
-            {"slab model: all kinds, in order",
-             kScan,
-             kReaderSizes,
-             {},
-             readingKinds<Model::Object, &Model::objects>(&built)},
-            {"slab model: all kinds, mixed",
-             kScan,
-             kReaderSizes,
-             {},
-             readingKinds<Model::Object, &Model::objects>(&builtMixed)},
-            growthRoad("slab model: built", &building),
-            growthRoad("slab model: destroyed", &destroying),
-            growthRoad("slab model: built, read, destroyed", &living, kReadingGrowth),
-            growthRoad("slab model: read by every reader", &reading, kReadingGrowth)};
+    return {
+        {"slab model: one kind, in order",
+         kScan,
+         kReaderSizes,
+         {kReader},
+         readingKinds<Model::Board, &Model::boards>(&built)},
+        {"slab model: one kind, mixed",
+         kScan,
+         kReaderSizes,
+         {kReader},
+         readingKinds<Model::Board, &Model::boards>(&builtMixed)},
+        {"slab model: all kinds, in order", kScan, kSizes, {}, readingKinds<Model::Object, &Model::objects>(&built)},
+        {"slab model: all kinds, mixed", kScan, kSizes, {}, readingKinds<Model::Object, &Model::objects>(&builtMixed)},
+        growthRoad("slab model: built", &building),
+        growthRoad("slab model: destroyed", &destroying),
+        growthRoad("slab model: built, read, destroyed", &living),
+        growthRoad("slab model: read by every reader", &reading)};
 }

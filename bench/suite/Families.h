@@ -12,11 +12,20 @@ Roads slabModelRoads();
 Roads slabSearchRoads();
 Roads drawingSetRoads();
 Roads drawingLookupRoads();
+Roads projectRoads();
+Roads processRoads();
 
 /** In the order of the table. */
 inline constexpr Roads (*kFamilies[])() = {
-    &geometryTextRoads, &objectTreeRoads, &boxTreeRoads,       &slabModelRoads,
-    &slabSearchRoads,   &drawingSetRoads, &drawingLookupRoads,
+    &geometryTextRoads,
+    &objectTreeRoads,
+    &boxTreeRoads,
+    &slabModelRoads,
+    &slabSearchRoads,
+    &drawingSetRoads,
+    &drawingLookupRoads,
+    &projectRoads,
+    &processRoads,
 };
 
 } // namespace bench
