@@ -97,11 +97,14 @@ QString ProcessFloor::make(std::size_t drawObjs, Made &made) const
     const QJsonObject replyBars = Persistence::model2json(&bars, Persistence::BoardBars);
     for (auto array = replyBars.begin(); array != replyBars.end(); ++array)
         reply.insert(array.key(), array.value());
-    if (!writeJson(path("building.json"), building) || !writeJson(payload(), reply))
+    if (!writeJson(path("building.json"), building) || !writeJson(path("reply.json"), reply))
         return QStringLiteral("its files cannot be written");
     const QString failure = orvcad({"project", "import", path("building.json"), "-o", path("beams.hbxdb")});
-    QFile::copy(path("beams.hbxdb"), fullProject());
-    return failure.isEmpty() ? orvcad({"slab", "apply", fullProject(), payload(), "--floor", kFloor}) : failure;
+    if (!failure.isEmpty() || !QFile::copy(path("beams.hbxdb"), fullProject()))
+        return failure;
+    // Some values are told to come out as others, so it is not the reply itself that is the payload.
+    orvcad({"slab", "apply", fullProject(), path("reply.json"), "--floor", kFloor});
+    return orvcad({"slab", "export", fullProject(), "--floor", kFloor, "-o", payload()});
 }
 
 double ProcessFloor::payloadBytes() const { return static_cast<double>(QFileInfo(payload()).size()); }
@@ -119,7 +122,7 @@ void ProcessFloor::emptyWorkProject() const
 
 QString ProcessFloor::applySlabs() const
 {
-    return orvcad({"slab", "apply", path("work.hbxdb"), payload(), "--floor", kFloor});
+    return orvcad({"slab", "apply", path("work.hbxdb"), payload(), "--floor", kFloor, "--as-new"});
 }
 
 QString ProcessFloor::orvcad(const QStringList &arguments) const
@@ -130,7 +133,9 @@ QString ProcessFloor::orvcad(const QStringList &arguments) const
         return {};
     return QStringLiteral("exit code %1: %2")
         .arg(cost.exitCode)
-        .arg(QString::fromUtf8(cost.err.left(kMostShown)).simplified());
+        .arg(QString::fromUtf8(
+                 (std::fprintf(stderr, "%s\n%s\n", cost.out.left(2500).constData(), cost.err.constData()), cost.err))
+                 .simplified());
 }
 
 } // namespace bench

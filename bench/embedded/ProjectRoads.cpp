@@ -179,19 +179,14 @@ struct ProjectRoad
     double (Projects::*documentBytes)() const = &Projects::fileBytes;
     Operation prepare = &Projects::clear; ///< before each run of ours
     Operation prepareBare = nullptr;
-    bool waitsForDisk = false;
+    bench::Time time = bench::Time::Cpu;
+    bench::Small small = bench::Small::Many;
 };
 
 const std::vector<ProjectRoad> &projectRoadList()
 {
     static const std::vector<ProjectRoad> roads{
         {"imported", "JSON parser", {0.0, kGrowth}, &Projects::importAll, &Projects::parseJson, &Projects::jsonBytes},
-        {"imported to the model",
-         "JSON parser",
-         {0.0, kGrowth},
-         &Projects::importToModels,
-         &Projects::parseJson,
-         &Projects::jsonBytes},
         {"exported",
          "toJson of the same document",
          {0.0, kGrowth},
@@ -207,7 +202,8 @@ const std::vector<ProjectRoad> &projectRoadList()
          &Projects::fileBytes,
          nullptr,
          &Projects::removeBare,
-         true},
+         bench::Time::Wall,    // it waits for the disk,
+         bench::Small::Alone}, // for each file as long, however small it is
         {"opened", "check and reading of the rows", {kOpen, kGrowth}, &Projects::open, &Projects::openBare},
         {"opened to the model",
          "check and reading of the rows",
@@ -221,7 +217,9 @@ const std::vector<ProjectRoad> &projectRoadList()
          &Projects::open,
          &Projects::fileBytes,
          nullptr,
-         &Projects::clear}};
+         &Projects::clear,
+         bench::Time::Cpu,
+         bench::Small::Alone}};
     return roads;
 }
 
@@ -245,14 +243,7 @@ bench::Road roadOf(const std::string &building, Source source, const std::vector
         sides.wrong = [projects, load] { return projects->differenceFrom(load); };
         return sides;
     };
-    // A file that is waited for costs much however small it is, so that many would show that alone.
-    return {building + ": " + road.name,
-            road.floor,
-            sizes,
-            road.bounds,
-            make,
-            road.waitsForDisk ? bench::Time::Wall : bench::Time::Cpu,
-            road.waitsForDisk ? bench::Small::Alone : bench::Small::Many};
+    return {building + ": " + road.name, road.floor, sizes, road.bounds, make, road.time, road.small};
 }
 
 } // namespace
