@@ -133,9 +133,7 @@ QString ProcessFloor::orvcad(const QStringList &arguments) const
         return {};
     return QStringLiteral("exit code %1: %2")
         .arg(cost.exitCode)
-        .arg(QString::fromUtf8(
-                 (std::fprintf(stderr, "%s\n%s\n", cost.out.left(2500).constData(), cost.err.constData()), cost.err))
-                 .simplified());
+        .arg(QString::fromUtf8((cost.err + cost.out).left(kMostShown)).simplified());
 }
 
 } // namespace bench

@@ -21,8 +21,8 @@ using FloorPtr = std::shared_ptr<const ProcessFloor>;
 
 // Bounds. A reply is looked through first, each member is built, checked and placed in a model of the host, and what was
 // made is read out again and compared, none of which the floor under it does.
-constexpr double kExport = 4.0;
-constexpr double kApply = 8.0;
+constexpr double kExport = 3.0;
+constexpr double kApply = 6.0;
 
 const std::vector<std::size_t> kElementSizes{2'000, 20'000};
 
