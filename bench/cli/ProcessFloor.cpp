@@ -99,7 +99,7 @@ QString ProcessFloor::make(std::size_t drawObjs, Made &made) const
         reply.insert(array.key(), array.value());
     if (!writeJson(path("building.json"), building) || !writeJson(path("reply.json"), reply))
         return QStringLiteral("its files cannot be written");
-    const QString failure = orvcad({"project", "import", path("building.json"), "-o", path("beams.hbxdb")});
+    QString failure = orvcad({"project", "import", path("building.json"), "-o", path("beams.hbxdb")});
     if (!failure.isEmpty() || !QFile::copy(path("beams.hbxdb"), fullProject()))
         return failure;
     // Some values are told to come out as others, so it is not the reply itself that is the payload.
