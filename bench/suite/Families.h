@@ -7,25 +7,30 @@ namespace bench {
 
 Roads geometryTextRoads();
 Roads objectTreeRoads();
+Roads wallArchiveRoads();
+Roads drawingSetRoads();
+Roads drawingLookupRoads();
+Roads wallModelRoads();
+Roads columnResultRoads();
+Roads beamTextRoads();
+Roads slabTextRoads();
+Roads overlayRoads();
 Roads boxTreeRoads();
 Roads slabModelRoads();
 Roads slabSearchRoads();
-Roads drawingSetRoads();
-Roads drawingLookupRoads();
+Roads slabHostRoads();
+Roads beamHostRoads();
+Roads wallApplyRoads();
+Roads openingApplyRoads();
 Roads projectRoads();
 Roads processRoads();
 
 /** In the order of the table. */
 inline constexpr Roads (*kFamilies[])() = {
-    &geometryTextRoads,
-    &objectTreeRoads,
-    &boxTreeRoads,
-    &slabModelRoads,
-    &slabSearchRoads,
-    &drawingSetRoads,
-    &drawingLookupRoads,
-    &projectRoads,
-    &processRoads,
+    &geometryTextRoads, &objectTreeRoads,   &wallArchiveRoads, &drawingSetRoads, &drawingLookupRoads,
+    &wallModelRoads,    &columnResultRoads, &beamTextRoads,    &slabTextRoads,   &overlayRoads,
+    &boxTreeRoads,      &slabModelRoads,    &slabSearchRoads,  &slabHostRoads,   &beamHostRoads,
+    &wallApplyRoads,    &openingApplyRoads, &projectRoads,     &processRoads,
 };
 
 } // namespace bench

@@ -2,57 +2,45 @@
 
 #include "platform/embedded/HBXProject.h"
 #include "platform/host/IHBXService.h"
-#include "support/RatioBench.h"
+#include "suite/Road.h"
 
-#include <QFile>
-#include <QJsonDocument>
+#include <QByteArray>
 #include <QJsonObject>
 
-#include <cstdlib>
 #include <memory>
-#include <utility>
+#include <vector>
 
 namespace bench {
 
-/** A reply of the identify service, written into the largest sample building, which is fresh for each run. */
+/** A reply of the identify service, written into the largest sample building: into as many copies of it as wanted, which are
+ *  fresh for each run. */
 class ReplyApply
 {
 public:
     using Entry = bool (*)(IHBXService *service, const QJsonObject &reply);
+    using Projects = std::vector<std::unique_ptr<hbx::embedded::HBXProject>>;
 
-    ReplyApply(QByteArray reply, Entry entry) : m_reply(std::move(reply)), m_entry(entry) {}
+    static std::shared_ptr<ReplyApply> make(QByteArray reply, Entry entry, std::size_t buildings);
+    /** Reads the text and writes it, once for each building. */
+    static Work work(const std::shared_ptr<ReplyApply> &apply);
 
-    void prepare()
-    {
-        static const QByteArray building = buildingText();
-        hbx::embedded::ProjectError error;
-        m_project = hbx::embedded::HBXProject::fromJson(building, QStringLiteral("masonry-block.json"), error);
-        if (!m_project)
-            std::abort();
-    }
-    /** Reads the text and writes it. */
-    void run() { m_entry(service(), object()); }
-    Work work()
-    {
-        return {[this] { prepare(); }, [this] { run(); }};
-    }
-
-    IHBXService *service() const { return m_project->service(); }
-    /** The reply, read from its text: what no reader of it can avoid. */
-    QJsonObject object() const { return QJsonDocument::fromJson(m_reply).object(); }
+    void prepare();
+    void run();
+    /** What no reader of the replies can avoid. */
+    void parseEach() const;
+    const Projects &projects() const { return m_projects; }
+    qint64 bytes() const { return m_reply.size() * static_cast<qint64>(m_buildings); }
 
 private:
-    static QByteArray buildingText()
-    {
-        QFile file(QStringLiteral(ORVCAD_TEST_DATA "/buildings/masonry-block.json"));
-        if (!file.open(QIODevice::ReadOnly))
-            std::abort();
-        return file.readAll();
-    }
+    ReplyApply(QByteArray reply, Entry entry, std::size_t buildings)
+        : m_reply(std::move(reply)), m_entry(entry), m_buildings(buildings)
+    {}
+    QJsonObject object() const;
 
     QByteArray m_reply;
     Entry m_entry;
-    std::unique_ptr<hbx::embedded::HBXProject> m_project;
+    std::size_t m_buildings;
+    Projects m_projects;
 };
 
 } // namespace bench

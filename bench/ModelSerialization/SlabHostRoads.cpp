@@ -9,18 +9,18 @@
 #include "platform/host/IHBXModel.h"
 #include "platform/host/IHBXService.h"
 #include "platform/host/IHBXShape.h"
-#include "support/RatioBench.h"
+#include "suite/ConversionBounds.h"
+#include "suite/Families.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <algorithm>
 #include <cstdlib>
+#include <memory>
+#include <vector>
 
-// How the cost of a slab and of a bar grows with their number on the floor: into the host and out of it.
-//
-//     SlabRoadBench [slabs]      as many slabs in all instead of 20,000
+// Slabs and their bars: into the host and out of it.
 
 using hbx::embedded::HBXProject;
 using hbx::embedded::ProjectError;
@@ -31,8 +31,7 @@ using Model = ORVCADBoardLocalModel_Sample;
 using Service = ORVCADBoardLocalModelTransformHBXService_Sample;
 using Tree = std::unique_ptr<dwgx::DWGXBaseBoxTree>;
 
-constexpr int kSmallFloor = 200; // slabs
-constexpr double kGrowth = 1.3;
+constexpr int kBarsOfASlab = 4; // at least
 
 const QString kRegion = QStringLiteral("House");
 const QString kFloor = QStringLiteral("Level 1");
@@ -82,42 +81,22 @@ struct Building
     Tree tree{dwgx::DWGXBaseBoxTree::createObject()};
 };
 
-/** The roads over so many slabs, in floors of so many each. */
-class Roads
+/** Buildings with a floor of so many slabs each. */
+class Floors
 {
 public:
-    Roads(int all, int onAFloor) : m_floors(static_cast<std::size_t>(all / onAFloor))
+    Floors(std::size_t floors, int slabs) : m_floors(floors)
     {
         Model floor;
-        bench::addSlabFloor(floor, onAFloor);
-        bench::addSlabFloor(m_slabs, onAFloor);
+        bench::addSlabFloor(floor, slabs);
+        bench::addSlabFloor(m_slabs, slabs);
         bench::addSlabBars(floor, m_bars);
     }
 
-    std::size_t slabCount() const { return m_floors * m_slabs.boards().size(); }
-    std::size_t barCount() const { return m_floors * m_bars.objects().size(); }
+    double slabCount() const { return static_cast<double>(m_floors * m_slabs.boards().size()); }
+    double barCount() const { return static_cast<double>(m_floors * m_bars.objects().size()); }
+    double elementCount() const { return static_cast<double>(m_floors * m_slabs.objects().size()) + barCount(); }
 
-    bench::Work writeSlabs()
-    {
-        return {[this] { openAll(); }, [this] { writeAll(m_slabs); }};
-    }
-    bench::Work writeBars()
-    {
-        return {[this] { openWithSlabs(); }, [this] { writeAll(m_bars); }};
-    }
-    bench::Work read()
-    {
-        openWithSlabs();
-        if (writeAll(m_bars) != barCount())
-            std::abort(); // the figures would say nothing
-        return [this] {
-            for (Building &building : m_buildings)
-                bench::keep(building.read());
-        };
-    }
-    void close() { m_buildings.clear(); }
-
-private:
     void openAll()
     {
         m_buildings.clear();
@@ -126,10 +105,25 @@ private:
     void openWithSlabs()
     {
         openAll();
-        writeAll(m_slabs);
+        writeSlabs();
         for (Building &building : m_buildings)
             building.fillTree();
     }
+    void writeSlabs() { writeAll(m_slabs); }
+    void writeBars() { writeAll(m_bars); }
+    void readAll()
+    {
+        for (Building &building : m_buildings)
+            bench::keep(building.read());
+    }
+    QString wrong()
+    {
+        openWithSlabs();
+        return static_cast<double>(writeAll(m_bars)) == barCount() ? QString()
+                                                                   : QStringLiteral("not every bar was placed");
+    }
+
+private:
     std::size_t writeAll(const Model &local)
     {
         std::size_t written = 0;
@@ -146,53 +140,82 @@ private:
     std::vector<Building> m_buildings;
 };
 
-void addRows(bench::RatioTable &table, int all, int onAFloor)
+using FloorsPtr = std::shared_ptr<Floors>;
+
+bench::Sides slabsWritten(const bench::Load &load)
 {
-    Roads large(all, onAFloor);
-    Roads small(all, kSmallFloor);
-    const std::string slabs = ", " + std::to_string(onAFloor) + " slabs a floor";
-    table.growth("slabs into the host" + slabs, large.slabCount(), large.writeSlabs(), small.slabCount(),
-                 small.writeSlabs(), kGrowth);
-    table.growth("bars into the host" + slabs, large.barCount(), large.writeBars(), small.barCount(), small.writeBars(),
-                 kGrowth);
-    table.growth("out of the host" + slabs, large.barCount(), large.read(), small.barCount(), small.read(), kGrowth);
+    const auto floors = std::make_shared<Floors>(load.documents, static_cast<int>(load.size));
+    return {bench::Work([floors] { floors->openAll(); }, [floors] { floors->writeSlabs(); }), {}, floors->slabCount()};
+}
+
+FloorsPtr floorsWithBars(const bench::Load &load)
+{
+    return std::make_shared<Floors>(load.documents, static_cast<int>(load.size) / kBarsOfASlab);
+}
+
+bench::Sides barsWritten(const bench::Load &load)
+{
+    const FloorsPtr floors = floorsWithBars(load);
+    return {bench::Work([floors] { floors->openWithSlabs(); }, [floors] { floors->writeBars(); }),
+            {},
+            floors->barCount(),
+            0.0,
+            [floors] { return floors->wrong(); }};
+}
+
+bench::Sides elementsRead(const bench::Load &load)
+{
+    const FloorsPtr floors = floorsWithBars(load);
+    return {[floors] { floors->readAll(); }, {}, floors->elementCount(), 0.0, [floors] { return floors->wrong(); }};
 }
 
 /** Top bars alone, each with its neighbours on its line: what is held against all others of the floor. */
 class TopBars
 {
 public:
-    explicit TopBars(int count)
+    explicit TopBars(const bench::Load &load) : m_count(load.documents)
     {
-        for (int i = 0; i < count; ++i) {
+        for (std::size_t i = 0; i < load.size; ++i) {
             auto *bar = new Model::NegativeForcedBar(&m_bars);
-            const int row = i / 100;
-            const vks::CVec2<double> start(i % 100 * 3000.0, row * 2000.0);
+            const std::size_t row = i / 100;
+            const vks::CVec2<double> start(static_cast<double>(i % 100) * 3000.0, static_cast<double>(row) * 2000.0);
             bar->line = vks::CRefPtr<vks::CCurve2d>(new vks::CLine2d(start, start + vks::CVec2<double>(3000, 0)));
             bar->barInfo = QStringLiteral("C8@200");
             bar->leftStretchLength = bar->rightStretchLength = 800;
         }
     }
-    bench::Work write()
+    void open()
     {
-        return {[this] { m_building = std::make_unique<Building>(); }, [this] { m_building->write(m_bars); }};
+        m_buildings.clear();
+        m_buildings.resize(m_count);
+    }
+    void write()
+    {
+        for (Building &building : m_buildings) {
+            building.project->makeCurrent();
+            building.write(m_bars);
+        }
     }
 
 private:
     Model m_bars;
-    std::unique_ptr<Building> m_building;
+    std::size_t m_count;
+    std::vector<Building> m_buildings;
 };
+
+bench::Sides topBarsWritten(const bench::Load &load)
+{
+    const auto bars = std::make_shared<TopBars>(load);
+    return {bench::Work([bars] { bars->open(); }, [bars] { bars->write(); }), {}, static_cast<double>(load.items())};
+}
 
 } // namespace
 
-int main(int count, char **arguments)
+bench::Roads bench::slabHostRoads()
 {
-    const int all = count > 1 ? std::max(kSmallFloor, std::atoi(arguments[1])) : 20000;
-    bench::RatioTable table("Slabs with bars, in larger floors against floors of 200 slabs", bench::Time::Cpu);
-    for (const int onAFloor : {all / 10, all})
-        addRows(table, all, std::max(kSmallFloor, onAFloor));
-    TopBars few(5000);
-    TopBars many(20000);
-    table.growth("top bars into the host, 20,000 / 5,000", 20000, many.write(), 5000, few.write(), kGrowth);
-    return table.print();
+    return {
+        {"slabs into the host", "", kSizes, kFlatConversion, &slabsWritten, Time::Cpu, Small::Many},
+        {"bars onto slabs in the host", "", kSizes, kPlacing, &barsWritten, Time::Cpu, Small::Many},
+        {"top bars into the host", "", kSizes, kPlacing, &topBarsWritten, Time::Cpu, Small::Many},
+        {"slabs, beams and bars out of the host", "", kSizes, kFlatConversion, &elementsRead, Time::Cpu, Small::Many}};
 }

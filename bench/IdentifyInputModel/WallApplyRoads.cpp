@@ -3,7 +3,8 @@
 #include "platform/host/IHBXCheck.h"
 #include "platform/host/IHBXDrawObjs.h"
 #include "platform/host/IHBXModel.h"
-#include "support/RatioBench.h"
+#include "suite/ConversionBounds.h"
+#include "suite/Families.h"
 #include "support/ReplyApply.h"
 
 #include <QJsonArray>
@@ -11,6 +12,7 @@
 #include <QJsonObject>
 
 #include <algorithm>
+#include <limits>
 #include <map>
 #include <vector>
 
@@ -51,11 +53,12 @@ struct Shares
 /** Members are put in in the order of their keys: an object of many takes long otherwise. */
 QByteArray replyText(int pieces, const Shares &shares)
 {
+    const int piecesOfElement = std::min(shares.piecesOfElement, pieces);
     std::vector<std::pair<QString, QJsonValue>> members;
-    for (int first = 0; first < pieces; first += shares.piecesOfElement) {
-        const QString number = QString::number(first / shares.piecesOfElement);
+    for (int first = 0; first < pieces; first += piecesOfElement) {
+        const QString number = QString::number(first / piecesOfElement);
         QJsonArray array;
-        for (int i = first; i < std::min(pieces, first + shares.piecesOfElement); ++i)
+        for (int i = first; i < std::min(pieces, first + piecesOfElement); ++i)
             array.append(pieceOf(i));
         members.emplace_back("key_" + number, elementOf(first, shares.oneName ? QString("Q") : "Q" + number));
         members.emplace_back("value_" + number, array);
@@ -68,63 +71,56 @@ QByteArray replyText(int pieces, const Shares &shares)
     return QJsonDocument(QJsonObject{{"eBrickWall", QJsonObject{{"ElementsAndEdos", document}}}}).toJson();
 }
 
-bench::ReplyApply applyOf(int pieces, const Shares &shares) { return {replyText(pieces, shares), jsonBrickWall2HBX}; }
-
-/** What the command asks of each object that was made. */
-bench::Work checking(bench::ReplyApply &apply)
+bench::Sides apply(const bench::Load &load, const Shares &shares)
 {
-    const auto make = [&apply] {
-        apply.prepare();
-        apply.run();
-    };
-    const auto check = [&apply] {
-        IHBXModel &model = *apply.service()->model();
-        HBXCheckError error;
-        std::map<qint64, QString> collisions;
-        for (int i = 0; i < model.drawObjects()->count(); ++i)
-            bench::keep(model.checker()->checkDrawObj(model.drawObjects()->at(i), error, collisions));
-    };
-    return {make, check};
+    const auto reply =
+        bench::ReplyApply::make(replyText(static_cast<int>(load.size), shares), &jsonBrickWall2HBX, load.documents);
+    return {bench::ReplyApply::work(reply), [reply] { reply->parseEach(); }, static_cast<double>(load.items()),
+            static_cast<double>(reply->bytes())};
 }
 
-/** What no reader of the reply can avoid: the document, and a look at each value. */
-void walk(const bench::ReplyApply &apply)
+/** What the command asks of each object that was made. */
+void checkAll(IHBXModel &model)
 {
-    const QJsonObject walls = apply.object()["eBrickWall"].toObject();
-    int length = 0;
-    for (const QJsonValue member : walls["ElementsAndEdos"].toObject()["BrickWallIdentifyData"].toObject())
-        for (const QJsonValue piece : member.toArray())
-            for (const QJsonValue value : piece.toObject())
-                length += value.toString().size();
-    bench::keep(length);
+    HBXCheckError error;
+    std::map<qint64, QString> collisions;
+    for (int i = 0; i < model.drawObjects()->count(); ++i)
+        bench::keep(model.checker()->checkDrawObj(model.drawObjects()->at(i), error, collisions));
+}
+
+bench::Sides check(const bench::Load &load)
+{
+    const auto reply =
+        bench::ReplyApply::make(replyText(static_cast<int>(load.size), {1, false}), &jsonBrickWall2HBX, load.documents);
+    const auto make = [reply] {
+        reply->prepare();
+        reply->run();
+    };
+    const auto run = [reply] {
+        for (const auto &project : reply->projects())
+            checkAll(*project->service()->model());
+    };
+    return {bench::Work(make, run), {}, static_cast<double>(load.items())};
 }
 
 } // namespace
 
-int main()
+bench::Roads bench::wallApplyRoads()
 {
-    constexpr int kSmall = 1000;
-    constexpr int kLarge = 10000;
-    constexpr double kLinear = 1.3; // cost per piece at the large size to that at the small one
-
-    bench::RatioTable table("Walls");
+    constexpr int kAll = std::numeric_limits<int>::max();
     const struct
     {
         const char *name;
         Shares shares;
-    } replies[] = {{"one element", {kLarge, false}},
-                   {"ten pieces each", {10, false}},
-                   {"a piece each", {1, false}},
-                   {"a piece each, one name for all", {1, true}}};
+    } replies[] = {{"walls of one element into the host", {kAll, false}},
+                   {"walls into the host, ten of an element", {10, false}},
+                   {"walls into the host, each of its own", {1, false}},
+                   {"walls into the host, each of its own, one name", {1, true}}};
+    Roads roads;
     for (const auto &reply : replies) {
-        bench::ReplyApply small = applyOf(kSmall, reply.shares);
-        bench::ReplyApply large = applyOf(kLarge, reply.shares);
-        const std::string name = reply.name;
-        table.row(name + " / reply parsed and walked", kLarge, large.work(), [&] { walk(large); });
-        table.growth(name + ", cost per piece", kLarge, large.work(), kSmall, small.work(), kLinear);
+        const auto make = [shares = reply.shares](const Load &load) { return apply(load, shares); };
+        roads.push_back({reply.name, "fromJson and a walk", kSizes, kFlatConversion, make, Time::Cpu, Small::Many});
     }
-    bench::ReplyApply small = applyOf(kSmall, {1, false});
-    bench::ReplyApply large = applyOf(kLarge, {1, false});
-    table.growth("check of all, cost per piece", kLarge, checking(large), kSmall, checking(small), kLinear);
-    return table.print();
+    roads.push_back({"check of each wall", "", kSizes, kFlatConversion, &check, Time::Cpu, Small::Many});
+    return roads;
 }

@@ -2,7 +2,8 @@
 #include "encoding/GeometryInfo.h"
 #include "encoding/ORVCADJsonCGeometryObjOper.h"
 #include "platform/geometry/CLine2d.h"
-#include "support/RatioBench.h"
+#include "suite/Families.h"
+#include "suite/PayloadBounds.h"
 
 #include <QDomDocument>
 #include <QJsonArray>
@@ -10,7 +11,7 @@
 #include <QJsonObject>
 
 #include <cmath>
-#include <functional>
+#include <memory>
 #include <random>
 
 // Whole input models of walls, from records to the wide text of a document and back, against what one writes by hand with
@@ -21,18 +22,8 @@ namespace {
 using Model = ORVCADWallBrickDataInputModel;
 using Layers = std::map<std::wstring, Model::DrawingLines>;
 
-constexpr std::size_t kSizes[] = {1'000, 10'000, 100'000};
-constexpr std::size_t kSmallest = kSizes[0];
-constexpr std::size_t kLargest = kSizes[2];
 constexpr std::size_t kLayers = 50;
 constexpr double kPlanSize = 80'000; // mm
-
-// Ceilings of the ratios.
-constexpr double kByHand = 1.5;
-constexpr double kGrowth = 1.8;
-// Nodes of QDomDocument cost twice as much where they outgrow the caches, by hand, too; and saving XML is so little work
-// that the fresh memory of a large text shows.
-constexpr double kXmlGrowth = 2.6;
 
 const char *const kDocumentKey = "CadLineEdoDataInfo";
 
@@ -189,61 +180,43 @@ struct Form
     Load load;
     std::wstring (*write)(const Layers &);
     Layers (*read)(const std::wstring &);
-    double growth; // ceiling
+    bench::Bounds written;
+    bench::Bounds loaded;
 };
 
-const Form kForms[] = {{"JSON", &Model::saveToJson, &Model::loadFromJson, jsonByHand, jsonReadByHand, kGrowth},
-                       {"XML", &Model::saveToXml, &Model::loadFromXml, xmlByHand, xmlReadByHand, kXmlGrowth}};
+const Form kForms[] = {
+    {"JSON", &Model::saveToJson, &Model::loadFromJson, jsonByHand, jsonReadByHand, bench::kPayloadWritten,
+     bench::kPayloadRead},
+    {"XML", &Model::saveToXml, &Model::loadFromXml, xmlByHand, xmlReadByHand, bench::kXmlWritten, bench::kXmlRead}};
 
-/** A work that begins with an orderly heap: what the other one freed would be cleared up in its time. */
-bench::Work tidy(std::function<void()> run)
+bench::Sides written(const Form &form, const bench::Load &load)
 {
-    return {[] { bench::joinFreedMemory(); }, std::move(run)};
+    const auto layers = std::make_shared<const Layers>(linesOf(load.size));
+    const auto model = std::make_shared<const Model>(modelOf(*layers));
+    const std::wstring text = saved(*model, form.save);
+    return {[model, form] { bench::keep(saved(*model, form.save)); },
+            [layers, form] { bench::keep(form.write(*layers)); }, static_cast<double>(load.items()),
+            static_cast<double>(text.size())};
 }
 
-void compare(bench::RatioTable &table, const Form &form, std::size_t size)
+bench::Sides read(const Form &form, const bench::Load &load)
 {
-    const Layers layers = linesOf(size);
-    const Model model = modelOf(layers);
-    const std::wstring text = saved(model, form.save);
-    const std::string name = form.name;
-    table.row(name + " saved / by hand", size, tidy([&] { bench::keep(saved(model, form.save)); }),
-              tidy([&] { bench::keep(form.write(layers)); }), kByHand);
-    table.row(name + " loaded / by hand", size, tidy([&] { bench::keep(loaded(text, form.load)); }),
-              tidy([&] { bench::keep(form.read(text)); }), kByHand);
-}
-
-/** As many small works as make a large one: a single one would mostly clear up the heap behind the large one. */
-template <typename Run> auto manyTimes(Run run)
-{
-    return [run] {
-        for (std::size_t i = 0; i < kLargest / kSmallest; ++i)
-            run();
-    };
-}
-
-void compareGrowth(bench::RatioTable &table, const Form &form)
-{
-    const Model small = modelOf(linesOf(kSmallest));
-    const Model large = modelOf(linesOf(kLargest));
-    const std::wstring smallText = saved(small, form.save);
-    const std::wstring largeText = saved(large, form.save);
-    const std::string name = form.name;
-    table.growth(name + " saved, 100,000 / 1,000", kLargest, tidy([&] { bench::keep(saved(large, form.save)); }),
-                 kLargest, tidy(manyTimes([&] { bench::keep(saved(small, form.save)); })), form.growth);
-    table.growth(name + " loaded, 100,000 / 1,000", kLargest, tidy([&] { bench::keep(loaded(largeText, form.load)); }),
-                 kLargest, tidy(manyTimes([&] { bench::keep(loaded(smallText, form.load)); })), form.growth);
+    const auto text = std::make_shared<const std::wstring>(saved(modelOf(linesOf(load.size)), form.save));
+    return {[text, form] { bench::keep(loaded(*text, form.load)); }, [text, form] { bench::keep(form.read(*text)); },
+            static_cast<double>(load.items()), static_cast<double>(text->size())};
 }
 
 } // namespace
 
-int main()
+bench::Roads bench::wallModelRoads()
 {
-    bench::RatioTable table("Wall input models");
-    for (const Form &form : kForms)
-        for (const std::size_t size : kSizes)
-            compare(table, form, size);
-    for (const Form &form : kForms)
-        compareGrowth(table, form);
-    return table.print();
+    Roads roads;
+    for (const Form &form : kForms) {
+        const std::string name = form.name;
+        roads.push_back({"wall input model saved as " + name, "by hand", kSizes, form.written,
+                         [form](const Load &load) { return written(form, load); }});
+        roads.push_back({"wall input model loaded from " + name, "by hand", kSizes, form.loaded,
+                         [form](const Load &load) { return read(form, load); }});
+    }
+    return roads;
 }

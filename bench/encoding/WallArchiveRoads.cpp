@@ -3,13 +3,15 @@
 #include "encoding/ORVCADJsonFileSerialization.h"
 #include "encoding/ORVCADXmlFileSerialization.h"
 #include "platform/geometry/CLine2d.h"
-#include "support/RatioBench.h"
+#include "suite/Families.h"
+#include "suite/PayloadBounds.h"
 
 #include <QDomDocument>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <memory>
 #include <random>
 
 // Wall documents, by archive and by hand with Qt's classes and nothing else.
@@ -19,17 +21,8 @@ namespace {
 using Lines = ORVCADInputModelSerialization::LayerLines;
 using RecordMap = QMap<QString, QStringList>;
 
-constexpr std::size_t kSmall = 2'000;
-constexpr std::size_t kLarge = 200'000;
 constexpr double kPlanSize = 80'000; // mm
 constexpr std::size_t kLayers = 20;
-
-// Ceilings of the ratios.
-constexpr double kXmlWritten = 1.35;
-constexpr double kXmlRead = 1.35;
-constexpr double kPayloadWritten = 1.25;
-constexpr double kPayloadRead = 1.5; // each record is a text between JSON and its fields, and the document is UTF-16
-constexpr double kGrowth = 1.8;
 
 const char *const kNames[] = {"edoId", "color", "blockID", "line"};
 constexpr std::size_t kNameCount = 4;
@@ -199,41 +192,50 @@ std::size_t xmlWalkByHand(const QString &text)
     return length;
 }
 
-/** As many small works as make a large one: a single one would mostly clear up the heap behind the large one. */
-template <typename Run> auto manyTimes(Run run)
+/** The drawing, and each of its texts where a reading road needs it. */
+struct Documents
 {
-    return [run] {
-        for (std::size_t i = 0; i < kLarge / kSmall; ++i)
-            run();
-    };
+    explicit Documents(std::size_t size) : drawing(size), xml(xmlByArchive(drawing.records)) {}
+
+    Drawing drawing;
+    QString xml;
+};
+
+bench::Sides written(const bench::Load &load)
+{
+    const auto drawing = std::make_shared<const Drawing>(load.size);
+    return {[drawing] { bench::keep(jsonByArchive(*drawing)); }, [drawing] { bench::keep(jsonByHand(*drawing)); },
+            static_cast<double>(load.items()), static_cast<double>(drawing->json.size())};
+}
+
+bench::Sides read(const bench::Load &load)
+{
+    const auto json = std::make_shared<const QByteArray>(Drawing(load.size).json);
+    return {[json] { bench::keep(readByArchive(*json)); }, [json] { bench::keep(walkByHand(*json)); },
+            static_cast<double>(load.items()), static_cast<double>(json->size())};
+}
+
+bench::Sides xmlWritten(const bench::Load &load)
+{
+    const auto documents = std::make_shared<Documents>(load.size);
+    return {[documents] { bench::keep(xmlByArchive(documents->drawing.records)); },
+            [documents] { bench::keep(xmlByHand(documents->drawing)); }, static_cast<double>(load.items()),
+            static_cast<double>(documents->xml.size())};
+}
+
+bench::Sides xmlRead(const bench::Load &load)
+{
+    const auto xml = std::make_shared<const QString>(Documents(load.size).xml);
+    return {[xml] { bench::keep(xmlReadByArchive(*xml)); }, [xml] { bench::keep(xmlWalkByHand(*xml)); },
+            static_cast<double>(load.items()), static_cast<double>(xml->size())};
 }
 
 } // namespace
 
-int main()
+bench::Roads bench::wallArchiveRoads()
 {
-    Drawing small(kSmall);
-    const QString xml = xmlByArchive(small.records);
-
-    bench::RatioTable table("Wall documents");
-    table.row(
-        "XML written / QDomDocument by hand", kSmall, [&] { bench::keep(xmlByArchive(small.records)); },
-        [&] { bench::keep(xmlByHand(small)); }, kXmlWritten);
-    table.row(
-        "XML read / setContent and a walk", kSmall, [&] { bench::keep(xmlReadByArchive(xml)); },
-        [&] { bench::keep(xmlWalkByHand(xml)); }, kXmlRead);
-    table.row(
-        "JSON records to bytes / objects by hand", kSmall, [&] { bench::keep(jsonByArchive(small)); },
-        [&] { bench::keep(jsonByHand(small)); }, kPayloadWritten);
-    table.row(
-        "JSON bytes to records / fromJson and a walk", kSmall, [&] { bench::keep(readByArchive(small.json)); },
-        [&] { bench::keep(walkByHand(small.json)); }, kPayloadRead);
-    const Drawing large(kLarge); // only now: small works run slower beside what it leaves of the heap
-    table.growth(
-        "JSON records to bytes, 200,000 / 2,000", kLarge, [&] { bench::keep(jsonByArchive(large)); }, kLarge,
-        manyTimes([&] { bench::keep(jsonByArchive(small)); }), kGrowth);
-    table.growth(
-        "JSON bytes to records, 200,000 / 2,000", kLarge, [&] { bench::keep(readByArchive(large.json)); }, kLarge,
-        manyTimes([&] { bench::keep(readByArchive(small.json)); }), kGrowth);
-    return table.print();
+    return {{"wall lines written as JSON", "objects by hand", kPayloadSizes, kPayloadWritten, &written},
+            {"wall lines read from JSON", "fromJson and a walk", kPayloadSizes, kPayloadRead, &read},
+            {"wall lines written as XML", "QDomDocument by hand", kSizes, kXmlWritten, &xmlWritten},
+            {"wall lines read from XML", "setContent and a walk", kSizes, kXmlRead, &xmlRead}};
 }

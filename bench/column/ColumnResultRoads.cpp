@@ -2,13 +2,14 @@
 #include "encoding/GeometryInfo.h"
 #include "encoding/RecordKey.h"
 #include "platform/geometry/CLine2d.h"
-#include "support/RatioBench.h"
+#include "suite/Families.h"
+#include "suite/PayloadBounds.h"
+#include "support/JsonWalk.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <cstdlib>
 #include <memory>
 #include <vector>
 
@@ -17,15 +18,6 @@
 namespace {
 
 using namespace encoding; // for ""_key
-
-constexpr int kSize = 10'000;
-constexpr int kSmall = 2'000;
-constexpr int kLarge = 200'000;
-
-// Ceilings of the ratios.
-constexpr double kWritten = 1.3;
-constexpr double kRead = 1.5; // geometry is built and checked here, which the walk does not do
-constexpr double kGrowth = 1.8;
 
 using Point = vks::CVec2<double>;
 using Model = ORVCADAIIdentifyColumnResultModel;
@@ -84,13 +76,6 @@ Model columns(int count)
 }
 
 QByteArray written(const Model &model) { return QJsonDocument(model.toJson()).toJson(QJsonDocument::Compact); }
-
-/** The road from bytes to records; letting go of the records of the run before is no part of it. */
-bench::Work reading(const QByteArray &bytes, Model &model)
-{
-    return {[&model] { model = Model(); },
-            [&bytes, &model] { model.fromJson(&model, QJsonDocument::fromJson(bytes).object()); }};
-}
 
 /** The geometry of a record, written beforehand. */
 struct Texts
@@ -170,53 +155,37 @@ QByteArray writtenByHand(const Model &model, const std::vector<Texts> &texts)
     return QJsonDocument(json).toJson(QJsonDocument::Compact);
 }
 
-/** Looks at every value, texts included. */
-double walked(const QJsonValue &value)
+bench::Sides writing(const bench::Load &load)
 {
-    double sum = 0.0;
-    if (value.isObject()) {
-        const QJsonObject object = value.toObject();
-        for (const QJsonValue member : object)
-            sum += walked(member);
-    } else if (value.isArray()) {
-        const QJsonArray array = value.toArray();
-        for (const QJsonValue entry : array)
-            sum += walked(entry);
-    } else {
-        sum += value.isString() ? value.toString().size() : value.toDouble();
-    }
-    return sum;
+    const auto model = std::make_shared<const Model>(columns(static_cast<int>(load.size)));
+    const auto texts = std::make_shared<const std::vector<Texts>>(textsOf(*model));
+    const QByteArray bytes = written(*model);
+    const auto wrong = [model, texts, bytes] {
+        return bytes == writtenByHand(*model, *texts) ? QString() : QStringLiteral("by hand it is another text");
+    };
+    return {[model] { bench::keep(written(*model)); }, [model, texts] { bench::keep(writtenByHand(*model, *texts)); },
+            static_cast<double>(load.items()), static_cast<double>(bytes.size()), wrong};
+}
+
+/** The road from bytes to records; letting go of the records of the run before is no part of it. */
+bench::Sides reading(const bench::Load &load)
+{
+    const QByteArray bytes = written(columns(static_cast<int>(load.size)));
+    const auto model = std::make_shared<Model>();
+    const auto read = [bytes, model] { model->fromJson(model.get(), QJsonDocument::fromJson(bytes).object()); };
+    const auto wrong = [bytes, model, read] {
+        read();
+        return bytes == written(*model) ? QString() : QStringLiteral("what was read is written as another text");
+    };
+    return {bench::Work([model] { *model = Model(); }, read),
+            [bytes] { bench::keep(bench::walked(QJsonDocument::fromJson(bytes).object())); },
+            static_cast<double>(load.items()), static_cast<double>(bytes.size()), wrong};
 }
 
 } // namespace
 
-int main()
+bench::Roads bench::columnResultRoads()
 {
-    const Model model = columns(kSize);
-    const std::vector<Texts> texts = textsOf(model);
-    const QByteArray bytes = written(model);
-    Model target;
-    reading(bytes, target).run();
-    if (bytes != writtenByHand(model, texts) || bytes != written(target))
-        std::abort(); // the roads must do the same
-
-    bench::RatioTable table("Replies of the column service, per column");
-    table.row(
-        "written / QJsonObjects with texts ready", kSize, [&] { bench::keep(written(model)); },
-        [&] { bench::keep(writtenByHand(model, texts)); }, kWritten);
-    table.row(
-        "read / parsed and walked", kSize, reading(bytes, target),
-        [&] { bench::keep(walked(QJsonDocument::fromJson(bytes).object())); }, kRead);
-
-    const Model small = columns(kSmall);
-    const Model large = columns(kLarge);
-    const QByteArray smallBytes = written(small);
-    const QByteArray largeBytes = written(large);
-    table.growth(
-        "written, cost per column", kLarge, [&] { bench::keep(written(large)); }, kSmall,
-        [&] { bench::keep(written(small)); }, kGrowth);
-    Model smallTarget;
-    table.growth("read, cost per column", kLarge, reading(largeBytes, target), kSmall, reading(smallBytes, smallTarget),
-                 kGrowth);
-    return table.print();
+    return {{"results of columns written", "objects by hand, texts ready", kPayloadSizes, kPayloadWritten, &writing},
+            {"results of columns read", "fromJson and a walk", kPayloadSizes, kPayloadRead, &reading}};
 }

@@ -1,5 +1,6 @@
 #include "doorwindow/JsonDoorWin2HBX.h"
-#include "support/RatioBench.h"
+#include "suite/ConversionBounds.h"
+#include "suite/Families.h"
 #include "support/ReplyApply.h"
 
 #include <QJsonArray>
@@ -37,29 +38,17 @@ QByteArray replyText(int members)
     return QJsonDocument(QJsonObject{{"eDoorWin", QJsonObject{{"ElementsAndEdos", array}}}}).toJson();
 }
 
-/** What no reader of the reply can avoid: the document, and a look at each value. */
-void walk(const bench::ReplyApply &apply)
+bench::Sides apply(const bench::Load &load)
 {
-    const QJsonObject openings = apply.object()["eDoorWin"].toObject();
-    double sum = 0.0;
-    for (const QJsonValue member : openings["ElementsAndEdos"].toArray())
-        for (const QJsonValue value : member.toObject())
-            sum += value.toDouble();
-    bench::keep(sum);
+    const auto reply =
+        bench::ReplyApply::make(replyText(static_cast<int>(load.size)), &jsonDoorWin2HBX, load.documents);
+    return {bench::ReplyApply::work(reply), [reply] { reply->parseEach(); }, static_cast<double>(load.items()),
+            static_cast<double>(reply->bytes())};
 }
 
 } // namespace
 
-int main()
+bench::Roads bench::openingApplyRoads()
 {
-    constexpr int kSmall = 1000;
-    constexpr int kLarge = 10000;
-    constexpr double kLinear = 1.3; // cost per member at the large size to that at the small one
-
-    bench::ReplyApply small(replyText(kSmall), jsonDoorWin2HBX);
-    bench::ReplyApply large(replyText(kLarge), jsonDoorWin2HBX);
-    bench::RatioTable table("Doors and windows");
-    table.row("opening apply / the reply parsed and walked", kLarge, large.work(), [&] { walk(large); });
-    table.growth("opening apply, cost per member", kLarge, large.work(), kSmall, small.work(), kLinear);
-    return table.print();
+    return {{"openings into the host", "fromJson and a walk", kSizes, kFlatConversion, &apply, Time::Cpu, Small::Many}};
 }

@@ -1,5 +1,7 @@
 #include "BeamRecords.h"
-#include "support/RatioBench.h"
+#include "suite/Families.h"
+#include "suite/PayloadBounds.h"
+#include "support/JsonWalk.h"
 
 #include "beam/BeamKeys.h"
 
@@ -8,6 +10,7 @@
 namespace {
 
 using namespace beam;
+using Beams = ORVCADBeamCollectDataModel::Beams;
 
 QJsonObject byHand(const BeamEdoInfo &placed);
 QJsonObject byHand(const BeamModelDataInfo &beam);
@@ -95,47 +98,42 @@ QJsonObject byHand(const BeamModelDataInfo &beam)
             {key::edoInfos, allByHand(beam.edoInfos)}};
 }
 
-QByteArray textByHand(const ORVCADBeamCollectDataModel::Beams &beams)
+QByteArray textByHand(const Beams &beams)
 {
     const QJsonObject document{
         {key::beams, allByHand(beams)}, {key::linkBeams, QJsonArray()}, {key::foundationBeams, QJsonArray()}};
     return QJsonDocument(document).toJson();
 }
 
-/** Looks at every value: texts and numbers are fetched as a reader fetches them. */
-double walked(const QJsonValue &value)
+bench::Sides writing(const bench::Load &load)
 {
-    double sum = 0.0;
-    if (value.isObject()) {
-        const QJsonObject object = value.toObject();
-        for (auto member = object.begin(); member != object.end(); ++member)
-            sum += walked(member.value()) + member.key().size();
-    } else if (value.isArray()) {
-        for (const QJsonValue entry : value.toArray())
-            sum += walked(entry);
-    } else {
-        sum = value.isString() ? value.toString().size() : value.toDouble();
-    }
-    return sum;
+    const auto beams = std::make_shared<const Beams>(bench::beamRecords(static_cast<int>(load.size)));
+    const QByteArray text = bench::beamText(*beams);
+    const auto wrong = [beams, text] {
+        return text == textByHand(*beams) ? QString() : QStringLiteral("by hand it is another text");
+    };
+    return {[beams] { bench::keep(bench::beamText(*beams)); }, [beams] { bench::keep(textByHand(*beams)); },
+            static_cast<double>(load.items()), static_cast<double>(text.size()), wrong};
+}
+
+bench::Sides reading(const bench::Load &load)
+{
+    const QByteArray text = bench::beamText(bench::beamRecords(static_cast<int>(load.size)));
+    const auto beams = std::make_shared<Beams>();
+    const auto read = [text, beams] { *beams = bench::beamsOf(text); };
+    const auto wrong = [text, beams, read] {
+        read();
+        return bench::beamText(*beams) == text ? QString() : QStringLiteral("what was read is written as another text");
+    };
+    return {bench::Work([beams] { beams->clear(); }, read),
+            [text] { bench::keep(bench::walked(QJsonDocument::fromJson(text).object())); },
+            static_cast<double>(load.items()), static_cast<double>(text.size()), wrong};
 }
 
 } // namespace
 
-int main()
+bench::Roads bench::beamTextRoads()
 {
-    constexpr int kBeams = 1000;
-    constexpr double kCeiling = 1.25;
-    const auto beams = bench::beamRecords(kBeams);
-    const QByteArray text = bench::beamText(beams);
-    if (text != textByHand(beams) || bench::beamText(bench::beamsOf(text)) != text)
-        return 1;
-
-    bench::RatioTable table("Beams as text");
-    table.row(
-        "records to bytes / objects by hand", kBeams, [&] { bench::keep(bench::beamText(beams)); },
-        [&] { bench::keep(textByHand(beams)); }, kCeiling);
-    table.row(
-        "bytes to records / parsed and walked", kBeams, [&] { bench::keep(bench::beamsOf(text)); },
-        [&] { bench::keep(walked(QJsonDocument::fromJson(text).object())); }, kCeiling);
-    return table.print();
+    return {{"beams written", "objects by hand", kPayloadSizes, kPayloadWritten, &writing},
+            {"beams read", "fromJson and a walk", kPayloadSizes, kPayloadRead, &reading}};
 }
