@@ -1,7 +1,7 @@
 #include "load/BuildingSteps.h"
 
-#include "load/Building.h"
 #include "load/LoadRunner.h"
+#include "support/Building.h"
 
 #include <QFile>
 
@@ -120,7 +120,7 @@ Subject prepared(const LoadRunner &runner, int size)
     const QString objects = QString::number(size);
     runner.prepare({"building", objects, seed, runner.path(kBuilding)});
     const qint64 doors = runner.prepare({"doors", objects, seed, runner.path(kDoors)});
-    return {runner, size, doors, Building(size, 0).middleFloor()};
+    return {runner, size, doors, bench::Building(size, 0).middleFloor()};
 }
 
 Run runOf(const Step &step, const Subject &subject)

@@ -1,6 +1,6 @@
 #include "load/EntryText.h"
 
-#include "load/TextFile.h"
+#include "support/TextFile.h"
 
 namespace load {
 
@@ -53,7 +53,7 @@ private:
     std::size_t m_depth = 0;
 };
 
-void writeEntry(TextFile &file, std::string_view entry, qint64 number)
+void writeEntry(bench::TextFile &file, std::string_view entry, qint64 number)
 {
     for (auto at = entry.find('#'); at != std::string_view::npos; at = entry.find('#')) {
         file << entry.substr(0, at) << number;
@@ -67,7 +67,7 @@ void writeEntry(TextFile &file, std::string_view entry, qint64 number)
 qint64 EntryText::write(const QString &path, qint64 bytes, qint64 entries, Layout layout) const
 {
     JsonLayout laidOut(*start == '{' ? layout : Layout::Compact);
-    TextFile file(path);
+    bench::TextFile file(path);
     file << laidOut(start);
     const std::string one = laidOut(entry);
     const std::string separator = laidOut(between);

@@ -3,10 +3,10 @@
 #include "cli/Command.h"
 #include "cli/Files.h"
 #include "cli/ProjectFiles.h"
-#include "load/Building.h"
 #include "load/CrowdedFloorSteps.h"
 #include "load/HostileSteps.h"
 #include "load/RecordDocument.h"
+#include "support/Building.h"
 
 #include <QJsonArray>
 #include <QJsonValue>
@@ -23,7 +23,10 @@ int told(qint64 count)
     return orvcad::kDone;
 }
 
-Building buildingOf(const QStringList &arguments) { return {arguments.value(1).toInt(), arguments.value(2).toUInt()}; }
+bench::Building buildingOf(const QStringList &arguments)
+{
+    return {arguments.value(1).toInt(), arguments.value(2).toUInt()};
+}
 
 const RecordDocument &documentOf(const QStringList &arguments)
 {

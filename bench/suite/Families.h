@@ -6,21 +6,31 @@
 namespace bench {
 
 Roads geometryTextRoads();
+Roads objectTreeRoads();
 Roads wallArchiveRoads();
+Roads drawingSetRoads();
+Roads drawingLookupRoads();
 Roads wallModelRoads();
 Roads columnResultRoads();
 Roads beamTextRoads();
 Roads slabTextRoads();
 Roads overlayRoads();
+Roads boxTreeRoads();
+Roads slabModelRoads();
+Roads slabSearchRoads();
 Roads slabHostRoads();
 Roads beamHostRoads();
 Roads wallApplyRoads();
 Roads openingApplyRoads();
+Roads projectRoads();
+Roads processRoads();
 
 /** In the order of the table. */
 inline constexpr Roads (*kFamilies[])() = {
-    &geometryTextRoads, &wallArchiveRoads, &wallModelRoads, &columnResultRoads, &beamTextRoads,     &slabTextRoads,
-    &overlayRoads,      &slabHostRoads,    &beamHostRoads,  &wallApplyRoads,    &openingApplyRoads,
+    &geometryTextRoads, &objectTreeRoads,   &wallArchiveRoads, &drawingSetRoads, &drawingLookupRoads,
+    &wallModelRoads,    &columnResultRoads, &beamTextRoads,    &slabTextRoads,   &overlayRoads,
+    &boxTreeRoads,      &slabModelRoads,    &slabSearchRoads,  &slabHostRoads,   &beamHostRoads,
+    &wallApplyRoads,    &openingApplyRoads, &projectRoads,     &processRoads,
 };
 
 } // namespace bench

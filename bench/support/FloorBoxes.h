@@ -2,17 +2,19 @@
 
 #include "platform/geometry/CBox2.h"
 
+#include <cmath>
 #include <cstddef>
 #include <random>
 #include <vector>
 
 namespace bench {
 
-/** Boxes of the walls, beams and columns of a large floor: up to 6 m in a square of 200 m. */
+/** Boxes of the walls, beams and columns of a floor: up to 6 m, 10,000 of them in a square of 200 m, and others as close
+ *  together as these. */
 inline std::vector<vks::CBox2<double>> floorBoxes(std::size_t count, unsigned seed)
 {
     std::mt19937 random(seed);
-    std::uniform_real_distribution<double> place(0.0, 200000.0);
+    std::uniform_real_distribution<double> place(0.0, 2000.0 * std::sqrt(static_cast<double>(count)));
     std::uniform_real_distribution<double> size(100.0, 6000.0);
     std::vector<vks::CBox2<double>> boxes;
     boxes.reserve(count);

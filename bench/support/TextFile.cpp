@@ -1,8 +1,8 @@
-#include "load/TextFile.h"
+#include "support/TextFile.h"
 
 #include <cstdlib>
 
-namespace load {
+namespace bench {
 
 namespace {
 
@@ -38,4 +38,4 @@ void TextFile::flush()
     m_text.clear();
 }
 
-} // namespace load
+} // namespace bench

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace load {
+namespace bench {
 
 /** A file that is written from its start to its end, however large: only a small part of it stands in memory. Ends the
  *  process when the file cannot be written. */
@@ -42,4 +42,4 @@ private:
     qint64 m_size = 0;
 };
 
-} // namespace load
+} // namespace bench

@@ -4,7 +4,7 @@
 
 #include <random>
 
-namespace load {
+namespace bench {
 
 class TextFile;
 
@@ -37,4 +37,4 @@ private:
     std::mt19937 m_random;
 };
 
-} // namespace load
+} // namespace bench

@@ -1,11 +1,11 @@
-#include "load/Building.h"
+#include "support/Building.h"
 
-#include "load/TextFile.h"
+#include "support/TextFile.h"
 
 #include <cstdio>
 #include <vector>
 
-namespace load {
+namespace bench {
 
 namespace {
 
@@ -201,4 +201,4 @@ int Building::writeDoors(const QString &path) const
     return kBays;
 }
 
-} // namespace load
+} // namespace bench
