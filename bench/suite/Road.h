@@ -52,7 +52,7 @@ struct Bounds
 {
     double ratio = 0.0;       ///< of our time to the floor's
     double growth = 0.0;      ///< of the time per item, from the smallest size to the largest
-    double memory = 0.0;      ///< of the peak of memory to the bytes of the document
+    double memory = 0.0;      ///< of the peak of memory to the bytes of the document, or a fifth above the floor's peak
     double allocations = 0.0; ///< for each item
 };
 
