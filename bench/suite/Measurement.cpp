@@ -190,6 +190,8 @@ Measurement measure(const Road &road, std::size_t size, Effort effort)
 void runForProfiler(const Road &road, std::size_t size, int times)
 {
     const Sides sides = sidesOf(road, size);
+    if (sides.wrong)
+        sides.wrong(); // works may need what it makes
     for (int i = 0; i < times; ++i)
         timed(sides.ours, road.time, 1);
 }
