@@ -45,7 +45,7 @@ private:
 
 /** The draw objects that "ReinforcementInfo" links a bar with: items joined by ";", each of fields joined by ",", of which
  *  the first is an id. */
-class HostSlabLinks
+class ORVCADMODELDATA_EXPORT HostSlabLinks
 {
 public:
     explicit HostSlabLinks(QString reinforcementInfo);

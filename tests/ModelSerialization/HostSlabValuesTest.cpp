@@ -14,6 +14,36 @@ const CurvePtr kLine(new vks::CLine2d({100, 0}, {400, 0}));
 
 std::string text(const CurvePtr &curve) { return curve ? curve->ToText() : "none"; }
 
+TEST(HostSlabValuesTest, linksAreTheItemsBetweenSemicolonsTheEmptyLastOneIncluded)
+{
+    const slabhost::HostSlabLinks links("12,1;7;13,0,5;");
+    ASSERT_EQ(links.count(), 4);
+    EXPECT_EQ(links.id(0), 12);
+    EXPECT_EQ(links.fieldCount(0), 2);
+    EXPECT_EQ(links.id(1), 7);
+    EXPECT_EQ(links.fieldCount(1), 1);
+    EXPECT_EQ(links.id(2), 13);
+    EXPECT_EQ(links.fieldCount(2), 3);
+    EXPECT_EQ(links.id(3), 0);
+    EXPECT_EQ(links.fieldCount(3), 1);
+}
+
+TEST(HostSlabValuesTest, linksOfNoTextAreOneEmptyItem)
+{
+    const slabhost::HostSlabLinks links{QString()};
+    ASSERT_EQ(links.count(), 1);
+    EXPECT_EQ(links.id(0), 0);
+    EXPECT_EQ(links.fieldCount(0), 1);
+}
+
+TEST(HostSlabValuesTest, linkThatNamesNoNumberHasTheId0)
+{
+    const slabhost::HostSlabLinks links("x,1;,3; +5 ,1;99999999999999999999,1");
+    const qint64 expected[] = {0, 0, 5, 0};
+    for (int i = 0; i < 4; ++i)
+        EXPECT_EQ(links.id(i), expected[i]) << i;
+}
+
 TEST(HostSlabValuesTest, curveWithoutAFrameStaysAsItStands)
 {
     EXPECT_EQ(text(curveInPlan(Frame::Absent(), kLine)), "LINESTRING(100 0, 400 0)");

@@ -30,6 +30,18 @@ TEST(FlatRecordFieldsTest, fieldWithoutTextIsItsKeyAlone)
     EXPECT_EQ(flatRecord(bar, kBar), "count:7/spacing:150/name");
 }
 
+TEST(FlatRecordFieldsTest, oneWriterGivesOneTextAfterAnotherWithoutSpareRoom)
+{
+    Bar other;
+    other.name = L"N20";
+    FlatRecordWriter writer;
+    const QString first = writer.text(Bar(), kBar);
+    const QString second = writer.text(other, kBar);
+    EXPECT_EQ(first, "count:7/spacing:150/name:N1");
+    EXPECT_EQ(second, "count:7/spacing:150/name:N20");
+    EXPECT_LT(second.capacity(), 2 * second.size());
+}
+
 TEST(FlatRecordFieldsTest, recordReadsBackInAnyOrder)
 {
     Bar bar;
