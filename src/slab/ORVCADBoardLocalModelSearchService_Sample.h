@@ -46,5 +46,13 @@ public:
 private:
     using TreeHolder = std::unique_ptr<ORVBoxTreeImpl, void (*)(ORVBoxTreeImpl *)>;
 
-    TreeHolder m_tree; // data: Object *
+    /** An element, and its kind, for which no query then reads the element itself. */
+    struct Entry
+    {
+        Object *object;
+        Object::Types kind;
+    };
+
+    std::vector<Entry> m_entries;
+    TreeHolder m_tree; // data: Entry *
 };
