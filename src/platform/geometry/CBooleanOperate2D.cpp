@@ -107,6 +107,7 @@ Overlay::Overlay(Operation operation, const Operands &operands) : m_operation(op
             for (const auto &curve : loop->Curves())
                 chords.learn(*curve);
     m_hasArcs = chords.hasArcs();
+    m_polygons.reserve(operands.size());
     for (const Operand &operand : operands) {
         m_polygons.push_back(ringsOf(*operand.polygon, m_origin, chords));
         if (!areFinite(m_polygons.back()))
@@ -144,6 +145,7 @@ geos::Geometry Overlay::combine(const GEOSGeometry *a, const GEOSGeometry *b, do
 geos::Geometry Overlay::overlay(const std::vector<Rings> &polygons, double grid) const
 {
     std::vector<geos::Geometry> areas;
+    areas.reserve(polygons.size());
     for (const Rings &rings : polygons) {
         areas.push_back(areaOf(rings));
         if (!areas.back())

@@ -47,6 +47,7 @@ Ring withoutShortEdges(Ring ring)
 Ring withoutFlatCorners(const Ring &ring)
 {
     Ring result;
+    result.reserve(ring.size());
     for (std::size_t i = 0; i < ring.size(); ++i) {
         const CVec2<double> &before = result.empty() ? ring.back() : result.back();
         const CVec2<double> way = ring[(i + 1) % ring.size()] - before;

@@ -21,7 +21,6 @@ public:
     CVec2<double> weld(const CVec2<double> &point);
 
 private:
-    std::size_t slotOf(double column, double row) const;
     void searchCell(std::size_t slot, const CVec2<double> &point, int &found) const;
 
     double m_tolerance;
