@@ -34,10 +34,11 @@ std::vector<Edge> edgesByLeftEnd(const std::vector<Ring> &rings)
     return edges;
 }
 
-bool shareHeight(const Edge &a, const Edge &b)
+bool reachesInto(const Edge &edge, double low, double high)
 {
-    return std::max(a.start().y, a.end().y) >= std::min(b.start().y, b.end().y) &&
-           std::max(b.start().y, b.end().y) >= std::min(a.start().y, a.end().y);
+    const double start = edge.start().y;
+    const double end = edge.end().y;
+    return std::max(start, end) >= low && std::min(start, end) <= high;
 }
 
 /** 1 and -1 for the sides of an edge, 0 on its line. */
@@ -76,8 +77,10 @@ bool ringsCross(const std::vector<Ring> &rings)
     const std::vector<Edge> edges = edgesByLeftEnd(rings);
     for (std::size_t i = 0; i < edges.size(); ++i) {
         const double right = edges[i].right();
+        const double low = std::min(edges[i].start().y, edges[i].end().y);
+        const double high = std::max(edges[i].start().y, edges[i].end().y);
         for (std::size_t j = i + 1; j < edges.size() && edges[j].left <= right; ++j)
-            if (shareHeight(edges[i], edges[j]) && meetWrongly(edges[i], edges[j]))
+            if (reachesInto(edges[j], low, high) && meetWrongly(edges[i], edges[j]))
                 return true;
     }
     return false;

@@ -40,7 +40,8 @@ double rounded(double value, double grid) { return grid > 0.0 ? std::nearbyint(v
 } // namespace
 
 RingWeld::RingWeld(std::size_t expected, double tolerance, double grid)
-    : m_tolerance(tolerance), m_grid(grid), m_cell(kCellPerTolerance * tolerance), m_heads(tableSize(expected), -1)
+    : m_tolerance(tolerance), m_grid(grid), m_cellsPerMm(1.0 / (kCellPerTolerance * tolerance)),
+      m_heads(tableSize(expected), -1)
 {
     m_kept.reserve(expected);
     m_next.reserve(expected);
@@ -56,10 +57,10 @@ void RingWeld::searchCell(std::size_t slot, const CVec2<double> &point, int &fou
 
 CVec2<double> RingWeld::weld(const CVec2<double> &point)
 {
-    const std::int64_t firstColumn = cellOf((point.x - m_tolerance) / m_cell);
-    const std::int64_t firstRow = cellOf((point.y - m_tolerance) / m_cell);
-    const bool twoColumns = cellOf((point.x + m_tolerance) / m_cell) > firstColumn;
-    const bool twoRows = cellOf((point.y + m_tolerance) / m_cell) > firstRow;
+    const std::int64_t firstColumn = cellOf((point.x - m_tolerance) * m_cellsPerMm);
+    const std::int64_t firstRow = cellOf((point.y - m_tolerance) * m_cellsPerMm);
+    const bool twoColumns = cellOf((point.x + m_tolerance) * m_cellsPerMm) > firstColumn;
+    const bool twoRows = cellOf((point.y + m_tolerance) * m_cellsPerMm) > firstRow;
     int found = -1;
     for (int i = 0; i <= (twoColumns ? 1 : 0); ++i)
         for (int j = 0; j <= (twoRows ? 1 : 0); ++j)
@@ -67,7 +68,7 @@ CVec2<double> RingWeld::weld(const CVec2<double> &point)
     if (found < 0) {
         found = static_cast<int>(m_kept.size());
         m_kept.push_back(point);
-        const std::size_t slot = slotOf(cellOf(point.x / m_cell), cellOf(point.y / m_cell), m_heads.size());
+        const std::size_t slot = slotOf(cellOf(point.x * m_cellsPerMm), cellOf(point.y * m_cellsPerMm), m_heads.size());
         m_next.push_back(m_heads[slot]);
         m_heads[slot] = found;
     }

@@ -25,7 +25,7 @@ private:
 
     double m_tolerance;
     double m_grid;
-    double m_cell; // side of a table cell, mm
+    double m_cellsPerMm; // of the table
     std::vector<CVec2<double>> m_kept;
     std::vector<int> m_next;  // the kept vertex before this one in the same slot, -1 for none
     std::vector<int> m_heads; // the last kept vertex by slot
