@@ -105,7 +105,8 @@ Overlay::Overlay(Operation operation, const Operands &operands) : m_operation(op
     for (const Operand &operand : operands)
         for (const auto &loop : operand.polygon->Loops())
             for (const auto &curve : loop->Curves())
-                chords.learn(*curve);
+                if (curve->Type() == CCurve2d::kArc)
+                    chords.learn(*curve);
     m_hasArcs = chords.hasArcs();
     m_polygons.reserve(operands.size());
     for (const Operand &operand : operands) {
