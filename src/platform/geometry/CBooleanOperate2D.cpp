@@ -52,7 +52,7 @@ Ring ringOf(const CLoop &loop, const CVec2<double> &origin, const ArcChords &cho
     for (std::size_t i = 0; i < curves.size(); ++i) {
         chords.appendCorners(*curves[i], ring);
         // A loop with a gap keeps both of its sides; welding makes one point of them where they agree.
-        if (curves[i]->EndPoint() != curves[(i + 1) % curves.size()]->StartPoint())
+        if (curves[i]->EndPoint() != curves[i + 1 < curves.size() ? i + 1 : 0]->StartPoint())
             ring.push_back(curves[i]->EndPoint() - origin);
     }
     return ring;

@@ -104,7 +104,7 @@ void nodeRings(std::vector<std::vector<Ring>> &polygons, double tolerance)
             noded.reserve(ring.size());
             for (std::size_t i = 0; i < ring.size(); ++i) {
                 noded.push_back(ring[i]);
-                appendNodes(ring[i], ring[(i + 1) % ring.size()], corners, range, tolerance, noded);
+                appendNodes(ring[i], ring[i + 1 < ring.size() ? i + 1 : 0], corners, range, tolerance, noded);
             }
             ring = std::move(noded);
         }
