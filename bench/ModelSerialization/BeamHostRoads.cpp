@@ -85,10 +85,11 @@ public:
                     std::abort();
         }
     }
-    void convertAll() const
+    void forget() { m_converted.clear(); }
+    void convertAll()
     {
         for (const auto &project : m_projects)
-            bench::keep(converted(*project));
+            m_converted.push_back(converted(*project));
     }
     /** Whether not every beam spans from the one of its columns to the other. */
     QString wrong()
@@ -114,6 +115,7 @@ private:
     QByteArray m_building;
     std::vector<ORVCADBeamCollectDataModel::Beams> m_beams; ///< of each building
     std::vector<std::unique_ptr<HBXProject>> m_projects;
+    std::vector<ORVCADBeamCollectDataModel::Beams> m_converted;
     bool m_isFilled = false;
 };
 
@@ -130,7 +132,7 @@ bench::Sides writing(const bench::Load &load)
 bench::Sides reading(const bench::Load &load)
 {
     const auto buildings = std::make_shared<Buildings>(load);
-    return {[buildings] { buildings->convertAll(); },
+    return {bench::Work([buildings] { buildings->forget(); }, [buildings] { buildings->convertAll(); }),
             {},
             static_cast<double>(load.items()),
             0.0,

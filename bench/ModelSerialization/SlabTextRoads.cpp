@@ -25,7 +25,7 @@ std::unique_ptr<Model> floorOf(int slabs)
     return model;
 }
 
-QByteArray textOf(const QJsonObject &json) { return QJsonDocument(json).toJson(QJsonDocument::Compact); }
+QByteArray textOf(const QJsonObject &json) { return QJsonDocument(json).toJson(); }
 QJsonObject jsonOf(const QByteArray &text) { return QJsonDocument::fromJson(text).object(); }
 
 /** Elements that come of one slab: beams and bars besides itself. */

@@ -75,7 +75,7 @@ Model columns(int count)
     return model;
 }
 
-QByteArray written(const Model &model) { return QJsonDocument(model.toJson()).toJson(QJsonDocument::Compact); }
+QByteArray written(const Model &model) { return QJsonDocument(model.toJson()).toJson(); }
 
 /** The geometry of a record, written beforehand. */
 struct Texts
@@ -152,12 +152,15 @@ QByteArray writtenByHand(const Model &model, const std::vector<Texts> &texts)
         records.append(recordByHand(*model.resultData[i], texts[i]));
     const QJsonObject json{
         {"drawing"_key, model.drawing}, {"floorCode"_key, model.floorCode}, {"resultData"_key, records}};
-    return QJsonDocument(json).toJson(QJsonDocument::Compact);
+    return QJsonDocument(json).toJson();
 }
+
+/** The items are the objects of the document, as each family of records counts them; a record of a column is three. */
+int columnsOf(const bench::Load &load) { return static_cast<int>(load.size / 3); }
 
 bench::Sides writing(const bench::Load &load)
 {
-    const auto model = std::make_shared<const Model>(columns(static_cast<int>(load.size)));
+    const auto model = std::make_shared<const Model>(columns(columnsOf(load)));
     const auto texts = std::make_shared<const std::vector<Texts>>(textsOf(*model));
     const QByteArray bytes = written(*model);
     const auto wrong = [model, texts, bytes] {
@@ -170,7 +173,7 @@ bench::Sides writing(const bench::Load &load)
 /** The road from bytes to records; letting go of the records of the run before is no part of it. */
 bench::Sides reading(const bench::Load &load)
 {
-    const QByteArray bytes = written(columns(static_cast<int>(load.size)));
+    const QByteArray bytes = written(columns(columnsOf(load)));
     const auto model = std::make_shared<Model>();
     const auto read = [bytes, model] { model->fromJson(model.get(), QJsonDocument::fromJson(bytes).object()); };
     const auto wrong = [bytes, model, read] {

@@ -86,15 +86,23 @@ private:
     std::vector<double> m_samples;
 };
 
-void countHeap(const Work &work, Measurement &result, double items)
+HeapUse heapUseOf(const Work &work)
 {
+    if (!work.run)
+        return {};
     if (work.prepare)
         work.prepare();
     const HeapCount count;
     work.run();
-    const HeapUse use = count.use();
-    result.allocations = static_cast<double>(use.allocations) / items;
-    result.peakBytes = static_cast<double>(use.peakBytes);
+    return count.use();
+}
+
+void countHeap(const Sides &sides, Measurement &result)
+{
+    const HeapUse ours = heapUseOf(sides.ours);
+    result.allocations = static_cast<double>(ours.allocations) / sides.items;
+    result.peakBytes = static_cast<double>(ours.peakBytes);
+    result.floorPeakBytes = static_cast<double>(heapUseOf(sides.floor).peakBytes);
 }
 
 /** Both sides in turn. */
@@ -150,14 +158,14 @@ Measurement measureHere(const Road &road, std::size_t size, Effort effort)
     result.documentBytes = sides.documentBytes;
     timeSides(sides, road.time, effort, result);
     if (road.time != Time::Children)
-        countHeap(sides.ours, result, sides.items);
+        countHeap(sides, result);
     return result;
 }
 
 /** What goes from the measuring process to this one. */
 struct Message
 {
-    double figures[5];
+    double figures[6];
     char failure[200];
 };
 
@@ -168,11 +176,13 @@ Measurement measure(const Road &road, std::size_t size, Effort effort)
     Message message{};
     const bool isDone = runForked(&message, sizeof message, [&] {
         const Measurement result = measureHere(road, size, effort);
-        message = {{result.ours, result.floor, result.allocations, result.peakBytes, result.documentBytes}, {}};
+        message = {{result.ours, result.floor, result.allocations, result.peakBytes, result.floorPeakBytes,
+                    result.documentBytes},
+                   {}};
         std::snprintf(message.failure, sizeof message.failure, "%s", qUtf8Printable(result.failure));
     });
     const auto &figures = message.figures;
-    Measurement result{size, figures[0], figures[1], figures[2], figures[3], figures[4], {}};
+    Measurement result{size, figures[0], figures[1], figures[2], figures[3], figures[4], figures[5], {}};
     result.failure = isDone ? QString::fromUtf8(message.failure) : QStringLiteral("the process did not end by itself");
     return result;
 }
@@ -180,6 +190,8 @@ Measurement measure(const Road &road, std::size_t size, Effort effort)
 void runForProfiler(const Road &road, std::size_t size, int times)
 {
     const Sides sides = sidesOf(road, size);
+    if (sides.wrong)
+        sides.wrong(); // works may need what it makes
     for (int i = 0; i < times; ++i)
         timed(sides.ours, road.time, 1);
 }

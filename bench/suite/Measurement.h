@@ -21,11 +21,13 @@ struct Measurement
     double allocations = 0.0; ///< for each item
     double peakBytes =
         0.0; ///< of the heap, beyond what was held before; of the whole process where processes are timed
+    double floorPeakBytes = 0.0; ///< 0 without a floor, and where processes are timed
     double documentBytes = 0.0;
     QString failure; ///< why there are no figures; empty where there are
 
     double ratio() const { return floor > 0.0 ? ours / floor : 0.0; }
     double memory() const { return documentBytes > 0.0 ? peakBytes / documentBytes : 0.0; }
+    double floorMemory() const { return documentBytes > 0.0 ? floorPeakBytes / documentBytes : 0.0; }
 };
 
 /** Measures a road at one size, in a process of its own, on one core: what other roads left of the heap does not count. */

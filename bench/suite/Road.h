@@ -44,7 +44,7 @@ struct Sides
     double items = 0.0;         ///< of one run
     double documentBytes = 0.0; ///< that ours reads or writes in one run; 0: memory is told nowhere
     std::function<QString()> wrong =
-        {}; ///< what keeps the figures from saying anything, or nothing; asked once, before
+        {}; ///< what keeps the figures from saying anything, or nothing; asked once, before all runs
 };
 
 /** Largest values that are good; 0 only tells the value. */
@@ -52,7 +52,7 @@ struct Bounds
 {
     double ratio = 0.0;       ///< of our time to the floor's
     double growth = 0.0;      ///< of the time per item, from the smallest size to the largest
-    double memory = 0.0;      ///< of the peak of memory to the bytes of the document
+    double memory = 0.0;      ///< of the peak of memory to the bytes of the document, or a fifth above the floor's peak
     double allocations = 0.0; ///< for each item
 };
 

@@ -5,49 +5,76 @@
 #include "platform/dwgx/DWGXBaseBoxTree.h"
 #include "slab/SlabBarDirection.h"
 
+#include <QVarLengthArray>
+
 #include <algorithm>
 #include <deque>
-#include <map>
 #include <memory>
-#include <set>
 #include <tuple>
 #include <utility>
 
 namespace slabhost {
 namespace {
 
-/** Sorts a group by a key of its bars and adds them to the numbered ones. */
+/** Sorts a group of pointers by a key of its bars and adds them to the numbered ones. */
 template <typename Bar, typename KeyOf>
 void number(std::vector<Bar> &group, const KeyOf &keyOf, std::vector<NumberedBar> &out)
 {
-    std::stable_sort(group.begin(), group.end(), [&](const Bar &a, const Bar &b) { return keyOf(a) < keyOf(b); });
+    std::stable_sort(group.begin(), group.end(), [&](const Bar &a, const Bar &b) { return keyOf(*a) < keyOf(*b); });
     int row = 0;
     for (const Bar &bar : group)
-        out.push_back({bar.object, row++});
+        out.push_back({bar->object, row++});
 }
 
 // ---- Area bars
 
+constexpr int kFieldsOfLink = 2;
+
+using SlabIds = QVarLengthArray<qint64, 4>; // ascending, each once
+
 struct AreaBar
 {
     IHBXElementDrawObj *object;
+    SlabIds slabs;
+    int position;
     CurvePtr curve;
     QString barInfo;
 };
 
-using AreaGroups = std::vector<std::vector<AreaBar>>;
-using SlabIds = std::set<qint64>;
-
-constexpr int kFieldsOfLink = 2;
+using AreaGroup = std::vector<const AreaBar *>;
 
 SlabIds slabsOf(const HostSlabValues &values)
 {
     const HostSlabLinks links(values.text(property::reinforcementInfo));
     SlabIds ids;
     for (int i = 0; i < links.count(); ++i)
-        if (links.fields(i).size() == kFieldsOfLink)
-            ids.insert(links.id(i));
+        if (links.fieldCount(i) == kFieldsOfLink)
+            ids.append(links.id(i));
+    std::sort(ids.begin(), ids.end());
+    ids.resize(static_cast<int>(std::unique(ids.begin(), ids.end()) - ids.begin()));
     return ids;
+}
+
+/** In the order in which they come. */
+std::vector<AreaBar> areaBars(const QList<IHBXElementDrawObj *> &objects)
+{
+    std::vector<AreaBar> bars;
+    bars.reserve(static_cast<std::size_t>(objects.size()));
+    for (IHBXElementDrawObj *object : objects) {
+        const HostSlabValues values(*object);
+        SlabIds slabs = slabsOf(values);
+        if (!slabs.isEmpty()) // meant: a bar of no slab has no row, and comes in nowhere
+            bars.push_back({object, slabs, values.integer(property::position), values.curve(property::curveData),
+                            values.text(property::barInfo)});
+    }
+    return bars;
+}
+
+bool hasEarlierPlace(const AreaBar *a, const AreaBar *b)
+{
+    if (a->slabs == b->slabs)
+        return a->position < b->position;
+    return std::lexicographical_compare(a->slabs.begin(), a->slabs.end(), b->slabs.begin(), b->slabs.end());
 }
 
 bool areParallel(const AreaBar &a, const AreaBar &b)
@@ -57,17 +84,17 @@ bool areParallel(const AreaBar &a, const AreaBar &b)
     return isSameDirPi(a.curve->EndVt(), b.curve->EndVt());
 }
 
-void join(AreaGroups &groups, const AreaBar &bar)
+void join(std::vector<AreaGroup> &groups, const AreaBar &bar)
 {
     bool joined = false;
-    for (std::vector<AreaBar> &group : groups) { // meant: all of them are tried, so a bar may stand in two
-        if (areParallel(group.front(), bar)) {
-            group.push_back(bar);
+    for (AreaGroup &group : groups) { // meant: all of them are tried, so a bar may stand in two
+        if (areParallel(*group.front(), bar)) {
+            group.push_back(&bar);
             joined = true;
         }
     }
     if (!joined)
-        groups.push_back({bar});
+        groups.push_back({&bar});
 }
 
 // ---- Line bars
@@ -99,52 +126,59 @@ LineBar lineBar(IHBXElementDrawObj *object)
 class LineGroups
 {
 public:
-    using Group = std::vector<LineBar>;
+    using Group = std::vector<const LineBar *>;
 
-    void join(LineBar bar)
+    void join(LineBar one)
     {
+        const LineBar &bar = m_bars.emplace_back(std::move(one));
         m_tree->getIntersectantData(bar.curve->Box(), m_hits);
         const auto hit = std::find_if(m_hits.begin(), m_hits.end(), [&bar](void *group) {
-            const LineBar &leader = static_cast<Group *>(group)->front();
+            const LineBar &leader = *static_cast<Group *>(group)->front();
             return leader.reach == bar.reach && isSameLine(leader.curve, bar.curve);
         });
         if (hit == m_hits.end())
-            lead(std::move(bar));
+            lead(bar);
         else
-            static_cast<Group *>(*hit)->push_back(std::move(bar));
+            static_cast<Group *>(*hit)->push_back(&bar);
     }
     std::deque<Group> &all() { return m_groups; }
 
 private:
-    void lead(LineBar bar)
+    void lead(const LineBar &bar)
     {
-        const vks::CBox2<double> box = bar.curve->Box();
-        m_groups.emplace_back().push_back(std::move(bar));
-        m_tree->add(box, &m_groups.back());
+        m_groups.emplace_back().push_back(&bar);
+        m_tree->add(bar.curve->Box(), &m_groups.back());
     }
 
     std::unique_ptr<dwgx::DWGXBaseBoxTree> m_tree{dwgx::DWGXBaseBoxTree::createObject()};
-    std::deque<Group> m_groups; // whose members stay where they are: the tree points to them
+    // Members of these stay where they are: groups point to bars, and the tree to groups.
+    std::deque<LineBar> m_bars;
+    std::deque<Group> m_groups;
     std::vector<void *> m_hits;
 };
 
 } // namespace
 
-std::vector<NumberedBar> areaBarRows(const QList<IHBXElementDrawObj *> &bars)
+std::vector<NumberedBar> areaBarRows(const QList<IHBXElementDrawObj *> &objects)
 {
-    std::map<std::pair<SlabIds, int>, AreaGroups> groupsOfPlace;
-    for (IHBXElementDrawObj *object : bars) {
-        const HostSlabValues values(*object);
-        SlabIds slabs = slabsOf(values);
-        if (!slabs.empty()) // meant: a bar of no slab has no row, and comes in nowhere
-            join(groupsOfPlace[{std::move(slabs), values.integer(property::position)}],
-                 {object, values.curve(property::curveData), values.text(property::barInfo)});
-    }
+    const std::vector<AreaBar> bars = areaBars(objects);
+    std::vector<const AreaBar *> sorted;
+    sorted.reserve(bars.size());
+    for (const AreaBar &bar : bars)
+        sorted.push_back(&bar);
+    std::stable_sort(sorted.begin(), sorted.end(), hasEarlierPlace);
+
     std::vector<NumberedBar> rows;
-    for (auto &place : groupsOfPlace)
-        for (std::vector<AreaBar> &group : place.second)
+    rows.reserve(bars.size());
+    for (auto first = sorted.begin(); first != sorted.end();) {
+        std::vector<AreaGroup> groups;
+        const AreaBar *place = *first;
+        for (; first != sorted.end() && !hasEarlierPlace(place, *first); ++first)
+            join(groups, **first);
+        for (AreaGroup &group : groups)
             number(
                 group, [](const AreaBar &bar) -> const QString & { return bar.barInfo; }, rows);
+    }
     return rows;
 }
 
@@ -155,6 +189,7 @@ std::vector<NumberedBar> lineBarRows(const QList<IHBXElementDrawObj *> &bars)
         if (LineBar bar = lineBar(object); bar.curve)
             groups.join(std::move(bar));
     std::vector<NumberedBar> rows;
+    rows.reserve(static_cast<std::size_t>(bars.size()));
     for (LineGroups::Group &group : groups.all())
         number(
             group, [](const LineBar &bar) { return std::tie(bar.barInfo, bar.leftLabel, bar.rightLabel); }, rows);

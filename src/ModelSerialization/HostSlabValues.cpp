@@ -1,18 +1,23 @@
 #include "ModelSerialization/HostSlabValues.h"
 
 #include "ModelSerialization/SlabNumbers.h"
+#include "encoding/NumberText.h"
 #include "platform/geometry/KernelTolerance.h"
 #include "platform/geometry/OrientProjectCurve2d.h"
 #include "platform/host/IHBXLineShape2D.h"
 #include "platform/host/IHBXModel.h"
 #include "platform/host/IHBXProperties.h"
 
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace slabhost {
 namespace {
 
 constexpr double kMillimetresInMetre = 1000.0;
+constexpr char16_t kLinkEnd = u';';
+constexpr char16_t kFieldEnd = u',';
 
 } // namespace
 
@@ -45,11 +50,28 @@ CurvePtr HostSlabValues::curve(const std::wstring &name) const
     return value;
 }
 
-HostSlabLinks::HostSlabLinks(const QString &reinforcementInfo) : m_items(reinforcementInfo.split(QLatin1Char(';'))) {}
+HostSlabLinks::HostSlabLinks(QString reinforcementInfo) : m_text(std::move(reinforcementInfo))
+{
+    QStringView rest(m_text);
+    for (auto end = rest.indexOf(kLinkEnd); end >= 0; end = rest.indexOf(kLinkEnd)) {
+        m_items.append(rest.left(end));
+        rest = rest.mid(end + 1);
+    }
+    m_items.append(rest);
+}
 
-QStringList HostSlabLinks::fields(int item) const { return m_items.at(item).split(QLatin1Char(',')); }
+int HostSlabLinks::fieldCount(int item) const
+{
+    const QStringView text = m_items.at(item);
+    return 1 + static_cast<int>(std::count(text.begin(), text.end(), QChar(kFieldEnd)));
+}
 
-qint64 HostSlabLinks::id(int item) const { return fields(item).constFirst().toLongLong(); }
+qint64 HostSlabLinks::id(int item) const
+{
+    const QStringView text = m_items.at(item);
+    const auto end = text.indexOf(kFieldEnd);
+    return encoding::readLongLong(end < 0 ? text : text.left(end));
+}
 
 CurvePtr curveInPlan(const vks::CCoord3<double> &frame, const vks::CCurve2d *curve)
 {

@@ -8,7 +8,8 @@
 #include "platform/host/WorldOutline.h"
 
 #include <QString>
-#include <QStringList>
+#include <QStringView>
+#include <QVarLengthArray>
 #include <QtGlobal>
 
 #include <string>
@@ -44,17 +45,21 @@ private:
 
 /** The draw objects that "ReinforcementInfo" links a bar with: items joined by ";", each of fields joined by ",", of which
  *  the first is an id. */
-struct HostSlabLinks
+class HostSlabLinks
 {
-    explicit HostSlabLinks(const QString &reinforcementInfo);
+public:
+    explicit HostSlabLinks(QString reinforcementInfo);
 
     int count() const { return m_items.size(); }
-    QStringList fields(int item) const;
+    int fieldCount(int item) const;
     /** 0 for text that is no number. */
     qint64 id(int item) const;
 
 private:
-    QStringList m_items;
+    static constexpr int kUsualCount = 4;
+
+    QString m_text;
+    QVarLengthArray<QStringView, kUsualCount> m_items; // of the text
 };
 
 // ---- Geometry, in the plan of the floor and in copies, unless something else is told

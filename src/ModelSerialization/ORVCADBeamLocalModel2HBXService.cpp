@@ -29,6 +29,7 @@
 #include <QJsonObject>
 
 #include <algorithm>
+#include <optional>
 
 using namespace beam;
 
@@ -65,6 +66,11 @@ constexpr FoundationKind kPileCap = {type::pileCap, 48, type::pileCapUnit, 51};
 bool comesBefore(const std::shared_ptr<BeamSegmentInfo> &a, const std::shared_ptr<BeamSegmentInfo> &b)
 {
     return a && (!b || a->Index < b->Index);
+}
+
+QJsonArray spanArray(const BeamEdoInfo &placed)
+{
+    return encoding::Appended<decltype(placed.spans)>::toValue(placed.spans).toArray();
 }
 
 /** From the end to the start, as the host is told it. */
@@ -162,14 +168,18 @@ int ORVCADBeamLocalModel2HBXService::localModel2BeamEdo(BeamEdoInfo *edoInfo, IH
     auto &segments = edoInfo->segments;
     std::stable_sort(segments.begin(), segments.end(), comesBefore);
     std::vector<IHBXElementDrawObj *> chain;
+    std::optional<QJsonArray> spans; // made once: every draw object of the chain records all of them
     qint64 expected = segments.front() ? segments.front()->Index : 0; // meant: it need not be 0
     for (const auto &segment : segments) {
         if (!segment || segment->Index != expected++)
             return kSegmentsNotConsecutive;
         IHBXElementDrawObj *drawObj = nullptr;
-        const int result = reconstructBeam_BeamInfo_CreateEdo_CreateBeamNode(segment.get(), element, edoInfo, drawObj);
+        const int result = createBeamNode(segment.get(), element, drawObj);
         if (result != kDone)
             return result;
+        if (!spans)
+            spans = spanArray(*edoInfo);
+        m_beamSpanInfo[drawObj->id()] = *spans;
         if (segment->Index == 0 && element->type() != type::linkBeam)
             writeEdoProp(property::spanCount, QString::number(edoInfo->spans.size()), drawObj, PropType::Text, true);
         chain.push_back(drawObj);
@@ -183,13 +193,18 @@ int ORVCADBeamLocalModel2HBXService::reconstructBeam_BeamInfo_CreateEdo_CreateBe
                                                                                        BeamEdoInfo *edoInfo,
                                                                                        IHBXElementDrawObj *&drawObj)
 {
-    drawObj = createEnteredDrawObj(element);
-    if (!drawObj)
-        return kNoDrawObj;
-    const int result = reconstructBeam_BeamInfo_CreateEdo_CreateBeamNode_SetProp(drawObj, segment);
+    const int result = createBeamNode(segment, element, drawObj);
     if (result == kDone)
         reconstructBeam_BeamInfo_CreateEdo_CreateBeamNode_RecordSpanInfo(drawObj, edoInfo);
     return result;
+}
+
+/** One draw object of a chain without its spans. */
+int ORVCADBeamLocalModel2HBXService::createBeamNode(BeamSegmentInfo *segment, IHBXElement *element,
+                                                    IHBXElementDrawObj *&drawObj)
+{
+    drawObj = createEnteredDrawObj(element);
+    return drawObj ? reconstructBeam_BeamInfo_CreateEdo_CreateBeamNode_SetProp(drawObj, segment) : kNoDrawObj;
 }
 
 int ORVCADBeamLocalModel2HBXService::reconstructBeam_BeamInfo_CreateEdo_CreateBeamNode_SetProp(
@@ -214,7 +229,7 @@ void ORVCADBeamLocalModel2HBXService::reconstructBeam_BeamInfo_CreateEdo_CreateB
     IHBXElementDrawObj *drawObj, BeamEdoInfo *edoInfo)
 {
     if (drawObj && edoInfo)
-        m_beamSpanInfo[drawObj->id()] = encoding::Appended<decltype(edoInfo->spans)>::toValue(edoInfo->spans).toArray();
+        m_beamSpanInfo[drawObj->id()] = spanArray(*edoInfo);
 }
 
 bool ORVCADBeamLocalModel2HBXService::saveBeamSpanInfo()

@@ -176,6 +176,7 @@ private:
     bool findOrCreateElement(const Seat &seat, qint64 subType, int mode, IHBXElement *&element);
     IHBXElement *createUnit(const ORVBeamSDCSeatInfoModel &seat, IHBXElement &foundation);
     bool writePileSection(IHBXElement *element, const ORVBeamSDCSeatInfoModel &seat);
+    int createBeamNode(BeamSegmentInfo *segment, IHBXElement *element, IHBXElementDrawObj *&drawObj);
     IHBXElementDrawObj *createEnteredDrawObj(IHBXElement *element);
     IHBXElementDrawObj *placeAtSeat(const ORVBeamSDCSeatInfoModel &seat, IHBXElement *element);
 

@@ -23,7 +23,7 @@ struct SlabBarRecord
     QUuid id;
     QString name;
     QString barInfo;                   ///< in upper case
-    vks::CRefPtr<vks::CPolygon> area;  ///< of area bars
+    vks::CRefPtr<vks::CPolygon> area;  ///< of area bars: the local model's own, never changed
     vks::CRefPtr<vks::CCurve2d> line;  ///< of line bars: what they are laid along
     vks::CRefPtr<vks::CCurve2d> curve; ///< the bar as it is drawn
     QString leftHook;                  ///< the decimal text of a length

@@ -70,7 +70,7 @@ void addArea(const Model::AbstractForcedBar &bar, const StartOf &startOf, SlabBa
 {
     if (!bar.surface)
         return;
-    record.area = bar.surface->Clone();
+    record.area = bar.surface;
     const Point start = bar.refPointValid ? bar.refPoint : startOf(*record.area);
     record.curve = barThrough(*record.area, start, bar.direction);
 }

@@ -13,6 +13,8 @@
 #include "platform/services/HbxTolerance.h"
 #include "slab/ORVCADBoardLocalModel_Sample.h"
 
+#include <QVarLengthArray>
+
 #include <cmath>
 
 namespace slabhost {
@@ -37,24 +39,26 @@ constexpr PlateKind kRaft{type::raft, subtype::raft, "FB-", "层底标高", &IHB
 
 struct PlateElevation
 {
-    const std::wstring &property;
-    double metres;
+    const std::wstring *property;
+    double metres; // above the building's zero
 };
+
+using PlateElevations = QVarLengthArray<PlateElevation, 2>; // without memory of its own
 
 struct PlateRecord
 {
     QUuid id;
     QString name;
-    int thickness;                          // mm
-    const vks::CPolygon *surface;           // of the local model
-    std::vector<PlateElevation> elevations; // in the order of writing
+    int thickness;                // mm
+    const vks::CPolygon *surface; // of the local model
+    PlateElevations elevations;   // in the order of writing
 };
 
-std::vector<PlateElevation> elevationsOf(const Model::Board &board) { return {{property::topElev, board.elev}}; }
+PlateElevations elevationsOf(const Model::Board &board) { return {{&property::topElev, board.elev}}; }
 
-std::vector<PlateElevation> elevationsOf(const Model::Raft &raft)
+PlateElevations elevationsOf(const Model::Raft &raft)
 {
-    return {{property::topElev, raft.topElev}, {property::bottomElev, raft.bottomElev}};
+    return {{&property::topElev, raft.topElev}, {&property::bottomElev, raft.bottomElev}};
 }
 
 template <typename Plate> PlateRecord recordOf(const Plate &plate, const PlateKind &kind)
@@ -92,7 +96,7 @@ void setElevations(const SlabTarget &target, const PlateKind &kind, const PlateR
 {
     const double base = (target.floor.*kind.baseElev)();
     for (const PlateElevation &elevation : record.elevations)
-        properties.setString(elevation.property, elevationText(kind.baseWord, elevation.metres - base), false);
+        properties.setString(*elevation.property, elevationText(kind.baseWord, elevation.metres - base), false);
 }
 
 /** False when the host's check refuses it. */

@@ -28,12 +28,12 @@ struct FlatItem
 /** Key and value of one item. What follows a second colon is dropped; a missing value is empty. */
 inline FlatItem splitItem(QStringView item)
 {
-    const QChar *const colon = std::find(item.begin(), item.end(), QChar(kValueStart));
-    if (colon == item.end())
+    const auto colon = item.indexOf(kValueStart);
+    if (colon < 0)
         return {item, {}};
-    const QChar *const value = colon + 1;
-    return {QStringView(item.begin(), colon), // meant: a third piece is lost
-            QStringView(value, std::find(value, item.end(), QChar(kValueStart)))};
+    const QStringView value = item.mid(colon + 1);
+    const auto third = value.indexOf(kValueStart);
+    return {item.left(colon), third < 0 ? value : value.left(third)}; // meant: a third piece is lost
 }
 
 /** Takes away the record's last character if it is "/". */

@@ -26,15 +26,32 @@ template <typename T> void appendField(QString &record, QLatin1String key, const
     record.append(kItemEnd);
 }
 
-/** The record's text, without a "/" at its end. */
+/** The text of one record after another, each without a "/" at its end, put together in one place: a text of its own would
+ *  keep the room that it grew in. */
+class FlatRecordWriter
+{
+public:
+    FlatRecordWriter()
+    {
+        constexpr int usualSize = 256; // characters
+        m_text.reserve(usualSize);
+    }
+
+    template <typename Record, typename Table> QString text(const Record &record, const Table &table)
+    {
+        m_text.resize(0);
+        forEachField(table, [&](const auto &row) { appendField(m_text, row.key, record.*row.member); });
+        cutLastSeparator(m_text);
+        return QString(m_text.constData(), m_text.size());
+    }
+
+private:
+    QString m_text;
+};
+
 template <typename Record, typename Table> QString flatRecord(const Record &record, const Table &table)
 {
-    constexpr int usualSize = 256; // characters
-    QString text;
-    text.reserve(usualSize);
-    forEachField(table, [&](const auto &row) { appendField(text, row.key, record.*row.member); });
-    cutLastSeparator(text);
-    return text;
+    return FlatRecordWriter().text(record, table);
 }
 
 /** Sets every field of the table. One that the text lacks is set to what the empty value reads as: 0, empty, null. */

@@ -51,33 +51,29 @@ class RecordReader
 public:
     QString recordOf(const QJsonObject &object)
     {
-        if (object.size() != m_keys.size() || !takeValues(object))
-            takeMembers(object);
+        if (object.size() == m_keys.size()) {
+            encoding::FlatRecordText record;
+            if (addValues(object, record))
+                return record.text();
+        }
+        m_keys = object.keys();
         encoding::FlatRecordText record;
-        for (std::size_t i = 0; i < m_values.size(); ++i)
-            record.add(m_keys[static_cast<int>(i)], m_values[i]);
+        addValues(object, record);
         return record.text();
     }
 
 private:
-    /** @return whether the object has all the keys */
-    bool takeValues(const QJsonObject &object)
+    /** @return whether the object has all the keys; no use of the record otherwise */
+    bool addValues(const QJsonObject &object, encoding::FlatRecordText &record) const
     {
-        m_values.clear();
         return std::all_of(m_keys.cbegin(), m_keys.cend(), [&](const QString &key) {
             const QJsonValue value = object.value(QStringView(key));
-            m_values.push_back(value.toString());
+            record.add(key, value.toString());
             return !value.isUndefined();
         });
     }
-    void takeMembers(const QJsonObject &object)
-    {
-        m_keys = object.keys();
-        takeValues(object);
-    }
 
     QStringList m_keys; // sorted, each once
-    std::vector<QString> m_values;
 };
 
 QString recordOf(const QJsonObject &object) { return RecordReader().recordOf(object); }

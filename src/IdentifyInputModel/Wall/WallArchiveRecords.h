@@ -15,8 +15,9 @@ template <typename Record, typename Table> QStringList flatRecords(const std::li
 {
     QStringList texts;
     texts.reserve(static_cast<int>(records.size()));
+    encoding::FlatRecordWriter writer;
     for (const Record &record : records)
-        texts.append(encoding::flatRecord(record, table));
+        texts.append(writer.text(record, table));
     return texts;
 }
 

@@ -11,7 +11,8 @@
 namespace hbx::embedded {
 namespace {
 
-constexpr double kCellSide = 4000.0;   // mm, of the lowest level: most parts of a building are smaller
+constexpr double kCellSide = 8000.0;   // mm, of the lowest level: most parts of a building are not half as long
+constexpr double kRoom = 2.0;          // sides of a cell to those of its boxes: some share it, and cells are fewer
 constexpr double kFarthestCell = 1e15; // beyond, all share the outermost cells
 
 double cellSide(int level) { return std::ldexp(kCellSide, level); }
@@ -47,7 +48,7 @@ std::size_t HBXPlaceIndex::CellHash::operator()(const Cell &cell) const
 
 HBXPlaceIndex::Cell HBXPlaceIndex::cellOf(const Box &box)
 {
-    const double size = std::max(box.Width(), box.Height());
+    const double size = kRoom * std::max(box.Width(), box.Height());
     int level = 0;
     while (level < kLevelCount - 1 && cellSide(level) < size)
         ++level;

@@ -14,7 +14,7 @@ namespace hbx::embedded {
 class HBXElementDrawObj;
 
 /** A cell of a place index. Cells of one level have sides of twice those of the level below; a box lies in the lowest level
- *  whose sides are not shorter than its own, so that it reaches no further than into the next cell. */
+ *  whose sides are at least twice its own, so that it reaches no further than into the next cell. */
 struct HBXPlaceCell
 {
     int level;
