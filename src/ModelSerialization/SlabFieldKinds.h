@@ -138,7 +138,7 @@ template <typename Kind, typename Record, typename Whole, typename T> struct Par
     T Whole::*part;
     encoding::Flow flow = encoding::Flow::Both;
 
-    template <typename Target> bool read(const QJsonObject &json, Target &record) const
+    template <typename Members, typename Target> bool read(const Members &json, Target &record) const
     {
         (record.*whole).*part = Kind::fromValue(json.value(key), T());
         return true;
@@ -166,7 +166,10 @@ template <typename Row> struct GridRow
     Row row;
     encoding::Flow flow = encoding::Flow::Both;
 
-    template <typename Net> bool read(const QJsonObject &json, Net &net) const { return row.read(json, *net.axisGrid); }
+    template <typename Members, typename Net> bool read(const Members &json, Net &net) const
+    {
+        return row.read(json, *net.axisGrid);
+    }
     template <typename Net> void write(const Net &net, QJsonObject &json) const
     {
         row.write(net.axisGrid ? *net.axisGrid : AxisGrid_Sample(), json);

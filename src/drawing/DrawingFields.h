@@ -13,7 +13,7 @@ template <typename Record> struct PresenceRow
     QLatin1String key;
     encoding::Flow flow = encoding::Flow::ReadOnly;
 
-    bool read(const QJsonObject &json, Record & /*record*/) const { return json.contains(key); }
+    template <typename Members> bool read(const Members &json, Record & /*record*/) const { return json.contains(key); }
     void write(const Record & /*record*/, QJsonObject & /*json*/) const {}
 };
 

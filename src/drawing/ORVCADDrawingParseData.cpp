@@ -2,6 +2,7 @@
 
 #include "drawing/DrawingKeys.h"
 #include "encoding/JsonMembers.h"
+#include "encoding/NumberText.h"
 
 #include <QJsonArray>
 
@@ -69,12 +70,20 @@ QJsonObject writeTable(const ORVCADTableData &table)
             {key::concrete, byRow(table.concrete, writeLevel)}};
 }
 
+constexpr int kLongestRowNumber = 10; // digits
+
 /** What stands under 0, 1 and so on, as far as there are members; read(row, value, records) for each. */
 template <typename Record, typename Read> QList<Record> fromRows(const QJsonObject &object, Read read)
 {
     QList<Record> records;
-    for (int row = 0; row < object.size(); ++row)
-        read(row, object.value(QString::number(row)), records);
+    records.reserve(object.size());
+    QString key;
+    key.reserve(kLongestRowNumber); // kept from row to row
+    for (int row = 0; row < object.size(); ++row) {
+        key.resize(0);
+        encoding::appendInteger(key, row);
+        read(row, object.value(key), records);
+    }
     return records;
 }
 
@@ -82,13 +91,13 @@ void readCells(int row, const QJsonValue &value, QList<ORVCADTableRowData> &rows
 {
     if (!value.isArray())
         return;
-    ORVCADTableRowData read;
-    read.row = row;
+    rows.append({row, {}});
+    QStringList &texts = rows.last().cells;
     const QJsonArray cells = value.toArray();
+    texts.reserve(cells.size());
     for (const QJsonValue cell : cells)
         if (cell.isString())
-            read.cells.append(cell.toString());
-    rows.append(read);
+            texts.append(cell.toString());
 }
 
 void readLevel(int row, const QJsonValue &value, Levels &levels)

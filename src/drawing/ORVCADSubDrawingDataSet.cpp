@@ -2,22 +2,24 @@
 
 #include "drawing/DrawingKeys.h"
 
-#include <QFileInfo>
 #include <QJsonArray>
 
 namespace key = drawing::key;
 
 namespace {
 
-/** The file's name without folder and last ending. */
-QString baseName(const QString &path) { return QFileInfo(path).completeBaseName(); }
-
-QJsonObject writeParent(const QString &parent, const QList<ORVCADSubDrawingInfo> &parts)
+/** The file's name without folder and last ending, as QFileInfo::completeBaseName gives it. */
+QString baseName(const QString &path)
 {
-    QJsonArray names;
-    for (const ORVCADSubDrawingInfo &part : parts)
-        names.append(baseName(part.drawingPath));
-    return {{key::parentDrawing, baseName(parent)}, {key::count, names.size()}, {key::subDrawing, names}};
+    const int start = path.lastIndexOf(u'/') + 1;
+    const int dot = path.lastIndexOf(u'.');
+    return path.mid(start, dot < start ? -1 : dot - start);
+}
+
+/** @param names  of the parent's parts */
+QJsonObject writeParent(const QString &parent, const QJsonArray &names)
+{
+    return {{key::count, names.size()}, {key::parentDrawing, baseName(parent)}, {key::subDrawing, names}};
 }
 
 } // namespace
@@ -61,8 +63,12 @@ const QHash<QString, QString> &ORVCADSubDrawingDataSet::pathsByName() const
 QJsonObject ORVCADSubDrawingDataSet::toJson() const
 {
     QJsonArray parents;
-    const QList<QString> names = m_subDrawings.uniqueKeys();
-    for (const QString &parent : names)
-        parents.append(writeParent(parent, m_subDrawings.values(parent)));
-    return {{key::savePath, m_savePath}, {key::drawingInfo, parents}};
+    for (auto part = m_subDrawings.begin(); part != m_subDrawings.end();) {
+        const QString &parent = part.key();
+        QJsonArray names;
+        for (; part != m_subDrawings.end() && part.key() == parent; ++part) // those of a parent stand together
+            names.append(baseName(part.value().drawingPath));
+        parents.append(writeParent(parent, names));
+    }
+    return {{key::drawingInfo, parents}, {key::savePath, m_savePath}};
 }

@@ -18,6 +18,7 @@ using Vertex = GeometryTextReader::Vertex;
 using Point = vks::CVec2<double>;
 
 constexpr int kMostCurveParts = 5;
+constexpr int kUsualVertices = 8;
 
 /** The pieces between separators, empty ones included. */
 using Parts = QVarLengthArray<QStringView, kMostCurveParts + 1>;
@@ -86,8 +87,11 @@ bool readVertex(QStringView item, Vertex &vertex)
     return true;
 }
 
+/** Meant: a text without its closing semicolon loses its last vertex without a word. */
+QStringView finishedItems(const QString &text) { return QStringView(text).left(text.lastIndexOf(u';') + 1); }
+
 /** @param text  vertices, each ended by a semicolon */
-bool readVertices(QStringView text, std::vector<Vertex> &vertices)
+template <typename Vertices> bool readVertices(QStringView text, Vertices &vertices)
 {
     const QChar *start = text.begin();
     for (const QChar *at = start; at != text.end(); ++at) {
@@ -111,11 +115,53 @@ Curve edgeBetween(const Vertex &from, const Vertex &to)
     return new vks::CLine2d(start, end);
 }
 
-bool finishPolygon(const vks::CRefPtr<vks::CLoop> &loop, Polygon &polygon)
+// What a text describes, valid or not; null for a bad text.
+
+Polygon polygonOfLoop(vks::CLoop *loop)
 {
-    polygon = new vks::CPolygon();
+    Polygon polygon = new vks::CPolygon();
     polygon->AddLoop(loop, true);
-    return polygon->IsValid(vks::CPolygon::kAllChecks, nullptr, nullptr);
+    return polygon;
+}
+
+Polygon builtOfCurve(QStringView text)
+{
+    Curve curve;
+    if (!GeometryTextReader::reconstructCurve(text, curve) || !curve->IsClosed())
+        return nullptr;
+    auto *loop = new vks::CLoop();
+    loop->AddCurve(curve, false);
+    return polygonOfLoop(loop);
+}
+
+Polygon builtOfVertices(const QString &text)
+{
+    QVarLengthArray<Vertex, kUsualVertices> vertices;
+    if (!readVertices(finishedItems(text), vertices))
+        return nullptr;
+    auto *loop = new vks::CLoop();
+    for (int i = 1; i < vertices.size(); ++i)
+        loop->AddCurve(edgeBetween(vertices[i - 1], vertices[i]), false);
+    loop->AddCurve(edgeBetween(vertices.back(), vertices.front()), false); // ends where the first one starts
+    return polygonOfLoop(loop);
+}
+
+Polygon builtOfKernelText(const QString &text) { return vks::CPolygon::LoadFromString(text.toUtf8().constData()); }
+
+Polygon built(const QString &text)
+{
+    if (text.isEmpty())
+        return nullptr;
+    if (!encoding::isPolygonText(text))
+        return builtOfKernelText(text);
+    return text.contains(u';') ? builtOfVertices(text) : builtOfCurve(text);
+}
+
+/** Hands out what was built. @return whether it is valid */
+bool handOut(const Polygon &built, Polygon &polygon)
+{
+    polygon = built;
+    return polygon && polygon->IsValid(vks::CPolygon::kAllChecks, nullptr, nullptr);
 }
 
 } // namespace
@@ -155,45 +201,26 @@ bool GeometryTextReader::reconstructCurve_StringToDouble(const QStringList &part
 bool GeometryTextReader::reconstructPoly(const QString &text, Polygon &polygon)
 {
     polygon = nullptr;
-    if (text.isEmpty())
-        return false;
-    if (!encoding::isPolygonText(text))
-        return reconstructPoly_WithAsString(text, polygon);
-    if (text.contains(u';'))
-        return reconstructPoly_Simplified_Normal(text, polygon);
-    return reconstructPoly_Simplified_NoSemicolon(text, polygon);
+    return handOut(built(text), polygon);
 }
 
 bool GeometryTextReader::reconstructPoly_Simplified_NoSemicolon(const QString &text, Polygon &polygon)
 {
     polygon = nullptr;
-    Curve curve;
-    if (!reconstructCurve(text, curve) || !curve->IsClosed())
-        return false;
-    const vks::CRefPtr<vks::CLoop> loop = new vks::CLoop();
-    loop->AddCurve(curve, false);
-    return finishPolygon(loop, polygon);
+    return handOut(builtOfCurve(text), polygon);
 }
 
 bool GeometryTextReader::reconstructPoly_Simplified_Normal(const QString &text, Polygon &polygon)
 {
     polygon = nullptr;
-    std::vector<Vertex> vertices;
-    if (!reconstructPoly_Simplified_Normal_StringToDouble(text, vertices))
-        return false;
-    vertices.push_back(vertices.front()); // the last edge ends where the first one starts
-    const vks::CRefPtr<vks::CLoop> loop = new vks::CLoop();
-    for (std::size_t i = 0; i + 1 < vertices.size(); ++i)
-        loop->AddCurve(edgeBetween(vertices[i], vertices[i + 1]), false);
-    return finishPolygon(loop, polygon);
+    return handOut(builtOfVertices(text), polygon);
 }
 
 bool GeometryTextReader::reconstructPoly_Simplified_Normal_StringToDouble(const QString &text,
                                                                           std::vector<Vertex> &vertices)
 {
     vertices.clear();
-    // Meant: a text without its closing semicolon loses its last vertex without a word.
-    const bool ok = readVertices(QStringView(text).left(text.lastIndexOf(u';') + 1), vertices);
+    const bool ok = readVertices(finishedItems(text), vertices);
     if (!ok)
         vertices.clear();
     return ok;
@@ -202,8 +229,7 @@ bool GeometryTextReader::reconstructPoly_Simplified_Normal_StringToDouble(const 
 bool GeometryTextReader::reconstructPoly_WithAsString(const QString &text, Polygon &polygon)
 {
     polygon = nullptr;
-    polygon = vks::CPolygon::LoadFromString(text.toUtf8().constData());
-    return polygon && polygon->IsValid(vks::CPolygon::kAllChecks, nullptr, nullptr);
+    return handOut(builtOfKernelText(text), polygon);
 }
 
 GeometryTextReader::Curve GeometryTextReader::curveOf(QStringView text)
@@ -215,7 +241,5 @@ GeometryTextReader::Curve GeometryTextReader::curveOf(QStringView text)
 
 GeometryTextReader::Polygon GeometryTextReader::polygonOf(const QString &text)
 {
-    Polygon polygon;
-    reconstructPoly(text, polygon); // meant: an invalid polygon is handed out as if all were well
-    return polygon;
+    return built(text); // meant: an invalid polygon is handed out as if all were well
 }

@@ -136,6 +136,38 @@ bool isNumberCharacter(char16_t c)
     return (c >= u'0' && c <= u'9') || c == u'.' || c == u'-' || c == u'+' || c == u'e' || c == u'E';
 }
 
+/** Digits from a place on, appended to a number. @return the first place that holds none */
+const char16_t *readDigits(const char16_t *at, const char16_t *end, qint64 &number)
+{
+    for (; at != end && *at >= u'0' && *at <= u'9'; ++at)
+        number = number * 10 + (*at - u'0');
+    return at;
+}
+
+/** Reads what most numbers of a drawing are: a sign or none, digits, a point with digits behind it or none, all so short
+ *  that the digits and the power of ten are exact, and their quotient is what any reader rounds to. */
+bool readShortDecimal(QStringView text, double &value)
+{
+    constexpr int longest = 15; // digits; below 2 to the 53rd
+    constexpr double powers[] = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    const char16_t *start = text.utf16();
+    const char16_t *const end = start + text.size();
+    const bool negative = start != end && *start == u'-';
+    start += negative ? 1 : 0;
+    if (end - start > longest + 1)
+        return false;
+    qint64 digits = 0;
+    const char16_t *const point = readDigits(start, end, digits);
+    const char16_t *const fraction = point != end && *point == u'.' ? point + 1 : point;
+    const char16_t *const last = readDigits(fraction, end, digits);
+    const bool isShort = point - start + (last - fraction) <= longest;
+    if (point == start || last != end || (fraction != point && last == fraction) || !isShort)
+        return false;
+    const double amount = static_cast<double>(digits) / powers[last - fraction];
+    value = negative ? -amount : amount;
+    return true;
+}
+
 /** Reads the common forms: digits with a sign, a point and an exponent. False for whatever else may be a number. */
 bool readPlainNumber(QStringView text, double &value)
 {
@@ -201,7 +233,7 @@ void appendNumber(QString &text, double value)
 double readNumber(QStringView text, bool *ok)
 {
     double value = 0.0;
-    if (!readPlainNumber(text, value))
+    if (!readShortDecimal(text, value) && !readPlainNumber(text, value))
         return text.toString().toDouble(ok);
     if (ok)
         *ok = true;

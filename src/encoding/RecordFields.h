@@ -1,5 +1,7 @@
 #pragma once
 
+#include "encoding/ObjectMembers.h"
+
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QJsonValue>
@@ -8,6 +10,7 @@
 #include <QVariant>
 
 #include <cmath>
+#include <limits>
 #include <tuple>
 #include <type_traits>
 #include <utility>
@@ -58,6 +61,9 @@ template <> struct ValueKind<qint64>
     static qint64 fromValue(const QJsonValue &json, qint64 fallback)
     {
         constexpr double firstBeyond = 9223372036854775808.0; // 2 to the 63rd
+        constexpr int none = std::numeric_limits<int>::min();
+        if (const int small = json.toInt(none); small != none)
+            return small;
         if (!json.isDouble())
             return fallback;
         const QVariant number = json.toVariant(); // of the type qlonglong or double
@@ -165,8 +171,9 @@ template <typename Kind, typename Record, typename T, typename Fallback> struct 
     Flow flow;
     bool required;
 
-    /** False only when the key is required and missing; the record is untouched then. */
-    template <typename Target> bool read(const QJsonObject &json, Target &record) const
+    /** False only when the key is required and missing; the record is untouched then.
+     *  @tparam Members  QJsonObject or ObjectMembers */
+    template <typename Members, typename Target> bool read(const Members &json, Target &record) const
     {
         const QJsonValue value = json.value(key);
         if (required && value.isUndefined())
@@ -249,7 +256,9 @@ template <typename Record, typename Table> QJsonObject writtenFields(const Recor
  *  @return false when a required key is missing; rows behind it are not read then, those before it are */
 template <typename Table, typename Record> bool readFields(const QJsonObject &json, const Table &table, Record &record)
 {
-    const auto readRow = [&](const auto &row) { return row.flow == Flow::WriteOnly || row.read(json, record); };
+    thread_local ObjectMembers::Places<std::tuple_size_v<Table>> places{}; // one key is sought for each row
+    const ObjectMembers members(json, places);
+    const auto readRow = [&](const auto &row) { return row.flow == Flow::WriteOnly || row.read(members, record); };
     return std::apply([&](const auto &...rows) { return (readRow(rows) && ...); }, table);
 }
 

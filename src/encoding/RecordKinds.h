@@ -167,6 +167,7 @@ template <typename List, typename EntryKind = ValueKind<typename List::value_typ
     {
         List entries = present;
         const QJsonArray array = json.toArray();
+        entries.reserve(entries.size() + static_cast<decltype(entries.size())>(array.size()));
         for (const QJsonValue value : array)
             entries.push_back(EntryKind::fromValue(value, Entry()));
         return entries;

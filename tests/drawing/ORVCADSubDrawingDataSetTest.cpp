@@ -5,6 +5,8 @@
 #include "drawing/ORVCADSubDrawingSplitInfo.h"
 #include "drawing/SplitMapInfo.h"
 
+#include <QFileInfo>
+
 #include <gmock/gmock.h>
 
 #include <cmath>
@@ -116,6 +118,21 @@ TEST(ORVCADSubDrawingDataSetTest, parentsAndPartsAreWrittenByTheirNames)
     EXPECT_EQ(set.getSavePath(), "/out");
     EXPECT_EQ(text(set.toJson()), R"({"drawingInfo":[{"count":2,"parenDrawing":"structure.v2",)"
                                   R"("subDrawing":["b.1","a"]}],"savePath":"/out"})");
+}
+
+TEST(ORVCADSubDrawingDataSetTest, namesAreTheCompleteBaseNamesOfFiles)
+{
+    const char *const pieces[] = {"/", ".", "a", "dwg", "\\", "楼"};
+    constexpr int count = 6;
+    for (int code = 0; code < count * count * count * count * count; ++code) {
+        QString path;
+        for (int rest = code; rest > 0; rest /= count)
+            path += QString::fromUtf8(pieces[rest % count]);
+        ORVCADSubDrawingDataSet set;
+        set.addSubDrawing(path, part("/out/1.dwg"));
+        const QJsonObject parent = set.toJson().value("drawingInfo").toArray().at(0).toObject();
+        ASSERT_EQ(parent.value("parenDrawing").toString(), QFileInfo(path).completeBaseName()) << path.toStdString();
+    }
 }
 
 TEST(ORVCADSubDrawingDataSetTest, everyParentIsWrittenOnce)

@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 
 #include <limits>
+#include <random>
 
 using encoding::appendNumber;
 using encoding::readNumber;
@@ -289,6 +290,25 @@ TEST(NumberTextTest, readerAgreesWithQStringToDoubleInAMillionCases)
     NumberCases cases(19991231);
     for (int i = 0; i < kRuns; ++i)
         ASSERT_EQ(differenceInReading(cases.text()), "");
+}
+
+TEST(NumberTextTest, shortDecimalsAreReadToTheLastBit)
+{
+    std::mt19937_64 random(15);
+    for (int i = 0; i < 20'000; ++i) {
+        QString digits = QString::number(random() >> random() % 64);
+        if (i % 5 == 0)
+            digits.prepend(QString(static_cast<int>(random() % 10), u'0'));
+        for (int point = 0; point <= digits.size(); ++point) {
+            const QString text = QString(digits).insert(point, u'.');
+            ASSERT_EQ(differenceInReading(text), "");
+            ASSERT_EQ(differenceInReading(u'-' + text), "");
+        }
+        ASSERT_EQ(differenceInReading(digits), "");
+        ASSERT_EQ(differenceInReading(digits + QStringLiteral("e-3")), "");
+    }
+    for (const char *text : {".", "-", "-.", "--1", "1..2", "1.2.3", "1-2", "-0.0", "00", "0.", ".0"})
+        EXPECT_EQ(differenceInReading(QString::fromUtf8(text)), "") << text;
 }
 
 TEST(NumberTextTest, integersAreWrittenInPlainDecimal)

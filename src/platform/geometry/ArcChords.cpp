@@ -29,7 +29,8 @@ int chordCount(double radius)
 /** The curve as an arc that chords can stand in for; null for any other. */
 const CArc2d *soundArc(const CCurve2d &curve)
 {
-    const CArc2d *arc = curve.IsEmpty() ? nullptr : CArc2d::RoundArc(curve);
+    const bool isArc = curve.Type() == CCurve2d::kArc && !curve.IsEmpty();
+    const CArc2d *arc = isArc ? CArc2d::RoundArc(curve) : nullptr;
     return arc && arc->CenterPt().IsFinite() && arc->StartPoint().IsFinite() ? arc : nullptr;
 }
 

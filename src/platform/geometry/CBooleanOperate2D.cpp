@@ -52,7 +52,7 @@ Ring ringOf(const CLoop &loop, const CVec2<double> &origin, const ArcChords &cho
     for (std::size_t i = 0; i < curves.size(); ++i) {
         chords.appendCorners(*curves[i], ring);
         // A loop with a gap keeps both of its sides; welding makes one point of them where they agree.
-        if (curves[i]->EndPoint() != curves[(i + 1) % curves.size()]->StartPoint())
+        if (curves[i]->EndPoint() != curves[i + 1 < curves.size() ? i + 1 : 0]->StartPoint())
             ring.push_back(curves[i]->EndPoint() - origin);
     }
     return ring;
@@ -105,8 +105,10 @@ Overlay::Overlay(Operation operation, const Operands &operands) : m_operation(op
     for (const Operand &operand : operands)
         for (const auto &loop : operand.polygon->Loops())
             for (const auto &curve : loop->Curves())
-                chords.learn(*curve);
+                if (curve->Type() == CCurve2d::kArc)
+                    chords.learn(*curve);
     m_hasArcs = chords.hasArcs();
+    m_polygons.reserve(operands.size());
     for (const Operand &operand : operands) {
         m_polygons.push_back(ringsOf(*operand.polygon, m_origin, chords));
         if (!areFinite(m_polygons.back()))
@@ -144,6 +146,7 @@ geos::Geometry Overlay::combine(const GEOSGeometry *a, const GEOSGeometry *b, do
 geos::Geometry Overlay::overlay(const std::vector<Rings> &polygons, double grid) const
 {
     std::vector<geos::Geometry> areas;
+    areas.reserve(polygons.size());
     for (const Rings &rings : polygons) {
         areas.push_back(areaOf(rings));
         if (!areas.back())

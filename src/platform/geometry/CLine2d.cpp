@@ -50,8 +50,8 @@ CBox2<double> CLine2d::Box() const
 {
     CBox2<double> box;
     if (!IsEmpty()) {
-        box.Add(StartPoint());
-        box.Add(EndPoint());
+        box.Add(CLine2d::GetPoint(StartT())); // as StartPoint(), without asking which curve this is
+        box.Add(CLine2d::GetPoint(EndT()));
     }
     return box;
 }

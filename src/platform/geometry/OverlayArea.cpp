@@ -26,6 +26,7 @@ bool holds(const Ring &ring, const CVec2<double> &point)
 std::vector<Ring> withoutDegenerate(const std::vector<Ring> &rings)
 {
     std::vector<Ring> result;
+    result.reserve(rings.size());
     for (Ring ring : rings) {
         dropRepeats(ring, std::equal_to<>());
         if (ring.size() > 2)
@@ -62,6 +63,7 @@ class Nesting
 public:
     explicit Nesting(const std::vector<Ring> &rings) : m_rings(rings)
     {
+        m_depths.reserve(rings.size());
         for (const Ring &ring : rings)
             m_depths.push_back(std::count_if(rings.begin(), rings.end(), [&ring](const Ring &other) {
                 return &other != &ring && holds(other, ring.front());

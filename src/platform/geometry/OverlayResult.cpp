@@ -21,7 +21,7 @@ double perimeterOf(const Ring &ring)
 {
     double sum = 0.0;
     for (std::size_t i = 0; i < ring.size(); ++i)
-        sum += ring[i].DistanceTo(ring[(i + 1) % ring.size()]);
+        sum += ring[i].DistanceTo(ring[i + 1 < ring.size() ? i + 1 : 0]);
     return sum;
 }
 
@@ -47,9 +47,10 @@ Ring withoutShortEdges(Ring ring)
 Ring withoutFlatCorners(const Ring &ring)
 {
     Ring result;
+    result.reserve(ring.size());
     for (std::size_t i = 0; i < ring.size(); ++i) {
         const CVec2<double> &before = result.empty() ? ring.back() : result.back();
-        const CVec2<double> way = ring[(i + 1) % ring.size()] - before;
+        const CVec2<double> way = ring[i + 1 < ring.size() ? i + 1 : 0] - before;
         const CVec2<double> step = ring[i] - before;
         const bool flat = std::fabs(way.Cross(step)) <= g_DefaultDistEpsilon * way.Length() && way.Dot(step) > 0.0 &&
                           way.Dot(step) < way.SqrLength();
@@ -68,7 +69,7 @@ CLoop *loopOf(Ring ring, const CVec2<double> &origin, bool counterClockwise)
         point += origin;
     auto *loop = new CLoop;
     for (std::size_t i = 0; i < ring.size(); ++i)
-        loop->AddCurve(new CLine2d(ring[i], ring[(i + 1) % ring.size()]), false);
+        loop->AddCurve(new CLine2d(ring[i], ring[i + 1 < ring.size() ? i + 1 : 0]), false);
     return loop;
 }
 

@@ -6,15 +6,18 @@ namespace vks {
 
 namespace {
 
+std::size_t after(std::size_t index, const Ring &ring) { return index + 1 < ring.size() ? index + 1 : 0; }
+
+/** An edge by its place, with its left end, by which edges are sorted. */
 struct Edge
 {
-    CVec2<double> start;
-    CVec2<double> end;
+    double left;
     const Ring *ring;
     std::size_t index;
 
-    double left() const { return std::min(start.x, end.x); }
-    double right() const { return std::max(start.x, end.x); }
+    const CVec2<double> &start() const { return (*ring)[index]; }
+    const CVec2<double> &end() const { return (*ring)[after(index, *ring)]; }
+    double right() const { return std::max(start().x, end().x); }
 };
 
 std::vector<Edge> edgesByLeftEnd(const std::vector<Ring> &rings)
@@ -26,34 +29,35 @@ std::vector<Edge> edgesByLeftEnd(const std::vector<Ring> &rings)
     edges.reserve(count);
     for (const Ring &ring : rings)
         for (std::size_t i = 0; i < ring.size(); ++i)
-            edges.push_back({ring[i], ring[i + 1 < ring.size() ? i + 1 : 0], &ring, i});
-    std::sort(edges.begin(), edges.end(), [](const Edge &a, const Edge &b) { return a.left() < b.left(); });
+            edges.push_back({std::min(ring[i].x, ring[after(i, ring)].x), &ring, i});
+    std::sort(edges.begin(), edges.end(), [](const Edge &a, const Edge &b) { return a.left < b.left; });
     return edges;
 }
 
-bool shareHeight(const Edge &a, const Edge &b)
+bool reachesInto(const Edge &edge, double low, double high)
 {
-    return std::max(a.start.y, a.end.y) >= std::min(b.start.y, b.end.y) &&
-           std::max(b.start.y, b.end.y) >= std::min(a.start.y, a.end.y);
+    const double start = edge.start().y;
+    const double end = edge.end().y;
+    return std::max(start, end) >= low && std::min(start, end) <= high;
 }
 
 /** 1 and -1 for the sides of an edge, 0 on its line. */
 int sideOf(const Edge &edge, const CVec2<double> &point)
 {
-    const double cross = (edge.end - edge.start).Cross(point - edge.start);
+    const double cross = (edge.end() - edge.start()).Cross(point - edge.start());
     return (cross > 0.0) - (cross < 0.0);
 }
 
 bool isNext(const Edge &edge, const Edge &next)
 {
-    return edge.ring == next.ring && next.index == (edge.index + 1 < edge.ring->size() ? edge.index + 1 : 0);
+    return edge.ring == next.ring && next.index == after(edge.index, *edge.ring);
 }
 
 /** An edge that runs back on the one before it. */
 bool turnsBack(const Edge &edge, const Edge &next)
 {
-    const CVec2<double> along = next.end - next.start;
-    const CVec2<double> before = edge.end - edge.start;
+    const CVec2<double> along = next.end() - next.start();
+    const CVec2<double> before = edge.end() - edge.start();
     return before.Cross(along) == 0.0 && before.Dot(along) < 0.0;
 }
 
@@ -63,7 +67,7 @@ bool meetWrongly(const Edge &a, const Edge &b)
         return turnsBack(a, b);
     if (isNext(b, a))
         return turnsBack(b, a);
-    return sideOf(a, b.start) * sideOf(a, b.end) <= 0 && sideOf(b, a.start) * sideOf(b, a.end) <= 0;
+    return sideOf(a, b.start()) * sideOf(a, b.end()) <= 0 && sideOf(b, a.start()) * sideOf(b, a.end()) <= 0;
 }
 
 } // namespace
@@ -73,8 +77,10 @@ bool ringsCross(const std::vector<Ring> &rings)
     const std::vector<Edge> edges = edgesByLeftEnd(rings);
     for (std::size_t i = 0; i < edges.size(); ++i) {
         const double right = edges[i].right();
-        for (std::size_t j = i + 1; j < edges.size() && edges[j].left() <= right; ++j)
-            if (shareHeight(edges[i], edges[j]) && meetWrongly(edges[i], edges[j]))
+        const double low = std::min(edges[i].start().y, edges[i].end().y);
+        const double high = std::max(edges[i].start().y, edges[i].end().y);
+        for (std::size_t j = i + 1; j < edges.size() && edges[j].left <= right; ++j)
+            if (reachesInto(edges[j], low, high) && meetWrongly(edges[i], edges[j]))
                 return true;
     }
     return false;

@@ -36,9 +36,19 @@ CBox2<double> rangeOf(const std::vector<std::vector<Ring>> &polygons)
     return range;
 }
 
+std::size_t cornerCount(const std::vector<std::vector<Ring>> &polygons)
+{
+    std::size_t count = 0;
+    for (const std::vector<Ring> &rings : polygons)
+        for (const Ring &ring : rings)
+            count += ring.size();
+    return count;
+}
+
 std::vector<Point> cornersFromLeft(const std::vector<std::vector<Ring>> &polygons, const CBox2<double> &range)
 {
     std::vector<Point> corners;
+    corners.reserve(cornerCount(polygons));
     for (const std::vector<Ring> &rings : polygons)
         for (const Ring &ring : rings)
             std::copy_if(ring.begin(), ring.end(), std::back_inserter(corners),
@@ -47,17 +57,24 @@ std::vector<Point> cornersFromLeft(const std::vector<std::vector<Ring>> &polygon
     return corners;
 }
 
-/** Appends the corners on an edge, in order along it. */
-void appendNodes(const Point &start, const Point &end, const std::vector<Point> &corners, double tolerance, Ring &ring)
+/** Appends the corners on an edge, in order along it.
+ *  @param corners  from left to right, all of them within the range */
+void appendNodes(const Point &start, const Point &end, const std::vector<Point> &corners, const CBox2<double> &range,
+                 double tolerance, Ring &ring)
 {
+    CBox2<double> box;
+    box.Add(start);
+    box.Add(end);
+    if (!box.Touches(range, tolerance))
+        return;
     const Point way = end - start;
     const double length = way.Length();
     if (!(length > 2 * tolerance))
         return;
-    const double low = std::min(start.y, end.y) - tolerance;
-    const double high = std::max(start.y, end.y) + tolerance;
-    const double last = std::max(start.x, end.x) + tolerance;
-    const Point first(std::min(start.x, end.x) - tolerance, low);
+    const double low = box.minPt.y - tolerance;
+    const double high = box.maxPt.y + tolerance;
+    const double last = box.maxPt.x + tolerance;
+    const Point first(box.minPt.x - tolerance, low);
     const auto before = static_cast<std::ptrdiff_t>(ring.size());
     for (auto corner = std::lower_bound(corners.begin(), corners.end(), first, isLeftOf);
          corner != corners.end() && corner->x <= last; ++corner) {
@@ -87,7 +104,7 @@ void nodeRings(std::vector<std::vector<Ring>> &polygons, double tolerance)
             noded.reserve(ring.size());
             for (std::size_t i = 0; i < ring.size(); ++i) {
                 noded.push_back(ring[i]);
-                appendNodes(ring[i], ring[(i + 1) % ring.size()], corners, tolerance, noded);
+                appendNodes(ring[i], ring[i + 1 < ring.size() ? i + 1 : 0], corners, range, tolerance, noded);
             }
             ring = std::move(noded);
         }

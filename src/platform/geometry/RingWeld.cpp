@@ -19,11 +19,20 @@ std::size_t tableSize(std::size_t expected)
     return size;
 }
 
-/** Cells beyond what an integer holds share the last one. */
-std::uint64_t cellNumber(double cell)
+/** The largest whole number at or below a value; what an integer cannot hold counts as the last that it can. */
+std::int64_t cellOf(double value)
 {
     constexpr double last = 9e18;
-    return static_cast<std::uint64_t>(static_cast<std::int64_t>(std::max(-last, std::min(last, cell))));
+    const double held = std::max(-last, std::min(last, value));
+    const auto towardsZero = static_cast<std::int64_t>(held);
+    return towardsZero - (static_cast<double>(towardsZero) > held ? 1 : 0);
+}
+
+std::size_t slotOf(std::int64_t column, std::int64_t row, std::size_t slotCount)
+{
+    constexpr std::uint64_t mixer = 0x9E3779B97F4A7C15ULL;
+    const std::uint64_t mixed = (static_cast<std::uint64_t>(column) * mixer ^ static_cast<std::uint64_t>(row)) * mixer;
+    return static_cast<std::size_t>(mixed >> 32) & (slotCount - 1);
 }
 
 double rounded(double value, double grid) { return grid > 0.0 ? std::nearbyint(value / grid) * grid : value; }
@@ -31,17 +40,11 @@ double rounded(double value, double grid) { return grid > 0.0 ? std::nearbyint(v
 } // namespace
 
 RingWeld::RingWeld(std::size_t expected, double tolerance, double grid)
-    : m_tolerance(tolerance), m_grid(grid), m_cell(kCellPerTolerance * tolerance), m_heads(tableSize(expected), -1)
+    : m_tolerance(tolerance), m_grid(grid), m_cellsPerMm(1.0 / (kCellPerTolerance * tolerance)),
+      m_heads(tableSize(expected), -1)
 {
     m_kept.reserve(expected);
     m_next.reserve(expected);
-}
-
-std::size_t RingWeld::slotOf(double column, double row) const
-{
-    constexpr std::uint64_t mixer = 0x9E3779B97F4A7C15ULL;
-    const std::uint64_t mixed = (cellNumber(column) * mixer ^ cellNumber(row)) * mixer;
-    return static_cast<std::size_t>(mixed >> 32) & (m_heads.size() - 1);
 }
 
 void RingWeld::searchCell(std::size_t slot, const CVec2<double> &point, int &found) const
@@ -54,18 +57,18 @@ void RingWeld::searchCell(std::size_t slot, const CVec2<double> &point, int &fou
 
 CVec2<double> RingWeld::weld(const CVec2<double> &point)
 {
-    const double firstColumn = std::floor((point.x - m_tolerance) / m_cell);
-    const double firstRow = std::floor((point.y - m_tolerance) / m_cell);
-    const bool twoColumns = std::floor((point.x + m_tolerance) / m_cell) > firstColumn;
-    const bool twoRows = std::floor((point.y + m_tolerance) / m_cell) > firstRow;
+    const std::int64_t firstColumn = cellOf((point.x - m_tolerance) * m_cellsPerMm);
+    const std::int64_t firstRow = cellOf((point.y - m_tolerance) * m_cellsPerMm);
+    const bool twoColumns = cellOf((point.x + m_tolerance) * m_cellsPerMm) > firstColumn;
+    const bool twoRows = cellOf((point.y + m_tolerance) * m_cellsPerMm) > firstRow;
     int found = -1;
     for (int i = 0; i <= (twoColumns ? 1 : 0); ++i)
         for (int j = 0; j <= (twoRows ? 1 : 0); ++j)
-            searchCell(slotOf(firstColumn + i, firstRow + j), point, found);
+            searchCell(slotOf(firstColumn + i, firstRow + j, m_heads.size()), point, found);
     if (found < 0) {
         found = static_cast<int>(m_kept.size());
         m_kept.push_back(point);
-        const std::size_t slot = slotOf(std::floor(point.x / m_cell), std::floor(point.y / m_cell));
+        const std::size_t slot = slotOf(cellOf(point.x * m_cellsPerMm), cellOf(point.y * m_cellsPerMm), m_heads.size());
         m_next.push_back(m_heads[slot]);
         m_heads[slot] = found;
     }

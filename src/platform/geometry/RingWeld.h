@@ -21,12 +21,11 @@ public:
     CVec2<double> weld(const CVec2<double> &point);
 
 private:
-    std::size_t slotOf(double column, double row) const;
     void searchCell(std::size_t slot, const CVec2<double> &point, int &found) const;
 
     double m_tolerance;
     double m_grid;
-    double m_cell; // side of a table cell, mm
+    double m_cellsPerMm; // of the table
     std::vector<CVec2<double>> m_kept;
     std::vector<int> m_next;  // the kept vertex before this one in the same slot, -1 for none
     std::vector<int> m_heads; // the last kept vertex by slot

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "ORVCADModelDataExport.h"
+
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QLatin1String>
+
+#include <array>
+#include <cstddef>
+
+namespace encoding {
+
+/** The members of an object for a reader that seeks the same keys in the same order in one object after the other: it
+ *  gives what QJsonObject gives. QJsonObject compares several of its keys for each one sought, which takes longer than
+ *  all else that reading a record does; objects written alike have their members in the same places, so that one look
+ *  where a key was the last time finds it.
+ *
+ *  Refers to the object and to the places, which outlive it; the object does not change meanwhile. */
+class ORVCADMODELDATA_EXPORT ObjectMembers
+{
+public:
+    /** Where each of the keys sought was found in the last object. Any places are good ones: each is looked at first and
+     *  never trusted. */
+    template <std::size_t count> using Places = std::array<int, count>;
+
+    template <std::size_t count>
+    ObjectMembers(const QJsonObject &object, Places<count> &places)
+        : m_object(object), m_place(places.data()), m_end(places.data() + count)
+    {}
+
+    /** Undefined for a key that the object lacks. */
+    QJsonValue value(QLatin1String key) const;
+    bool contains(QLatin1String key) const;
+
+private:
+    QJsonObject::const_iterator find(QLatin1String key) const;
+
+    const QJsonObject &m_object;
+    mutable int *m_place; ///< of the key that is sought next
+    int *m_end;
+};
+
+} // namespace encoding
