@@ -11,6 +11,7 @@
 #include "drawing/ORVCADSubDrawingDataSet.h"
 #include "suite/Road.h"
 
+#include <QHash>
 #include <QJsonArray>
 #include <QVector>
 
@@ -69,11 +70,11 @@ void fillParts(const Drawings &drawings, ORVCADDisposeInfoData &set)
 
 QJsonValue partsByHand(const Drawings &drawings)
 {
-    const QJsonArray parents = arrayOf(drawings, [](const Drawing &drawing) {
-        return QJsonObject{{QLatin1String("parenDrawing"), drawing.name},
-                           {QLatin1String("subDrawing"), QJsonArray{drawing.name}},
-                           {QLatin1String("count"), 1}};
-    });
+    QJsonArray parents;
+    for (const Drawing *drawing : drawings.hashed)
+        parents.append(QJsonObject{{QLatin1String("count"), 1},
+                                   {QLatin1String("parenDrawing"), drawing->name},
+                                   {QLatin1String("subDrawing"), QJsonArray{drawing->name}}});
     return QJsonObject{{QLatin1String("savePath"), QString()}, {QLatin1String("drawingInfo"), parents}};
 }
 
@@ -291,6 +292,11 @@ Drawings::Drawings(std::size_t drawings, std::size_t floors)
     }
     for (int i = 0; i < kRowsOfATable; ++i)
         rowNumbers.append(QString::number(i));
+    QHash<QString, const Drawing *> byPath;
+    for (const Drawing &drawing : list)
+        byPath.insert(drawing.path, &drawing);
+    for (const Drawing *drawing : qAsConst(byPath))
+        hashed.push_back(drawing);
 }
 
 const std::vector<DrawingSetFamily> &drawingSetFamilies()

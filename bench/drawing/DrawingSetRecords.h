@@ -26,6 +26,8 @@ struct Drawings
     Drawings(std::size_t drawings, std::size_t floors);
 
     std::vector<Drawing> list;
+    /** In the order of a hash of their paths, as a set keeps its sub-drawings: out of the caches for both sides. */
+    std::vector<const Drawing *> hashed;
     QStringList floorNames;
     QStringList tableNames; ///< one for each drawing
     QStringList rowNumbers;

@@ -25,7 +25,6 @@ constexpr double kWritten = 1.25;
 constexpr double kRead = 1.25;
 constexpr double kGrowth = 1.8;
 constexpr double kWrittenMemory = 4.0;
-constexpr double kShortWrittenMemory = 5.3; // records of a few short values: the QJsonObjects by hand take as much
 constexpr double kReadMemory = 6.0;
 
 constexpr std::size_t kDrawingsOfAFloor = 10;
@@ -133,7 +132,7 @@ auto reading(const FamilyList &families)
     };
 }
 
-void addRoads(bench::Roads &roads, const std::string &name, const std::vector<std::size_t> &sizes, double writtenMemory,
+void addRoads(bench::Roads &roads, const std::string &name, const std::vector<std::size_t> &sizes,
               const FamilyList &families)
 {
     FamilyList withReader;
@@ -142,7 +141,7 @@ void addRoads(bench::Roads &roads, const std::string &name, const std::vector<st
     roads.push_back({name + " written",
                      "QJsonObjects by hand, toJson",
                      sizes,
-                     {kWritten, kGrowth, writtenMemory},
+                     {kWritten, kGrowth, kWrittenMemory},
                      writing(families)});
     if (!withReader.empty())
         roads.push_back(
@@ -156,13 +155,13 @@ bool isHeavy(const Family &family) { return family.ofDrawing > 1; }
 bench::Roads bench::drawingSetRoads()
 {
     Roads roads;
-    addRoads(roads, "drawing set", kSizes, kWrittenMemory, drawingSetFamilies());
+    addRoads(roads, "drawing set", kSizes, drawingSetFamilies());
     for (const Family &family : drawingSetFamilies()) {
         const std::string name = std::string("drawing set: ") + family.name;
         if (isHeavy(family))
-            addRoads(roads, name, kHeavySizes, kWrittenMemory, {family});
+            addRoads(roads, name, kHeavySizes, {family});
         else
-            addRoads(roads, name, kFamilySizes, kShortWrittenMemory, {family});
+            addRoads(roads, name, kFamilySizes, {family});
     }
     return roads;
 }

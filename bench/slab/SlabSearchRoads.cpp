@@ -28,7 +28,7 @@ constexpr double kReach = 2.0; // mm between boxes that touch
 
 // Bounds.
 constexpr double kBareTree = 1.3;
-constexpr double kLargeBareTree = 1.6; // where the slabs that are found lie out of the caches
+constexpr double kLargeBareTree = 2.0; // each hit is asked for its kind, and lies out of the caches there
 constexpr double kLookThrough = 0.06;
 constexpr double kComparisonGrowth = 1.3; // of which the tree is a part
 

@@ -29,13 +29,8 @@ ORVCADBoardLocalModelSearchService_Sample::ORVCADBoardLocalModelSearchService_Sa
 {
     if (!model)
         return;
-    const std::vector<const Object *> objects = model->findObjects(mask);
-    m_entries.reserve(objects.size()); // so that their places stay
-    for (const Object *object : objects) {
-        m_entries.push_back(
-            {const_cast<Object *>(object), object->type()}); // given out to those who may change the model
-        m_tree->add(object->shape().box(), &m_entries.back());
-    }
+    for (const Object *object : model->findObjects(mask))
+        m_tree->add(object->shape().box(), const_cast<Object *>(object)); // given out to those who may change the model
 }
 
 std::vector<ORVCADBoardLocalModelSearchService_Sample::Object *> ORVCADBoardLocalModelSearchService_Sample::find(
@@ -45,9 +40,9 @@ std::vector<ORVCADBoardLocalModelSearchService_Sample::Object *> ORVCADBoardLoca
     std::vector<Object *> objects;
     objects.reserve(hits.size());
     for (void *data : hits) {
-        const auto *entry = static_cast<const Entry *>(data);
-        if (entry->kind & mask)
-            objects.push_back(entry->object);
+        auto *object = static_cast<Object *>(data);
+        if (object->type() & mask)
+            objects.push_back(object);
     }
     return objects;
 }

@@ -14,7 +14,7 @@ class ORVBoxTreeImpl;
  *      if (search.find(recognised->shape(), Types::BoardKind).empty())
  *          ... // a new slab
  *
- *  The index is made once, from where the elements stand then and what their kinds are. It holds pointers to them, so the model outlives the
+ *  The index is made once, from where the elements stand then. It holds pointers to them, so the model outlives the
  *  service and neither moves nor loses elements meanwhile. One service serves one thread.
  *
  *  Each `find` takes an OR of Object::Types: only hits of those kinds are given. They stand in the order of the model,
@@ -46,13 +46,5 @@ public:
 private:
     using TreeHolder = std::unique_ptr<ORVBoxTreeImpl, void (*)(ORVBoxTreeImpl *)>;
 
-    /** An element, and its kind, for which no query then reads the element itself. */
-    struct Entry
-    {
-        Object *object;
-        Object::Types kind;
-    };
-
-    std::vector<Entry> m_entries;
-    TreeHolder m_tree; // data: Entry *
+    TreeHolder m_tree; // data: Object *
 };

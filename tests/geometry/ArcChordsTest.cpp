@@ -13,7 +13,7 @@ namespace {
 vks::Ring corners(const ArcChords &chords, const vks::CCurve2d &curve)
 {
     vks::Ring ring;
-    chords.appendCorners(curve, ring);
+    chords.appendCorners(curve, curve.StartPoint(), ring);
     return ring;
 }
 

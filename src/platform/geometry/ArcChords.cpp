@@ -100,15 +100,15 @@ void ArcChords::learn(const CCurve2d &curve)
         circle->endAngles.push_back((end - m_origin - circle->centre).Angle());
 }
 
-void ArcChords::appendCorners(const CCurve2d &curve, Ring &ring) const
+void ArcChords::appendCorners(const CCurve2d &curve, const CVec2<double> &start, Ring &ring) const
 {
-    ring.push_back(curve.StartPoint() - m_origin);
+    ring.push_back(start - m_origin);
     const CArc2d *arc = soundArc(curve);
     if (!arc)
         return;
     const Circle circle = circleOf(*arc);
-    const double start = (arc->StartPoint() - m_origin - circle.centre).Angle();
-    for (const double angle : cornerAngles(circle.radius, circle.endAngles, start, arc->SweepAngle()))
+    const double startAngle = (arc->StartPoint() - m_origin - circle.centre).Angle();
+    for (const double angle : cornerAngles(circle.radius, circle.endAngles, startAngle, arc->SweepAngle()))
         ring.push_back(circle.centre + CVec2<double>(std::cos(angle), std::sin(angle)) * circle.radius);
 }
 

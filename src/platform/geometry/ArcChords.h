@@ -26,8 +26,9 @@ public:
     void learn(const CCurve2d &curve);
     bool hasArcs() const { return !m_circles.empty(); }
 
-    /** Appends the start of a curve and the corners within it, not its end. */
-    void appendCorners(const CCurve2d &curve, Ring &ring) const;
+    /** Appends the start of a curve and the corners within it, not its end.
+     *  @param start  of the curve, which a caller who goes along a loop has at hand */
+    void appendCorners(const CCurve2d &curve, const CVec2<double> &start, Ring &ring) const;
 
 private:
     struct Circle

@@ -49,11 +49,13 @@ Ring ringOf(const CLoop &loop, const CVec2<double> &origin, const ArcChords &cho
     Ring ring;
     const auto &curves = loop.Curves();
     ring.reserve(curves.size());
+    CVec2<double> start = curves.empty() ? CVec2<double>() : curves.front()->StartPoint();
     for (std::size_t i = 0; i < curves.size(); ++i) {
-        chords.appendCorners(*curves[i], ring);
+        chords.appendCorners(*curves[i], start, ring);
+        start = curves[i + 1 < curves.size() ? i + 1 : 0]->StartPoint();
         // A loop with a gap keeps both of its sides; welding makes one point of them where they agree.
-        if (curves[i]->EndPoint() != curves[i + 1 < curves.size() ? i + 1 : 0]->StartPoint())
-            ring.push_back(curves[i]->EndPoint() - origin);
+        if (const CVec2<double> end = curves[i]->EndPoint(); end != start)
+            ring.push_back(end - origin);
     }
     return ring;
 }
