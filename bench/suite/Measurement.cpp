@@ -16,7 +16,7 @@ namespace bench {
 namespace {
 
 constexpr double kLeastSample = 2e6; // ns: shorter ones are repeated to stand above the clock's jitter
-constexpr double kTimeForARow = 2e9; // ns
+constexpr double kTimeForARow = 1e9; // ns
 constexpr double kFewestSamples = 3;
 constexpr double kMostSamples = 41;
 constexpr double kBytesPerUnit = 1024.0; // of ru_maxrss

@@ -4,25 +4,20 @@ namespace encoding {
 
 QJsonValue ObjectMembers::value(QLatin1String key) const
 {
-    const auto member = find(key);
-    return member != m_object.end() ? member.value() : QJsonValue(QJsonValue::Undefined);
+    const int place = placeOf(key);
+    return place < m_size ? (m_object.begin() + place).value() : QJsonValue(QJsonValue::Undefined);
 }
 
-bool ObjectMembers::contains(QLatin1String key) const { return find(key) != m_object.end(); }
+bool ObjectMembers::contains(QLatin1String key) const { return placeOf(key) < m_size; }
 
-QJsonObject::const_iterator ObjectMembers::find(QLatin1String key) const
+int ObjectMembers::placeOf(QLatin1String key) const
 {
-    if (m_place == m_end)
-        return m_object.find(key);
-    int &place = *m_place++;
-    if (place >= 0 && place < m_object.size()) {
-        const auto guess = m_object.begin() + place;
-        if (guess.key() == key)
-            return guess;
-    }
-    const auto found = m_object.find(key);
-    place = found != m_object.end() ? found - m_object.begin() : -1;
-    return found;
+    const auto search = [&] { return m_object.find(key) - m_object.begin(); };
+    if (m_next == m_end)
+        return search();
+    int &place = *m_next++;
+    const bool isThere = place >= 0 && place < m_size && (m_object.begin() + place).key() == key;
+    return isThere ? place : place = search();
 }
 
 } // namespace encoding

@@ -26,7 +26,7 @@ public:
 
     template <std::size_t count>
     ObjectMembers(const QJsonObject &object, Places<count> &places)
-        : m_object(object), m_place(places.data()), m_end(places.data() + count)
+        : m_object(object), m_size(object.size()), m_next(places.data()), m_end(places.data() + count)
     {}
 
     /** Undefined for a key that the object lacks. */
@@ -34,10 +34,12 @@ public:
     bool contains(QLatin1String key) const;
 
 private:
-    QJsonObject::const_iterator find(QLatin1String key) const;
+    /** The number of members for a key that the object lacks. */
+    int placeOf(QLatin1String key) const;
 
     const QJsonObject &m_object;
-    mutable int *m_place; ///< of the key that is sought next
+    int m_size;          // which QJsonObject works out anew each time
+    mutable int *m_next; ///< where the key that is sought next was found
     int *m_end;
 };
 
