@@ -2,7 +2,7 @@
 
 #include <sqlite3.h>
 
-#include <algorithm>
+#include <cstddef>
 
 namespace hbx::embedded {
 namespace {
@@ -11,12 +11,16 @@ constexpr ushort kFirstBeyondAscii = 0x80;
 
 void encode(const QString &text, std::string &utf8)
 {
-    const auto *units = reinterpret_cast<const ushort *>(text.utf16());
-    const auto *end = units + text.size();
-    utf8.clear();
-    if (std::all_of(units, end, [](ushort unit) { return unit < kFirstBeyondAscii; }))
-        std::transform(units, end, std::back_inserter(utf8), [](ushort unit) { return static_cast<char>(unit); });
-    else
+    const QChar *characters = text.constData();
+    const auto size = static_cast<std::size_t>(text.size());
+    utf8.resize(size);
+    ushort seen = 0;
+    for (std::size_t i = 0; i < size; ++i) {
+        const ushort unit = characters[i].unicode();
+        seen |= unit;
+        utf8[i] = static_cast<char>(unit);
+    }
+    if (seen >= kFirstBeyondAscii)
         utf8 = text.toStdString();
 }
 
