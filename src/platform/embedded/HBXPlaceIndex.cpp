@@ -97,13 +97,14 @@ void HBXPlaceIndex::file(HBXElementDrawObj *object)
 
 void HBXPlaceIndex::fileAll()
 {
-    for (std::size_t i = 0; i < m_queue.size(); ++i)
-        if (HBXElementDrawObj *object = m_queue[i]) {
-            unfile(object);
-            file(object);
-            filingOf(*object).turn.reset();
-            m_queue[i] = nullptr; // where one fails, those behind it keep their turn
-        }
+    for (HBXElementDrawObj *&object : m_queue) {
+        if (!object)
+            continue;
+        unfile(object);
+        file(object);
+        filingOf(*object).turn.reset();
+        object = nullptr; // where one fails, those behind it keep their turn
+    }
     m_queue.clear();
 }
 
