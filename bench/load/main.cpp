@@ -4,6 +4,7 @@
 #include "load/LoadRunner.h"
 #include "load/LoadWork.h"
 #include "load/ReaderSteps.h"
+#include "support/OptionTable.h"
 
 #include <QDir>
 #include <QFile>
@@ -26,31 +27,6 @@ constexpr const char *kUsage =
     "  --only STEP  steps that have this in their name\n"
     "  --seed N     of the building (1)\n"
     "  --dir DIR    where the files go, some 2 GB at most (a new folder in the temporary one)\n";
-
-/** Takes a flag, or a name and its value, off the front of the list. @return whether it was understood */
-bool takeOption(QStringList &arguments, load::LoadOptions &options)
-{
-    const QString name = arguments.takeFirst();
-    if (name == QLatin1String("--small"))
-        return options.isSmall = true;
-    if (name == QLatin1String("--json"))
-        return options.isJson = true;
-    if (name == QLatin1String("--compact"))
-        return options.isCompact = true;
-    if (arguments.isEmpty())
-        return false;
-    const QString value = arguments.takeFirst();
-    bool isUnderstood = true;
-    if (name == QLatin1String("--only"))
-        options.only = value;
-    else if (name == QLatin1String("--seed"))
-        options.seed = value.toUInt(&isUnderstood);
-    else if (name == QLatin1String("--dir"))
-        options.folder = value;
-    else
-        isUnderstood = false;
-    return isUnderstood;
-}
 
 int runAll(const load::LoadOptions &options)
 {
@@ -81,11 +57,15 @@ int main(int argc, char **argv)
     load::LoadOptions options;
     options.self = QFileInfo(QStringLiteral("/proc/self/exe")).canonicalFilePath();
     options.command = QFileInfo(options.self).dir().filePath(QStringLiteral("orvcad"));
-    while (!arguments.isEmpty())
-        if (!takeOption(arguments, options)) {
-            std::fputs(kUsage, stderr);
-            return 1;
-        }
+    const bench::OptionTable table{
+        {{"--small", &options.isSmall}, {"--json", &options.isJson}, {"--compact", &options.isCompact}},
+        {{"--only", bench::textInto(options.only)},
+         {"--seed", bench::numberInto(options.seed)},
+         {"--dir", bench::textInto(options.folder)}}};
+    if (!bench::takeOptions(arguments, table)) {
+        std::fputs(kUsage, stderr);
+        return 1;
+    }
     const QTemporaryDir folder;
     if (options.folder.isEmpty())
         options.folder = folder.path();

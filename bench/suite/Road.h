@@ -43,8 +43,8 @@ struct Sides
     Work floor = {};            ///< none: times and memory are told alone
     double items = 0.0;         ///< of one run
     double documentBytes = 0.0; ///< that ours reads or writes in one run; 0: memory is told nowhere
-    std::function<QString()> wrong =
-        {}; ///< what keeps the figures from saying anything, or nothing; asked once, before all runs
+    /** What keeps the figures from saying anything, or nothing; asked once, before all runs. */
+    std::function<QString()> wrong = {};
 };
 
 /** Largest values that are good; 0 only tells the value. */

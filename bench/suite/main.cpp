@@ -1,5 +1,6 @@
 #include "suite/Families.h"
 #include "suite/RoadTable.h"
+#include "support/OptionTable.h"
 
 #include <QFile>
 #include <QStringList>
@@ -31,36 +32,20 @@ struct Options
     int runs = 0;
 };
 
-/** Takes a flag, or a name and its value, off the front of the list. @return whether it was understood */
-bool takeOption(QStringList &arguments, Options &options)
-{
-    const QString name = arguments.takeFirst();
-    if (name == QLatin1String("--json"))
-        return options.isJson = true;
-    if (name == QLatin1String("--quick"))
-        return options.isQuick = true;
-    if (name == QLatin1String("--list"))
-        return options.isList = true;
-    if (arguments.isEmpty())
-        return false;
-    const QString value = arguments.takeFirst();
-    bool isUnderstood = true;
-    if (name == QLatin1String("--only"))
-        options.only = value;
-    else if (name == QLatin1String("--size"))
-        options.size = value.toUInt(&isUnderstood);
-    else if (name == QLatin1String("--run"))
-        options.runs = static_cast<int>(value.toUInt(&isUnderstood));
-    else
-        isUnderstood = false;
-    return isUnderstood;
-}
-
 /** A quick run tells no times, so no bound holds of them; and the smallest size shows as much as any. */
 void makeQuick(bench::Road &road)
 {
     road.bounds = {};
     road.sizes.resize(1);
+}
+
+std::vector<std::size_t> chosenSizes(const bench::Road &road, const Options &options)
+{
+    std::vector<std::size_t> sizes;
+    for (const std::size_t size : road.sizes)
+        if (options.size == 0 || options.size == size)
+            sizes.push_back(size);
+    return sizes;
 }
 
 bench::Roads chosen(const Options &options)
@@ -72,18 +57,10 @@ bench::Roads chosen(const Options &options)
                 continue;
             if (options.isQuick)
                 makeQuick(road);
-            roads.push_back(std::move(road));
+            if (!chosenSizes(road, options).empty())
+                roads.push_back(std::move(road));
         }
     return roads;
-}
-
-std::vector<std::size_t> chosenSizes(const bench::Road &road, const Options &options)
-{
-    std::vector<std::size_t> sizes;
-    for (const std::size_t size : road.sizes)
-        if (options.size == 0 || options.size == size)
-            sizes.push_back(size);
-    return sizes;
 }
 
 int run(const bench::Roads &roads, const Options &options)
@@ -107,14 +84,19 @@ int main(int argc, char **argv)
     for (int i = 1; i < argc; ++i)
         arguments.append(QFile::decodeName(argv[i]));
     Options options;
-    while (!arguments.isEmpty())
-        if (!takeOption(arguments, options)) {
-            std::fputs(kUsage, stderr);
-            return 1;
-        }
+    const bench::OptionTable table{
+        {{"--json", &options.isJson}, {"--quick", &options.isQuick}, {"--list", &options.isList}},
+        {{"--only", bench::textInto(options.only)},
+         {"--size", bench::numberInto(options.size)},
+         {"--run", bench::numberInto(options.runs)}}};
+    if (!bench::takeOptions(arguments, table)) {
+        std::fputs(kUsage, stderr);
+        return 1;
+    }
     const bench::Roads roads = chosen(options);
     if (roads.empty()) {
-        std::fprintf(stderr, "no road has \"%s\" in its name; --list shows them\n", qUtf8Printable(options.only));
+        std::fprintf(stderr, "no road has \"%s\" in its name and such a size; --list shows them\n",
+                     qUtf8Printable(options.only));
         return 1;
     }
     if (!options.isList && options.runs == 0)

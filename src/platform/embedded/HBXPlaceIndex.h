@@ -33,7 +33,7 @@ struct HBXPlaceFiling
     std::optional<std::size_t> turn;  ///< in the queue of those whose place changed
 };
 
-/** Finds objects by where their boxes lie: a hash of the lower corners, in cells that are as large as the boxes in them. An
+/** Finds objects by where their boxes lie: a hash of the lower corners, in cells that are larger than the boxes in them. An
  *  object whose place changed is filed anew at the next question, so that a change costs nothing more. Does not own the
  *  objects. */
 class HBXPlaceIndex
