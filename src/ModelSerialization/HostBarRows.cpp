@@ -56,16 +56,24 @@ SlabIds slabsOf(const HostSlabValues &values)
 }
 
 /** In the order in which they come. */
-std::vector<AreaBar> areaBars(const QList<IHBXElementDrawObj *> &objects)
+struct AreaBars
 {
-    std::vector<AreaBar> bars;
-    bars.reserve(static_cast<std::size_t>(objects.size()));
+    std::vector<AreaBar> single;
+    std::vector<AreaBar> straddling;
+};
+
+AreaBars areaBars(const QList<IHBXElementDrawObj *> &objects)
+{
+    AreaBars bars;
     for (IHBXElementDrawObj *object : objects) {
         const HostSlabValues values(*object);
-        SlabIds slabs = slabsOf(values);
-        if (!slabs.isEmpty()) // meant: a bar of no slab has no row, and comes in nowhere
-            bars.push_back({object, slabs, values.integer(property::position), values.curve(property::curveData),
-                            values.text(property::barInfo)});
+        const SlabIds slabs = slabsOf(values);
+        if (slabs.isEmpty()) // meant: a bar of no slab has no row, and comes in nowhere
+            continue;
+        const bool isSingle = values.integer(property::type) == 0;
+        (isSingle ? bars.single : bars.straddling)
+            .push_back({object, slabs, values.integer(property::position), values.curve(property::curveData),
+                        values.text(property::barInfo)});
     }
     return bars;
 }
@@ -95,6 +103,28 @@ void join(std::vector<AreaGroup> &groups, const AreaBar &bar)
     }
     if (!joined)
         groups.push_back({&bar});
+}
+
+std::vector<NumberedBar> rowsOf(const std::vector<AreaBar> &bars)
+{
+    std::vector<const AreaBar *> sorted;
+    sorted.reserve(bars.size());
+    for (const AreaBar &bar : bars)
+        sorted.push_back(&bar);
+    std::stable_sort(sorted.begin(), sorted.end(), hasEarlierPlace);
+
+    std::vector<NumberedBar> rows;
+    rows.reserve(bars.size());
+    for (auto first = sorted.begin(); first != sorted.end();) {
+        std::vector<AreaGroup> groups;
+        const AreaBar *place = *first;
+        for (; first != sorted.end() && !hasEarlierPlace(place, *first); ++first)
+            join(groups, **first);
+        for (AreaGroup &group : groups)
+            number(
+                group, [](const AreaBar &bar) -> const QString & { return bar.barInfo; }, rows);
+    }
+    return rows;
 }
 
 // ---- Line bars
@@ -159,27 +189,10 @@ private:
 
 } // namespace
 
-std::vector<NumberedBar> areaBarRows(const QList<IHBXElementDrawObj *> &objects)
+AreaBarRows areaBarRows(const QList<IHBXElementDrawObj *> &objects)
 {
-    const std::vector<AreaBar> bars = areaBars(objects);
-    std::vector<const AreaBar *> sorted;
-    sorted.reserve(bars.size());
-    for (const AreaBar &bar : bars)
-        sorted.push_back(&bar);
-    std::stable_sort(sorted.begin(), sorted.end(), hasEarlierPlace);
-
-    std::vector<NumberedBar> rows;
-    rows.reserve(bars.size());
-    for (auto first = sorted.begin(); first != sorted.end();) {
-        std::vector<AreaGroup> groups;
-        const AreaBar *place = *first;
-        for (; first != sorted.end() && !hasEarlierPlace(place, *first); ++first)
-            join(groups, **first);
-        for (AreaGroup &group : groups)
-            number(
-                group, [](const AreaBar &bar) -> const QString & { return bar.barInfo; }, rows);
-    }
-    return rows;
+    const AreaBars bars = areaBars(objects);
+    return {rowsOf(bars.single), rowsOf(bars.straddling)};
 }
 
 std::vector<NumberedBar> lineBarRows(const QList<IHBXElementDrawObj *> &bars)

@@ -145,15 +145,9 @@ template <typename Bar, typename Straddling>
 void Service::FromHost::readAreaBars(const QSet<qint64> &types, Creator<Bar> creator,
                                      Creator<Straddling> straddlingCreator) const
 {
-    Objects single;
-    Objects straddling;
-    const Objects objects = objectsOf(types);
-    for (Object *object : objects) {
-        const bool isSingle = slabhost::HostSlabValues(*object).integer(slabhost::property::type) == 0;
-        (isSingle ? single : straddling).append(object);
-    }
-    readBars(slabhost::areaBarRows(single), creator);
-    readBars(slabhost::areaBarRows(straddling), straddlingCreator);
+    const slabhost::AreaBarRows rows = slabhost::areaBarRows(objectsOf(types));
+    readBars(rows.single, creator);
+    readBars(rows.straddling, straddlingCreator);
 }
 
 // ---- The service's operations

@@ -33,7 +33,7 @@ protected:
             out.append(nameOf(bar.bar->element()) + ' ' + QString::number(bar.row));
         return out;
     }
-    QStringList areaRows() const { return told(areaBarRows(objects)); }
+    QStringList areaRows() const { return told(areaBarRows(objects).single); }
     QStringList lineRows() const { return told(lineBarRows(objects)); }
 
     QList<IHBXElementDrawObj *> objects;
@@ -144,6 +144,16 @@ TEST_F(HostBarRowsTest, barsWithoutACurveAreAGroupOfTheirOwn)
     bar("one", "C")->properties()->setCurve(L"CurveData", nullptr, true);
     bar("other", "B")->properties()->setCurve(L"CurveData", nullptr, true);
     EXPECT_EQ(areaRows(), (QStringList{"drawn 0", "other 0", "one 1"}));
+}
+
+TEST_F(HostBarRowsTest, barsThatStraddleSlabsAreNumberedApart)
+{
+    bar("one", "B");
+    setNumbers(bar("over two", "C"), {{L"Type", 1}});
+    setNumbers(bar("over three", "A"), {{L"Type", 2}});
+    bar("other", "A");
+    EXPECT_EQ(areaRows(), (QStringList{"other 0", "one 1"}));
+    EXPECT_EQ(told(areaBarRows(objects).straddling), (QStringList{"over three 0", "over two 1"}));
 }
 
 // ---- Line bars

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 namespace hbx::embedded {
 namespace {
 
@@ -65,6 +67,23 @@ TEST_F(HBXIdListTest, removingEveryObjectLeavesAnEmptyList)
     EXPECT_TRUE(list.isEmpty());
     EXPECT_EQ(list.at(0), nullptr);
     EXPECT_TRUE(list.objects().empty());
+}
+
+TEST_F(HBXIdListTest, severalListsAreMergedByIdWithoutTheirGaps)
+{
+    std::array<qint64, 3> others{4, 2, 10};
+    HBXIdList<qint64> second;
+    for (qint64 &id : others)
+        second.insert(id, &id);
+    list.remove(5);
+    QList<qint64 *> merged{&others[0]}; // is replaced
+    HBXIdList<qint64>::merge({&list, &second}, merged);
+    std::vector<qint64> all;
+    for (const qint64 *id : qAsConst(merged))
+        all.push_back(*id);
+    EXPECT_EQ(all, (std::vector<qint64>{1, 2, 3, 4, 7, 8, 9, 10}));
+    HBXIdList<qint64>::merge({}, merged);
+    EXPECT_TRUE(merged.isEmpty());
 }
 
 } // namespace

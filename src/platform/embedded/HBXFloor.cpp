@@ -3,6 +3,9 @@
 #include "platform/embedded/HBXElementDrawObj.h"
 #include "platform/embedded/HBXRegion.h"
 
+#include <algorithm>
+#include <vector>
+
 namespace hbx::embedded {
 
 HBXFloor::HBXFloor(HBXRegion &region, FloorRecord record) : m_region(region), m_record(std::move(record)) {}
@@ -11,9 +14,9 @@ IHBXRegion *HBXFloor::region() const { return &m_region; }
 
 void HBXFloor::drawObjsOfTypes(QList<IHBXElementDrawObj *> &out, const QSet<qint64> &types, bool)
 {
-    out.clear();
-    m_contents.forTypes(types, [&out](HBXTypeContents &type) { addTo(out, type.drawObjs); });
-    sortById(out);
+    std::vector<const HBXIdList<HBXElementDrawObj> *> lists;
+    m_contents.forTypes(types, [&lists](const HBXTypeContents &type) { lists.push_back(&type.drawObjs); });
+    HBXIdList<HBXElementDrawObj>::merge(lists, out);
 }
 
 IHBXElementDrawObj *HBXFloor::findDrawObj(qint64 id, const QSet<qint64> &types)
@@ -34,7 +37,8 @@ QList<IHBXElementDrawObj *> HBXFloor::drawObjsMeeting(const vks::CBox2<double> &
         for (HBXElementDrawObj *object : type.places.meeting(box, tolerance))
             found.append(object);
     });
-    sortById(found);
+    const auto isEarlier = [](const IHBXElementDrawObj *a, const IHBXElementDrawObj *b) { return a->id() < b->id(); };
+    std::sort(found.begin(), found.end(), isEarlier);
     return found;
 }
 

@@ -5,11 +5,9 @@
 #include "platform/services/HBXElementTypes.h"
 
 #include <QHash>
-#include <QList>
 #include <QSet>
 #include <QString>
 
-#include <algorithm>
 #include <map>
 #include <memory>
 
@@ -59,18 +57,5 @@ public:
 private:
     std::map<qint64, HBXTypeContents> m_types;
 };
-
-/** Adds the objects of a list to a query's result. */
-template <typename Interface, typename T> void addTo(QList<Interface *> &out, const HBXIdList<T> &objects)
-{
-    out.reserve(out.size() + objects.count());
-    objects.forEach([&out](T &object) { out.append(&object); });
-}
-
-/** Brings a result that was put together type by type or floor by floor into id order. */
-template <typename Interface> void sortById(QList<Interface *> &out)
-{
-    std::sort(out.begin(), out.end(), [](const Interface *a, const Interface *b) { return a->id() < b->id(); });
-}
 
 } // namespace hbx::embedded

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtGlobal>
+#include <QList>
 
 #include <algorithm>
 #include <utility>
@@ -59,6 +59,22 @@ public:
         for (std::size_t i = 0; i < m_entries.size(); ++i)
             if (m_entries[i].second)
                 work(*m_entries[i].second);
+    }
+    /** Replaces a query's result by the objects of some lists, in id order. Goes by the ids of the lists: in a large building
+     *  the objects lie out of the caches. */
+    template <typename Interface>
+    static void merge(const std::vector<const HBXIdList *> &lists, QList<Interface *> &out)
+    {
+        std::vector<Entry> entries;
+        for (const HBXIdList *list : lists)
+            entries.insert(entries.end(), list->m_entries.begin(), list->m_entries.end());
+        if (lists.size() > 1)
+            std::sort(entries.begin(), entries.end());
+        out.clear();
+        out.reserve(static_cast<int>(entries.size()));
+        for (const Entry &entry : entries)
+            if (entry.second)
+                out.append(entry.second);
     }
     /** The objects of the moment, for work that removes them. */
     std::vector<T *> objects() const
