@@ -20,45 +20,49 @@ std::optional<double> finite(const std::optional<double> &size)
     return size ? std::optional(finite(*size)) : std::nullopt;
 }
 
-/** Text of geometry, kept while a row is written. */
-struct GeometryText
+std::optional<std::string> textOf(const vks::CGeometry *geometry)
 {
-    explicit GeometryText(const vks::CGeometry *geometry) : isThere(geometry), text(isThere ? geometry->ToText() : "")
-    {}
-    std::optional<std::string_view> view() const
-    {
-        return isThere ? std::optional<std::string_view>(text) : std::nullopt;
-    }
+    return geometry ? std::optional(geometry->ToText()) : std::nullopt;
+}
 
-    bool isThere;
-    std::string text;
-};
-
-/** Writes one property row by the kind of its value. */
+/** Fills one property row by the kind of its value. */
 struct PropertyRow
 {
-    SqliteStatement &insert;
+    const SqliteInsert::Row &row;
     qint64 owner;
     qint64 position;
     const QString &name;
 
-    void operator()(std::monostate) const { insert.run(owner, position, name, nullptr); }
-    void operator()(int value) const { insert.run(owner, position, name, value); }
+    void operator()(std::monostate) const { row(owner, position, name, nullptr); }
+    void operator()(int value) const { row(owner, position, name, value); }
     void operator()(double value) const
     {
-        std::isfinite(value) ? insert.run(owner, position, name, value) : (*this)(std::monostate());
+        std::isfinite(value) ? row(owner, position, name, value) : (*this)(std::monostate());
     }
-    void operator()(const QString &value) const { insert.run(owner, position, name, value); }
-    void operator()(const vks::CVec2<double> &value) const
-    {
-        const std::string text = pointText(value);
-        insert.run(owner, position, name, std::string_view(text));
-    }
+    void operator()(const QString &value) const { row(owner, position, name, value); }
+    void operator()(const vks::CVec2<double> &value) const { row(owner, position, name, pointText(value)); }
     template <typename T> void operator()(const vks::CRefPtr<T> &value) const
     {
-        insert.run(owner, position, name, GeometryText(value.get()).view());
+        row(owner, position, name, textOf(value.get()));
     }
 };
+
+/** Properties of all records, each with its place in the list of its owner. */
+template <typename Record> void writeProperties(SqliteInsert &insert, const std::vector<Record> &records)
+{
+    std::size_t count = 0;
+    for (const Record &record : records)
+        count += record.properties.size();
+    auto owner = records.begin();
+    std::size_t position = 0;
+    insert.run(count, [&](const SqliteInsert::Row &row, std::size_t) {
+        for (; position == owner->properties.size(); ++owner)
+            position = 0;
+        const auto &[name, value] = owner->properties[position];
+        std::visit(PropertyRow{row, owner->id, static_cast<qint64>(position), name}, value);
+        ++position;
+    });
+}
 
 std::vector<SqliteStatement> statements(SqliteConnection &connection, std::initializer_list<const char *> texts)
 {
@@ -72,11 +76,9 @@ std::vector<SqliteStatement> statements(SqliteConnection &connection, std::initi
 } // namespace
 
 HBXDatabaseWriter::HBXDatabaseWriter(SqliteConnection &connection)
-    : m_connection(connection), m_element(connection, "INSERT INTO element VALUES(?,?,?,?,?,?,?)"),
-      m_elementProperty(connection, "INSERT INTO element_property VALUES(?,?,?,?)"),
-      m_drawObj(connection, "INSERT INTO draw_object VALUES(?,?,?,?,?,?,?,?,?,?,?,?)"),
-      m_drawObjProperty(connection, "INSERT INTO draw_object_property VALUES(?,?,?,?)"),
-      m_shape(connection, "INSERT INTO shape VALUES(?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?)"),
+    : m_connection(connection), m_element(connection, "element", 7),
+      m_elementProperty(connection, "element_property", 4), m_drawObj(connection, "draw_object", 12),
+      m_drawObjProperty(connection, "draw_object_property", 4), m_shape(connection, "shape", 20),
       m_axis(connection, "INSERT INTO shape_axis VALUES(?,?,?,?,?,?)"),
       m_span(connection, "INSERT INTO span VALUES(?,?,?)"),
       m_removeElement(statements(
@@ -97,10 +99,8 @@ void HBXDatabaseWriter::writeAll(const ProjectRecord &project, qint64 saveMark)
         writeRegion(region);
     for (const FloorRecord &floor : project.floors)
         writeFloor(floor);
-    for (const ElementRecord &element : project.elements)
-        writeElement(element);
-    for (const DrawObjRecord &drawObj : project.drawObjs)
-        writeDrawObj(drawObj);
+    writeElements(project.elements);
+    writeDrawObjs(project.drawObjs);
 }
 
 void HBXDatabaseWriter::writeUpdate(const ProjectUpdate &update, qint64 saveMark)
@@ -118,14 +118,12 @@ void HBXDatabaseWriter::writeUpdate(const ProjectUpdate &update, qint64 saveMark
         removeDrawObj(id);
     for (const qint64 id : update.removedElements)
         removeElement(id);
-    for (const ElementRecord &element : update.content.elements) {
+    for (const ElementRecord &element : update.content.elements)
         removeElement(element.id);
-        writeElement(element);
-    }
-    for (const DrawObjRecord &drawObj : update.content.drawObjs) {
+    for (const DrawObjRecord &drawObj : update.content.drawObjs)
         removeDrawObj(drawObj.id);
-        writeDrawObj(drawObj);
-    }
+    writeElements(update.content.elements);
+    writeDrawObjs(update.content.drawObjs);
 }
 
 void HBXDatabaseWriter::writeHeader(const ProjectRecord &project, qint64 saveMark)
@@ -161,53 +159,50 @@ void HBXDatabaseWriter::writeFloor(const FloorRecord &floor)
              floor.standardFloorCount, floor.foundation, floor.remark);
 }
 
-void HBXDatabaseWriter::writeElement(const ElementRecord &element)
+void HBXDatabaseWriter::writeElements(const std::vector<ElementRecord> &elements)
 {
-    m_element.run(element.id, element.floorId, link(element.parentId), element.name, element.type, element.subType,
-                  element.orderNumber);
-    writeProperties(m_elementProperty, element.id, element.properties);
+    m_element.run(elements.size(), [&](const SqliteInsert::Row &row, std::size_t i) {
+        const ElementRecord &element = elements[i];
+        row(element.id, element.floorId, link(element.parentId), element.name, element.type, element.subType,
+            element.orderNumber);
+    });
+    writeProperties(m_elementProperty, elements);
 }
 
-void HBXDatabaseWriter::writeDrawObj(const DrawObjRecord &drawObj)
+void HBXDatabaseWriter::writeDrawObjs(const std::vector<DrawObjRecord> &drawObjs)
 {
-    const auto &section = drawObj.section;
-    const auto key = drawObj.key.isEmpty() ? std::nullopt : std::optional(drawObj.key);
-    m_drawObj.run(drawObj.id, drawObj.elementId, drawObj.type, drawObj.subType, link(drawObj.next), link(drawObj.owner),
-                  link(drawObj.attachedTo), section ? std::optional(section->number) : std::nullopt,
-                  section ? std::optional(section->kind) : std::nullopt, drawObj.layer, drawObj.state, key);
-    writeProperties(m_drawObjProperty, drawObj.id, drawObj.properties);
-    writeShape(drawObj.id, drawObj.shape);
-    writeAxes(drawObj.id, drawObj.shape);
-    qint64 position = 0;
-    for (const QJsonObject &span : drawObj.spans) {
-        const QByteArray text = QJsonDocument(span).toJson(QJsonDocument::Compact);
-        m_span.run(drawObj.id, position++, std::string_view(text.constData(), static_cast<std::size_t>(text.size())));
+    m_drawObj.run(drawObjs.size(), [&](const SqliteInsert::Row &row, std::size_t i) {
+        const DrawObjRecord &drawObj = drawObjs[i];
+        const auto &section = drawObj.section;
+        row(drawObj.id, drawObj.elementId, drawObj.type, drawObj.subType, link(drawObj.next), link(drawObj.owner),
+            link(drawObj.attachedTo), section ? std::optional(section->number) : std::nullopt,
+            section ? std::optional(section->kind) : std::nullopt, drawObj.layer, drawObj.state,
+            drawObj.key.isEmpty() ? std::nullopt : std::optional(drawObj.key));
+    });
+    writeProperties(m_drawObjProperty, drawObjs);
+    writeShapes(drawObjs);
+    for (const DrawObjRecord &drawObj : drawObjs) {
+        writeAxes(drawObj.id, drawObj.shape);
+        writeSpans(drawObj);
     }
 }
 
-void HBXDatabaseWriter::writeProperties(SqliteStatement &insert, qint64 ownerId, const PropertyRecords &properties)
+void HBXDatabaseWriter::writeShapes(const std::vector<DrawObjRecord> &drawObjs)
 {
-    qint64 position = 0;
-    for (const auto &[name, value] : properties)
-        std::visit(PropertyRow{insert, ownerId, position++, name}, value);
-}
-
-void HBXDatabaseWriter::writeShape(qint64 drawObjId, const ShapeRecord &shape)
-{
-    const GeometryText outline(shape.outline);
-    const GeometryText curve(shape.curve);
-    const auto &frame = shape.coordinates;
-    const auto term = [&](double vks::CVec3<double>::*axis, vks::CVec3<double> vks::CCoord3<double>::*vector) {
-        return frame ? std::optional(finite((*frame).*vector.*axis)) : std::nullopt;
-    };
     using Frame = vks::CCoord3<double>;
     using Vector = vks::CVec3<double>;
-    m_shape.run(drawObjId, static_cast<int>(shape.kind), outline.view(), curve.view(), finite(shape.width),
-                finite(shape.distanceToLeft), finite(shape.height), finite(shape.insertPoint.x),
-                finite(shape.insertPoint.y), finite(shape.angle), shape.mirror, term(&Vector::x, &Frame::origin),
-                term(&Vector::y, &Frame::origin), term(&Vector::z, &Frame::origin), term(&Vector::x, &Frame::u),
-                term(&Vector::y, &Frame::u), term(&Vector::z, &Frame::u), term(&Vector::x, &Frame::v),
-                term(&Vector::y, &Frame::v), term(&Vector::z, &Frame::v));
+    m_shape.run(drawObjs.size(), [&](const SqliteInsert::Row &row, std::size_t i) {
+        const ShapeRecord &shape = drawObjs[i].shape;
+        const auto term = [&shape](double Vector::*axis, Vector Frame::*vector) {
+            return shape.coordinates ? std::optional(finite((*shape.coordinates).*vector.*axis)) : std::nullopt;
+        };
+        row(drawObjs[i].id, static_cast<int>(shape.kind), textOf(shape.outline), textOf(shape.curve),
+            finite(shape.width), finite(shape.distanceToLeft), finite(shape.height), finite(shape.insertPoint.x),
+            finite(shape.insertPoint.y), finite(shape.angle), shape.mirror, term(&Vector::x, &Frame::origin),
+            term(&Vector::y, &Frame::origin), term(&Vector::z, &Frame::origin), term(&Vector::x, &Frame::u),
+            term(&Vector::y, &Frame::u), term(&Vector::z, &Frame::u), term(&Vector::x, &Frame::v),
+            term(&Vector::y, &Frame::v), term(&Vector::z, &Frame::v));
+    });
 }
 
 void HBXDatabaseWriter::writeAxes(qint64 drawObjId, const ShapeRecord &shape)
@@ -217,10 +212,17 @@ void HBXDatabaseWriter::writeAxes(qint64 drawObjId, const ShapeRecord &shape)
         for (const HBXAxis &axis : shape.axes[static_cast<std::size_t>(group)]) {
             qint64 curvePosition = 0;
             for (const auto &curve : axis.curves)
-                m_axis.run(drawObjId, group, position, curvePosition++, axis.label, GeometryText(curve.get()).view());
+                m_axis.run(drawObjId, group, position, curvePosition++, axis.label, textOf(curve.get()));
             ++position;
         }
     }
+}
+
+void HBXDatabaseWriter::writeSpans(const DrawObjRecord &drawObj)
+{
+    qint64 position = 0;
+    for (const QJsonObject &span : drawObj.spans)
+        m_span.run(drawObj.id, position++, QJsonDocument(span).toJson(QJsonDocument::Compact).toStdString());
 }
 
 void HBXDatabaseWriter::removeElement(qint64 id)

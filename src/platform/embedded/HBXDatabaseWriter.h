@@ -1,11 +1,11 @@
 #pragma once
 
 #include "platform/embedded/HBXProjectRecords.h"
-#include "platform/embedded/SqliteStatement.h"
+#include "platform/embedded/SqliteInsert.h"
 
 namespace hbx::embedded {
 
-/** Writes records into the tables of a project file, each table by one kept statement. The caller holds the transaction.
+/** Writes records into the tables of a project file, table by table. The caller holds the transaction.
  *  Throws SqliteError. */
 class ORVCADPLATFORM_EXPORT HBXDatabaseWriter
 {
@@ -22,20 +22,20 @@ private:
     void writeMaterials(const std::vector<MaterialRecord> &materials);
     void writeRegion(const RegionRecord &region);
     void writeFloor(const FloorRecord &floor);
-    void writeElement(const ElementRecord &element);
-    void writeDrawObj(const DrawObjRecord &drawObj);
-    void writeProperties(SqliteStatement &insert, qint64 ownerId, const PropertyRecords &properties);
-    void writeShape(qint64 drawObjId, const ShapeRecord &shape);
+    void writeElements(const std::vector<ElementRecord> &elements);
+    void writeDrawObjs(const std::vector<DrawObjRecord> &drawObjs);
+    void writeShapes(const std::vector<DrawObjRecord> &drawObjs);
     void writeAxes(qint64 drawObjId, const ShapeRecord &shape);
+    void writeSpans(const DrawObjRecord &drawObj);
     void removeElement(qint64 id);
     void removeDrawObj(qint64 id);
 
     SqliteConnection &m_connection;
-    SqliteStatement m_element;
-    SqliteStatement m_elementProperty;
-    SqliteStatement m_drawObj;
-    SqliteStatement m_drawObjProperty;
-    SqliteStatement m_shape;
+    SqliteInsert m_element;
+    SqliteInsert m_elementProperty;
+    SqliteInsert m_drawObj;
+    SqliteInsert m_drawObjProperty;
+    SqliteInsert m_shape;
     SqliteStatement m_axis;
     SqliteStatement m_span;
     std::vector<SqliteStatement> m_removeElement;

@@ -83,11 +83,18 @@ void SqliteStatement::bind(int place, std::string_view utf8)
     check(sqlite3_bind_text64(m_handle.get(), place, utf8.data(), utf8.size(), SQLITE_STATIC, SQLITE_UTF8));
 }
 
+void SqliteStatement::bind(int place, const std::string &utf8)
+{
+    std::string &kept = m_texts[static_cast<std::size_t>(place)];
+    kept = utf8;
+    bind(place, std::string_view(kept));
+}
+
 void SqliteStatement::bind(int place, const QString &text)
 {
-    std::string &utf8 = m_texts[static_cast<std::size_t>(place)];
-    encode(text, utf8);
-    bind(place, std::string_view(utf8));
+    std::string &kept = m_texts[static_cast<std::size_t>(place)];
+    encode(text, kept);
+    bind(place, std::string_view(kept));
 }
 
 void SqliteStatement::check(int code) const

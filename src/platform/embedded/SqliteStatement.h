@@ -23,10 +23,11 @@ public:
     /** Binds all values in order, runs the statement to its end and makes it ready for the next run. */
     template <typename... Values> void run(const Values &...values)
     {
-        int place = 0;
-        (bind(++place, values), ...);
+        bindFrom(0, values...);
         finish();
     }
+    /** Binds values to the places from one on, counted from 0. What is bound when the statement is run counts. */
+    template <typename... Values> void bindFrom(int place, const Values &...values) { (bind(++place, values), ...); }
     /** Steps to the next row; false behind the last, after which the statement starts anew. */
     bool next();
 
@@ -52,6 +53,7 @@ private:
     void bind(int place, double value);
     /** The bytes must last until run() is done. */
     void bind(int place, std::string_view utf8);
+    void bind(int place, const std::string &utf8);
     void bind(int place, const QString &text);
     template <typename T> void bind(int place, const std::optional<T> &value)
     {
