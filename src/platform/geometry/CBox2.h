@@ -35,8 +35,8 @@ template <typename T> struct CBox2
     {
         if (!other.IsValid())
             return;
-        Add(other.minPt);
-        Add(other.maxPt);
+        minPt = {std::min(minPt.x, other.minPt.x), std::min(minPt.y, other.minPt.y)};
+        maxPt = {std::max(maxPt.x, other.maxPt.x), std::max(maxPt.y, other.maxPt.y)};
     }
     /** What both boxes hold; empty when they lie apart. */
     constexpr CBox2 Common(const CBox2 &other) const

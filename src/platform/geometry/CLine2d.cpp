@@ -25,12 +25,14 @@ void CLine2d::assign(const CVec2<double> &start, const CVec2<double> &end)
 
 CRefPtr<CCurve2d> CLine2d::Clone() const { return new CLine2d(*this); }
 
-CVec2<double> CLine2d::GetPoint(double t) const
+inline CVec2<double> CLine2d::pointAt(double t) const
 {
     if (t == 0.0 || !(m_length > 0.0))
         return m_start;
     return t == m_length ? m_end : m_start + (m_end - m_start) * (t / m_length);
 }
+
+CVec2<double> CLine2d::GetPoint(double t) const { return pointAt(t); }
 
 CVec2<double> CLine2d::GetDirection(double /*t*/) const { return (m_end - m_start).Normalized(); }
 
@@ -50,8 +52,8 @@ CBox2<double> CLine2d::Box() const
 {
     CBox2<double> box;
     if (!IsEmpty()) {
-        box.Add(CLine2d::GetPoint(StartT())); // as StartPoint(), without asking which curve this is
-        box.Add(CLine2d::GetPoint(EndT()));
+        box.Add(pointAt(StartT()));
+        box.Add(pointAt(EndT()));
     }
     return box;
 }

@@ -32,6 +32,7 @@ protected:
 private:
     /** Makes the line from its two ends, untrimmed. */
     void assign(const CVec2<double> &start, const CVec2<double> &end);
+    CVec2<double> pointAt(double t) const;
 
     CVec2<double> m_start; // where the parameter is 0
     CVec2<double> m_end;   // where it is m_length

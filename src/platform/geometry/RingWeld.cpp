@@ -35,6 +35,22 @@ std::size_t slotOf(std::int64_t column, std::int64_t row, std::size_t slotCount)
     return static_cast<std::size_t>(mixed >> 32) & (slotCount - 1);
 }
 
+/** The cell of a place, and all those that places within the tolerance of it may lie in. */
+struct Cells
+{
+    explicit Cells(double place) : own(cellOf(place))
+    {
+        constexpr double edge = 1.25 / kCellPerTolerance; // more than the tolerance, for far places are rounded
+        const double within = place - static_cast<double>(own);
+        first = within < edge ? own - 1 : own;
+        last = within > 1.0 - edge ? own + 1 : own;
+    }
+
+    std::int64_t own;
+    std::int64_t first;
+    std::int64_t last;
+};
+
 double rounded(double value, double grid) { return grid > 0.0 ? std::nearbyint(value / grid) * grid : value; }
 
 } // namespace
@@ -57,18 +73,16 @@ void RingWeld::searchCell(std::size_t slot, const CVec2<double> &point, int &fou
 
 CVec2<double> RingWeld::weld(const CVec2<double> &point)
 {
-    const std::int64_t firstColumn = cellOf((point.x - m_tolerance) * m_cellsPerMm);
-    const std::int64_t firstRow = cellOf((point.y - m_tolerance) * m_cellsPerMm);
-    const bool twoColumns = cellOf((point.x + m_tolerance) * m_cellsPerMm) > firstColumn;
-    const bool twoRows = cellOf((point.y + m_tolerance) * m_cellsPerMm) > firstRow;
+    const Cells columns(point.x * m_cellsPerMm);
+    const Cells rows(point.y * m_cellsPerMm);
     int found = -1;
-    for (int i = 0; i <= (twoColumns ? 1 : 0); ++i)
-        for (int j = 0; j <= (twoRows ? 1 : 0); ++j)
-            searchCell(slotOf(firstColumn + i, firstRow + j, m_heads.size()), point, found);
+    for (std::int64_t column = columns.first; column <= columns.last; ++column)
+        for (std::int64_t row = rows.first; row <= rows.last; ++row)
+            searchCell(slotOf(column, row, m_heads.size()), point, found);
     if (found < 0) {
         found = static_cast<int>(m_kept.size());
         m_kept.push_back(point);
-        const std::size_t slot = slotOf(cellOf(point.x * m_cellsPerMm), cellOf(point.y * m_cellsPerMm), m_heads.size());
+        const std::size_t slot = slotOf(columns.own, rows.own, m_heads.size());
         m_next.push_back(m_heads[slot]);
         m_heads[slot] = found;
     }
