@@ -57,6 +57,13 @@ double timed(const Work &work, Time time, std::size_t runs)
     return (now(time) - start) / static_cast<double>(runs);
 }
 
+double median(std::vector<double> &values)
+{
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
 /** One side, and how often it runs in each sample. */
 class Side
 {
@@ -71,12 +78,7 @@ public:
     double once() const { return m_once; }
     double sampleTime() const { return m_once * static_cast<double>(m_runs); }
     void sample() { m_samples.push_back(timed(m_work, m_time, m_runs)); }
-    double median()
-    {
-        const auto middle = m_samples.begin() + static_cast<std::ptrdiff_t>(m_samples.size() / 2);
-        std::nth_element(m_samples.begin(), middle, m_samples.end());
-        return *middle;
-    }
+    double median() { return bench::median(m_samples); }
 
 private:
     const Work &m_work;
@@ -184,6 +186,22 @@ Measurement measure(const Road &road, std::size_t size, Effort effort)
     const auto &figures = message.figures;
     Measurement result{size, figures[0], figures[1], figures[2], figures[3], figures[4], figures[5], {}};
     result.failure = isDone ? QString::fromUtf8(message.failure) : QStringLiteral("the process did not end by itself");
+    return result;
+}
+
+Measurement medianOf(const std::vector<Measurement> &all)
+{
+    Measurement result = all.front();
+    for (const auto figure : {&Measurement::ours, &Measurement::floor, &Measurement::allocations,
+                              &Measurement::peakBytes, &Measurement::floorPeakBytes, &Measurement::documentBytes}) {
+        std::vector<double> values;
+        for (const Measurement &one : all)
+            values.push_back(one.*figure);
+        result.*figure = median(values);
+    }
+    for (const Measurement &one : all)
+        if (!one.failure.isEmpty())
+            result.failure = one.failure;
     return result;
 }
 

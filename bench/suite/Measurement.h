@@ -33,6 +33,10 @@ struct Measurement
 /** Measures a road at one size, in a process of its own, on one core: what other roads left of the heap does not count. */
 Measurement measure(const Road &road, std::size_t size, Effort effort);
 
+/** Of several measurements of one size, each figure's median; a failure of one is that of all.
+ *  @param all  an odd number of them */
+Measurement medianOf(const std::vector<Measurement> &all);
+
 /** Runs our side of a road so many times in this process, for a profiler to look at. */
 void runForProfiler(const Road &road, std::size_t size, int times);
 

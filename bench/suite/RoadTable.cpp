@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <utility>
 
 namespace bench {
 
@@ -21,15 +22,26 @@ double sizesOf(const Road &road)
     return static_cast<double>(road.sizes.back()) / static_cast<double>(road.sizes.front());
 }
 
-double growthBound(const Road &road)
+/** What a floor costs more of itself, no road over it can save. */
+constexpr double kAboveFloor = 1.2;
+
+/** How many times the time per item grows from the smallest size to the largest. */
+double growthOf(const std::vector<Measurement> &sizes, double Measurement::*side)
 {
-    return road.bounds.growth > 0.0 && road.sizes.size() > 1 ? exponent(road.bounds.growth, sizesOf(road)) : 0.0;
+    const double smallest = sizes.front().*side;
+    return smallest > 0.0 ? sizes.back().*side / smallest : 0.0;
 }
 
-/** What Qt's own objects of a document take, no road through them can save. */
+double growthBound(const Road &road, const std::vector<Measurement> &sizes)
+{
+    if (!(road.bounds.growth > 0.0) || sizes.size() < 2)
+        return 0.0;
+    const double growth = std::max(road.bounds.growth, kAboveFloor * growthOf(sizes, &Measurement::floor));
+    return exponent(growth, sizesOf(road));
+}
+
 double memoryBound(const Road &road, const Measurement &cost)
 {
-    constexpr double kAboveFloor = 1.2;
     return road.bounds.memory > 0.0 ? std::max(road.bounds.memory, kAboveFloor * cost.floorMemory()) : 0.0;
 }
 
@@ -69,21 +81,37 @@ RoadTable::RoadTable(Form form) : m_form(form)
             "road / floor under it", "size", "ours", "floor", "ratio", "allocs", "peak", "growth");
 }
 
-void RoadTable::add(const Road &road, const std::vector<Measurement> &sizes)
+std::vector<RoadTable::Row> RoadTable::rowsOf(const Road &road, const std::vector<Measurement> &sizes)
 {
+    std::vector<Row> rows;
     for (const Measurement &one : sizes) {
         QStringList wrong{one.failure};
         const bool isLargest = sizes.size() > 1 && &one == &sizes.back();
         const bool hasFigures = one.failure.isEmpty() && sizes.front().failure.isEmpty();
-        const double growth = isLargest && hasFigures ? exponent(one.ours / sizes.front().ours, sizesOf(road)) : 0.0;
+        const double growth =
+            isLargest && hasFigures ? exponent(growthOf(sizes, &Measurement::ours), sizesOf(road)) : 0.0;
         note(wrong, "ratio", one.ratio(), road.bounds.ratio);
         note(wrong, "allocations", one.allocations, road.bounds.allocations);
         note(wrong, "peak", one.memory(), memoryBound(road, one));
-        note(wrong, "growth", growth, growthBound(road));
+        note(wrong, "growth", growth, growthBound(road, sizes));
         wrong.removeAll(QString());
-        m_rows.push_back({&road, one, growth, wrong.join(QStringLiteral(", "))});
+        rows.push_back({&road, one, growth, growthBound(road, sizes), wrong.join(QStringLiteral(", "))});
+    }
+    return rows;
+}
+
+bool RoadTable::isGood(const Road &road, const std::vector<Measurement> &sizes)
+{
+    const std::vector<Row> rows = rowsOf(road, sizes);
+    return std::all_of(rows.begin(), rows.end(), [](const Row &row) { return isGood(row); });
+}
+
+void RoadTable::add(const Road &road, const std::vector<Measurement> &sizes)
+{
+    for (Row &row : rowsOf(road, sizes)) {
         if (m_form == Form::Table)
-            print(m_rows.back());
+            print(row);
+        m_rows.push_back(std::move(row));
     }
 }
 
@@ -95,17 +123,16 @@ void RoadTable::print(const Row &row) const
                 qPrintable(time(row.cost.ours)), qPrintable(time(row.cost.floor)),
                 qPrintable(held(row.cost.ratio(), road.bounds.ratio)), qPrintable(number(row.cost.allocations, "%.1f")),
                 qPrintable(held(row.cost.memory(), memoryBound(road, row.cost))),
-                qPrintable(row.growth > 0.0 ? held(row.growth, growthBound(road)) : QString()),
+                qPrintable(row.growth > 0.0 ? held(row.growth, row.growthBound) : QString()),
                 row.verdict.isEmpty() ? "" : "  ", qUtf8Printable(row.verdict));
     std::fflush(stdout);
 }
 
 int RoadTable::finish() const
 {
-    const auto isGood = [](const Row &row) { return row.verdict.isEmpty(); };
-    const auto bad = m_rows.size() - static_cast<std::size_t>(std::count_if(m_rows.begin(), m_rows.end(), isGood));
+    const auto bad = std::count_if(m_rows.begin(), m_rows.end(), [](const Row &row) { return !isGood(row); });
     if (m_form == Form::Table) {
-        std::printf("%zu rows, %zu beyond a bound\n", m_rows.size(), bad);
+        std::printf("%zu rows, %td beyond a bound\n", m_rows.size(), bad);
         return bad == 0 ? 0 : 1;
     }
     QJsonArray rows;
@@ -127,7 +154,7 @@ int RoadTable::finish() const
                                 {"floorPeakBytes", orNull(cost.floorPeakBytes)},
                                 {"peakToDocumentBound", orNull(memoryBound(*row.road, cost))},
                                 {"growthExponent", orNull(row.growth)},
-                                {"growthExponentBound", orNull(growthBound(*row.road))},
+                                {"growthExponentBound", orNull(row.growthBound)},
                                 {"isGood", isGood(row)},
                                 {"reason", row.verdict}});
     }
