@@ -57,7 +57,7 @@ double timed(const Work &work, Time time, std::size_t runs)
     return (now(time) - start) / static_cast<double>(runs);
 }
 
-double median(std::vector<double> &values)
+double median(std::vector<double> values)
 {
     const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
     std::nth_element(values.begin(), middle, values.end());
@@ -75,17 +75,14 @@ public:
             m_runs = static_cast<std::size_t>(std::max(1.0, kLeastSample / std::max(m_once, 1.0)));
     }
 
-    double once() const { return m_once; }
     double sampleTime() const { return m_once * static_cast<double>(m_runs); }
-    void sample() { m_samples.push_back(timed(m_work, m_time, m_runs)); }
-    double median() { return bench::median(m_samples); }
+    double sample() const { return timed(m_work, m_time, m_runs); }
 
 private:
     const Work &m_work;
     Time m_time;
     double m_once = 0.0;
     std::size_t m_runs = 1;
-    std::vector<double> m_samples;
 };
 
 HeapUse heapUseOf(const Work &work)
@@ -117,14 +114,20 @@ void timeSides(const Sides &sides, Time time, Effort effort, Measurement &result
     Side floor(sides.floor.run ? sides.floor : nothing, time);
     const double pair = ours.sampleTime() + floor.sampleTime();
     const int samples =
-        effort == Effort::Single ? 0 : static_cast<int>(std::clamp(kTimeForARow / pair, kFewestSamples, kMostSamples));
+        effort == Effort::Single ? 1 : static_cast<int>(std::clamp(kTimeForARow / pair, kFewestSamples, kMostSamples));
+    std::vector<double> oursTimes;
+    std::vector<double> floorTimes;
+    std::vector<double> ratios;
     for (int i = 0; i < samples; ++i) {
-        ours.sample();
-        floor.sample();
+        oursTimes.push_back(ours.sample());
+        floorTimes.push_back(floor.sample());
+        ratios.push_back(oursTimes.back() / floorTimes.back());
     }
-    result.ours = (samples > 0 ? ours.median() : ours.once()) / sides.items;
-    if (sides.floor.run)
-        result.floor = (samples > 0 ? floor.median() : floor.once()) / sides.items;
+    result.ours = median(std::move(oursTimes)) / sides.items;
+    if (!sides.floor.run)
+        return;
+    result.floor = median(std::move(floorTimes)) / sides.items;
+    result.ratio = median(std::move(ratios));
 }
 
 Load loadOf(const Road &road, std::size_t size)
@@ -167,7 +170,7 @@ Measurement measureHere(const Road &road, std::size_t size, Effort effort)
 /** What goes from the measuring process to this one. */
 struct Message
 {
-    double figures[6];
+    double figures[7];
     char failure[200];
 };
 
@@ -178,13 +181,13 @@ Measurement measure(const Road &road, std::size_t size, Effort effort)
     Message message{};
     const bool isDone = runForked(&message, sizeof message, [&] {
         const Measurement result = measureHere(road, size, effort);
-        message = {{result.ours, result.floor, result.allocations, result.peakBytes, result.floorPeakBytes,
-                    result.documentBytes},
+        message = {{result.ours, result.floor, result.ratio, result.allocations, result.peakBytes,
+                    result.floorPeakBytes, result.documentBytes},
                    {}};
         std::snprintf(message.failure, sizeof message.failure, "%s", qUtf8Printable(result.failure));
     });
     const auto &figures = message.figures;
-    Measurement result{size, figures[0], figures[1], figures[2], figures[3], figures[4], figures[5], {}};
+    Measurement result{size, figures[0], figures[1], figures[2], figures[3], figures[4], figures[5], figures[6], {}};
     result.failure = isDone ? QString::fromUtf8(message.failure) : QStringLiteral("the process did not end by itself");
     return result;
 }
@@ -192,7 +195,7 @@ Measurement measure(const Road &road, std::size_t size, Effort effort)
 Measurement medianOf(const std::vector<Measurement> &all)
 {
     Measurement result = all.front();
-    for (const auto figure : {&Measurement::ours, &Measurement::floor, &Measurement::allocations,
+    for (const auto figure : {&Measurement::ours, &Measurement::floor, &Measurement::ratio, &Measurement::allocations,
                               &Measurement::peakBytes, &Measurement::floorPeakBytes, &Measurement::documentBytes}) {
         std::vector<double> values;
         for (const Measurement &one : all)

@@ -18,6 +18,7 @@ struct Measurement
     std::size_t size = 0;
     double ours = 0.0;        ///< ns for each item, as the floor
     double floor = 0.0;       ///< 0 without one
+    double ratio = 0.0;       ///< median of the ratios of runs that stand side by side; 0 without a floor
     double allocations = 0.0; ///< for each item
     double peakBytes =
         0.0; ///< of the heap, beyond what was held before; of the whole process where processes are timed
@@ -25,7 +26,6 @@ struct Measurement
     double documentBytes = 0.0;
     QString failure; ///< why there are no figures; empty where there are
 
-    double ratio() const { return floor > 0.0 ? ours / floor : 0.0; }
     double memory() const { return documentBytes > 0.0 ? peakBytes / documentBytes : 0.0; }
     double floorMemory() const { return documentBytes > 0.0 ? floorPeakBytes / documentBytes : 0.0; }
 };

@@ -90,7 +90,7 @@ std::vector<RoadTable::Row> RoadTable::rowsOf(const Road &road, const std::vecto
         const bool hasFigures = one.failure.isEmpty() && sizes.front().failure.isEmpty();
         const double growth =
             isLargest && hasFigures ? exponent(growthOf(sizes, &Measurement::ours), sizesOf(road)) : 0.0;
-        note(wrong, "ratio", one.ratio(), road.bounds.ratio);
+        note(wrong, "ratio", one.ratio, road.bounds.ratio);
         note(wrong, "allocations", one.allocations, road.bounds.allocations);
         note(wrong, "peak", one.memory(), memoryBound(road, one));
         note(wrong, "growth", growth, growthBound(road, sizes));
@@ -121,7 +121,7 @@ void RoadTable::print(const Row &row) const
     const std::string name = road.floor.empty() ? road.name : road.name + " / " + road.floor;
     std::printf("%-74s %7zu %9s %9s %13s %8s %13s %13s%s%s\n", name.c_str(), row.cost.size,
                 qPrintable(time(row.cost.ours)), qPrintable(time(row.cost.floor)),
-                qPrintable(held(row.cost.ratio(), road.bounds.ratio)), qPrintable(number(row.cost.allocations, "%.1f")),
+                qPrintable(held(row.cost.ratio, road.bounds.ratio)), qPrintable(number(row.cost.allocations, "%.1f")),
                 qPrintable(held(row.cost.memory(), memoryBound(road, row.cost))),
                 qPrintable(row.growth > 0.0 ? held(row.growth, row.growthBound) : QString()),
                 row.verdict.isEmpty() ? "" : "  ", qUtf8Printable(row.verdict));
@@ -144,7 +144,7 @@ int RoadTable::finish() const
                                 {"size", static_cast<qint64>(cost.size)},
                                 {"nanosecondsPerItem", orNull(cost.ours)},
                                 {"floorNanosecondsPerItem", orNull(cost.floor)},
-                                {"ratio", orNull(cost.ratio())},
+                                {"ratio", orNull(cost.ratio)},
                                 {"ratioBound", orNull(bounds.ratio)},
                                 {"allocationsPerItem", cost.allocations},
                                 {"allocationsBound", orNull(bounds.allocations)},
