@@ -1,4 +1,4 @@
-#include "cli/Command.h"
+#include "cli/CommandLine.h"
 #include "cli/Files.h"
 
 #include <CLI/CLI.hpp>
@@ -65,26 +65,6 @@ int run(const orvcad::Command &command, const Flags &flags)
     }
 }
 
-void describe(CLI::App &app, Flags &flags, orvcad::Command &command)
-{
-    app.require_subcommand(1);
-    app.fallthrough();
-    app.set_version_flag("--version", "orvcad " ORVCAD_VERSION);
-    app.add_flag("--json", flags.json, "Print the summary as one JSON object");
-    app.add_flag("--quiet", flags.quiet, "Print no summary");
-    orvcad::addDemoCommand(app, command);
-    orvcad::addProjectCommands(app, command);
-    orvcad::addFloorsCommands(app, command);
-    orvcad::addOpeningCommands(app, command);
-    orvcad::addSlabCommands(app, command);
-    orvcad::addBeamCommands(app, command);
-    orvcad::addWallCommands(app, command);
-    orvcad::addColumnCommands(app, command);
-    orvcad::addDrawingCommands(app, command);
-    orvcad::addDrawingsCommands(app, command);
-    orvcad::addDrawCommand(app, command);
-}
-
 /** What was wrong with the arguments; names the first one that nothing took. */
 std::string usageProblem(const CLI::App &app, const CLI::Error &error)
 {
@@ -116,19 +96,16 @@ int tellAbout(const CLI::App &app, const CLI::Error &request)
 
 int parseAndRun(int argc, char **argv)
 {
-    CLI::App app("Moves buildings between a host model, recognition payloads and replies.", "orvcad");
-    Flags flags;
-    orvcad::Command command;
-    describe(app, flags, command);
+    orvcad::CommandLine line;
     try {
-        app.parse(argc, argv);
+        line.app().parse(argc, argv);
     } catch (const CLI::ParseError &error) {
         if (error.get_exit_code() == 0)
-            return tellAbout(app, error);
+            return tellAbout(line.app(), error);
         // The flags may not have been read yet when the arguments fail.
-        return tellWrongUsage(app, error, std::count(argv + 1, argv + argc, std::string_view("--json")) > 0);
+        return tellWrongUsage(line.app(), error, std::count(argv + 1, argv + argc, std::string_view("--json")) > 0);
     }
-    return run(command, flags);
+    return run(line.command(), {line.isJson(), line.isQuiet()});
 }
 
 /** A standard stream that is closed would be the number of the first file that is opened, and what is printed would go
