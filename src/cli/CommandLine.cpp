@@ -10,7 +10,7 @@ namespace {
 constexpr void (*kGroups[])(CLI::App &, Command &) = {
     addDemoCommand,  addProjectCommands, addFloorsCommands, addOpeningCommands, addSlabCommands,
     addBeamCommands, addWallCommands,    addColumnCommands, addDrawingCommands, addDrawingsCommands,
-    addDrawCommand,
+    addDrawCommand,  addCopyCommand,
 };
 
 } // namespace

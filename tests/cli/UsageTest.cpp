@@ -21,7 +21,8 @@ TEST_F(UsageTest, unknownGroupIsNamedAndTheGroupsAreListed)
 {
     const QByteArray message = wrongUsage({"castle"});
     EXPECT_TRUE(message.startsWith("orvcad: \"castle\" is not understood here\n")) << message.toStdString();
-    for (const char *group : {"demo", "project", "floors", "opening", "slab", "beam", "drawing", "drawings", "draw"})
+    for (const char *group :
+         {"demo", "project", "floors", "opening", "slab", "beam", "drawing", "drawings", "draw", "copy"})
         EXPECT_TRUE(message.contains(QByteArray("  ") + group + ' ')) << group;
 }
 
