@@ -44,6 +44,9 @@ QString whatStands(const QJsonObject &summary)
 
 void print(const orvcad::Summary &summary, const Flags &flags)
 {
+    if (!flags.json)
+        for (const QString &failure : summary.failures)
+            printError(QStringLiteral("orvcad: ") + failure);
     const QString text = flags.json ? indented(summary.json) : flags.quiet ? QString() : summary.text;
     if (text.isEmpty())
         return;

@@ -85,8 +85,8 @@ TEST_F(UsageTest, optionThatAVerbLacksIsNamed)
 
 TEST_F(UsageTest, oneArgumentTooManyIsNamed)
 {
-    const QByteArray message = wrongUsage({"project", "info", "house.hbxdb", "barn.hbxdb"});
-    EXPECT_TRUE(message.startsWith("orvcad: \"barn.hbxdb\" is not understood here\n")) << message.toStdString();
+    const QByteArray message = wrongUsage({"opening", "apply", "house.hbxdb", "reply.json", "more.json"});
+    EXPECT_TRUE(message.startsWith("orvcad: \"more.json\" is not understood here\n")) << message.toStdString();
 }
 
 TEST_F(UsageTest, wrongUsageWithJsonIsOneErrorObject)
