@@ -1,5 +1,7 @@
 #include "cli/CommandLine.h"
 
+#include "cli/Examples.h"
+
 #include <CLI/CLI.hpp>
 
 namespace orvcad {
@@ -26,6 +28,7 @@ CommandLine::CommandLine()
     m_app->add_flag("--quiet", m_isQuiet, "Print no summary");
     for (const auto addGroup : kGroups)
         addGroup(*m_app, m_command);
+    addExamples(*m_app);
 }
 
 CommandLine::~CommandLine() = default;
