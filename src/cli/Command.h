@@ -61,6 +61,7 @@ void addDrawingCommands(CLI::App &app, Command &command);
 void addDrawingsCommands(CLI::App &app, Command &command);
 void addDrawCommand(CLI::App &app, Command &command);
 void addCopyCommand(CLI::App &app, Command &command);
+void addManualCommand(CLI::App &app, Command &command);
 void addDemoCommand(CLI::App &app, Command &command);
 
 } // namespace orvcad
