@@ -23,6 +23,7 @@ struct Arguments
     std::string toRegion;
     std::string toFloor;
     std::vector<std::string> roads;
+    std::vector<std::string> words; ///< of a line that is completed
     int parts = 0;
     bool strict = false;
     bool asNew = false;

@@ -62,6 +62,7 @@ void addDrawingsCommands(CLI::App &app, Command &command);
 void addDrawCommand(CLI::App &app, Command &command);
 void addCopyCommand(CLI::App &app, Command &command);
 void addManualCommand(CLI::App &app, Command &command);
+void addCompleteCommand(CLI::App &app, Command &command);
 void addDemoCommand(CLI::App &app, Command &command);
 
 } // namespace orvcad
