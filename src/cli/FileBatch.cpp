@@ -2,6 +2,7 @@
 
 #include "cli/Counted.h"
 #include "cli/Files.h"
+#include "cli/Progress.h"
 
 #include <QFileInfo>
 #include <QJsonArray>
@@ -147,8 +148,11 @@ Summary FileBatch::run(const Action &action, const Arguments &arguments) const
     if (!isMany())
         return action(all.front());
     Verdicts verdicts;
-    for (const Arguments &one : all)
+    Progress progress(QStringLiteral("files"), static_cast<int>(all.size()));
+    for (const Arguments &one : all) {
         runOne(action, one, Arguments::text(one.*file), verdicts);
+        progress.step();
+    }
     return verdicts.summary();
 }
 

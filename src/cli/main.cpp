@@ -1,5 +1,7 @@
 #include "cli/CommandLine.h"
 #include "cli/Files.h"
+#include "cli/Progress.h"
+#include "cli/Terminal.h"
 
 #include <CLI/CLI.hpp>
 
@@ -27,7 +29,7 @@ struct Flags
 
 void printError(const QString &text)
 {
-    const QByteArray bytes = text.toUtf8() + '\n';
+    const QByteArray bytes = orvcad::painted(text, STDERR_FILENO).toUtf8() + '\n';
     std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stderr);
 }
 
@@ -53,11 +55,13 @@ void print(const orvcad::Summary &summary, const Flags &flags)
     if (summary.documentOnStdout)
         printError(text);
     else
-        orvcad::writeToStandardOutput(text.toUtf8() + '\n', whatStands(summary.json));
+        orvcad::writeToStandardOutput(orvcad::painted(text, STDOUT_FILENO).toUtf8() + '\n', whatStands(summary.json));
 }
 
 int run(const orvcad::Command &command, const Flags &flags)
 {
+    if (flags.quiet)
+        orvcad::Progress::hide();
     try {
         const orvcad::Summary summary = command();
         print(summary, flags);
