@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <string>
+#include <vector>
 
 namespace orvcad {
 
@@ -18,6 +19,11 @@ struct Arguments
     std::string format;
     std::string drawing;
     std::string ids;
+    std::string toProject; ///< where a floor is copied to
+    std::string toRegion;
+    std::string toFloor;
+    std::vector<std::string> roads;
+    std::vector<std::string> words; ///< of a line that is completed
     int parts = 0;
     bool strict = false;
     bool asNew = false;

@@ -74,9 +74,12 @@ Summary applySeatDocument(const Arguments &arguments)
     return saveApplied(*project, applySeats(*project, readJsonFile(input).object(), input), arguments.strict);
 }
 
-void addExport(CLI::App &group, Command &command, const std::string &description, Action run)
+void addExport(CLI::App &group, Command &command, const std::string &description, const std::string &ending, Action run)
 {
-    Verb(group, command, "export", description, run).project().anyFloors().output("File to write the document to");
+    Verb(group, command, "export", description, run)
+        .projects()
+        .anyFloors()
+        .output("File to write the document to", ending);
 }
 
 void addApply(CLI::App &group, Command &command, const std::string &description, const std::string &document,
@@ -93,17 +96,17 @@ void addApply(CLI::App &group, Command &command, const std::string &description,
 void addBeamCommands(CLI::App &app, Command &command)
 {
     CLI::App &group = addGroup(app, "beam", "Beams and what they rest on");
-    addExport(group, command, "Write the beams that are collected for recognition", exportBeams);
+    addExport(group, command, "Write the beams that are collected for recognition", ".beams.json", exportBeams);
     addApply(group, command, "Write a reply into a project and save it", "REPLY", applyReply);
     Verb(group, command, "identify-input", "Write what the recognition of beams is told of a floor", writeInput)
-        .project()
+        .projects()
         .pickedFloor()
-        .output("File to write the input to");
+        .output("File to write the input to", ".beam-input.json");
     Verb(group, command, "result", "Read a result document and print its labels and their seats", showResult)
-        .input("RESULT", "Result document");
+        .inputs("RESULT", "Result document");
 
     CLI::App &seats = addGroup(group, "seats", "Foundations, pile caps, piles and tie beams under beams");
-    addExport(seats, command, "Write the seats that can be made anew", exportSeats);
+    addExport(seats, command, "Write the seats that can be made anew", ".seats.json", exportSeats);
     addApply(seats, command, "Make the seats of a document in a project and save it", "SEATS", applySeatDocument);
 }
 

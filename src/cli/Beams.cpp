@@ -35,17 +35,6 @@ namespace {
 
 using Service = ORVCADBeamLocalModel2HBXService;
 
-const QSet<qint64> &beamTypes()
-{
-    static const QSet<qint64> types = [] {
-        QSet<qint64> all;
-        for (const ReplyArray &array : beamArrays())
-            all.insert(array.elementType);
-        return all;
-    }();
-    return types;
-}
-
 /** What orders the chains of an element: their axes, and where these are the same, all the rest. */
 QByteArray orderOf(const BeamEdoInfo &chain)
 {
@@ -181,6 +170,17 @@ private:
 };
 
 } // namespace
+
+const QSet<qint64> &beamTypes()
+{
+    static const QSet<qint64> types = [] {
+        QSet<qint64> all;
+        for (const ReplyArray &array : beamArrays())
+            all.insert(array.elementType);
+        return all;
+    }();
+    return types;
+}
 
 QString BeamCounts::text() const
 {

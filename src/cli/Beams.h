@@ -3,6 +3,7 @@
 #include "cli/Applied.h"
 
 #include <QJsonObject>
+#include <QSet>
 #include <QString>
 
 #include <vector>
@@ -59,6 +60,9 @@ struct BeamOutcome
     QString text() const;
     QJsonObject toJson() const;
 };
+
+/** Element types of beams. */
+const QSet<qint64> &beamTypes();
 
 /** The collect document of all beams of those floors: elements in the host's order, the chains of one by their axes, so that
  *  a building gives the same text each time. The project becomes the current one. */

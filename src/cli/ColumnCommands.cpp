@@ -45,7 +45,7 @@ void addColumnCommands(CLI::App &app, Command &command)
 {
     CLI::App &group = addGroup(app, "column", "Column records");
     Verb(group, command, "check", "Tell what a column record holds, and what is wrong with it", checkRecord)
-        .input("FILE", "Order to identify or check columns, or results");
+        .inputs("FILE", "Order to identify or check columns, or results");
 }
 
 } // namespace orvcad

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QJsonObject>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <stdexcept>
@@ -22,6 +23,7 @@ struct Summary
     QJsonObject json; ///< stable keys, told in docs/cli.md
     ExitCode exitCode = kDone;
     bool documentOnStdout = false; ///< the result itself went to standard output, so the summary must not
+    QStringList failures = {};          ///< files of several that failed, for people, who are told on standard error
 };
 
 /** Ends a command: the message names file, place and reason. */
@@ -58,6 +60,9 @@ void addColumnCommands(CLI::App &app, Command &command);
 void addDrawingCommands(CLI::App &app, Command &command);
 void addDrawingsCommands(CLI::App &app, Command &command);
 void addDrawCommand(CLI::App &app, Command &command);
+void addCopyCommand(CLI::App &app, Command &command);
+void addManualCommand(CLI::App &app, Command &command);
+void addCompleteCommand(CLI::App &app, Command &command);
 void addDemoCommand(CLI::App &app, Command &command);
 
 } // namespace orvcad

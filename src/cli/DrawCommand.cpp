@@ -30,9 +30,9 @@ Summary draw(const Arguments &arguments)
 void addDrawCommand(CLI::App &app, Command &command)
 {
     Verb(app, command, "draw", "Draw a floor plan as an SVG page", draw)
-        .project()
+        .projects()
         .pickedFloor()
-        .output("File to write the picture to");
+        .output("File to write the picture to", ".svg");
 }
 
 } // namespace orvcad

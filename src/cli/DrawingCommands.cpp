@@ -81,10 +81,10 @@ void addDrawingCommands(CLI::App &app, Command &command)
 {
     CLI::App &group = addGroup(app, "drawing", "Drawing files (.cadi2)");
     Verb(group, command, "make", "Draw a floor as layers, lines and texts", makeDrawing)
-        .project()
+        .projects()
         .pickedFloor()
-        .output("Drawing file to make (.cadi2)", Verb::NoOutput::WrongUsage);
-    Verb(group, command, "show", "What a drawing file holds", showDrawing).input("DRAWING", "Drawing file (.cadi2)");
+        .output("Drawing file to make (.cadi2)", ".cadi2", Verb::NoOutput::WrongUsage);
+    Verb(group, command, "show", "What a drawing file holds", showDrawing).inputs("DRAWING", "Drawing file (.cadi2)");
 }
 
 } // namespace orvcad

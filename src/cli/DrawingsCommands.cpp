@@ -121,10 +121,11 @@ void addDrawingsCommands(CLI::App &app, Command &command)
 {
     CLI::App &group = addGroup(app, "drawings", "Sets of drawings and the names of floors on them");
     Verb(group, command, "show", "What a drawing-set file holds: stages, floors, drawings, layers", showDrawingSet)
-        .input("SET", "Drawing-set file");
+        .inputs("SET", "Drawing-set file");
     Verb(group, command, "floors", "Read a floor exchange, write it again and compare the two", showFloorExchange)
-        .input("FLOORS", "Floor exchange")
-        .output("File to write the document to as it is written again", Verb::NoOutput::NothingIsWritten);
+        .inputs("FLOORS", "Floor exchange")
+        .output("File to write the document to as it is written again", ".floor-sdc.json",
+                Verb::NoOutput::NothingIsWritten);
     Verb(group, command, "words", "The ways in which drawings write a floor", showWords)
         .input("FLOOR", "Number of a floor, or a word for one");
 }

@@ -43,18 +43,23 @@ void requireStrictJson(const QByteArray &text, const QString &path, LargeNumbers
         throw CommandFailure(kBadInput, path, fault->place, fault->reason);
 }
 
+QJsonDocument parseJson(const QByteArray &text, const QString &path, LargeNumbers large)
+{
+    QJsonParseError error;
+    QJsonDocument document = QJsonDocument::fromJson(text, &error);
+    if (error.error != QJsonParseError::NoError)
+        throw CommandFailure(kBadInput, path, dwgx::lineAndColumn(text, error.offset),
+                             QStringLiteral("not JSON: ") + error.errorString());
+    requireStrictJson(text, path, large);
+    return document;
+}
+
 QJsonDocument readJsonFile(const QString &path, LargeNumbers large)
 {
     const QByteArray bytes = readFile(path);
     if (bytes.trimmed().isEmpty())
         throw CommandFailure(kBadInput, path, {}, QStringLiteral("the file is empty"));
-    QJsonParseError error;
-    QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
-    if (error.error != QJsonParseError::NoError)
-        throw CommandFailure(kBadInput, path, dwgx::lineAndColumn(bytes, error.offset),
-                             QStringLiteral("not JSON: ") + error.errorString());
-    requireStrictJson(bytes, path, large);
-    return document;
+    return parseJson(bytes, path, large);
 }
 
 QJsonObject readJsonObject(const QString &path, const QString &what, LargeNumbers large)

@@ -19,6 +19,8 @@ QByteArray readFile(const QString &path);
 /** Throws CommandFailure with line, column and reason for a JSON text that the library would not read as it stands: see
  *  StrictJsonText.h. The path is only told. */
 void requireStrictJson(const QByteArray &text, const QString &path, LargeNumbers large = LargeNumbers::Refused);
+/** The JSON document of a text; throws CommandFailure with line and column when it is none, or none by the letter. */
+QJsonDocument parseJson(const QByteArray &text, const QString &path, LargeNumbers large = LargeNumbers::Refused);
 /** A JSON document of a file; throws CommandFailure with line and column when it is none, or none by the letter. */
 QJsonDocument readJsonFile(const QString &path, LargeNumbers large = LargeNumbers::Refused);
 /** The object that a JSON file holds; throws CommandFailure, also when its top is no object.

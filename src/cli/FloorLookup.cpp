@@ -25,14 +25,6 @@ QString quotedList(const QStringList &names)
     return names.isEmpty() ? QStringLiteral("none") : '"' + names.join(QStringLiteral("\", \"")) + '"';
 }
 
-QString knownRegions(const HBXProject &project)
-{
-    QStringList names;
-    for (int i = 0; i < regionsOf(project).count(); ++i)
-        names.append(regionsOf(project).at(i)->name());
-    return quotedList(names);
-}
-
 QString knownFloors(IHBXRegion &region)
 {
     QStringList names;
@@ -68,6 +60,14 @@ IHBXFloor *floorIn(IHBXModel &model, const QString &regionName, const FloorKey &
 
 } // namespace
 
+QStringList regionNames(const HBXProject &project)
+{
+    QStringList names;
+    for (int i = 0; i < regionsOf(project).count(); ++i)
+        names.append(regionsOf(project).at(i)->name());
+    return names;
+}
+
 IHBXRegion &requireRegion(const HBXProject &project, const QString &name)
 {
     IHBXRegion *region =
@@ -76,7 +76,7 @@ IHBXRegion &requireRegion(const HBXProject &project, const QString &name)
         const QString reason =
             name.isEmpty() ? QStringLiteral("no --region is given") : QStringLiteral("no region \"%1\"").arg(name);
         throw CommandFailure(kBadInput, project.path(), {},
-                             reason + QStringLiteral("; known regions: ") + knownRegions(project));
+                             reason + QStringLiteral("; known regions: ") + quotedList(regionNames(project)));
     }
     return *region;
 }

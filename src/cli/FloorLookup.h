@@ -2,6 +2,7 @@
 
 #include <QSet>
 #include <QString>
+#include <QStringList>
 
 #include <vector>
 
@@ -18,6 +19,9 @@ namespace orvcad {
 struct Arguments;
 
 // What users name; a name that a building lacks throws CommandFailure with the names that it has.
+
+/** Names of all regions, in the host's order. */
+QStringList regionNames(const hbx::embedded::HBXProject &project);
 
 /** The region of that name. An empty name is the only region there is. */
 IHBXRegion &requireRegion(const hbx::embedded::HBXProject &project, const QString &name);

@@ -98,11 +98,11 @@ void addFloorsCommands(CLI::App &app, Command &command)
 {
     CLI::App &group = addGroup(app, "floors", "Floors documents");
     Verb(group, command, "export", "Write the floors of a region as a floors document", exportFloors)
-        .project()
+        .projects()
         .region()
-        .output("File to write the document to");
+        .output("File to write the document to", ".floors.json");
     Verb(group, command, "show", "Read a floors document and print how its floors stand to each other", showFloors)
-        .input("FLOORS", "Floors document");
+        .inputs("FLOORS", "Floors document");
 }
 
 } // namespace orvcad

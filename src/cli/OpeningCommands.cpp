@@ -59,16 +59,16 @@ void addOpeningCommands(CLI::App &app, Command &command)
 {
     CLI::App &group = addGroup(app, "opening", "Doors and windows");
     Verb(group, command, "export", "Write doors and windows in the form of a reply", exportOpenings)
-        .project()
+        .projects()
         .anyFloors()
-        .output("File to write the reply to");
+        .output("File to write the reply to", ".openings.json");
     Verb(group, command, "apply", "Write a reply into a project and save it", applyReply)
         .project()
         .input("REPLY", "Reply document")
         .strict("reply");
     Verb(group, command, "options", "Write the identify options of doors and windows", exportOptions)
-        .project()
-        .output("File to write the options to");
+        .projects()
+        .output("File to write the options to", ".opening-options.json");
 }
 
 } // namespace orvcad

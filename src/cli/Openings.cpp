@@ -6,6 +6,7 @@
 #include "cli/ElementRemoval.h"
 #include "cli/FloorLookup.h"
 #include "cli/OpeningTypes.h"
+#include "cli/Progress.h"
 #include "doorwindow/DoorWindowKeys.h"
 #include "doorwindow/JsonDoorWin2HBX.h"
 #include "doorwindow/ORVCADWindoorDataOutputModel.h"
@@ -150,8 +151,11 @@ OpeningOutcome applyOpenings(HBXProject &project, const QJsonArray &members)
 
     const HBXBatch batch(model, "orvcad opening apply");
     OpeningWriter writer(project, outcome);
-    for (int i = 0; i < check.sound().size(); ++i)
+    Progress progress(QStringLiteral("members"), check.sound().size());
+    for (int i = 0; i < check.sound().size(); ++i) {
         writer.write(check.soundPlaces()[static_cast<std::size_t>(i)], check.sound().at(i).toObject());
+        progress.step();
+    }
     return outcome;
 }
 

@@ -42,12 +42,12 @@ void addProjectCommands(CLI::App &app, Command &command)
 {
     CLI::App &group = addGroup(app, "project", "Project files of the embedded host");
     Verb(group, command, "import", "Make a project file from a building (hbx-project JSON)", importProject)
-        .input("BUILDING", "Building as hbx-project JSON")
-        .output("Project file to make (.hbxdb)", Verb::NoOutput::WrongUsage);
+        .inputs("BUILDING", "Building as hbx-project JSON")
+        .output("Project file to make (.hbxdb)", ".hbxdb", Verb::NoOutput::WrongUsage);
     Verb(group, command, "export", "Write a project as hbx-project JSON", exportProject)
-        .project()
-        .output("File to write the building to");
-    Verb(group, command, "info", "What is in a project: per region and floor the counts by type", showInfo).project();
+        .projects()
+        .output("File to write the building to", ".json");
+    Verb(group, command, "info", "What is in a project: per region and floor the counts by type", showInfo).projects();
 }
 
 } // namespace orvcad

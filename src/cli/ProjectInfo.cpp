@@ -68,10 +68,7 @@ QJsonArray typesToJson(const QMap<qint64, ProjectInfo::TypeCount> &types)
 {
     QJsonArray json;
     for (auto type = types.cbegin(); type != types.cend(); ++type)
-        json.append(QJsonObject{{"type", type.key()},
-                                {"title", typeTitle(type.key())},
-                                {"elements", type->elements},
-                                {"drawObjects", type->drawObjects}});
+        json.append(typeToJson(type.key(), *type));
     return json;
 }
 
@@ -117,6 +114,15 @@ ProjectInfo::TypeCount ProjectInfo::total() const
     return sum;
 }
 
+QMap<qint64, ProjectInfo::TypeCount> ProjectInfo::typesOn(const QString &region, const QString &floor) const
+{
+    for (const Region &known : regions)
+        for (const Floor &candidate : known.floors)
+            if (known.name == region && candidate.name == floor)
+                return candidate.types;
+    return {};
+}
+
 QString ProjectInfo::counts() const
 {
     const TypeCount sum = total();
@@ -153,6 +159,12 @@ QJsonObject ProjectInfo::toJson() const
             {"elements", total().elements},
             {"drawObjects", total().drawObjects},
             {"regions", regionArray}};
+}
+
+QJsonObject typeToJson(qint64 type, const ProjectInfo::TypeCount &count)
+{
+    return {
+        {"type", type}, {"title", typeTitle(type)}, {"elements", count.elements}, {"drawObjects", count.drawObjects}};
 }
 
 ProjectInfo projectInfo(const HBXProject &project)

@@ -40,12 +40,17 @@ struct ProjectInfo
 
     int floorCount() const;
     TypeCount total() const;
+    /** The counts of a floor by names; none for one that there is not. */
+    QMap<qint64, TypeCount> typesOn(const QString &region, const QString &floor) const;
     /** "1 region, 4 floors, 35 elements, 118 placed objects". */
     QString counts() const;
     /** A table for people. */
     QString table() const;
     QJsonObject toJson() const;
 };
+
+/** {"type", "title", "elements", "drawObjects"}. */
+QJsonObject typeToJson(qint64 type, const ProjectInfo::TypeCount &count);
 
 ProjectInfo projectInfo(const hbx::embedded::HBXProject &project);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/Applied.h"
+#include "cli/Progress.h"
 #include "platform/embedded/HBXProject.h"
 #include "platform/host/HBXBatch.h"
 #include "platform/host/IHBXDrawObjs.h"
@@ -25,8 +26,11 @@ Outcome writeSound(hbx::embedded::HBXProject &project, const Check &check, const
     const int drawObjsBefore = model.drawObjects()->count();
     const HBXBatch batch(model, batchKey);
     Writer writer(project, outcome);
-    for (const auto &member : check.sound())
+    Progress progress(QStringLiteral("members"), static_cast<int>(check.sound().size()));
+    for (const auto &member : check.sound()) {
         writer.write(member);
+        progress.step();
+    }
     writer.finish();
     outcome.doubled = doubledSince(model, drawObjsBefore);
     return outcome;

@@ -70,7 +70,7 @@ void addExport(CLI::App &group, Command &command)
 {
     Verb verb(group, command, "export", "Write what recognition gets of a floor's slabs", exportSlabs);
     verb.arguments().parts = SlabParts::kEverything;
-    verb.project().pickedFloor();
+    verb.projects().pickedFloor();
     CLI::Option *parts = verb.app().add_option(
         "--parts", verb.arguments().parts,
         "Sum of what is written: 2 supports, 4 slabs and holes, 8 bars of slabs, 32 rafts, 64 bars "
@@ -78,7 +78,7 @@ void addExport(CLI::App &group, Command &command)
     verb.app()
         .add_option("--drawing", verb.arguments().drawing, "Drawing to write along (.cadi2), with options and floor")
         ->excludes(parts);
-    verb.output("File to write the payload to");
+    verb.output("File to write the payload to", ".slabs.json");
 }
 
 void addApply(CLI::App &group, Command &command)

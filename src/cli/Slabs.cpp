@@ -40,15 +40,6 @@ const std::vector<Stage> &stages()
     return all;
 }
 
-QSet<qint64> slabTypes()
-{
-    QSet<qint64> types;
-    for (const SlabArray &array : slabArrays())
-        if (array.isMade())
-            types.insert(array.type);
-    return types;
-}
-
 SlabWriter::Members membersOf(const SlabReplyCheck &check, int parts)
 {
     SlabWriter::Members members;
@@ -147,6 +138,15 @@ QJsonObject SlabOutcome::idMap() const
     for (const auto &[id, identity] : ids)
         map.insert(QString::number(id), identity.toString());
     return map;
+}
+
+QSet<qint64> slabTypes()
+{
+    QSet<qint64> types;
+    for (const SlabArray &array : slabArrays())
+        if (array.isMade())
+            types.insert(array.type);
+    return types;
 }
 
 SlabOutcome applySlabs(HBXProject &project, IHBXFloor &floor, const QJsonObject &reply, const QString &file)

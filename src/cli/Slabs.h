@@ -4,6 +4,7 @@
 
 #include <QJsonObject>
 #include <QLatin1String>
+#include <QSet>
 #include <QString>
 #include <QUuid>
 
@@ -51,6 +52,9 @@ struct SlabOutcome
     /** {"<draw object id>": "{uuid}"}. */
     QJsonObject idMap() const;
 };
+
+/** Element types of slabs, rafts, holes and bars. */
+QSet<qint64> slabTypes();
 
 /** Writes the sound members of a reply into a floor, between the brackets of one batch: slabs, rafts and holes, then bars
  *  of slabs and bars of rafts, so that bars find what they lie in. The floor becomes the current one. Nothing is saved.

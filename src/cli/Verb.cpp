@@ -6,16 +6,32 @@
 
 namespace orvcad {
 
+namespace {
+constexpr char kProject[] = "PROJECT";
+constexpr char kProjectFile[] = "Project file (.hbxdb)";
+} // namespace
+
 Verb::Verb(CLI::App &group, Command &command, const std::string &name, const std::string &description, Action action)
-    : m_app(group.add_subcommand(name, description)), m_arguments(std::make_shared<Arguments>())
+    : m_app(group.add_subcommand(name, description)), m_arguments(std::make_shared<Arguments>()),
+      m_batch(std::make_shared<FileBatch>())
 {
-    m_app->callback(
-        [&command, arguments = m_arguments, action] { command = [arguments, action] { return action(*arguments); }; });
+    m_app->callback([&command, arguments = m_arguments, batch = m_batch, action] {
+        command = [arguments, batch, action] { return batch->run(action, *arguments); };
+    });
 }
 
 Verb &Verb::project()
 {
-    m_app->add_option("PROJECT", m_arguments->project, "Project file (.hbxdb)")->required();
+    m_app->add_option(kProject, m_arguments->project, kProjectFile)->required();
+    return *this;
+}
+
+Verb &Verb::projects() { return files(kProject, kProjectFile, &Arguments::project); }
+
+Verb &Verb::files(const std::string &name, const std::string &description, std::string Arguments::*file)
+{
+    m_batch->file = file;
+    m_app->add_option(name, m_batch->files, description + ", or several")->required()->type_name("TEXT");
     return *this;
 }
 
@@ -56,11 +72,25 @@ Verb &Verb::input(const std::string &name, const std::string &description)
     return *this;
 }
 
-Verb &Verb::output(const std::string &description, NoOutput none)
+Verb &Verb::inputs(const std::string &name, const std::string &description)
+{
+    return files(name, description, &Arguments::input);
+}
+
+Verb &Verb::output(const std::string &description, const std::string &ending, NoOutput none)
+{
+    return output(
+        description, [ending](const Arguments & /*arguments*/) { return ending; }, none);
+}
+
+Verb &Verb::output(const std::string &description, FileBatch::Ending ending, NoOutput none)
 {
     const std::string without = none == NoOutput::StandardOutput ? "; standard output if absent" : "";
-    m_app->add_option("-o,--output", m_arguments->output, description + without)
+    const std::string many = m_batch->file ? "; the directory for several" : "";
+    m_app->add_option("-o,--output", m_arguments->output, description + without + many)
         ->required(none == NoOutput::WrongUsage);
+    m_batch->ending = std::move(ending);
+    m_batch->isOutputRequired = none == NoOutput::StandardOutput;
     return *this;
 }
 

@@ -70,11 +70,17 @@ Summary applyReply(const Arguments &arguments)
     return saveApplied(*project, outcome.leftOut.empty(), arguments.strict, outcome.text(), outcome.toJson());
 }
 
+std::string endingOfInput(const Arguments &arguments)
+{
+    return '.' + arguments.kind + (arguments.format == kXml ? "-walls.xml" : "-walls.json");
+}
+std::string endingOfReply(const Arguments &arguments) { return '.' + arguments.kind + "-wall-reply.json"; }
+
 void addExport(CLI::App &group, Command &command)
 {
     Verb verb(group, command, "export", "Write what the recognition of walls is told of a floor", exportWalls);
     verb.arguments().format = kJson;
-    verb.project().wallKind();
+    verb.projects().wallKind();
     verb.app()
         .add_option("--format", verb.arguments().format, "Form of the document: json, xml or cloud (brick only)")
         ->check(CLI::IsMember({kJson, kXml, kCloud}))
@@ -82,7 +88,7 @@ void addExport(CLI::App &group, Command &command)
     verb.pickedFloor();
     verb.app().add_option("--drawing", verb.arguments().drawing,
                           "Drawing of the floor (.cadi2), whose lines and texts are added");
-    verb.output("File to write the document to");
+    verb.output("File to write the document to", endingOfInput);
 }
 
 } // namespace
@@ -92,10 +98,10 @@ void addWallCommands(CLI::App &app, Command &command)
     CLI::App &group = addGroup(app, "wall", "Brick walls and load-bearing concrete walls");
     addExport(group, command);
     Verb(group, command, "reply", "Write walls in the form of a reply", writeReply)
-        .project()
+        .projects()
         .wallKind()
         .anyFloors()
-        .output("File to write the reply to");
+        .output("File to write the reply to", endingOfReply);
     Verb(group, command, "apply", "Write a reply into a project and save it", applyReply)
         .project()
         .wallKind()

@@ -2,6 +2,7 @@
 
 #include "IdentifyInputModel/Wall/WallKeys.h"
 #include "cli/Counted.h"
+#include "cli/Progress.h"
 #include "cli/ElementRemoval.h"
 #include "cli/WallReplyCheck.h"
 #include "platform/embedded/HBXProject.h"
@@ -182,8 +183,11 @@ WallOutcome applyWalls(HBXProject &project, const WallKind &kind, const QJsonObj
     outcome.leftOut = check.leftOut();
     const HBXBatch batch(model, "orvcad wall apply");
     WallWriter writer(project, kind, outcome);
-    for (const WallReplyCheck::Member &member : check.sound())
+    Progress progress(QStringLiteral("walls"), static_cast<int>(check.sound().size()));
+    for (const WallReplyCheck::Member &member : check.sound()) {
         writer.write(member);
+        progress.step();
+    }
     return outcome;
 }
 

@@ -1,5 +1,7 @@
-#include "cli/Command.h"
+#include "cli/CommandLine.h"
 #include "cli/Files.h"
+#include "cli/Progress.h"
+#include "cli/Terminal.h"
 
 #include <CLI/CLI.hpp>
 
@@ -27,7 +29,7 @@ struct Flags
 
 void printError(const QString &text)
 {
-    const QByteArray bytes = text.toUtf8() + '\n';
+    const QByteArray bytes = orvcad::painted(text, STDERR_FILENO).toUtf8() + '\n';
     std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stderr);
 }
 
@@ -44,17 +46,22 @@ QString whatStands(const QJsonObject &summary)
 
 void print(const orvcad::Summary &summary, const Flags &flags)
 {
+    if (!flags.json)
+        for (const QString &failure : summary.failures)
+            printError(QStringLiteral("orvcad: ") + failure);
     const QString text = flags.json ? indented(summary.json) : flags.quiet ? QString() : summary.text;
     if (text.isEmpty())
         return;
     if (summary.documentOnStdout)
         printError(text);
     else
-        orvcad::writeToStandardOutput(text.toUtf8() + '\n', whatStands(summary.json));
+        orvcad::writeToStandardOutput(orvcad::painted(text, STDOUT_FILENO).toUtf8() + '\n', whatStands(summary.json));
 }
 
 int run(const orvcad::Command &command, const Flags &flags)
 {
+    if (flags.quiet)
+        orvcad::Progress::hide();
     try {
         const orvcad::Summary summary = command();
         print(summary, flags);
@@ -63,26 +70,6 @@ int run(const orvcad::Command &command, const Flags &flags)
         printError(flags.json ? indented(failure.toJson()) : QStringLiteral("orvcad: ") + failure.message());
         return failure.code();
     }
-}
-
-void describe(CLI::App &app, Flags &flags, orvcad::Command &command)
-{
-    app.require_subcommand(1);
-    app.fallthrough();
-    app.set_version_flag("--version", "orvcad " ORVCAD_VERSION);
-    app.add_flag("--json", flags.json, "Print the summary as one JSON object");
-    app.add_flag("--quiet", flags.quiet, "Print no summary");
-    orvcad::addDemoCommand(app, command);
-    orvcad::addProjectCommands(app, command);
-    orvcad::addFloorsCommands(app, command);
-    orvcad::addOpeningCommands(app, command);
-    orvcad::addSlabCommands(app, command);
-    orvcad::addBeamCommands(app, command);
-    orvcad::addWallCommands(app, command);
-    orvcad::addColumnCommands(app, command);
-    orvcad::addDrawingCommands(app, command);
-    orvcad::addDrawingsCommands(app, command);
-    orvcad::addDrawCommand(app, command);
 }
 
 /** What was wrong with the arguments; names the first one that nothing took. */
@@ -116,19 +103,16 @@ int tellAbout(const CLI::App &app, const CLI::Error &request)
 
 int parseAndRun(int argc, char **argv)
 {
-    CLI::App app("Moves buildings between a host model, recognition payloads and replies.", "orvcad");
-    Flags flags;
-    orvcad::Command command;
-    describe(app, flags, command);
+    orvcad::CommandLine line;
     try {
-        app.parse(argc, argv);
+        line.app().parse(argc, argv);
     } catch (const CLI::ParseError &error) {
         if (error.get_exit_code() == 0)
-            return tellAbout(app, error);
+            return tellAbout(line.app(), error);
         // The flags may not have been read yet when the arguments fail.
-        return tellWrongUsage(app, error, std::count(argv + 1, argv + argc, std::string_view("--json")) > 0);
+        return tellWrongUsage(line.app(), error, std::count(argv + 1, argv + argc, std::string_view("--json")) > 0);
     }
-    return run(command, flags);
+    return run(line.command(), {line.isJson(), line.isQuiet()});
 }
 
 /** A standard stream that is closed would be the number of the first file that is opened, and what is printed would go

@@ -51,9 +51,13 @@ protected:
 
     void start(QProcess &process, const QStringList &arguments) const
     {
+        start(process, QStringLiteral(ORVCAD_PROGRAM), arguments);
+    }
+    void start(QProcess &process, const QString &program, const QStringList &arguments) const
+    {
         process.setWorkingDirectory(m_directory.path());
         process.setProcessEnvironment(m_environment);
-        process.start(QStringLiteral(ORVCAD_PROGRAM), arguments);
+        process.start(program, arguments);
     }
     /** What became of a process; exit code -1 for one that crashed or never ended. */
     static Result resultOf(QProcess &process)

@@ -33,6 +33,21 @@ TEST(ProjectInfoTest, emptyProjectHasNothing)
     EXPECT_EQ(info.toJson()["regions"], QJsonValue(QJsonArray()));
 }
 
+TEST(ProjectInfoTest, countsOfAFloorAreFoundByItsNames)
+{
+    ProjectInfo::Floor low;
+    low.name = "Level 1";
+    low.types[15] = {1, 20};
+    ProjectInfo info;
+    info.regions = {{"East", {}}, {"West", {low}}};
+    const auto types = info.typesOn("West", "Level 1");
+    ASSERT_EQ(types.keys(), QList<qint64>{15});
+    EXPECT_EQ(typeToJson(15, types[15]),
+              (QJsonObject{{"type", 15}, {"title", "beam"}, {"elements", 1}, {"drawObjects", 20}}));
+    EXPECT_TRUE(info.typesOn("East", "Level 1").isEmpty());
+    EXPECT_TRUE(info.typesOn("West", "Level 2").isEmpty());
+}
+
 TEST(ProjectInfoTest, placeholdersInNamesAreLeftAlone)
 {
     ProjectInfo::Floor floor;

@@ -21,7 +21,8 @@ TEST_F(UsageTest, unknownGroupIsNamedAndTheGroupsAreListed)
 {
     const QByteArray message = wrongUsage({"castle"});
     EXPECT_TRUE(message.startsWith("orvcad: \"castle\" is not understood here\n")) << message.toStdString();
-    for (const char *group : {"demo", "project", "floors", "opening", "slab", "beam", "drawing", "drawings", "draw"})
+    for (const char *group :
+         {"demo", "project", "floors", "opening", "slab", "beam", "drawing", "drawings", "draw", "copy"})
         EXPECT_TRUE(message.contains(QByteArray("  ") + group + ' ')) << group;
 }
 
@@ -84,8 +85,8 @@ TEST_F(UsageTest, optionThatAVerbLacksIsNamed)
 
 TEST_F(UsageTest, oneArgumentTooManyIsNamed)
 {
-    const QByteArray message = wrongUsage({"project", "info", "house.hbxdb", "barn.hbxdb"});
-    EXPECT_TRUE(message.startsWith("orvcad: \"barn.hbxdb\" is not understood here\n")) << message.toStdString();
+    const QByteArray message = wrongUsage({"opening", "apply", "house.hbxdb", "reply.json", "more.json"});
+    EXPECT_TRUE(message.startsWith("orvcad: \"more.json\" is not understood here\n")) << message.toStdString();
 }
 
 TEST_F(UsageTest, wrongUsageWithJsonIsOneErrorObject)

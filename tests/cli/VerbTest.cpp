@@ -71,8 +71,8 @@ TEST_F(VerbTest, verbThatTakesARegionAloneHasNoFloor)
 
 TEST_F(VerbTest, outputMayBeAbsentUnlessThatIsWrongUsage)
 {
-    Verb(m_app, m_command, "export", "", told).output("File");
-    Verb(m_app, m_command, "make", "", told).output("File", Verb::NoOutput::WrongUsage);
+    Verb(m_app, m_command, "export", "", told).output("File", ".json");
+    Verb(m_app, m_command, "make", "", told).output("File", ".json", Verb::NoOutput::WrongUsage);
     EXPECT_EQ(run("export"), "||||||");
     EXPECT_EQ(run("export -o a.json"), "||||a.json||");
     EXPECT_EQ(run("make"), "--output is required");
@@ -81,9 +81,9 @@ TEST_F(VerbTest, outputMayBeAbsentUnlessThatIsWrongUsage)
 TEST_F(VerbTest, helpTellsWhereADocumentWithoutAFileGoes)
 {
     Verb standard(m_app, m_command, "export", "", told);
-    EXPECT_NE(standard.output("File").app().help().find("File; standard output if absent"), std::string::npos);
+    EXPECT_NE(standard.output("File", ".json").app().help().find("File; standard output if absent"), std::string::npos);
     Verb nothing(m_app, m_command, "floors", "", told);
-    EXPECT_EQ(nothing.output("File", Verb::NoOutput::NothingIsWritten).app().help().find("standard output"),
+    EXPECT_EQ(nothing.output("File", ".json", Verb::NoOutput::NothingIsWritten).app().help().find("standard output"),
               std::string::npos);
 }
 
@@ -93,6 +93,23 @@ TEST_F(VerbTest, wallKindIsBrickOrForce)
     EXPECT_EQ(run("reply --kind force"), "|||||force|");
     EXPECT_NE(run("reply --kind straw").find("straw not in"), std::string::npos);
     EXPECT_EQ(run("reply"), "--kind is required");
+}
+
+TEST_F(VerbTest, verbOfManyFilesRunsForEach)
+{
+    Verb(m_app, m_command, "info", "", told).projects().region();
+    Verb(m_app, m_command, "show", "", told).inputs("FILE", "");
+    EXPECT_EQ(run("info a.hbxdb b.hbxdb --region East"), "a.hbxdb: a.hbxdb|East|||||\nb.hbxdb: b.hbxdb|East|||||\n"
+                                                         "2 files: 2 done, 0 with something left out, 0 failed");
+    EXPECT_EQ(run("show"), "FILE is required");
+    EXPECT_EQ(run("show a.json"), "|||a.json|||");
+}
+
+TEST_F(VerbTest, helpOfAVerbOfManyFilesTellsWhereTheirResultsGo)
+{
+    Verb verb(m_app, m_command, "export", "", told);
+    EXPECT_NE(verb.projects().output("File", ".json").app().help().find("absent; the directory for several"),
+              std::string::npos);
 }
 
 TEST_F(VerbTest, whatStandsInTheArgumentsHoldsWhereNothingIsTyped)

@@ -1,0 +1,97 @@
+#include "cli/Examples.h"
+
+#include "CliFixture.h"
+#include "cli/CommandLine.h"
+#include "embedded/ExchangeDocuments.h"
+
+#include <CLI/CLI.hpp>
+
+#include <QFileInfo>
+
+using namespace orvcad;
+
+namespace {
+
+/** What the examples start from, and the program on the search path. */
+class ExamplesTest : public CliFixture
+{
+protected:
+    void SetUp() override
+    {
+        const QByteArray building = exchangetest::building("masonry-block");
+        write("building.json", building);
+        write("site.json", exchangetest::withoutElements(building, {4, 5, 15, 19, 25, 48, 1003}));
+        ASSERT_EQ(run({"project", "import", "site.json", "-o", "site.hbxdb"}).exitCode, 0);
+        ASSERT_TRUE(QFile::remove(path("site.json")));
+        place(QStringLiteral(ORVCAD_TEST_DATA "/honesty/beam-result.json"), "result.json");
+        place(QStringLiteral(ORVCAD_EXAMPLES "/precast-hall.column-results.json"), "columns.json");
+        place(QStringLiteral(ORVCAD_EXAMPLES "/precast-hall.drawing-set.json"), "drawing-set.json");
+        place(QStringLiteral(ORVCAD_EXAMPLES "/masonry-block.floor-sdc.json"), "floor-sdc.json");
+        const QString folder = QFileInfo(QStringLiteral(ORVCAD_PROGRAM)).path();
+        setVariable("PATH", folder + ':' + QString::fromLocal8Bit(qgetenv("PATH")));
+    }
+    void place(const QString &file, const QString &name) const
+    {
+        ASSERT_TRUE(QFile::copy(file, path(name))) << file.toStdString();
+    }
+    /** Runs a line as a shell does. */
+    Result typed(const QString &line) const
+    {
+        QProcess process;
+        start(process, QStringLiteral("/bin/sh"), {"-c", line});
+        return resultOf(process);
+    }
+};
+
+TEST_F(ExamplesTest, eachExampleDoesWhatItSaysWhenTypedAsItStands)
+{
+    for (const Example &example : examples()) {
+        const Result result = typed(example.typed);
+        EXPECT_EQ(result.exitCode, 0) << example.typed << '\n' << result.out.toStdString() << result.err.toStdString();
+    }
+    for (const char *made :
+         {"tour/after.svg", "building.hbxdb", "exported/site.json", "slab-ids.json", "plans/site.svg"})
+        EXPECT_TRUE(exists(made)) << made;
+}
+
+void expectExamples(const CLI::App &app)
+{
+    const auto below = app.get_subcommands([](const CLI::App *shown) { return !shown->get_group().empty(); });
+    const std::string name = commandName(app);
+    if (below.empty()) {
+        EXPECT_FALSE(examplesOf(name).empty()) << name << " has no example";
+    }
+    for (const std::string &typed : examplesOf(name)) {
+        EXPECT_NE(app.help().find(typed), std::string::npos) << typed;
+        EXPECT_EQ(typed.rfind("orvcad " + name, 0), 0U) << typed;
+    }
+    for (const CLI::App *next : below)
+        expectExamples(*next);
+}
+
+TEST_F(ExamplesTest, everyVerbHasOneAndItsHelpShowsIt)
+{
+    CommandLine line;
+    expectExamples(line.app());
+}
+
+TEST_F(ExamplesTest, everyExampleIsOfACommandThatThereIs)
+{
+    for (const Example &example : examples()) {
+        CommandLine line;
+        CLI::App *app = &line.app();
+        for (const QString &word : QString(example.command).split(' ', Qt::SkipEmptyParts))
+            EXPECT_NO_THROW(app = app->get_subcommand(word.toStdString())) << example.command;
+        EXPECT_EQ(commandName(*app), example.command);
+    }
+}
+
+TEST_F(ExamplesTest, oneExampleIsOneAndSeveralAreSeveral)
+{
+    CommandLine line;
+    EXPECT_NE(line.app().get_subcommand("demo")->help().find("Example:\n  orvcad demo tour\n"), std::string::npos);
+    EXPECT_NE(line.app().help().find("Examples:\n  orvcad demo tour\n  orvcad project import"), std::string::npos);
+    EXPECT_TRUE(examplesOf("castle").empty());
+}
+
+} // namespace

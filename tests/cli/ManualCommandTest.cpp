@@ -1,0 +1,34 @@
+#include "CliFixture.h"
+
+#include <QStandardPaths>
+
+namespace {
+
+using ManualCommandTest = CliFixture;
+
+TEST_F(ManualCommandTest, pagesAreWrittenIntoADirectoryThatIsMade)
+{
+    const Result result = run({"manual", "made/man1", "--json"});
+    EXPECT_EQ(result.exitCode, 0) << result.err.toStdString();
+    EXPECT_EQ(result.json()["pages"], QDir(path("made/man1")).entryList({"orvcad*.1"}).size());
+    EXPECT_TRUE(read("made/man1/orvcad-slab.1").startsWith(".TH ORVCAD-SLAB 1 "));
+}
+
+TEST_F(ManualCommandTest, helpDoesNotShowIt) { EXPECT_FALSE(run({"--help"}).out.contains("manual")); }
+
+TEST_F(ManualCommandTest, manReadsEachPageWithoutAWarning)
+{
+    ASSERT_FALSE(QStandardPaths::findExecutable("man").isEmpty()) << "man-db is not installed";
+    ASSERT_EQ(run({"manual", "pages"}).exitCode, 0);
+    setVariable("MANWIDTH", "80");
+    for (const QString &page : QDir(path("pages")).entryList({"*.1"})) {
+        QProcess process;
+        start(process, "man", {"--warnings", "-E", "UTF-8", "-l", "pages/" + page});
+        const Result result = resultOf(process);
+        EXPECT_EQ(result.exitCode, 0) << page.toStdString();
+        EXPECT_TRUE(result.err.isEmpty()) << page.toStdString() << ": " << result.err.toStdString();
+        EXPECT_TRUE(result.out.contains("EXIT STATUS")) << page.toStdString();
+    }
+}
+
+} // namespace

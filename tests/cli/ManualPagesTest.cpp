@@ -1,0 +1,83 @@
+#include "cli/ManualPages.h"
+
+#include "cli/CommandLine.h"
+
+#include <CLI/CLI.hpp>
+
+#include <gtest/gtest.h>
+
+using orvcad::CommandLine;
+using orvcad::ManualPage;
+using orvcad::manualPages;
+
+namespace {
+
+class ManualPagesTest : public ::testing::Test
+{
+protected:
+    /** The page of that name; empty for none. */
+    std::string page(const std::string &name)
+    {
+        for (const ManualPage &page : manualPages(m_line.app()))
+            if (page.name == name)
+                return page.text;
+        return {};
+    }
+
+    CommandLine m_line;
+};
+
+TEST_F(ManualPagesTest, programAndEachGroupThatTheHelpShowsHaveOne)
+{
+    std::vector<std::string> names;
+    for (const ManualPage &page : manualPages(m_line.app()))
+        names.push_back(page.name);
+    EXPECT_EQ(names,
+              (std::vector<std::string>{"orvcad", "orvcad-demo", "orvcad-project", "orvcad-floors", "orvcad-opening",
+                                        "orvcad-slab", "orvcad-beam", "orvcad-wall", "orvcad-column", "orvcad-drawing",
+                                        "orvcad-drawings", "orvcad-draw", "orvcad-copy"}));
+}
+
+TEST_F(ManualPagesTest, pageOfTheProgramNamesThePagesOfTheGroupsAndTheExitCodes)
+{
+    const std::string text = page("orvcad");
+    EXPECT_EQ(text.rfind(".TH ORVCAD 1 \"\" \"orvcad 1.", 0), 0U) << text;
+    for (const char *part : {"\n.BR orvcad\\-slab (1)\nSlabs, rafts, their holes and bars.\n", "\n.TP\n\\fB3\\fR\n",
+                             "\n\\fB\\-\\-json\\fR\nPrint the summary as one JSON object.\n", "orvcad demo tour\n"})
+        EXPECT_NE(text.find(part), std::string::npos) << part << "\nis missing in\n" << text;
+}
+
+TEST_F(ManualPagesTest, pageOfAGroupDescribesTheVerbsBelowItsGroups)
+{
+    const std::string text = page("orvcad-beam");
+    for (const char *part :
+         {"\n.SS orvcad beam seats apply\nMake the seats of a document in a project and save it.\n",
+          "\n.SS orvcad beam export\n", "\n\\fB\\-o\\fR, \\fB\\-\\-output\\fR \\fITEXT\\fR\nFile to write the ",
+          "\norvcad beam apply site.hbxdb beams.json\n", "\n.BR orvcad (1)\n"})
+        EXPECT_NE(text.find(part), std::string::npos) << part << "\nis missing in\n" << text;
+}
+
+TEST_F(ManualPagesTest, wordsToChooseFromStandInPlaceOfAValue)
+{
+    EXPECT_NE(page("orvcad-wall").find("\\fB\\-\\-kind\\fR \\fI{brick,force}\\fR"), std::string::npos);
+}
+
+TEST_F(ManualPagesTest, whatMayBeAbsentStandsInBrackets)
+{
+    const std::string text = page("orvcad-draw");
+    EXPECT_NE(text.find("\\fBorvcad draw\\fR \\fIPROJECT\\fR... [\\fB\\-\\-region\\fR \\fITEXT\\fR] "
+                        "\\fB\\-\\-floor\\fR \\fITEXT\\fR [\\fB\\-o\\fR \\fITEXT\\fR]\n"),
+              std::string::npos)
+        << text;
+}
+
+TEST(ManualPagesTextTest, charactersThatMeanSomethingToRoffAreEscaped)
+{
+    CLI::App app("Tells \\n and \"quotes\"", "orvcad");
+    app.add_subcommand("cut", ".TH of 'more'");
+    const std::vector<ManualPage> pages = manualPages(app);
+    EXPECT_NE(pages[0].text.find("\norvcad \\- Tells \\en and \\(dqquotes\\(dq\n"), std::string::npos) << pages[0].text;
+    EXPECT_NE(pages[1].text.find("\n\\&.TH of \\(aqmore\\(aq.\n"), std::string::npos) << pages[1].text;
+}
+
+} // namespace
