@@ -18,10 +18,11 @@ import subprocess
 import sys
 import tempfile
 
-import jsonschema
-
 from code_blocks import read_blocks
 from sessions import run_script, run_session
+
+sys.path.append(str(pathlib.Path(__file__).resolve().parents[1] / "schemas"))
+from check_documents import validator_of
 
 # Page, first line of the block, and why it is not run.
 UNRUN = {
@@ -49,7 +50,12 @@ class Blocks:
         by_language = {"sh": self.check_sh, "console": self.check_console, "json": self.check_json, "cpp": self.check_cpp,
                        "cmake": self.check_cmake, "text": self.check_text, "": self.check_text}
         check = by_language.get(block.language)
-        return check(block, folder) if check else [f"no kind of block: {block.language}"]
+        if not check:
+            return [f"no kind of block: {block.language}"]
+        try:
+            return check(block, folder)
+        except ValueError as error:  # what is no session, no JSON
+            return [str(error)]
 
     def check_sh(self, block, folder):
         return run_script(block.text, folder, self.tools, self.verbs)
@@ -61,10 +67,7 @@ class Blocks:
         document = json.loads(block.text)
         if len(block.info) == 1:
             return []
-        schema = self.root / f"schemas/{block.info[1]}.schema.json"
-        store = {path.name: json.loads(path.read_text("utf-8")) for path in schema.parent.glob("*.schema.json")}
-        validator = jsonschema.Draft202012Validator(
-            store[schema.name], resolver=jsonschema.RefResolver("", store[schema.name], store=store))
+        validator = validator_of(self.root / f"schemas/{block.info[1]}.schema.json")
         return [f"{error.json_path}: {error.message}" for error in validator.iter_errors(document)]
 
     def check_cpp(self, block, _folder):

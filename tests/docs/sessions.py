@@ -7,11 +7,13 @@ import subprocess
 
 
 def commands_of(text):
-    """Pairs of a command, behind "$ ", and the lines that it is said to print."""
+    """Pairs of a command, behind "$ " and its further lines behind "> ", and the lines that it is said to print."""
     session = []
     for line in text.splitlines():
         if line.startswith("$ "):
             session.append((line[2:], []))
+        elif session and line.startswith("> ") and not session[-1][1]:
+            session[-1] = (f"{session[-1][0]}\n{line[2:]}", [])
         elif session:
             session[-1][1].append(line)
         else:

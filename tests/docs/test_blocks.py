@@ -39,6 +39,9 @@ class Sessions(unittest.TestCase):
     def test_commandStandsAboveWhatItPrints(self):
         self.assertEqual(commands_of("$ a\nx\n\ny\n$ b\n"), [("a", ["x", "", "y"]), ("b", [])])
 
+    def test_commandMayHaveFurtherLines(self):
+        self.assertEqual(commands_of("$ cat <<A\n> x\n> A\nx\n> y\n"), [("cat <<A\nx\nA", ["x", "> y"])])
+
     def test_outputWithoutACommandIsAnError(self):
         with self.assertRaises(ValueError):
             commands_of("x\n$ a\n")
@@ -96,13 +99,26 @@ class OtherBlocks(unittest.TestCase):
         return checks
 
     def test_jsonMustParse(self):
-        self.assertEqual(self.checks().check_json(block('{"a": 1}', "json"), None), [])
-        with self.assertRaises(ValueError):
-            self.checks().check_json(block('{"a": }', "json"), None)
+        self.assertEqual(self.checks().check(block('{"a": 1}', "json"), None), [])
+        self.assertEqual(len(self.checks().check(block('{"a": }', "json"), None)), 1)
 
     def test_jsonIsHeldToTheSchemaThatItNames(self):
         self.assertEqual(self.checks().check_json(block('{"AreaName": "A", "Floors": []}', "json", "floors"), None), [])
         self.assertEqual(len(self.checks().check_json(block('{"Floors": []}', "json", "floors"), None)), 1)
+
+    def compiled(self, text, *words):
+        checks = self.checks()
+        checks.compiler, checks.flags = "c++", []
+        checks.check(block(text, "cpp", *words), None)
+        return checks.compile_sources()
+
+    def test_cppIsCompiledWithItsIncludes(self):
+        self.assertEqual(self.compiled("#include <cmath>\ndouble root() { return std::sqrt(2.0); }\n"), [])
+        self.assertIn("docs/a.md:3", self.compiled("\ndouble root() { return 2.0 }\n")[0])
+
+    def test_bodyOfCppStandsInAFunction(self):
+        self.assertEqual(self.compiled("int a = 1;\n++a;\n", "body"), [])
+        self.assertEqual(len(self.compiled("int a = 1;\n++a;\n")), 1)
 
     def test_commandInABlockOfTextIsFound(self):
         self.assertEqual(len(self.checks().check_text(block("$ orvcad demo\n"), None)), 1)
