@@ -27,7 +27,7 @@ TEST(DocumentRulesTest, documentsOfThisProjectNameWhatThereIs)
     const std::vector<SourceFile> documents = filesOf({"docs"}, {".md"});
     const std::vector<SourceFile> sources = filesOf({"src", "tests", "cmake"}, {".h", ".cpp", ".cmake", ".txt"});
     std::vector<std::string> paths;
-    for (const SourceFile &file : filesOf({"docs", "examples", "schemas"}, {".md", ".json"})) {
+    for (const SourceFile &file : filesOf({"docs", "examples", "schemas"}, {".md", ".json", ".svg"})) {
         paths.push_back(file.path);
     }
     EXPECT_FALSE(documents.empty());
