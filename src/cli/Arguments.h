@@ -19,6 +19,7 @@ struct Arguments
     std::string drawing;
     std::string ids;
     int parts = 0;
+    int width = 0; ///< pixels
     bool strict = false;
     bool asNew = false;
 
