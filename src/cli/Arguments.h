@@ -18,6 +18,7 @@ struct Arguments
     std::string format;
     std::string drawing;
     std::string ids;
+    std::string against;
     int parts = 0;
     int width = 0; ///< pixels
     bool strict = false;
