@@ -24,7 +24,9 @@ struct Arguments
     std::string toFloor;
     std::vector<std::string> roads;
     std::vector<std::string> words; ///< of a line that is completed
+    std::string against;
     int parts = 0;
+    int width = 0; ///< pixels
     bool strict = false;
     bool asNew = false;
 

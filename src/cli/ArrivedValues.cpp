@@ -1,10 +1,8 @@
 #include "cli/ArrivedValues.h"
 
+#include "cli/ShownValue.h"
 #include "encoding/GeometryFields.h"
 #include "platform/services/HbxRelation.h"
-
-#include <QJsonArray>
-#include <QJsonDocument>
 
 #include <algorithm>
 #include <cmath>
@@ -55,12 +53,6 @@ bool isSameText(const QString &sent, const QString &arrived)
            isSameCurve(sent, arrived) || isSameOutline(sent, arrived);
 }
 
-QString shown(const QJsonValue &value)
-{
-    const QByteArray json = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
-    return shortened(QString::fromUtf8(json.mid(1, json.size() - 2)));
-}
-
 } // namespace
 
 bool isSameValue(const QJsonValue &sent, const QJsonValue &arrived)
@@ -75,10 +67,10 @@ void leaveOutChanged(const QJsonObject &sent, const QJsonObject &arrived, const 
 {
     for (const QString &key : keys)
         if (sent.contains(key) && !isSameValue(sent[key], arrived[key]))
-            leftOut.push_back(
-                {place + u'.' + key, name,
-                 QStringLiteral("%1 was sent, and %2 is what the host has").arg(shown(sent[key]), shown(arrived[key])),
-                 false});
+            leftOut.push_back({place + u'.' + key, name,
+                               QStringLiteral("%1 was sent, and %2 is what the host has")
+                                   .arg(shownValue(sent[key]), shownValue(arrived[key])),
+                               false});
 }
 
 } // namespace orvcad

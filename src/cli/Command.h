@@ -63,6 +63,7 @@ void addDrawCommand(CLI::App &app, Command &command);
 void addCopyCommand(CLI::App &app, Command &command);
 void addManualCommand(CLI::App &app, Command &command);
 void addCompleteCommand(CLI::App &app, Command &command);
+void addDiffCommand(CLI::App &app, Command &command);
 void addDemoCommand(CLI::App &app, Command &command);
 
 } // namespace orvcad

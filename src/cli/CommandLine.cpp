@@ -12,7 +12,7 @@ namespace {
 constexpr void (*kGroups[])(CLI::App &, Command &) = {
     addDemoCommand,  addProjectCommands, addFloorsCommands, addOpeningCommands, addSlabCommands,
     addBeamCommands, addWallCommands,    addColumnCommands, addDrawingCommands, addDrawingsCommands,
-    addDrawCommand,  addCopyCommand,     addManualCommand,  addCompleteCommand,
+    addDrawCommand,  addDiffCommand,     addCopyCommand,    addManualCommand,   addCompleteCommand,
 };
 
 } // namespace

@@ -1,9 +1,11 @@
 #include "cli/BeamComparison.h"
 #include "cli/Beams.h"
 #include "cli/Counted.h"
+#include "cli/DifferenceReport.h"
 #include "cli/Files.h"
 #include "cli/FloorLookup.h"
 #include "cli/FloorsDocument.h"
+#include "cli/HtmlPage.h"
 #include "cli/OpeningComparison.h"
 #include "cli/Openings.h"
 #include "cli/PlanSvg.h"
@@ -39,6 +41,7 @@ const QString kBuilding = QStringLiteral(":/demo/masonry-block.json");
 const QString kDrawnFloor = QStringLiteral("Level 1");
 const QString kOriginal = QStringLiteral("building.hbxdb");
 const QString kRestored = QStringLiteral("restored.hbxdb");
+const QString kStripped = QStringLiteral("stripped.hbxdb");
 
 const WallTour::Stop kBrickWalls{"brick", kDrawnFloor, kOriginal, kRestored, QStringLiteral("walls.json")};
 
@@ -145,6 +148,22 @@ void drawFloor(Tour &tour, const HBXProject &project, const QString &projectFile
               QStringLiteral("%1 at 1:%2").arg(counted(plan.drawn, QStringLiteral("placed object"))).arg(plan.scale));
 }
 
+/** Pages for a browser: the building with what the replies made, and what they changed of the copy that had lost it. */
+void drawPages(Tour &tour, const HBXProject &restored)
+{
+    const HtmlPage building = htmlPageOf(restored, pickFloors(restored, QString(), QString()));
+    writeResult(tour.path(QStringLiteral("building.html")), building.document);
+    tour.step(QStringLiteral("draw restored.hbxdb -o building.html"),
+              QStringLiteral("%1 on %2")
+                  .arg(counted(building.drawn, QStringLiteral("placed object")),
+                       counted(building.floors, QStringLiteral("floor"))));
+    const auto stripped = openProject(tour.path(kStripped));
+    const ProjectDifference difference = differenceBetween(*stripped, restored);
+    writeResult(tour.path(QStringLiteral("changes.html")), htmlPageOf(*stripped, restored, difference).document);
+    tour.step(QStringLiteral("draw stripped.hbxdb --against restored.hbxdb -o changes.html"),
+              DifferenceReport(difference).headline());
+}
+
 /** The copy that has lost its doors and windows and the beams and slabs of a floor, saved and opened again. */
 std::unique_ptr<HBXProject> stripCopy(Tour &tour, HBXProject &project, const QString &path)
 {
@@ -152,6 +171,7 @@ std::unique_ptr<HBXProject> stripCopy(Tour &tour, HBXProject &project, const QSt
     const int beams = removeBeams(project, drawnFloor(project));
     const int slabs = removeSlabs(project, drawnFloor(project));
     saveProjectAs(project, path);
+    saveProjectAs(project, tour.path(kStripped));
     tour.say(
         QStringLiteral("A copy, restored.hbxdb, loses all doors and windows (%1) and the beams (%2) and slabs (%3) of "
                        "%4, with all that is placed.")
@@ -232,12 +252,13 @@ Summary conclude(Tour &tour, const QString &directory, const Outcomes &outcomes,
     tour.say(beamComparison.text());
     tour.say(slabComparison.text());
     tour.say(brickWalls.compare());
+    drawPages(tour, *restored);
     const WallTour forceWalls = visitHall(tour, directory);
     RecordTour records(directory);
     tour.step(records.showDrawings());
     tour.step(records.checkColumns());
     tour.say(QStringLiteral("Everything stands in %1; before.svg and after.svg, hall-before.svg and "
-                            "hall-after.svg are the pictures.")
+                            "hall-after.svg are the pictures, building.html and changes.html the pages.")
                  .arg(directory));
     const bool isSame = comparison.isSame() && beamComparison.isSame() && slabComparison.isSame() &&
                         brickWalls.isSame() && forceWalls.isSame() && records.isSame();

@@ -53,6 +53,9 @@ const std::vector<Example> &examples()
         {"", "orvcad draw building.hbxdb --floor \"Level 1\" -o plan.svg"},
         {"draw", "orvcad draw building.hbxdb --floor \"Level 1\" -o plan.svg"},
         {"draw", "orvcad draw building.hbxdb site.hbxdb --floor 1 -o plans/"},
+        {"draw", "orvcad draw building.hbxdb -o building.html"},
+        {"draw", "orvcad draw building.hbxdb --against site.hbxdb -o difference.html"},
+        {"diff", "orvcad diff building.hbxdb site.hbxdb", kLeftOut},
         {"copy", "orvcad copy building.hbxdb --floor \"Level 2\" site.hbxdb --floor \"Level 2\""},
         {"copy", "orvcad copy building.hbxdb --floor \"Level 3\" --to-floor \"Level 5\" --roads wall,opening"},
     };

@@ -1,11 +1,9 @@
 #pragma once
 
+#include "cli/Command.h"
+
 #include <string>
 #include <vector>
-
-namespace CLI {
-class App;
-}
 
 namespace orvcad {
 
@@ -14,6 +12,7 @@ struct Example
 {
     const char *command; ///< "project import"; empty for the program as a whole
     const char *typed;
+    ExitCode exitCode = kDone;
 };
 
 /** In an order in which each finds what those before it made. What they start from is a building, building.json, a project

@@ -101,19 +101,27 @@ int planOrder(qint64 type) { return static_cast<int>(find(type) - std::begin(kSt
 
 QString planFill(qint64 type)
 {
-    return fillText(isOpening(type) || isHole(type) ? QStringLiteral("#fff") : hexOf(rgbOf(type)),
-                    isHole(type) ? kSolid : styleOf(type).fillOpacity);
+    return fillText(planFillColour(type), isHole(type) ? kSolid : styleOf(type).fillOpacity);
 }
 
 QString planShade(qint64 type, double opacity) { return fillText(planStrokeColour(type), opacity); }
 
-QString planStroke(qint64 type)
+QString planFillColour(qint64 type)
+{
+    return isOpening(type) || isHole(type) ? QStringLiteral("#fff") : hexOf(rgbOf(type));
+}
+
+PlanLine planLine(qint64 type)
 {
     const Style &style = styleOf(type);
-    const QString stroke =
-        QStringLiteral("stroke=\"%1\" stroke-width=\"%2\"").arg(planStrokeColour(type)).arg(style.stroke);
-    const QString dashes = QString::fromLatin1(style.dashes);
-    return dashes.isEmpty() ? stroke : stroke + QStringLiteral(" stroke-dasharray=\"%1\"").arg(dashes);
+    return {planStrokeColour(type), style.stroke, QString::fromLatin1(style.dashes)};
+}
+
+QString planStroke(qint64 type)
+{
+    const PlanLine line = planLine(type);
+    const QString stroke = QStringLiteral("stroke=\"%1\" stroke-width=\"%2\"").arg(line.colour).arg(line.width);
+    return line.dashes.isEmpty() ? stroke : stroke + QStringLiteral(" stroke-dasharray=\"%1\"").arg(line.dashes);
 }
 
 QString planStrokeColour(qint64 type)

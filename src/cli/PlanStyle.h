@@ -10,6 +10,17 @@ namespace orvcad {
 /** Place of a type from the bottom of the picture up; types that no plan shows lie at the top. */
 int planOrder(qint64 type);
 
+/** How the lines of a type are drawn. */
+struct PlanLine
+{
+    QString colour;     ///< #rrggbb
+    double width = 0.0; ///< mm of paper
+    QString dashes;     ///< lengths of dashes and gaps, mm of paper; empty for a line without gaps
+};
+PlanLine planLine(qint64 type);
+
+/** The colour that the outlines of a type are filled with, more or less densely: #rrggbb, or #fff for what is no body. */
+QString planFillColour(qint64 type);
 /** What the outlines of a type are filled with. */
 QString planFill(qint64 type);
 /** An area in one of the shades of its type. */

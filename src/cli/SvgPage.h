@@ -35,6 +35,8 @@ public:
     void addText(const vks::CVec2<double> &point, double size, const QString &text,
                  const QString &attributes = QString(), double angle = 0.0);
 
+    /** What stands on the page so far, without the document around it. */
+    QByteArray body() const { return m_body.toUtf8(); }
     /** The finished document. */
     QByteArray document(const QString &title, const QByteArray &style) const;
 

@@ -64,10 +64,10 @@ TEST_F(DemoCommandTest, tourLeavesItsFiles)
 {
     ASSERT_EQ(run({"demo", "tour"}).exitCode, 0);
     EXPECT_EQ(QDir(path("tour")).entryList(QDir::Files, QDir::Name).join(' ').toStdString(),
-              "after.svg beams.json before.svg building.hbxdb building.json floors.json hall-after.svg hall-before.svg "
-              "hall-columns.json hall-drawings.json hall-restored.hbxdb hall-walls.json hall.hbxdb hall.json "
-              "openings.json restored.hbxdb slab-ids.json "
-              "slabs.json walls.json");
+              "after.svg beams.json before.svg building.hbxdb building.html building.json changes.html floors.json "
+              "hall-after.svg hall-before.svg hall-columns.json hall-drawings.json hall-restored.hbxdb hall-walls.json "
+              "hall.hbxdb hall.json "
+              "openings.json restored.hbxdb slab-ids.json slabs.json stripped.hbxdb walls.json");
     EXPECT_EQ(read("tour/building.json"), clitest::fileContent(sample("masonry-block")));
 }
 
@@ -131,7 +131,7 @@ TEST_F(DemoCommandTest, tourTellsItsStepsAsOneWouldTypeThem)
           "24, ",
           "written again, it is the same document",
           "Everything stands in tour; before.svg and after.svg, hall-before.svg and hall-after.svg are the "
-          "pictures."}) {
+          "pictures, building.html and changes.html the pages."}) {
         const int found = result.out.indexOf(step, place);
         EXPECT_GE(found, place) << step << "\nis missing in\n" << result.out.toStdString();
         place = std::max(place, found);

@@ -55,6 +55,41 @@ TEST_F(DrawCommandTest, everyFloorOfEverySampleIsDrawn)
     });
 }
 
+TEST_F(DrawCommandTest, pictureIsAPngWhereTheEndingOrTheFormatSaysSo)
+{
+    importSmallHouse();
+    const QStringList draw{"draw", "house.hbxdb", "--floor", "1", "--width", "300"};
+    EXPECT_EQ(run(draw + QStringList{"-o", "plan.PNG"}).exitCode, 0);
+    EXPECT_TRUE(read("plan.PNG").startsWith("\x89PNG"));
+    EXPECT_EQ(run(draw + QStringList{"--format", "png", "-o", "plan.svg"}).exitCode, 0);
+    EXPECT_EQ(read("plan.svg"), read("plan.PNG"));
+    EXPECT_EQ(run(draw + QStringList{"--format", "png"}).out, read("plan.PNG"));
+}
+
+TEST_F(DrawCommandTest, widthIsForPngPicturesAndHasLimits)
+{
+    importSmallHouse();
+    const QStringList draw{"draw", "house.hbxdb", "--floor", "1"};
+    for (const QStringList &wrong : {QStringList{"-o", "a.png", "--width", "99"},
+                                     {"-o", "a.png", "--width", "10001"},
+                                     {"-o", "a.png", "--width", "wide"},
+                                     {"-o", "a.svg", "--width", "300"}}) {
+        const Result result = run(draw + wrong);
+        EXPECT_EQ(result.exitCode, 1) << wrong.join(' ').toStdString();
+        EXPECT_TRUE(result.err.contains("--width")) << result.err.toStdString();
+    }
+    EXPECT_FALSE(exists("a.png"));
+}
+
+TEST_F(DrawCommandTest, missingPainterIsTold)
+{
+    importSmallHouse();
+    setVariable("PATH", path("."));
+    const QJsonObject error = refusal({"draw", "house.hbxdb", "--floor", "1", "-o", "a.png"}, "rsvg-convert");
+    EXPECT_EQ(error["reason"].toString(), "is not there, and it makes PNG pictures (package librsvg2-bin)");
+    EXPECT_FALSE(exists("a.png"));
+}
+
 TEST_F(DrawCommandTest, unknownRegionAndFloorListTheKnownOnes)
 {
     importSample("made-building");

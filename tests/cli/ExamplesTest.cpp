@@ -47,7 +47,8 @@ TEST_F(ExamplesTest, eachExampleDoesWhatItSaysWhenTypedAsItStands)
 {
     for (const Example &example : examples()) {
         const Result result = typed(example.typed);
-        EXPECT_EQ(result.exitCode, 0) << example.typed << '\n' << result.out.toStdString() << result.err.toStdString();
+        EXPECT_EQ(result.exitCode, example.exitCode) << example.typed << '\n'
+                                                     << result.out.toStdString() << result.err.toStdString();
     }
     for (const char *made :
          {"tour/after.svg", "building.hbxdb", "exported/site.json", "slab-ids.json", "plans/site.svg"})
