@@ -121,7 +121,7 @@ NINJA = """rule compile
 rule link
   command = : && c++ -shared -Wl,-soname,liborvcadmodeldata.so -o $out $in && :
 rule program
-  command = : && c++ -o $out $in -Llib -lORVCADModelData -Wl,-rpath,$$PWD/lib && :
+  command = : && c++ -o $out $in -Llib -lorvcadmodeldata -Wl,-rpath,$$PWD/lib && :
 build CMakeFiles/ORVCADModelData.dir/larger.o: compile {folder}/src/part/larger.cpp
 build lib/liborvcadmodeldata.so: link CMakeFiles/ORVCADModelData.dir/larger.o
 build bin/LargerTests: program {folder}/tests/part/largerTest.cpp | lib/liborvcadmodeldata.so
