@@ -9,11 +9,13 @@ add_custom_command(
     VERBATIM)
 add_custom_target(ORVCADManual ALL DEPENDS ${ORVCAD_MANUAL_DIR}/orvcad.1)
 
-install(DIRECTORY ${ORVCAD_MANUAL_DIR}/ DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 OPTIONAL
+install(DIRECTORY ${ORVCAD_MANUAL_DIR}/ DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT Command
     FILES_MATCHING PATTERN "*.1")
 
 set(ORVCAD_COMPLETION_DIR ${PROJECT_SOURCE_DIR}/src/cli/completion)
 install(FILES ${ORVCAD_COMPLETION_DIR}/orvcad.bash
-    DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME orvcad)
-install(FILES ${ORVCAD_COMPLETION_DIR}/_orvcad DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/site-functions)
-install(FILES ${ORVCAD_COMPLETION_DIR}/orvcad.fish DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME orvcad COMPONENT Command)
+install(FILES ${ORVCAD_COMPLETION_DIR}/_orvcad
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/site-functions COMPONENT Command)
+install(FILES ${ORVCAD_COMPLETION_DIR}/orvcad.fish
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d COMPONENT Command)

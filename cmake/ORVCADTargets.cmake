@@ -23,12 +23,21 @@ function(orvcad_add_library target export_name)
         $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>
         $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/include>
         $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/ORVCADModelData>)
+    string(TOLOWER ${target} file_name) # liborvcadmodeldata.so.1: what the system's own packages call libraries
     set_target_properties(${target} PROPERTIES
+        OUTPUT_NAME ${file_name}
         EXPORT_NAME ${export_name}
         LINKER_LANGUAGE CXX
         VERSION ${PROJECT_VERSION}
         SOVERSION ${PROJECT_VERSION_MAJOR}
         INSTALL_RPATH "$ORIGIN")
+endfunction()
+
+# orvcad_public_headers(<library> <header>...)
+# Headers of this folder that are installed with a library: what programs include, and what those headers include.
+function(orvcad_public_headers library)
+    list(TRANSFORM ARGN PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/ OUTPUT_VARIABLE headers)
+    set_property(TARGET ${library} APPEND PROPERTY ORVCAD_PUBLIC_HEADERS ${headers})
 endfunction()
 
 # orvcad_add_folders(<folder>...): those that have something to build.

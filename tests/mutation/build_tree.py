@@ -13,7 +13,7 @@ import shutil
 import signal
 import subprocess
 
-SHARED_OBJECT = "lib/libORVCADModelData.so"
+SHARED_OBJECT = "lib/liborvcadmodeldata.so"
 MEMORY = 4 << 30
 LONGEST_SECONDS = 600  # for a compiler, or for all tests of a program
 SLOW_SECONDS = 0.5  # a test that takes longer waits for the others

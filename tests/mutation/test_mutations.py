@@ -119,12 +119,12 @@ NINJA = """rule compile
   depfile = $out.d
   deps = gcc
 rule link
-  command = : && c++ -shared -Wl,-soname,libORVCADModelData.so -o $out $in && :
+  command = : && c++ -shared -Wl,-soname,liborvcadmodeldata.so -o $out $in && :
 rule program
-  command = : && c++ -o $out $in -Llib -lORVCADModelData -Wl,-rpath,$$PWD/lib && :
+  command = : && c++ -o $out $in -Llib -lorvcadmodeldata -Wl,-rpath,$$PWD/lib && :
 build CMakeFiles/ORVCADModelData.dir/larger.o: compile {folder}/src/part/larger.cpp
-build lib/libORVCADModelData.so: link CMakeFiles/ORVCADModelData.dir/larger.o
-build bin/LargerTests: program {folder}/tests/part/largerTest.cpp | lib/libORVCADModelData.so
+build lib/liborvcadmodeldata.so: link CMakeFiles/ORVCADModelData.dir/larger.o
+build bin/LargerTests: program {folder}/tests/part/largerTest.cpp | lib/liborvcadmodeldata.so
 build LargerTests: phony bin/LargerTests
 """
 

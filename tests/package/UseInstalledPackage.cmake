@@ -1,11 +1,16 @@
-# Arguments: BUILD (finished build tree), CONSUMER (its source), WORK (folder to work in), GENERATOR.
+# Builds a project against the installation and runs its tests.
+# Arguments: SOURCE (the project), PREFIX (of the installation), WORK (folder to work in), GENERATOR, COMPILER, LAUNCHER (of
+# the compiler; may be empty).
 
-function(run)
-    execute_process(COMMAND ${ARGN} COMMAND_ERROR_IS_FATAL ANY)
-endfunction()
+cmake_minimum_required(VERSION 3.22)
+include(${CMAKE_CURRENT_LIST_DIR}/RunCommand.cmake)
 
 file(REMOVE_RECURSE ${WORK})
-run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${WORK}/prefix)
-run(${CMAKE_COMMAND} -S ${CONSUMER} -B ${WORK}/build -G ${GENERATOR} -D CMAKE_PREFIX_PATH=${WORK}/prefix)
-run(${CMAKE_COMMAND} --build ${WORK}/build)
-run(${WORK}/build/consumer)
+run(${CMAKE_COMMAND} -S ${SOURCE} -B ${WORK} -G ${GENERATOR}
+    -D CMAKE_PREFIX_PATH=${PREFIX}
+    -D CMAKE_BUILD_TYPE=Debug
+    -D CMAKE_CXX_FLAGS_DEBUG=
+    -D CMAKE_CXX_COMPILER=${COMPILER}
+    "-D CMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER}")
+run(${CMAKE_COMMAND} --build ${WORK})
+run(ctest --test-dir ${WORK} --output-on-failure)

@@ -1,0 +1,87 @@
+# Installs each component into a folder of its own, looks at what it laid down, then all of them into PREFIX.
+# Arguments: BUILD (finished build tree), VERSION, LIBDIR, WORK (folder to work in), PREFIX.
+
+cmake_minimum_required(VERSION 3.22)
+include(${CMAKE_CURRENT_LIST_DIR}/RunCommand.cmake)
+
+# The files of a component, in order.
+function(install_component component out)
+    run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${WORK}/${component} --component ${component})
+    file(GLOB_RECURSE files RELATIVE ${WORK}/${component} ${WORK}/${component}/*)
+    list(SORT files)
+    set(${out} ${files} PARENT_SCOPE)
+endfunction()
+
+function(expect_files component)
+    install_component(${component} files)
+    if(NOT "${files}" STREQUAL "${ARGN}")
+        message(FATAL_ERROR "${component} holds\n  ${files}\nand not\n  ${ARGN}")
+    endif()
+endfunction()
+
+function(expect_matches text pattern)
+    if(NOT text MATCHES "${pattern}")
+        message(FATAL_ERROR "${pattern} is not in\n${text}")
+    endif()
+endfunction()
+
+function(expect_soname library)
+    execute_process(COMMAND readelf -d ${WORK}/Runtime/${LIBDIR}/${library}
+        OUTPUT_VARIABLE dynamic COMMAND_ERROR_IS_FATAL ANY)
+    expect_matches("${dynamic}" "SONAME[^\n]*\\[${library}\\]")
+endfunction()
+
+file(REMOVE_RECURSE ${WORK} ${PREFIX})
+string(REGEX MATCH "^[0-9]+" major ${VERSION})
+
+expect_files(Command bin/orvcad)
+expect_files(Runtime
+    ${LIBDIR}/liborvcadmodeldata.so.${major}
+    ${LIBDIR}/liborvcadmodeldata.so.${VERSION}
+    ${LIBDIR}/liborvcadplatform.so.${major}
+    ${LIBDIR}/liborvcadplatform.so.${VERSION})
+expect_soname(liborvcadmodeldata.so.${major})
+expect_soname(liborvcadplatform.so.${major})
+
+install_component(Development files)
+foreach(file IN LISTS files)
+    expect_matches(${file}
+        "^(include|share)/ORVCADModelData/|^${LIBDIR}/(cmake/ORVCADModelData|pkgconfig)/|^${LIBDIR}/lib[a-z]+\\.so$")
+endforeach()
+foreach(wanted IN ITEMS
+        include/ORVCADModelData/ORVCADModelDataExport.h
+        include/ORVCADModelData/ORVCADPlatformExport.h
+        include/ORVCADModelData/encoding/ObjectMembers.h
+        include/ORVCADModelData/platform/embedded/HBXProject.h
+        include/ORVCADModelData/platform/host/IHBXService.h
+        share/ORVCADModelData/host_contract/HostContract.h
+        ${LIBDIR}/liborvcadmodeldata.so
+        ${LIBDIR}/pkgconfig/orvcadplatform.pc)
+    if(NOT wanted IN_LIST files)
+        message(FATAL_ERROR "Development lacks ${wanted}")
+    endif()
+endforeach()
+foreach(unwanted IN ITEMS
+        include/ORVCADModelData/cli/Command.h
+        include/ORVCADModelData/platform/embedded/HBXDatabaseFile.h
+        include/ORVCADModelData/ModelSerialization/SlabRows.h
+        share/ORVCADModelData/host_contract/EmbeddedHostContractTest.cpp)
+    if(unwanted IN_LIST files)
+        message(FATAL_ERROR "Development holds ${unwanted}, which is no one else's affair")
+    endif()
+endforeach()
+
+# Nothing of this machine is written down in what is installed as text.
+foreach(file IN LISTS files)
+    if(file MATCHES "\\.(cmake|pc)$")
+        file(READ ${WORK}/Development/${file} text)
+        foreach(path IN ITEMS ${BUILD} ${WORK})
+            string(FIND "${text}" ${path} found)
+            if(NOT found EQUAL -1)
+                message(FATAL_ERROR "${file} names ${path}")
+            endif()
+        endforeach()
+    endif()
+endforeach()
+
+run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${PREFIX})
