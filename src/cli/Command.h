@@ -23,7 +23,7 @@ struct Summary
     QJsonObject json; ///< stable keys, told in docs/cli.md
     ExitCode exitCode = kDone;
     bool documentOnStdout = false; ///< the result itself went to standard output, so the summary must not
-    QStringList failures = {};          ///< files of several that failed, for people, who are told on standard error
+    QStringList failures = {};     ///< files of several that failed, for people, who are told on standard error
 };
 
 /** Ends a command: the message names file, place and reason. */

@@ -2,8 +2,8 @@
 
 #include "IdentifyInputModel/Wall/WallKeys.h"
 #include "cli/Counted.h"
-#include "cli/Progress.h"
 #include "cli/ElementRemoval.h"
+#include "cli/Progress.h"
 #include "cli/WallReplyCheck.h"
 #include "platform/embedded/HBXProject.h"
 #include "platform/host/HBXBatch.h"
