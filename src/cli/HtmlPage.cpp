@@ -98,7 +98,7 @@ public:
 private:
     QString title() const
     {
-        const QString name = m_after.name();
+        QString name = m_after.name();
         if (!m_before)
             return name;
         return m_before->name() == name ? QStringLiteral("%1: before and after").arg(name)

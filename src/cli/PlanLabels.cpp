@@ -46,6 +46,14 @@ std::vector<Point> cornersOf(const PlanLabels::Frame &frame)
             frame.centre - along + across};
 }
 
+vks::CBox2<double> boxOf(const PlanLabels::Frame &frame)
+{
+    vks::CBox2<double> box;
+    for (const Point &corner : cornersOf(frame))
+        box.Add(corner);
+    return box;
+}
+
 bool isWithin(const PlanLabels::Frame &text, const vks::CPolygon &outline)
 {
     const auto outside = [&outline](const Point &point) { return outline.Locate(point, 0.0) < 0; };
@@ -72,6 +80,8 @@ bool PlanLabels::Frame::overlaps(const Frame &other) const
     const double reach = std::hypot(halfLength, halfWidth) + std::hypot(other.halfLength, other.halfWidth);
     return centre.DistanceTo(other.centre) < reach && !liesApart(*this, other) && !liesApart(other, *this);
 }
+
+PlanLabels::PlanLabels(double textHeight) : m_textHeight(textHeight), m_tree(dwgx::DWGXBaseBoxTree::createObject()) {}
 
 PlanLabels::Frame PlanLabels::frameOf(const vks::CPolygon &outline)
 {
@@ -108,14 +118,23 @@ PlanLabels::Frame PlanLabels::frameOfText(const Frame &place, const Point &middl
 
 bool PlanLabels::isFree(const Frame &text, const vks::CPolygon *owner) const
 {
-    const auto covered = [&text](const Frame &other) { return other.overlaps(text); };
-    const auto kept = [&](const Kept &other) { return other.owner != owner && other.frame.overlaps(text); };
-    return std::none_of(m_taken.begin(), m_taken.end(), covered) && std::none_of(m_kept.begin(), m_kept.end(), kept);
+    std::vector<void *> near;
+    m_tree->getIntersectantData(boxOf(text), near);
+    return std::none_of(near.begin(), near.end(), [&](void *data) {
+        const Occupied &place = *static_cast<Occupied *>(data);
+        return (!place.owner || place.owner != owner) && place.frame.overlaps(text);
+    });
+}
+
+void PlanLabels::occupy(const Frame &frame, const vks::CPolygon *owner)
+{
+    m_occupied.push_back({owner, frame});
+    m_tree->add(boxOf(frame), &m_occupied.back());
 }
 
 PlanLabels::Label PlanLabels::take(const Frame &text)
 {
-    m_taken.push_back(text);
+    occupy(text, nullptr);
     return {text.centre - text.along.Left() * text.halfWidth, std::atan2(text.along.y, text.along.x)};
 }
 
@@ -123,7 +142,7 @@ void PlanLabels::keepFree(const vks::CPolygon &outline)
 {
     const Frame frame = frameOf(outline);
     if (outline.Area() >= kFilled * 4 * frame.halfLength * frame.halfWidth)
-        m_kept.push_back({&outline, frame});
+        occupy(frame, &outline);
 }
 
 std::optional<PlanLabels::Label> PlanLabels::placeInside(const vks::CPolygon &outline, const QString &name)

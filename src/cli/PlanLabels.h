@@ -1,9 +1,12 @@
 #pragma once
 
+#include "platform/dwgx/DWGXBaseBoxTree.h"
 #include "platform/geometry/CPolygon.h"
 
 #include <QString>
 
+#include <deque>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -32,7 +35,7 @@ public:
     };
 
     /** @param textHeight  height of a capital letter, mm of the plan */
-    explicit PlanLabels(double textHeight) : m_textHeight(textHeight) {}
+    explicit PlanLabels(double textHeight);
 
     /** Keeps an outline free of names other than its own; one that is no rectangle, more or less, is passed over. */
     void keepFree(const vks::CPolygon &outline);
@@ -50,20 +53,22 @@ public:
     static double widthOf(const QString &text, double textHeight);
 
 private:
-    struct Kept
+    /** A place that is not free: for names other than the owner's, or for all where there is no owner. */
+    struct Occupied
     {
         const vks::CPolygon *owner;
         Frame frame;
     };
 
+    void occupy(const Frame &frame, const vks::CPolygon *owner);
     Frame frameOfText(const Frame &place, const vks::CVec2<double> &middle, double width) const;
     bool isFree(const Frame &text, const vks::CPolygon *owner) const;
     std::optional<Label> placeAt(const Frame &frame, const vks::CPolygon *owner, const QString &name, double overhang);
     Label take(const Frame &text);
 
     double m_textHeight;
-    std::vector<Frame> m_taken;
-    std::vector<Kept> m_kept;
+    std::deque<Occupied> m_occupied; ///< the tree points to them
+    std::unique_ptr<dwgx::DWGXBaseBoxTree> m_tree;
 };
 
 } // namespace orvcad
