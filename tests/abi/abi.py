@@ -13,7 +13,7 @@ import subprocess
 import sys
 import tempfile
 
-LIBRARIES = ("liborvcadplatform.so", "liborvcadmodeldata.so")
+LIBRARIES = ("liborvcadmodeldata.so", "liborvcadplatform.so")
 WORD = re.compile(r"[A-Za-z_]\w*")
 SOURCE = re.compile(r" path='([^']+)'")
 OPERATOR = re.compile(r"\boperator(\(\)|[-+*/%^&|~!=<>,\[\]]+)")
