@@ -38,6 +38,7 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SUGGESTS "cmake, libgtest-dev, pkg-config")
 set(CPACK_DEBIAN_COMMAND_PACKAGE_NAME ${ORVCAD_COMMAND_PACKAGE})
 set(CPACK_DEBIAN_COMMAND_PACKAGE_SECTION science)
+set(CPACK_DEBIAN_COMMAND_PACKAGE_RECOMMENDS librsvg2-bin) # paints the pictures of orvcad draw --format png
 set(CPACK_DEBIAN_COMMAND_PACKAGE_DEPENDS "${ORVCAD_RUNTIME_PACKAGE} (= ${PROJECT_VERSION})")
 
 # What other packages depend on when they are linked with the libraries.
