@@ -1,4 +1,4 @@
-# What `cmake --install` lays down: bin, lib, include/ORVCADModelData and the package ORVCADModelData.
+# What `cmake --install` lays down: bin, lib, include/ORVCADModelData, share/orvcad/schemas and the package ORVCADModelData.
 
 include(CMakePackageConfigHelpers)
 
@@ -30,6 +30,9 @@ endif()
 foreach(library IN LISTS ORVCAD_LIBRARIES)
     install(FILES ${PROJECT_BINARY_DIR}/include/${library}Export.h DESTINATION ${ORVCAD_HEADER_DIR})
 endforeach()
+
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/schemas/ DESTINATION ${CMAKE_INSTALL_DATADIR}/orvcad/schemas
+    FILES_MATCHING PATTERN "*.schema.json")
 
 install(EXPORT ORVCADModelDataTargets NAMESPACE ORVCADModelData:: DESTINATION ${ORVCAD_PACKAGE_DIR})
 configure_package_config_file(
