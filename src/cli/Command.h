@@ -58,6 +58,7 @@ void addColumnCommands(CLI::App &app, Command &command);
 void addDrawingCommands(CLI::App &app, Command &command);
 void addDrawingsCommands(CLI::App &app, Command &command);
 void addDrawCommand(CLI::App &app, Command &command);
+void addCheckCommand(CLI::App &app, Command &command);
 void addDemoCommand(CLI::App &app, Command &command);
 
 } // namespace orvcad

@@ -83,6 +83,7 @@ void describe(CLI::App &app, Flags &flags, orvcad::Command &command)
     orvcad::addDrawingCommands(app, command);
     orvcad::addDrawingsCommands(app, command);
     orvcad::addDrawCommand(app, command);
+    orvcad::addCheckCommand(app, command);
 }
 
 /** What was wrong with the arguments; names the first one that nothing took. */
