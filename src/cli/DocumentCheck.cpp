@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QJsonArray>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTemporaryDir>
 
 #include <algorithm>
@@ -177,6 +178,9 @@ void DocumentCheck::tell(const JsonTree &tree, std::vector<CheckFinding> finding
     std::stable_sort(findings.begin(), findings.end(), [&](const CheckFinding &a, const CheckFinding &b) {
         return offsetOf(tree, a) < offsetOf(tree, b);
     });
+    QSet<QString> before; // places of which a schema has said what a reader would say again
+    for (const Told &told : m_findings)
+        before.insert(told.pointer);
     for (const CheckFinding &finding : findings) {
         Told told;
         told.weight = finding.weight;
@@ -191,9 +195,7 @@ void DocumentCheck::tell(const JsonTree &tree, std::vector<CheckFinding> finding
             if (finding.missingKey.isNull())
                 told.value = shortText(tree, finding.node);
         }
-        const bool isTold = std::any_of(m_findings.begin(), m_findings.end(), [&](const Told &one) {
-            return finding.rule == Rule::Reader && one.pointer == told.pointer;
-        });
+        const bool isTold = finding.rule == Rule::Reader && before.contains(told.pointer);
         if (!isTold)
             m_findings.push_back(std::move(told));
     }

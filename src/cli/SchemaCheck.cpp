@@ -1,14 +1,13 @@
 #include "cli/SchemaCheck.h"
 
-#include "cli/GeometryFormats.h"
 #include "cli/NearestName.h"
+#include "cli/SchemaRules.h"
 #include "cli/ValueWords.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 
 #include <algorithm>
-#include <cmath>
 
 namespace orvcad {
 
@@ -94,7 +93,6 @@ public:
     std::size_t distance(Index value) const;
 
 private:
-    using Count = std::optional<int>;
     struct UnknownKey
     {
         Index member;
@@ -105,13 +103,6 @@ private:
     void applyCases(Index value, const JsonSchema &schema, Applied &applied);
     void applyNearest(Index value, const Schemas &branches, bool isOneOnly, Applied &applied);
     void applyCondition(Index value, const JsonSchema &schema, Applied &applied);
-
-    bool isOfType(Index value, unsigned types) const;
-    bool isAllowed(Index value, const std::vector<QJsonValue> &allowed) const;
-    void lookAtAllowed(Index value, const JsonSchema &schema);
-    void lookAtNumber(Index value, const JsonSchema &schema);
-    void lookAtText(Index value, const JsonSchema &schema);
-    void lookAtCount(Index value, Count least, Count most, const QString &thing);
 
     void lookAtMembers(Index object, const Applied &applied);
     void lookAtItems(Index list, const Applied &applied);
@@ -203,7 +194,7 @@ void Walk::apply(Index value, const JsonSchema &schema, Applied &applied)
 {
     if (applied.isMistyped)
         return;
-    if (schema.types != 0 && !isOfType(value, schema.types)) {
+    if (schema.types != 0 && !isOfType(m_document, value, schema.types)) {
         applied.isMistyped = true;
         const QString expected = wordsForTypes(schema.types);
         fault(value, Rule::Type, QStringLiteral("is ") + wordsFor(m_document, value), expected);
@@ -214,16 +205,8 @@ void Walk::apply(Index value, const JsonSchema &schema, Applied &applied)
     applied.schemas.push_back(&schema);
     if (schema.reference)
         apply(value, *schema.reference, applied);
-    lookAtAllowed(value, schema);
-    const Kind kind = m_document.node(value).kind;
-    if (kind == Kind::Number)
-        lookAtNumber(value, schema);
-    if (kind == Kind::Text)
-        lookAtText(value, schema);
-    if (kind == Kind::List)
-        lookAtCount(value, schema.minItems, schema.maxItems, QStringLiteral("entries"));
-    if (kind == Kind::Object)
-        lookAtCount(value, schema.minProperties, schema.maxProperties, QStringLiteral("keys"));
+    if (const auto broken = brokenRule(m_document, value, schema, m_isTrial ? InWords::No : InWords::Yes))
+        fault(value, broken->rule, broken->is, broken->expected, broken->meant);
     applyCases(value, schema, applied);
     if (!schema.any.empty())
         applyNearest(value, schema.any, false, applied);
@@ -291,7 +274,7 @@ void Walk::applyNearest(Index value, const Schemas &branches, bool isOneOnly, Ap
             least = distance;
         }
     }
-    if (fitting == 0 && types != 0 && !isOfType(value, types)) {
+    if (fitting == 0 && types != 0 && !isOfType(m_document, value, types)) {
         applied.isMistyped = true;
         return fault(value, Rule::Type, QStringLiteral("is ") + wordsFor(m_document, value), wordsForTypes(types));
     }
@@ -314,103 +297,6 @@ void Walk::applyCondition(Index value, const JsonSchema &schema, Applied &applie
     }
     if (chosen)
         apply(value, *chosen, applied);
-}
-
-// A value by itself.
-
-bool Walk::isOfType(Index value, unsigned types) const
-{
-    switch (m_document.node(value).kind) {
-    case Kind::Null:
-        return types & JsonSchema::Null;
-    case Kind::Truth:
-        return types & JsonSchema::Truth;
-    case Kind::Text:
-        return types & JsonSchema::Text;
-    case Kind::List:
-        return types & JsonSchema::List;
-    case Kind::Object:
-        return types & JsonSchema::Object;
-    case Kind::Number:
-        break;
-    }
-    const double number = m_document.number(value);
-    return (types & JsonSchema::Number) || ((types & JsonSchema::Integer) && std::floor(number) == number);
-}
-
-bool Walk::isAllowed(Index value, const std::vector<QJsonValue> &allowed) const
-{
-    const JsonTree::Node &node = m_document.node(value);
-    return std::any_of(allowed.begin(), allowed.end(), [&](const QJsonValue &one) {
-        if (one.isString())
-            return node.kind == Kind::Text && one.toString() == textOf(node.text);
-        if (one.isDouble())
-            return node.kind == Kind::Number && one.toDouble() == m_document.number(value);
-        return one.isBool() && node.kind == Kind::Truth && one.toBool() == (node.text == "true");
-    });
-}
-
-void Walk::lookAtAllowed(Index value, const JsonSchema &schema)
-{
-    if (schema.allowed.empty() || isAllowed(value, schema.allowed))
-        return;
-    QStringList names;
-    for (const QJsonValue &one : schema.allowed)
-        names.append(one.toString());
-    names.removeAll(QString());
-    const bool isText = m_document.node(value).kind == Kind::Text;
-    const QString meant = isText && !m_isTrial ? nearestName(textOf(m_document.node(value).text), names) : QString();
-    fault(value, Rule::Value, QStringLiteral("is ") + wordsFor(m_document, value), wordsForValues(schema.allowed),
-          meant);
-}
-
-void Walk::lookAtNumber(Index value, const JsonSchema &schema)
-{
-    const double number = m_document.number(value);
-    const bool isBelow =
-        (schema.minimum && number < *schema.minimum) || (schema.exclusiveMinimum && number <= *schema.exclusiveMinimum);
-    const bool isAbove = schema.maximum && number > *schema.maximum;
-    if (!isBelow && !isAbove)
-        return;
-    const auto text = [](double limit) { return QString::number(limit, 'g', 17); };
-    QString expected = schema.exclusiveMinimum
-                           ? QStringLiteral("a number above ") + text(*schema.exclusiveMinimum)
-                           : QStringLiteral("a number from %1 up").arg(text(schema.minimum.value_or(0)));
-    if (schema.minimum && schema.maximum)
-        expected = QStringLiteral("a number from %1 to %2").arg(text(*schema.minimum), text(*schema.maximum));
-    fault(value, Rule::Range, QStringLiteral("is ") + shortText(m_document, value), expected);
-}
-
-void Walk::lookAtText(Index value, const JsonSchema &schema)
-{
-    if (!schema.minLength && !schema.pattern && schema.format.isEmpty())
-        return;
-    const QString text = textOf(m_document.node(value).text);
-    if (schema.minLength && text.size() < *schema.minLength)
-        fault(value, Rule::Size, QStringLiteral("is an empty text"), QStringLiteral("one that is not"));
-    // An expression that gives up on a text of great length has said nothing.
-    const QRegularExpressionMatch match = schema.pattern ? schema.pattern->match(text) : QRegularExpressionMatch();
-    const bool isOfPattern = !schema.pattern || match.hasMatch() || !match.isValid();
-    if (isOfPattern && (m_isTrial || schema.format.isEmpty()))
-        return;
-    const QString why = m_isTrial ? QString() : whyNotFormat(schema.format, text);
-    if (isOfPattern && why.isEmpty())
-        return;
-    const QString is = QStringLiteral("is ") + wordsFor(m_document, value);
-    fault(value, isOfPattern ? Rule::Geometry : Rule::Pattern,
-          why.isEmpty() ? is : is + QStringLiteral(", which ") + why,
-          why.isEmpty() ? QStringLiteral("another form") : QString());
-}
-
-void Walk::lookAtCount(Index value, Count least, Count most, const QString &thing)
-{
-    const int count = m_document.node(value).count;
-    if ((!least || count >= *least) && (!most || count <= *most))
-        return;
-    const QString expected = least && most && *least == *most ? QString::number(*least)
-                             : least && count < *least        ? QStringLiteral("at least %1").arg(*least)
-                                                              : QStringLiteral("at most %1").arg(*most);
-    fault(value, Rule::Size, QStringLiteral("has %1 %2").arg(count).arg(thing), expected);
 }
 
 // What stands in a value.
