@@ -80,7 +80,7 @@ void addCheckCommand(CLI::App &app, Command &command)
 {
     Verb verb(app, command, "check", "Tell what is wrong in documents, before anything is done with them", check);
     verb.app()
-        .add_option("[KIND] FILE...", verb.arguments().inputs,
+        .add_option("[KIND] FILE", verb.arguments().inputs,
                     "Documents, with their kind in front where it cannot be told: " +
                         documentKindNames().join(", ").toStdString())
         ->required();

@@ -25,9 +25,10 @@ def shortened(value):
     return value
 
 
-def is_whole(document):
-    """Shapes, points and grids lose their sense when their lists are cut."""
-    return "hbx-project" not in str(document.get("format", ""))
+def one_floor(building):
+    """A building keeps whole what stands on its first floor, where one thing names the other."""
+    region = building["regions"][0]
+    return {**building, "regions": [{**region, "floors": region["floors"][:1]}]}
 
 
 def documents(program):
@@ -35,9 +36,8 @@ def documents(program):
     with folder:
         found = list(samples.of_files())
         found += samples.of_building(command, samples.BUILDINGS / "made-building.json", 2)
-    short = [(kind, document if not is_whole(document) or kind == "cadi2" else shortened(document))
-             for kind, document in found]
-    return [(kind, document) for kind, document in short if len(json.dumps(document)) < 60000 and document]
+    short = [(kind, one_floor(document) if kind == "hbx-project" else shortened(document)) for kind, document in found]
+    return [(kind, document) for kind, document in short if document]
 
 
 class Refusals:
