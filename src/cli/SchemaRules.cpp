@@ -107,7 +107,7 @@ Broken brokenByCount(int count, Count least, Count most, const char *thing)
 
 Broken brokenRule(const JsonTree &document, Index value, const JsonSchema &schema, InWords words)
 {
-    if (const Broken broken = brokenByValue(document, value, schema, words))
+    if (Broken broken = brokenByValue(document, value, schema, words))
         return broken;
     const JsonTree::Node &node = document.node(value);
     switch (node.kind) {
