@@ -2,7 +2,7 @@
 #   Runtime      the libraries
 #   Development  include/ORVCADModelData, the names that programs are linked by, the package ORVCADModelData, the files of
 #                pkg-config, and the contract of hosts as sources
-#   Command      bin/orvcad
+#   Command      bin/orvcad, its manual pages and completion, and share/orvcad/schemas
 
 include(CMakePackageConfigHelpers)
 
@@ -37,6 +37,9 @@ foreach(library IN LISTS ORVCAD_LIBRARIES)
     endforeach()
     orvcad_install_development(${ORVCAD_HEADER_DIR} ${PROJECT_BINARY_DIR}/include/${library}Export.h)
 endforeach()
+
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/schemas/ DESTINATION ${CMAKE_INSTALL_DATADIR}/orvcad/schemas COMPONENT Command
+    FILES_MATCHING PATTERN "*.schema.json")
 
 install(EXPORT ORVCADModelDataTargets NAMESPACE ORVCADModelData::
     DESTINATION ${ORVCAD_PACKAGE_DIR} COMPONENT Development)

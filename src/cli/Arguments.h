@@ -14,6 +14,7 @@ struct Arguments
     std::string region;
     std::string floor;
     std::string input;
+    std::vector<std::string> inputs;
     std::string output;
     std::string kind;
     std::string format;

@@ -64,6 +64,7 @@ void addCopyCommand(CLI::App &app, Command &command);
 void addManualCommand(CLI::App &app, Command &command);
 void addCompleteCommand(CLI::App &app, Command &command);
 void addDiffCommand(CLI::App &app, Command &command);
+void addCheckCommand(CLI::App &app, Command &command);
 void addDemoCommand(CLI::App &app, Command &command);
 
 } // namespace orvcad

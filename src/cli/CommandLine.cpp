@@ -10,9 +10,9 @@ namespace {
 
 /** Groups, and verbs that stand alone, in the order of the help. */
 constexpr void (*kGroups[])(CLI::App &, Command &) = {
-    addDemoCommand,  addProjectCommands, addFloorsCommands, addOpeningCommands, addSlabCommands,
-    addBeamCommands, addWallCommands,    addColumnCommands, addDrawingCommands, addDrawingsCommands,
-    addDrawCommand,  addDiffCommand,     addCopyCommand,    addManualCommand,   addCompleteCommand,
+    addDemoCommand,  addProjectCommands, addFloorsCommands,  addOpeningCommands,  addSlabCommands, addBeamCommands,
+    addWallCommands, addColumnCommands,  addDrawingCommands, addDrawingsCommands, addDrawCommand,  addDiffCommand,
+    addCopyCommand,  addCheckCommand,    addManualCommand,   addCompleteCommand,
 };
 
 } // namespace

@@ -43,6 +43,7 @@ const std::vector<Example> &examples()
         {"beam seats export", "orvcad beam seats export building.hbxdb -o seats.json"},
         {"beam seats apply", "orvcad beam seats apply site.hbxdb seats.json"},
         {"slab export", "orvcad slab export building.hbxdb --floor \"Level 1\" -o slabs.json"},
+        {"check", "orvcad check slabs.json"},
         {"slab apply", "orvcad slab apply site.hbxdb --floor \"Level 1\" slabs.json --as-new --ids slab-ids.json"},
         {"column check", "orvcad column check columns.json"},
         {"drawing make", "orvcad drawing make building.hbxdb --floor \"Level 1\" -o level-1.cadi2"},

@@ -38,14 +38,8 @@ public:
 
     bool RawNumber(const char *text, rapidjson::SizeType length, bool /*copied*/)
     {
-        const std::string number(text, length);
-        const double value = QByteArray::fromStdString(number).toDouble();
-        if (!std::isfinite(value))
-            return refuse(QStringLiteral("the number %1 is too large").arg(QString::fromStdString(number)));
-        if (m_large == LargeNumbers::Refused && isWhole(number) && !survives(number, value))
-            return refuse(QStringLiteral("the number %1 would be read as %2")
-                              .arg(QString::fromStdString(number), QString::number(value, 'f', 0)));
-        return true;
+        const QString lost = whyNumberIsLost({text, length}, m_large);
+        return lost.isEmpty() || refuse(lost);
     }
 
     bool StartObject()
@@ -82,6 +76,17 @@ private:
 };
 
 } // namespace
+
+QString whyNumberIsLost(const std::string &number, LargeNumbers large)
+{
+    const double value = QByteArray::fromStdString(number).toDouble();
+    if (!std::isfinite(value))
+        return QStringLiteral("the number %1 is too large").arg(QString::fromStdString(number));
+    if (large == LargeNumbers::Taken || !isWhole(number) || survives(number, value))
+        return {};
+    return QStringLiteral("the number %1 would be read as %2")
+        .arg(QString::fromStdString(number), QString::number(value, 'f', 0));
+}
 
 std::optional<JsonFault> firstTextFault(const QByteArray &text, LargeNumbers large)
 {

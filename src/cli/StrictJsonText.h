@@ -5,6 +5,7 @@
 #include <QByteArray>
 
 #include <optional>
+#include <string>
 
 namespace orvcad {
 
@@ -22,5 +23,8 @@ enum class LargeNumbers {
  *    - a number is finite, and a whole one is kept to its last digit, unless large ones are taken.
  *  A byte order mark at the start is allowed. Nesting is followed to any depth without recursion. */
 std::optional<JsonFault> firstTextFault(const QByteArray &text, LargeNumbers large = LargeNumbers::Refused);
+
+/** Why a number is not read as it stands; empty for one that is. The text is a number as JSON has them. */
+QString whyNumberIsLost(const std::string &number, LargeNumbers large);
 
 } // namespace orvcad

@@ -1,15 +1,14 @@
 #include "cli/UnreadKeys.h"
 
-#include <algorithm>
+#include "cli/NearestName.h"
 
 namespace orvcad {
 
 QString whyUnread(const QString &key, const QStringList &known)
 {
     const QString reason = QStringLiteral("is no key of this record, and not read");
-    const auto meant = std::find_if(known.begin(), known.end(),
-                                    [&](const QString &one) { return one.compare(key, Qt::CaseInsensitive) == 0; });
-    return meant == known.end() ? reason : QStringLiteral("%1: %2 is one").arg(reason, *meant);
+    const QString meant = nearestName(key, known);
+    return meant.isEmpty() ? reason : QStringLiteral("%1: %2 is one").arg(reason, meant);
 }
 
 QStringList unreadIn(const QJsonObject &record, const QStringList &known)

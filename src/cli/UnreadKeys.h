@@ -10,8 +10,8 @@
 
 namespace orvcad {
 
-/** Why a value is not read: none of a record's keys is the one that it stands under. One that differs in the case of its
- *  letters alone is named, since it is likely to be meant. */
+/** Why a value is not read: none of a record's keys is the one that it stands under. The nearest one is named, since it
+ *  is likely to be meant. */
 QString whyUnread(const QString &key, const QStringList &known);
 
 /** Each key of a record that nothing reads, with the reason behind it. */

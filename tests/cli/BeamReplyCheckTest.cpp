@@ -138,10 +138,10 @@ TEST_F(BeamReplyCheckTest, keysThatNothingReadsAreToldAtEachLevel)
     EXPECT_EQ(
         textOf(reply.leftOut()),
         "Beam[0].Remark: is no key of this record, and not read\n"
-        "Beam[0].ElementInfo.SpanCounts: is no key of this record, and not read\n"
+        "Beam[0].ElementInfo.SpanCounts: is no key of this record, and not read: SpanCount is one\n"
         "Beam[0].EDOInfo[0].Spans: is no key of this record, and not read\n"
         "Beam[0].EDOInfo[0].BeamSegmentInfo[0].Linewidth: is no key of this record, and not read: LineWidth is one\n"
-        "Beams: is no key of this record, and not read");
+        "Beams: is no key of this record, and not read: Beam is one");
     EXPECT_EQ(reply.sound().size(), 1U);
 }
 

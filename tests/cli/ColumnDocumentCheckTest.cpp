@@ -121,7 +121,7 @@ TEST(ColumnDocumentCheckTest, columnMayLackAnOutline)
 TEST(ColumnDocumentCheckTest, keyThatNothingReadsIsNamed)
 {
     EXPECT_EQ(findings(R"({"eType": 1, "columnCodes": [], "oSemnticParsePar": {}, "columnOptions": {"kzMark": ""}})"),
-              "columnOptions.kzMark: is no key of this record, and not read\n"
+              "columnOptions.kzMark: is no key of this record, and not read: AZMark is one\n"
               "oSemnticParsePar: is no key of this record, and not read: oSemnTicParsePar is one");
 }
 

@@ -49,8 +49,8 @@ TEST_F(CompletionTest, groupsAndVerbsAreCompleted)
 
 TEST_F(CompletionTest, optionsAreThoseOfTheVerbAndThoseThatMayStandAnywhere)
 {
-    EXPECT_EQ(told({"draw", "--"}), "--help --region --floor --output --version --json --quiet ");
-    EXPECT_EQ(told({"draw", "--fl"}), "--floor ");
+    EXPECT_EQ(told({"opening", "export", "--"}), "--help --region --floor --output --version --json --quiet ");
+    EXPECT_EQ(told({"opening", "export", "--fl"}), "--floor ");
 }
 
 TEST_F(CompletionTest, valuesToChooseFromAreCompleted)

@@ -35,7 +35,7 @@ TEST_F(ManualPagesTest, programAndEachGroupThatTheHelpShowsHaveOne)
     EXPECT_EQ(names,
               (std::vector<std::string>{"orvcad", "orvcad-demo", "orvcad-project", "orvcad-floors", "orvcad-opening",
                                         "orvcad-slab", "orvcad-beam", "orvcad-wall", "orvcad-column", "orvcad-drawing",
-                                        "orvcad-drawings", "orvcad-draw", "orvcad-copy"}));
+                                        "orvcad-drawings", "orvcad-draw", "orvcad-diff", "orvcad-copy", "orvcad-check"}));
 }
 
 TEST_F(ManualPagesTest, pageOfTheProgramNamesThePagesOfTheGroupsAndTheExitCodes)
@@ -64,8 +64,8 @@ TEST_F(ManualPagesTest, wordsToChooseFromStandInPlaceOfAValue)
 
 TEST_F(ManualPagesTest, whatMayBeAbsentStandsInBrackets)
 {
-    const std::string text = page("orvcad-draw");
-    EXPECT_NE(text.find("\\fBorvcad draw\\fR \\fIPROJECT\\fR... [\\fB\\-\\-region\\fR \\fITEXT\\fR] "
+    const std::string text = page("orvcad-beam");
+    EXPECT_NE(text.find("\\fBorvcad beam identify\\-input\\fR \\fIPROJECT\\fR... [\\fB\\-\\-region\\fR \\fITEXT\\fR] "
                         "\\fB\\-\\-floor\\fR \\fITEXT\\fR [\\fB\\-o\\fR \\fITEXT\\fR]\n"),
               std::string::npos)
         << text;

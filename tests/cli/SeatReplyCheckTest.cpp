@@ -89,8 +89,9 @@ TEST_F(SeatReplyCheckTest, keyThatNothingReadsIsToldAndTheSeatGoesOn)
     const SeatReplyCheck document =
         check({{"etPile", QJsonArray{with(pile(), "SectionHeight", 400)}}, {"etPiles", QJsonArray{pile()}}});
     EXPECT_EQ(document.sound().size(), 1U);
-    EXPECT_EQ(textOf(document.leftOut()), "etPile[0].SectionHeight: is no key of this record, and not read\n"
-                                          "etPiles: is no key of this record, and not read");
+    EXPECT_EQ(textOf(document.leftOut()),
+              "etPile[0].SectionHeight: is no key of this record, and not read: SectinoHeight is one\n"
+              "etPiles: is no key of this record, and not read: etPile is one");
     EXPECT_FALSE(document.leftOut()[0].isWhole);
 }
 

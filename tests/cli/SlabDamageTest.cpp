@@ -99,7 +99,7 @@ TEST_F(SlabDamageTest, keyThatNothingReadsIsToldAndTheMemberIsMade)
     EXPECT_EQ(result.exitCode, 3);
     EXPECT_EQ(leftOut(result), "boards[0].Elev: is no key of this record, and not read: elev is one\n"
                                "boards[0].of another version: is no key of this record, and not read\n"
-                               "board: is no key of this record, and not read");
+                               "board: is no key of this record, and not read: boards is one");
     EXPECT_EQ(result.json()["made"], 1);
 }
 

@@ -25,6 +25,15 @@ function(expect_matches text pattern)
     endif()
 endfunction()
 
+# That the list of a component's files has some.
+function(expect_held component files)
+    foreach(wanted IN LISTS ARGN)
+        if(NOT wanted IN_LIST ${files})
+            message(FATAL_ERROR "${component} lacks ${wanted}")
+        endif()
+    endforeach()
+endfunction()
+
 function(expect_soname library)
     execute_process(COMMAND readelf -d ${WORK}/Runtime/${LIBDIR}/${library}
         OUTPUT_VARIABLE dynamic COMMAND_ERROR_IS_FATAL ANY)
@@ -34,7 +43,20 @@ endfunction()
 file(REMOVE_RECURSE ${WORK} ${PREFIX})
 string(REGEX MATCH "^[0-9]+" major ${VERSION})
 
-expect_files(Command bin/orvcad)
+# The command, a page for it and each of its groups, the completion of three shells, and the schemas.
+install_component(Command files)
+foreach(file IN LISTS files)
+    expect_matches(${file} "^bin/orvcad$|^share/(man/man1/orvcad(-[a-z]+)?\\.1|orvcad/schemas/[a-z0-9-]+\\.schema\\.json)$|\
+^share/(bash-completion/completions/orvcad|zsh/site-functions/_orvcad|fish/vendor_completions\\.d/orvcad\\.fish)$")
+endforeach()
+expect_held(Command files
+    bin/orvcad
+    share/bash-completion/completions/orvcad
+    share/fish/vendor_completions.d/orvcad.fish
+    share/man/man1/orvcad.1
+    share/man/man1/orvcad-check.1
+    share/orvcad/schemas/slab-model.schema.json
+    share/zsh/site-functions/_orvcad)
 expect_files(Runtime
     ${LIBDIR}/liborvcadmodeldata.so.${major}
     ${LIBDIR}/liborvcadmodeldata.so.${VERSION}
@@ -48,19 +70,15 @@ foreach(file IN LISTS files)
     expect_matches(${file}
         "^(include|share)/ORVCADModelData/|^${LIBDIR}/(cmake/ORVCADModelData|pkgconfig)/|^${LIBDIR}/lib[a-z]+\\.so$")
 endforeach()
-foreach(wanted IN ITEMS
-        include/ORVCADModelData/ORVCADModelDataExport.h
-        include/ORVCADModelData/ORVCADPlatformExport.h
-        include/ORVCADModelData/encoding/ObjectMembers.h
-        include/ORVCADModelData/platform/embedded/HBXProject.h
-        include/ORVCADModelData/platform/host/IHBXService.h
-        share/ORVCADModelData/host_contract/HostContract.h
-        ${LIBDIR}/liborvcadmodeldata.so
-        ${LIBDIR}/pkgconfig/orvcadplatform.pc)
-    if(NOT wanted IN_LIST files)
-        message(FATAL_ERROR "Development lacks ${wanted}")
-    endif()
-endforeach()
+expect_held(Development files
+    include/ORVCADModelData/ORVCADModelDataExport.h
+    include/ORVCADModelData/ORVCADPlatformExport.h
+    include/ORVCADModelData/encoding/ObjectMembers.h
+    include/ORVCADModelData/platform/embedded/HBXProject.h
+    include/ORVCADModelData/platform/host/IHBXService.h
+    share/ORVCADModelData/host_contract/HostContract.h
+    ${LIBDIR}/liborvcadmodeldata.so
+    ${LIBDIR}/pkgconfig/orvcadplatform.pc)
 foreach(unwanted IN ITEMS
         include/ORVCADModelData/cli/Command.h
         include/ORVCADModelData/platform/embedded/HBXDatabaseFile.h

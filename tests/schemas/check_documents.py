@@ -8,17 +8,12 @@ the kinds that are asked for, made at every place in it where it can be made.
 
 import argparse
 import copy
-import json
 import pathlib
 import sys
 
-import jsonschema
+from validators import read, validator_of
 
 ODD = {"odd": {"odd": [[]]}}  # neither text nor number, and no object of ours
-
-
-def read(path):
-    return json.loads(path.read_text(encoding="utf-8"))
 
 
 def members_of(value):
@@ -60,14 +55,6 @@ def changed(document, place, change):
         holder = holder[step]
     change(holder, place[-1])
     return other
-
-
-def validator_of(path):
-    schema = read(path)
-    jsonschema.Draft202012Validator.check_schema(schema)
-    # Schemas beside this one, which it may refer to by their file names.
-    others = {other.name: read(other) for other in path.parent.glob("*.schema.json")}
-    return jsonschema.Draft202012Validator(schema, resolver=jsonschema.RefResolver("", schema, store=others))
 
 
 def check(validator, path, kinds, least):

@@ -2,20 +2,15 @@
 the place that it names, and nowhere else."""
 
 import argparse
-import json
 import pathlib
 import sys
 
-import jsonschema
+from validators import read, validator_of
 
 
 def errors_of(validator, document):
     """Places and reasons, innermost only."""
     return [(error.json_path, error.message) for error in validator.iter_errors(document)]
-
-
-def read(path):
-    return json.loads(path.read_text(encoding="utf-8"))
 
 
 def shortened(text):
@@ -52,9 +47,7 @@ def main():
         parser.add_argument(f"--{name}", type=pathlib.Path, required=True)
     arguments = parser.parse_args()
 
-    schema = read(arguments.schema)
-    jsonschema.Draft202012Validator.check_schema(schema)
-    validator = jsonschema.Draft202012Validator(schema)
+    validator = validator_of(arguments.schema)
     good = sorted(arguments.good.glob("*.json"))
     problems, passed, refused = check_all(validator, good, arguments.broken)
     if passed < 4 or refused < 20:

@@ -1,21 +1,12 @@
 """Holds a schema to the documents that the reader of its format is tested with: it passes the accepted ones, and refuses
 each refused one at the places listed under "schema"; one without such a list breaks a rule that no schema can state. What
-the reader takes and the schema may refuse stands under "tolerated". A schema may refer to others in its folder by their
-id."""
+the reader takes and the schema may refuse stands under "tolerated". A schema may refer to those beside it."""
 
 import argparse
-import json
 import pathlib
 import sys
 
-import jsonschema
-
-
-def bundled(schema, folder):
-    """The schema with those of its folder that have an id inside, so that it may refer to them."""
-    others = [json.loads(path.read_text(encoding="utf-8")) for path in sorted(folder.glob("*.schema.json"))]
-    named = {other["$id"]: other for other in others if "$id" in other and other != schema}
-    return {**schema, "$defs": {**schema.get("$defs", {}), **named}}
+from validators import read, validator_of
 
 
 def places_of(validator, document):
@@ -39,11 +30,9 @@ def main():
     parser.add_argument("--least", type=int, default=40, help="documents that there have to be")
     arguments = parser.parse_args()
 
-    schema = json.loads(arguments.schema.read_text(encoding="utf-8"))
-    jsonschema.Draft202012Validator.check_schema(schema)
-    validator = jsonschema.Draft202012Validator(bundled(schema, arguments.schema.parent))
-    checks = list(expectations(json.loads(arguments.documents.read_text(encoding="utf-8"))))
-    checks += [(path.name, json.loads(path.read_text(encoding="utf-8")), []) for path in arguments.good]
+    validator = validator_of(arguments.schema)
+    checks = list(expectations(read(arguments.documents)))
+    checks += [(path.name, read(path), []) for path in arguments.good]
     problems = [f"{name}: refused at {found}, expected {expected}" for name, document, expected in checks
                 if (found := places_of(validator, document)) != expected]
     if len(checks) < arguments.least:

@@ -1,0 +1,161 @@
+#include "cli/DocumentKinds.h"
+
+#include "cli/DocumentReading.h"
+#include "cli/NearestName.h"
+#include "cli/SchemaCheck.h"
+
+#include <algorithm>
+#include <set>
+
+namespace orvcad {
+
+namespace {
+
+/** Keys that the top of a document may have, by all forms that its schema has. */
+struct TopKeys
+{
+    QStringList names;
+    std::vector<const QRegularExpression *> expressions;
+
+    bool has(const QString &key) const
+    {
+        return names.contains(key) || std::any_of(expressions.begin(), expressions.end(), [&](const auto *expression) {
+                   return expression->match(key).hasMatch();
+               });
+    }
+};
+
+void addKeys(const JsonSchema &schema, TopKeys &keys)
+{
+    for (const auto &[key, below] : schema.properties)
+        keys.names.append(QString::fromStdString(key));
+    for (const auto &[expression, below] : schema.patternProperties)
+        keys.expressions.push_back(&expression);
+    if (schema.reference)
+        addKeys(*schema.reference, keys);
+    for (const auto *parts : {&schema.all, &schema.any, &schema.one})
+        for (const JsonSchema *part : *parts)
+            addKeys(*part, keys);
+}
+
+QString textOf(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<int>(text.size())); }
+
+/** So many tell what a document is; those of a map are alike. */
+constexpr int kMostKeys = 100;
+
+QStringList topKeysOf(const JsonTree &document)
+{
+    QStringList keys;
+    for (auto member = document.node(0).firstChild; member != JsonTree::kNone && keys.size() < kMostKeys;
+         member = document.node(member).next)
+        keys.append(textOf(document.node(member).key));
+    return keys;
+}
+
+/** Formats that tell their name themselves. */
+const DocumentKind *kindThatIsTold(const JsonTree &document)
+{
+    const JsonTree::Index format = document.member(0, "format");
+    if (format == JsonTree::kNone || document.node(format).kind != JsonTree::Kind::Text)
+        return nullptr;
+    return documentKind(nearestName(textOf(document.node(format).text), {"hbx-project", "cadi2"}));
+}
+
+using Score = int (*)(const TopKeys &known, const QString &key);
+
+int scoreOfKnown(const TopKeys &known, const QString &key) { return known.has(key) ? 1 : 0; }
+int scoreOfNear(const TopKeys &known, const QString &key) { return nearestName(key, known.names).isEmpty() ? 0 : 1; }
+
+std::vector<const DocumentKind *> bestBy(Score score, const QStringList &keys)
+{
+    std::vector<const DocumentKind *> best;
+    int highest = 1;
+    for (const DocumentKind &kind : documentKinds()) {
+        TopKeys known;
+        addKeys(kind.schema(), known);
+        int reached = 0;
+        for (const QString &key : keys)
+            reached += score(known, key);
+        if (reached > highest)
+            best.clear();
+        if (reached >= highest)
+            best.push_back(&kind);
+        highest = std::max(highest, reached);
+    }
+    return best;
+}
+
+std::size_t faultCount(const JsonTree &document, const DocumentKind &kind)
+{
+    return schemaFindings(document, kind.schema()).findings.size();
+}
+
+} // namespace
+
+const JsonSchema &DocumentKind::schema() const
+{
+    return publishedSchemas().schema(QLatin1String(name) + QLatin1String(".schema.json"));
+}
+
+const std::vector<DocumentKind> &documentKinds()
+{
+    static const std::vector<DocumentKind> kinds{
+        {"beam-context", "context of the identification of beams"},
+        {"beam-identify-input", "order to identify beams"},
+        {"beam-result", "result of the identification of beams"},
+        {"beam-seats", "seats of beams"},
+        {"beam-spans", "spans of beams by draw object"},
+        {"beams", "beams for recognition"},
+        {"cadi2", "drawing file", readDrawingText},
+        {"columns", "columns for recognition", readColumns},
+        {"drawing-set", "drawing-set file"},
+        {"floor-sdc", "floor exchange"},
+        {"floors", "floors document"},
+        {"hbx-project", "building file", readBuilding},
+        {"id-map", "identities by draw object"},
+        {"layer-classification", "result of a classification of layers"},
+        {"layer-file", "layers from drawing analysis"},
+        {"opening-options", "options to identify openings"},
+        {"opening-reply", "reply of doors and windows"},
+        {"slab-io", "slab IO document"},
+        {"slab-model", "slab model document"},
+        {"wall-input", "order to identify walls"},
+        {"wall-reply", "reply of walls"},
+    };
+    return kinds;
+}
+
+const DocumentKind *documentKind(const QString &name)
+{
+    const auto &kinds = documentKinds();
+    const auto found = std::find_if(kinds.begin(), kinds.end(),
+                                    [&](const DocumentKind &kind) { return name == QLatin1String(kind.name); });
+    return found == kinds.end() ? nullptr : &*found;
+}
+
+QStringList documentKindNames()
+{
+    QStringList names;
+    for (const DocumentKind &kind : documentKinds())
+        names.append(QString::fromLatin1(kind.name));
+    return names;
+}
+
+const DocumentKind *kindOfDocument(const JsonTree &document)
+{
+    if (document.isEmpty() || document.node(0).kind != JsonTree::Kind::Object)
+        return nullptr;
+    if (const DocumentKind *told = kindThatIsTold(document))
+        return told;
+    const QStringList keys = topKeysOf(document);
+    std::vector<const DocumentKind *> best = bestBy(scoreOfKnown, keys);
+    if (best.empty())
+        best = bestBy(scoreOfNear, keys);
+    if (best.size() < 2)
+        return best.empty() ? nullptr : best.front();
+    return *std::min_element(best.begin(), best.end(), [&](const DocumentKind *a, const DocumentKind *b) {
+        return faultCount(document, *a) < faultCount(document, *b);
+    });
+}
+
+} // namespace orvcad
