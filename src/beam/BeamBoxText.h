@@ -15,8 +15,9 @@ public:
     /** The empty box for any other text. Numbers may have any form that QString reads, and any white space in front. */
     static vks::CBox3<double> read(const QString &text);
 
-    // As a kind of value in the table of a record: a text that is no box gives the empty box, whatever the record held.
+    /** As a kind of value in the table of a record. */
     static QJsonValue toValue(const vks::CBox3<double> &box) { return write(box); }
+    /** The same; a text that is no box gives the empty box, whatever the record held. */
     static vks::CBox3<double> fromValue(const QJsonValue &json, const vks::CBox3<double> & /*present*/)
     {
         return read(json.toString());

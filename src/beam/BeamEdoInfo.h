@@ -17,7 +17,7 @@ public:
     /** Null records are left out. */
     QJsonObject toJsonObj() const;
 
-    std::vector<std::shared_ptr<BeamSpanInfo>> spans;
+    std::vector<std::shared_ptr<BeamSpanInfo>> spans; ///< structural spans of the whole chain; not one for each piece
     std::vector<std::shared_ptr<BeamSegmentInfo>> segments; ///< in order of the chain
 
 private:

@@ -32,16 +32,16 @@ public:
         return nullptr;
     }
 
-    QString strName;
-    int nElementType = 0; ///< of the host
-    int nBeamType = 0;    ///< a number of the recognition side
-    QString strSpanDesc;
-    QString strSection;
-    QString strHoopBar;
-    QString strTopThroughBar;
-    QString strBottomThroughBar;
-    QString strSideBar;
-    int eCantileverType = 0; ///< a number of the recognition side
-    QList<ORVCADBeamEDOInfo *> edoInfos;
-    QList<SeatInfo *> seatEdoIDList;
+    QString strName;                     ///< of the beam
+    int nElementType = 0;                ///< of the host
+    int nBeamType = 0;                   ///< a number of the recognition side
+    QString strSpanDesc;                 ///< number of spans, such as 3A
+    QString strSection;                  ///< as the label tells it
+    QString strHoopBar;                  ///< bar text of the hoops
+    QString strTopThroughBar;            ///< bar text, through at the top
+    QString strBottomThroughBar;         ///< bar text, through at the bottom
+    QString strSideBar;                  ///< bar text, at the sides
+    int eCantileverType = 0;             ///< a number of the recognition side
+    QList<ORVCADBeamEDOInfo *> edoInfos; ///< placed runs
+    QList<SeatInfo *> seatEdoIDList;     ///< what it rests on
 };

@@ -23,8 +23,8 @@ public:
     /** "ElementInfo" is an empty object without an element. */
     QJsonObject toJsonObj() const;
 
-    std::shared_ptr<BaseBeamEntInfo> elementInfo; ///< a BeamEntInfo or a LinkBeamEntInfo; null in a fresh record
-    std::vector<std::shared_ptr<BeamEdoInfo>> edoInfos;
+    std::shared_ptr<BaseBeamEntInfo> elementInfo;       ///< a BeamEntInfo or a LinkBeamEntInfo; null in a fresh record
+    std::vector<std::shared_ptr<BeamEdoInfo>> edoInfos; ///< where it stands, in no order
 
 private:
     struct Fields; // of the placed beams; the element is written and read by itself

@@ -10,15 +10,17 @@ namespace beam {
 /** An element type that a beam may rest on. */
 struct BeamSeatType
 {
+    /** What a type is to a beam that rests on it. */
     enum Kind { kColumn, kWall, kFoundation, kBeam, kOther };
 
-    qint64 number;
-    Kind kind;
+    qint64 number; ///< of the host
+    Kind kind;     ///< how it is read as a seat
     /** Has units below it, whose outline counts in place of its own. */
     bool hasUnits;
     /** Array of its seats in JSON; empty: such a seat is never made anew, and so not written. */
     QLatin1String arrayKey;
 
+    /** Whether such a seat is made anew in a host. */
     bool isRebuilt() const { return arrayKey.size() > 0; }
 };
 

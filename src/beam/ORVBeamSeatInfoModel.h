@@ -10,6 +10,7 @@
 class ORVCADMODELDATA_EXPORT ORVBeamSeatInfoModel : public BeamSeatModelFields
 {
 public:
+    /** Every field under its key. */
     QJsonObject toJson() const;
     /** Fills the target; null does nothing. A missing or mistyped key gives 0, false or null, so a wall without
      *  "dWallThickness" has 0 and not -1; without a box it has the empty one. */

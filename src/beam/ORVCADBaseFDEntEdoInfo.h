@@ -14,13 +14,13 @@ public:
     ORVCADBaseFDEntEdoInfo &operator=(const ORVCADBaseFDEntEdoInfo &) = default;
     virtual ~ORVCADBaseFDEntEdoInfo() = default;
 
-    QString name;
-    double height = 0.0; ///< mm
-    double angle = 0.0;  ///< rad
-    int elementType = 0;
-    int elementSubType = 0;
-    double axisOffset = 0.0; ///< mm
-    QString topElev;
-    QString btmElev;
-    std::vector<std::shared_ptr<ORVCADBaseUnitEntEdoInfo>> units;
+    QString name;                                                 ///< of the element
+    double height = 0.0;                                          ///< mm
+    double angle = 0.0;                                           ///< rad
+    int elementType = 0;                                          ///< of the host
+    int elementSubType = 0;                                       ///< of the host
+    double axisOffset = 0.0;                                      ///< mm
+    QString topElev;                                              ///< as the host keeps it
+    QString btmElev;                                              ///< as the host keeps it
+    std::vector<std::shared_ptr<ORVCADBaseUnitEntEdoInfo>> units; ///< below it
 };

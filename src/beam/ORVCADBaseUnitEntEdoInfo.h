@@ -11,9 +11,9 @@ public:
     ORVCADBaseUnitEntEdoInfo &operator=(const ORVCADBaseUnitEntEdoInfo &) = default;
     virtual ~ORVCADBaseUnitEntEdoInfo() = default;
 
-    QString name;
-    int elementType = 0;
-    int elementSubType = 0;
-    double height = 0.0; ///< mm
-    double angle = 0.0;  ///< rad
+    QString name;           ///< of the element
+    int elementType = 0;    ///< of the host
+    int elementSubType = 0; ///< of the host
+    double height = 0.0;    ///< mm
+    double angle = 0.0;     ///< rad
 };

@@ -9,10 +9,12 @@
 class ORVCADMODELDATA_EXPORT ORVCADBeamCollectDataModel
 {
 public:
+    /** Beams with shared records; null ones are left out of JSON. */
     using Beams = std::vector<std::shared_ptr<BeamModelDataInfo>>;
 
     /** Replaces the beams by those of the list. */
     void setBeamIdentifyInfo(const Beams &beams);
+    /** The same records, in their order. */
     Beams getIdentifyInfo() const;
 
     /** Three arrays, empty ones included: "Beam" (element type 15), "LinkBeam" (17), "FDBeam" (47). A beam of any other

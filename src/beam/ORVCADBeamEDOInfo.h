@@ -17,13 +17,13 @@ public:
      *  no segment. */
     static void fromJson(ORVCADBeamEDOInfo *target, const QJsonObject &json);
 
-    QString nSpanNum;
-    int nWidth = 0; ///< mm
-    QString strStartElev;
-    QString strEndElev;
-    int enStartElevType = 0; ///< a number of the recognition side
-    int enEndElevType = 0;   ///< likewise
-    std::vector<ORVCADBeamSegmentInfo *> vecSegmentInfo;
+    QString nSpanNum;                                    ///< as the label tells it
+    int nWidth = 0;                                      ///< mm
+    QString strStartElev;                                ///< elevation of the start
+    QString strEndElev;                                  ///< elevation of the end
+    int enStartElevType = 0;                             ///< a number of the recognition side
+    int enEndElevType = 0;                               ///< likewise
+    std::vector<ORVCADBeamSegmentInfo *> vecSegmentInfo; ///< its pieces; null ones are not written
 
 private:
     struct Fields; // the one list, in the source

@@ -19,7 +19,7 @@ public:
      *  "etPileCap" (53), empty arrays included. Seats of other types are left out. */
     QJsonObject beamSeatInfoToJsonObj() const;
 
-    qint64 hostValue = 0; ///< a setting of the host, carried as it comes
-    bool hasContext;
+    qint64 hostValue = 0;                             ///< a setting of the host, carried as it comes
+    bool hasContext;                                  ///< what the model was made with
     std::shared_ptr<BeamIdentifyContextData> context; ///< shared with copies; null without a context
 };

@@ -9,6 +9,7 @@
 class ORVCADMODELDATA_EXPORT ORVCADBeamSeatInfo : public BeamSeatFields
 {
 public:
+    /** Every field under its key. */
     QJsonObject toJson() const;
     /** Fills the target; null does nothing. A missing or mistyped key gives 0 or the null id, so the id of a seat without
      *  "nSeatID" is 0 and not -1. */

@@ -9,6 +9,7 @@
 class ORVCADMODELDATA_EXPORT ORVCADBeamSegmentInfo : public BeamSegmentFields
 {
 public:
+    /** Every field under its key. */
     QJsonObject toJson() const;
     /** Fills the target; null does nothing. A missing or bad value gives 0, the null curve or the null id. */
     static void fromJson(ORVCADBeamSegmentInfo *target, const QJsonObject &json);

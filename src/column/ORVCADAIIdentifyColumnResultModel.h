@@ -20,7 +20,7 @@ public:
      *  text is empty. Each entry of "resultData" becomes a new record behind those that are there. */
     void fromJson(ORVCADAIIdentifyColumnResultModel *target, const QJsonObject &json) const;
 
-    QString drawing;
-    QString floorCode;
-    std::vector<std::shared_ptr<ORVCADIdentifyColumnResultData>> resultData;
+    QString drawing;                                                         ///< name of the drawing
+    QString floorCode;                                                       ///< of the floor that the drawing shows
+    std::vector<std::shared_ptr<ORVCADIdentifyColumnResultData>> resultData; ///< recognised columns
 };

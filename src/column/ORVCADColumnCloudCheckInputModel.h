@@ -14,12 +14,13 @@
 class ORVCADMODELDATA_EXPORT ORVCADColumnCloudCheckInputModel
 {
 public:
+    /** Every field under its key. */
     QJsonObject toJson() const;
     /** Fills the target; this object plays no part, and null does nothing. Never fails: what is missing or
      *  mistyped is 0, false or empty, a bad curve null. Axis lines are added to those that are there. */
     void fromJson(ORVCADColumnCloudCheckInputModel *target, const QJsonObject &json) const;
 
-    ORVCADIdentifyColumnOptions columnOptions;
-    QString strCurFloorCode;
-    std::vector<std::shared_ptr<ORVCADAxisLine>> axisLineList;
+    ORVCADIdentifyColumnOptions columnOptions;                 ///< marks and limits
+    QString strCurFloorCode;                                   ///< of the floor that is checked
+    std::vector<std::shared_ptr<ORVCADAxisLine>> axisLineList; ///< null ones are not written
 };

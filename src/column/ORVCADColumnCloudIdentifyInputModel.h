@@ -19,19 +19,20 @@
 class ORVCADMODELDATA_EXPORT ORVCADColumnCloudIdentifyInputModel
 {
 public:
+    /** Every field under its key. */
     QJsonObject toJson() const;
     /** Fills the target; this object plays no part, and null does nothing. Never fails: what is missing or
      *  mistyped is 0, false or empty, a bad curve or polygon null and a bad point (0, 0). Every array is added to what the
      *  target holds, those of the two parameter blocks included. */
     void fromJson(ORVCADColumnCloudIdentifyInputModel *target, const QJsonObject &json) const;
 
-    int eType = 0; ///< the service's own number of what is to be done
-    ORVCADIdentifyColumnOptions columnOptions;
-    QStringList columnCodes;
-    std::vector<QString> borderLayerNames;
-    std::vector<QString> labelLayerNames;
-    std::vector<std::shared_ptr<ORVCADAxisLine>> axisLineList;
-    std::vector<std::shared_ptr<ColumnElementInfo>> elements; ///< columns that the floor has already
-    ORVCADAIColumnSemnticParsingPar oSemnTicParsePar;
-    ORVCADColumnHoopBarSettingPar oHoopBarSettingPar;
+    int eType = 0;                                             ///< the service's own number of what is to be done
+    ORVCADIdentifyColumnOptions columnOptions;                 ///< marks and limits
+    QStringList columnCodes;                                   ///< marks, longest first
+    std::vector<QString> borderLayerNames;                     ///< layers of outlines
+    std::vector<QString> labelLayerNames;                      ///< layers of labels
+    std::vector<std::shared_ptr<ORVCADAxisLine>> axisLineList; ///< null ones are not written
+    std::vector<std::shared_ptr<ColumnElementInfo>> elements;  ///< columns that the floor has already
+    ORVCADAIColumnSemnticParsingPar oSemnTicParsePar;          ///< words of elevations
+    ORVCADColumnHoopBarSettingPar oHoopBarSettingPar;          ///< hoop pictures and limb patterns
 };

@@ -12,19 +12,19 @@
 /** One hoop picture of the host's catalogue. */
 struct ORVCADColumnHoopBarPicInfo
 {
-    qint64 barPicID = 0;
-    int limbCount = 0;
-    QString hoopBarName;
+    qint64 barPicID = 0; ///< of the picture in the host
+    int limbCount = 0;   ///< limbs that it shows
+    QString hoopBarName; ///< of the picture
 };
 
 /** One limb pattern with the pictures of its two sides. */
 struct ORVCADColumnHoopBarSetting
 {
-    qint64 hoopBarSettingID = 0;
-    qint64 hoopBarBPicID = 0;
-    qint64 hoopBarHPicID = 0;
-    int hLimbCount = 0;
-    int bLimbCount = 0;
+    qint64 hoopBarSettingID = 0; ///< of the pattern in the host
+    qint64 hoopBarBPicID = 0;    ///< picture of the B side
+    qint64 hoopBarHPicID = 0;    ///< picture of the H side
+    int hLimbCount = 0;          ///< limbs on the H side
+    int bLimbCount = 0;          ///< limbs on the B side
 };
 
 /** The host's limb patterns and its catalogue of hoop pictures, carried to the column service. Turns a limb text, such as
@@ -38,8 +38,11 @@ class ORVCADMODELDATA_EXPORT ORVCADColumnHoopBarSettingPar
 public:
     ORVCADColumnHoopBarSettingPar() = default;
     ~ORVCADColumnHoopBarSettingPar();
+    /** Copies pictures and patterns. */
     ORVCADColumnHoopBarSettingPar(const ORVCADColumnHoopBarSettingPar &other);
+    /** Leaves the other one empty. */
     ORVCADColumnHoopBarSettingPar(ORVCADColumnHoopBarSettingPar &&other) noexcept;
+    /** Deletes the pictures and patterns that were there. */
     ORVCADColumnHoopBarSettingPar &operator=(ORVCADColumnHoopBarSettingPar other) noexcept;
 
     /** Takes over a picture made with `new`. An id that is there already keeps its picture: the debug log gets "add map

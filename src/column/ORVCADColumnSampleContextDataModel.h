@@ -16,9 +16,13 @@ public:
      *  0 and the empty text. */
     explicit ORVCADColumnSampleContextDataModel(IHBXService *service);
 
+    /** Of the floor in the host; 0 without one. */
     qint64 floorID() const { return m_floorID; }
+    /** Of the region in the host; 0 without one. */
     qint64 regionID() const { return m_regionID; }
+    /** As the host had it when the record was made. */
     QString floorName() const { return m_floorName; }
+    /** As the host had it when the record was made. */
     QString regionName() const { return m_regionName; }
 
     /** Options of identification, name to value. */

@@ -15,12 +15,12 @@ public:
     QStringList getColumnCodes() const;
 
     // Code marks, one per kind of column; the keys are named the same.
-    QString KJZMark;
-    QString AZMark;
-    QString DZMark;
-    QString KZZMark;
-    QString ZHZMark;
-    QString GZZMark;
+    QString KJZMark;                          ///< frame column
+    QString AZMark;                           ///< embedded column of a wall
+    QString DZMark;                           ///< end column of a wall
+    QString KZZMark;                          ///< frame-supporting column
+    QString ZHZMark;                          ///< transfer column
+    QString GZZMark;                          ///< tie column
     bool bSideBarAverageDistribution = false; ///< side bars are spread evenly
     int MaxSearchExtent = 0;                  ///< search limit of the identify service
 };

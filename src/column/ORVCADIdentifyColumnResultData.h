@@ -28,14 +28,14 @@ public:
      *  be fresh. */
     void fromJson(ORVCADIdentifyColumnResultData *target, const QJsonObject &json) const;
 
-    ColumnBarInfo barInfo;
+    ColumnBarInfo barInfo;                      ///< its bars
     QString pfnSection;                         ///< text of the section
     dwgx::DWGXColumnInfo *columnInfo = nullptr; ///< geometry, made with `new` and owned
     vks::CRefPtr<vks::CPolygon> poly;           ///< recognised outline
     vks::CRefPtr<vks::CPolygon> cadPoly;        ///< outline in the drawing
-    QString columnName;
-    QString floorCode;
+    QString columnName;                         ///< as its label tells it
+    QString floorCode;                          ///< of the floor that it stands on
     std::vector<qint64> cadLineIDs; ///< lines of the drawing that it comes from; JSON keeps 53 bits of what is written
     std::vector<qint64> cadTextIDs; ///< texts of the drawing that it comes from
-    bool bCreateElement = false;
+    bool bCreateElement = false;    ///< whether an element is to be made
 };

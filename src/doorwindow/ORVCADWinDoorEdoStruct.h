@@ -15,16 +15,17 @@ struct ORVCADMODELDATA_EXPORT ORVCADWinDoorEdoStruct
      *  taken through origin and axes of the shape's coordinates, nothing else; an object of another shape is at (0, 0). */
     void loadFromEdo(IHBXElementDrawObj *drawObj);
 
+    /** Every field under its key. */
     QJsonObject toJson() const;
     /** Never fails: a missing or mistyped key gives 0 or the empty text. */
     static ORVCADWinDoorEdoStruct fromJson(const QJsonObject &json);
 
-    QString elementName;
-    double x = 0.0; ///< world
-    double y = 0.0;
+    QString elementName;      ///< name of its element
+    double x = 0.0;           ///< world
+    double y = 0.0;           ///< world
     int aboveFloorHeight = 0; ///< of the opening's lower edge above the floor
     QString floorName;        ///< the floor's code
-    QString regionName;
+    QString regionName;       ///< of the region that it stands in
 
 private:
     struct Fields; // the one list, in the source

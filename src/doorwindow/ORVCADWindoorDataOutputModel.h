@@ -16,6 +16,6 @@ struct ORVCADMODELDATA_EXPORT ORVCADWindoorDataOutputModel
      *  element to exist when its object arrives. Null does nothing. */
     void saveToJson(const QString &key, QJsonObject *json) const;
 
-    std::vector<ORVCADWinDoorElementStruct> elements;
-    std::vector<ORVCADWinDoorEdoStruct> edos;
+    std::vector<ORVCADWinDoorElementStruct> elements; ///< written first
+    std::vector<ORVCADWinDoorEdoStruct> edos;         ///< placed objects, written behind all elements
 };

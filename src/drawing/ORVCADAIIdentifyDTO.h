@@ -20,6 +20,7 @@ public:
 
     /** The drawings of all floors, floor by floor; a drawing of two floors stands there twice. */
     QStringList getDrawings() const;
+    /** Drawings of all floors; one of two floors counts twice. */
     int getDrawingCount() const;
     /** The drawings of the first entry of that floor; empty for an empty name and an unknown floor. */
     QStringList getDrawingNames(const QString &floor) const;

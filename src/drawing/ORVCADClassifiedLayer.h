@@ -11,18 +11,23 @@
 class ORVCADMODELDATA_EXPORT ORVCADClassifiedLayer
 {
 public:
+    /** A layer without ids; the name may be empty, though no reader takes such a one. */
     explicit ORVCADClassifiedLayer(const QString &layerName) : m_layerName(layerName) {}
     ORVCADClassifiedLayer(const ORVCADClassifiedLayer &) = default;
     ORVCADClassifiedLayer &operator=(const ORVCADClassifiedLayer &) = delete;
     ~ORVCADClassifiedLayer() = default;
 
+    /** As it stands in the drawing. */
     const QString &getLayerName() const { return m_layerName; }
     /** 0xRRGGBB; 0 until set. Not persisted. */
     int getColor() const { return m_color; }
+    /** 0xRRGGBB; nothing checks it. */
     void setColor(int color) { m_color = color; }
     /** The list itself, in the order in which the ids were added. */
     QList<qint64> &getCADEdoIds() { return m_edoIds; }
+    /** The same, to be read. */
     const QList<qint64> &getCADEdoIds() const { return m_edoIds; }
+    /** Appends an id; the same one may stand twice. */
     void addEdoId(qint64 id) { m_edoIds.append(id); }
 
     /** Name and ids. */

@@ -23,9 +23,13 @@ public:
     /** As with a copy; what was held before is not deleted. */
     ORVCADClassifiedLayers &operator=(const ORVCADClassifiedLayers &) = default;
 
+    /** Of the drawing that the layers are in. */
     const QString &getDrawingName() const { return m_drawingName; }
+    /** Nothing looks whether there is such a drawing. */
     void setDrawingName(const QString &name) { m_drawingName = name; }
+    /** Number of the host's element type. */
     int getElementType() const { return m_elementType; }
+    /** Any number; one without a name is written as the empty text. */
     void setElementType(int type) { m_elementType = type; }
 
     /** Appends a layer and takes it over. */

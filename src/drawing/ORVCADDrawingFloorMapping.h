@@ -9,9 +9,9 @@
 /** The drawings of one floor: a record inside ORVCADDrawingFloorMappings, which alone uses it. */
 struct ORVCADMODELDATA_EXPORT ORVCADDrawingFloorMapping
 {
-    qint64 regionId = 0; ///< region of the host model
-    QString floorName;   ///< of a floor within the region
-    QStringList drawingNames;
+    qint64 regionId = 0;      ///< region of the host model
+    QString floorName;        ///< of a floor within the region
+    QStringList drawingNames; ///< drawings that show the floor
 
     /** Region id, floor name and drawing names. */
     QJsonObject toJson() const;

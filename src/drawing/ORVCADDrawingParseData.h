@@ -11,10 +11,12 @@ class ORVCADMODELDATA_EXPORT ORVCADDrawingParseData
 {
 public:
     ORVCADDrawingParseData() = default;
+    /** Copies the tables. */
     explicit ORVCADDrawingParseData(const QList<ORVCADTableData> &tables) : m_tables(tables) {}
 
     /** The list itself. */
     QList<ORVCADTableData> &getTables() { return m_tables; }
+    /** The same, to be read. */
     const QList<ORVCADTableData> &getTables() const { return m_tables; }
 
     /** One member per table, "table0" and so on. Of two rows with the same number the later is written. */

@@ -6,9 +6,9 @@
  *  the fields have no meaning here. */
 struct ORVCADFlatDrawingInfo
 {
-    QString text;
-    double first = 0.0;
-    double second = 0.0;
-    double third = 0.0;
-    double fourth = 0.0;
+    QString text;        ///< the caller's own
+    double first = 0.0;  ///< the caller's own
+    double second = 0.0; ///< the caller's own
+    double third = 0.0;  ///< the caller's own
+    double fourth = 0.0; ///< the caller's own
 };

@@ -11,15 +11,24 @@ class ORVCADMODELDATA_EXPORT ORVCADFloor
 {
 public:
     ORVCADFloor() = default;
+    /** A floor for itself, without code and remark. */
     ORVCADFloor(const QString &name, double btmElev, double height);
+    /** A floor without a code. */
     ORVCADFloor(const QString &name, double btmElev, double height, int stdCount, const QString &remark);
 
+    /** As shown to the user. */
     const QString &name() const { return m_name; }
+    /** "0" marks the base floor, "1" the first one. */
     const QString &code() const { return m_code; }
+    /** m. */
     double btmElev() const { return m_btmElev; }
+    /** m; 0 where none is set. */
     double height() const { return m_height; }
+    /** Standard floors that it stands for, 1 at first. */
     int stdCount() const { return m_stdCount; }
+    /** Whatever was noted. */
     const QString &remark() const { return m_remark; }
+    /** In a table of floors; not persisted. */
     int rowID() const { return m_rowID; }
 
     /** Bottom elevation plus height, plus 3.0 where no height is set. The number of standard floors plays no part. */
@@ -29,12 +38,19 @@ public:
     /** The code or the name is "1", or the floor spans elevation zero: bottom at or below it, top above. */
     bool isFirstFloor() const;
 
+    /** Nothing looks whether another floor has it. */
     void setName(const QString &name) { m_name = name; }
+    /** Nothing looks whether another floor has it. */
     void setCode(const QString &code) { m_code = code; }
+    /** m. */
     void setBtmElev(double elevation) { m_btmElev = elevation; }
+    /** m; 0 takes the height away. */
     void setHeight(double height) { m_height = height; }
+    /** Any number; nothing checks it. */
     void setStdCount(int count) { m_stdCount = count; }
+    /** Any text. */
     void setRemark(const QString &remark) { m_remark = remark; }
+    /** Any number. */
     void setRowID(int row) { m_rowID = row; }
 
     /** All fields but the row number. */

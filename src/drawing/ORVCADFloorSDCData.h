@@ -19,8 +19,9 @@ public:
     template <typename T> struct Data
     {
         bool null = true; ///< no value was set
-        T value = T();
+        T value = T();    ///< means nothing while null is true
 
+        /** From then on there is a value. */
         void set(const T &newValue)
         {
             value = newValue;
@@ -28,54 +29,55 @@ public:
         }
     };
 
+    /** The region of a floor. */
     struct Region
     {
-        Data<qint64> ID;
-        Data<QString> Description;
+        Data<qint64> ID;           ///< of the region in the host
+        Data<QString> Description; ///< its name
     };
 
     /** Settings of one element type on a floor. Numbers are ids and levels of the host's tables. */
     struct ConcreteAnchorJoint
     {
-        Data<qint64> TypeID;
-        Data<int> BasicElementTypeID;
-        Data<qint64> ConcGradeID;
-        Data<qint64> ConcTypeID;
-        Data<qint64> MortarGradeID;
-        Data<qint64> MortarTypeID;
-        Data<int> AseismicLevelID;
-        Data<QString> Anchor1; ///< anchorage lengths, as texts
-        Data<QString> Anchor2;
-        Data<QString> Anchor3;
-        Data<QString> Anchor4;
-        Data<QString> Anchor5;
-        Data<QString> Anchor6;
-        Data<QString> Joint1; ///< lap lengths, as texts
-        Data<QString> Joint2;
-        Data<QString> Joint3;
-        Data<QString> Joint4;
-        Data<QString> Joint5;
-        Data<QString> Joint6;
-        Data<qint64> ProtectiveLayerThickness;
-        Data<QString> Remark;
+        Data<qint64> TypeID;                   ///< of the host's element types
+        Data<int> BasicElementTypeID;          ///< of the host's basic element types
+        Data<qint64> ConcGradeID;              ///< grade of concrete
+        Data<qint64> ConcTypeID;               ///< type of concrete
+        Data<qint64> MortarGradeID;            ///< grade of mortar
+        Data<qint64> MortarTypeID;             ///< type of mortar
+        Data<int> AseismicLevelID;             ///< class of earthquake resistance
+        Data<QString> Anchor1;                 ///< anchorage lengths, as texts
+        Data<QString> Anchor2;                 ///< likewise
+        Data<QString> Anchor3;                 ///< likewise
+        Data<QString> Anchor4;                 ///< likewise
+        Data<QString> Anchor5;                 ///< likewise
+        Data<QString> Anchor6;                 ///< likewise
+        Data<QString> Joint1;                  ///< lap lengths, as texts
+        Data<QString> Joint2;                  ///< likewise
+        Data<QString> Joint3;                  ///< likewise
+        Data<QString> Joint4;                  ///< likewise
+        Data<QString> Joint5;                  ///< likewise
+        Data<QString> Joint6;                  ///< likewise
+        Data<qint64> ProtectiveLayerThickness; ///< cover of the bars
+        Data<QString> Remark;                  ///< whatever was noted
     };
 
     /** Lengths are in the unit of the host's floor table. */
     struct Floor
     {
-        Data<qint64> ID;
-        Data<QString> Description;
-        Data<double> Height;
-        Data<int> StdFloorCount;
-        Data<double> StructuralElevation;
-        Data<int> StartFloorNo;
-        Data<QString> Remark;
-        Data<QString> Code;
-        Data<double> SlabThickness;
-        Data<double> FloorArea;
-        Data<QString> RelatedFloorID;
-        ORVCADFloorSDCData::Region Region;
-        std::vector<ConcreteAnchorJoint> ConcreteAnchorJoints;
+        Data<qint64> ID;                                       ///< of the floor in the host
+        Data<QString> Description;                             ///< its name
+        Data<double> Height;                                   ///< of the floor
+        Data<int> StdFloorCount;                               ///< standard floors that it stands for
+        Data<double> StructuralElevation;                      ///< of its structure
+        Data<int> StartFloorNo;                                ///< number of the first of them
+        Data<QString> Remark;                                  ///< whatever was noted
+        Data<QString> Code;                                    ///< short text of the floor
+        Data<double> SlabThickness;                            ///< of its slab
+        Data<double> FloorArea;                                ///< of the floor
+        Data<QString> RelatedFloorID;                          ///< the floor that it belongs with
+        ORVCADFloorSDCData::Region Region;                     ///< always written
+        std::vector<ConcreteAnchorJoint> ConcreteAnchorJoints; ///< settings; written where there are some
     };
 
     ORVCADFloorSDCData();
@@ -93,6 +95,7 @@ public:
     /** Sets a field from a value. A whole number takes a number that is whole, fits into 32 bits and is not -2147483648,
      *  for fields of 64 bits as well. @return false for anything else; the field is as it was then */
     bool setJsonValueToData(const QJsonValue &json, Data<int> &data) const;
+    /** The same for a field of 64 bits. */
     bool setJsonValueToData(const QJsonValue &json, Data<qint64> &data) const;
     /** The same; takes a number above -1.7976931348623157e+308. */
     bool setJsonValueToData(const QJsonValue &json, Data<double> &data) const;

@@ -21,11 +21,14 @@ public:
     ORVCADFloors(const ORVCADFloors &) = default;
     ORVCADFloors &operator=(const ORVCADFloors &) = default; ///< the floors held before are not deleted
 
+    /** Of the area that the floors are of. */
     const QString &getAreaName() const { return m_areaName; }
+    /** Any text. */
     void setAreaName(const QString &name) { m_areaName = name; }
 
     /** Appends a floor and takes it over; null is ignored. */
     void addFloor(ORVCADFloor *floor);
+    /** Number of floors. */
     int getCount() const { return m_floors.size(); }
     /** Null for an index out of range. */
     ORVCADFloor *getFloor(int index) const;
@@ -40,6 +43,7 @@ public:
     ORVCADFloor *getFirstFloor() const;
     /** By bottom elevation, the earlier in the list among equals; null for an empty list. */
     ORVCADFloor *getHighestFloor() const;
+    /** The same from below. */
     ORVCADFloor *getLowestFloor() const;
     /** First floor in list order that starts where the given one ends, counting all the standard floors that it stands
      *  for; null if there is none and for null. */
@@ -56,6 +60,7 @@ public:
 
     /** Borrowed; null until set. Nothing checks that it is in the list. */
     ORVCADFloor *getCurrentFloor() const { return m_currentFloor; }
+    /** Borrows a floor; null takes it away. */
     void setCurrentFloor(ORVCADFloor *floor) { m_currentFloor = floor; }
     /** First floor of exactly that name; an unknown name changes nothing. */
     void setCurrentFloor(const QString &name);

@@ -8,12 +8,12 @@
  *  meaning here. */
 struct ORVCADProjectInfo
 {
-    QString firstText;
-    qint64 firstNumber = 0;
-    QString secondText;
-    QString thirdText;
-    QVariant value;
-    QHash<QString, QVariant> values;
-    qint64 secondNumber = 0;
-    qint64 thirdNumber = 0;
+    QString firstText;               ///< the caller's own
+    qint64 firstNumber = 0;          ///< the caller's own
+    QString secondText;              ///< the caller's own
+    QString thirdText;               ///< the caller's own
+    QVariant value;                  ///< the caller's own
+    QHash<QString, QVariant> values; ///< the caller's own
+    qint64 secondNumber = 0;         ///< the caller's own
+    qint64 thirdNumber = 0;          ///< the caller's own
 };

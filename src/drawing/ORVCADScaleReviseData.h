@@ -22,6 +22,7 @@ public:
 
     /** Appends an item and takes it over. */
     void addItem(ORVCADScaleReviseDataItem *item) { m_items.append(item); }
+    /** Number of items, null ones included. */
     int getCount() const { return m_items.list().size(); }
     /** The list itself. */
     QList<ORVCADScaleReviseDataItem *> &getScaleReviseData() { return m_items.list(); }

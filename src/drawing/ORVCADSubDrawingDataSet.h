@@ -19,6 +19,7 @@ public:
     int getCount() const { return m_count; }
     /** Folder in which the parts' files stand. */
     const QString &getSavePath() const { return m_savePath; }
+    /** Nothing looks whether there is such a folder. */
     void setSavePath(const QString &path) { m_savePath = path; }
 
     /** Adds a part, unless the parent has one that is the same in all but extent.

@@ -13,10 +13,10 @@ struct ORVCADSubDrawingInfo
     qint64 reserved = 0; ///< copied, and nothing else
 
     // Extent of the part, mm; empty by default, so that any point widens it.
-    double xMin = std::numeric_limits<double>::infinity();
-    double yMin = std::numeric_limits<double>::infinity();
-    double xMax = -std::numeric_limits<double>::infinity();
-    double yMax = -std::numeric_limits<double>::infinity();
+    double xMin = std::numeric_limits<double>::infinity();  ///< mm
+    double yMin = std::numeric_limits<double>::infinity();  ///< mm
+    double xMax = -std::numeric_limits<double>::infinity(); ///< mm
+    double yMax = -std::numeric_limits<double>::infinity(); ///< mm
 };
 
 /** Whether two records tell of the same part. The extent plays no part. */

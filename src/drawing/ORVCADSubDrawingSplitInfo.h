@@ -8,6 +8,6 @@
 /** How a caller splits a drawing: a value that the library hands on and neither fills nor reads. */
 struct ORVCADSubDrawingSplitInfo
 {
-    QString drawing;
-    QList<ORVCADSubDrawingInfo> subDrawings;
+    QString drawing;                         ///< the one that is split
+    QList<ORVCADSubDrawingInfo> subDrawings; ///< its parts
 };

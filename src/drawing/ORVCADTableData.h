@@ -15,23 +15,23 @@ constexpr int kUnknownTable = 10000;
 /** One row of a table. */
 struct ORVCADTableRowData
 {
-    int row = 0;
+    int row = 0;       ///< number in the table
     QStringList cells; ///< texts, from left to right
 };
 
 /** The concrete grades that a table states for one row. */
 struct ORVCADConcreteLevel
 {
-    int row = 0;
+    int row = 0;                           ///< number in the table
     QList<QPair<QString, QString>> values; ///< what the grade is for, and the grade
 };
 
 /** A table found on a drawing: a grid of texts. Copying copies. */
 struct ORVCADTableData
 {
-    QString drawingName; ///< of the drawing on which it was found
-    int type = kFloorTable;
-    std::array<int, 4> range = {}; ///< where the table lies
-    QList<ORVCADTableRowData> rows;
-    QList<ORVCADConcreteLevel> concrete;
+    QString drawingName;                 ///< of the drawing on which it was found
+    int type = kFloorTable;              ///< one of the numbers above
+    std::array<int, 4> range = {};       ///< where the table lies
+    QList<ORVCADTableRowData> rows;      ///< in the order in which they were read
+    QList<ORVCADConcreteLevel> concrete; ///< grades, row by row
 };

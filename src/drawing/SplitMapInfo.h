@@ -6,6 +6,6 @@
  *  reads. */
 struct SplitMapInfo
 {
-    QString first;
-    QString second;
+    QString first;  ///< the caller's own
+    QString second; ///< the caller's own
 };

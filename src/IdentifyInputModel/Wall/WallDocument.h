@@ -7,8 +7,8 @@
 /** The road of a whole document, the same for every wall model. */
 namespace wall {
 
-/** @param Archive      JSON or XML
- *  @param Translator   made over the archive
+/** @tparam Archive     JSON or XML
+ *  @tparam Translator  made over the archive
  *  @param save         called with the translator
  *  @return the document's text */
 template <typename Archive, typename Translator, typename Save> std::wstring documentText(Save &&save)

@@ -16,6 +16,7 @@ namespace dwgx {
 class ORVCADPLATFORM_EXPORT BoxIndex
 {
 public:
+    /** In plan, mm. */
     using Box = vks::CBox2<double>;
 
     BoxIndex();

@@ -9,10 +9,12 @@ namespace dwgx::cadi2 {
 
 using namespace literals;
 
+/** Of the format; a greater one is refused. */
 constexpr int kVersion = 1;
 /** Larger files are refused; half a million lines take some 40 MiB. */
 constexpr qint64 kMaxFileBytes = 128LL * 1024 * 1024;
 
+/** What a file calls itself. */
 constexpr QLatin1String kFormatName = "cadi2"_key;
 
 namespace key {

@@ -11,6 +11,7 @@ public:
     bool read(const QString &path, DWGXModel *model) override;
     bool write(const QString &path, const DWGXModel *model, const QString &title, const QString &remark) override;
     QString lastErrorReason() const override { return m_reason; }
+    /** Empty for the file as a whole. */
     QString lastErrorPlace() const override { return m_place; }
 
 private:

@@ -12,6 +12,7 @@ namespace dwgx {
 /** Colours are drawing colour indices: 1 to 255 (1 red, 2 yellow, 3 green, 4 cyan, 5 blue, 6 magenta, 7 the colour of
  *  ink). Entities may also have the colour of their layer. */
 constexpr int kColorByLayer = 256;
+/** The colour that entities are drawn in where no other is told. */
 constexpr int kColorInk = 7;
 
 /** What lines and texts have in common. */
@@ -44,7 +45,7 @@ public:
     vks::CVec2<double> point; ///< lower left corner, mm
     double height = 0.0;      ///< of a capital letter, mm, above 0
     double angle = 0.0;       ///< of the writing direction, counter-clockwise, rad
-    QString content;
+    QString content;          ///< may be empty
 
     /** All numbers are finite and the height lies above 0. */
     bool isSound() const;

@@ -10,9 +10,9 @@ namespace dwgx {
 struct DWGXViewerInfoData
 {
     std::array<float, 4> orientation{0.0F, 0.0F, -1.0F, 0.0F}; ///< axis of view x, y, z, and angle about it, rad
-    float zoom = 1.0F;
-    float turn = 0.0F; ///< of the sheet, counter-clockwise, rad
-    quint32 flags = 0; ///< the viewer's own; kept as it comes
+    float zoom = 1.0F;                                         ///< 1 is natural size
+    float turn = 0.0F;                                         ///< of the sheet, counter-clockwise, rad
+    quint32 flags = 0;                                         ///< the viewer's own; kept as it comes
 };
 
 } // namespace dwgx

@@ -17,6 +17,7 @@ public:
         else
             m_values.insert(name, value);
     }
+    /** All names with their values, none empty. */
     const QMap<QString, QString> &values() const { return m_values; }
 
 private:

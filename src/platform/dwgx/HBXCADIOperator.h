@@ -27,5 +27,6 @@ public:
     /** Why the last read or write gave false, for people, and where in the file (such as `layers[0].lines[3].curve`;
      *  empty for the file as a whole). Both are empty after a success. */
     virtual QString lastErrorReason() const = 0;
+    /** The place of the fault; see lastErrorReason. */
     virtual QString lastErrorPlace() const = 0;
 };

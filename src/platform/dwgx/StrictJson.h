@@ -22,8 +22,8 @@ ORVCADPLATFORM_EXPORT QString lineAndColumn(const QByteArray &text, int offset);
 /** Why a file is refused. */
 struct JsonRefusal
 {
-    QString place; ///< such as layers[0].lines[3].curve; empty for the document
-    QString reason;
+    QString place;  ///< such as layers[0].lines[3].curve; empty for the document
+    QString reason; ///< what is wrong there
 };
 
 /** Where in a document a value stands. The text is only made when somebody asks; the parent must live as long. */
@@ -31,10 +31,14 @@ class ORVCADPLATFORM_EXPORT JsonPlace
 {
 public:
     JsonPlace() = default;
+    /** A member of an object. */
     JsonPlace(const JsonPlace &parent, QLatin1String key) : m_parent(&parent), m_key(key) {}
+    /** An entry of an array. */
     JsonPlace(const JsonPlace &parent, int index) : m_parent(&parent), m_index(index) {}
 
+    /** Such as layers[0].lines[3].curve; empty for the document. */
     QString text() const;
+    /** Throws JsonRefusal with this place. */
     [[noreturn]] void refuse(const QString &reason) const;
 
 private:
@@ -49,15 +53,22 @@ private:
 class ORVCADPLATFORM_EXPORT StrictObject
 {
 public:
+    /** Throws for a value that is no object and for a member that is not known. */
     StrictObject(const QJsonValue &value, const JsonPlace &place, std::initializer_list<QLatin1String> knownKeys);
 
+    /** What it was made with. */
     const JsonPlace &place() const { return m_place; }
+    /** Whether the member is there, of whatever kind. */
     bool has(QLatin1String key) const { return m_object.contains(key); }
+    /** The member, of any kind. */
     QJsonValue value(QLatin1String key) const;
+    /** The member, which must be a text. */
     QString text(QLatin1String key) const;
+    /** The member, which must be a number. */
     double number(QLatin1String key) const;
     /** An integer from low to high. */
     qint64 integer(QLatin1String key, qint64 low, qint64 high) const;
+    /** The member, which must be an array. */
     QJsonArray array(QLatin1String key) const;
     /** An array of so many numbers. */
     std::vector<double> numbers(QLatin1String key, int count) const;

@@ -17,6 +17,7 @@ namespace vks {
 class ORVCADPLATFORM_EXPORT ArcChords
 {
 public:
+    /** Chords of a full circle, at most. */
     static constexpr int kMostChords = 100000;
 
     /** @param origin  point that the corners are told from */
@@ -24,6 +25,7 @@ public:
 
     /** Makes an arc known; lines and flat arcs are passed over. */
     void learn(const CCurve2d &curve);
+    /** Whether an arc is known. */
     bool hasArcs() const { return !m_circles.empty(); }
 
     /** Appends the start of a curve and the corners within it, not its end.

@@ -23,12 +23,15 @@ public:
 
     /** Centre and radius; of a flat arc the centre is not finite and the radius is infinite. */
     CVec2<double> CenterPt() const { return m_start + m_toCentre; }
+    /** mm; infinite for a flat arc. */
     double Radius() const { return m_radius; }
     /** Bulge between StartT and EndT; infinite for a full circle. */
     double GetBulge() const;
     /** Angle of the start seen from the centre, rad, and the swept angle, negative when clockwise. */
     double StartAngle() const;
+    /** Negative when clockwise, rad. */
     double SweepAngle() const;
+    /** True for an arc so flat that no circle can be told. */
     bool IsFlat() const;
     /** True for a point inside the arc's whole circle, to the last digits for the flattest arc, too; false for a flat
      *  arc. */
@@ -37,6 +40,7 @@ public:
     CVec2<double> SegmentCentroid() const;
 
     int Type() const override { return kArc; }
+    /** A copy with the same trim. */
     CRefPtr<CCurve2d> Clone() const override;
     CVec2<double> GetPoint(double t) const override;
     CVec2<double> GetDirection(double t) const override;
@@ -46,6 +50,7 @@ public:
     void Reverse() override;
 
     CBox2<double> Box() const override;
+    /** Moves in place, mm. */
     void Translate(const CVec2<double> &move) override;
     void Rotate(const CVec2<double> &centre, double angle) override;
     void MirrorX() override;

@@ -16,9 +16,11 @@ namespace vks {
 class ORVCADPLATFORM_EXPORT CBooleanOperate2D
 {
 public:
+    /** What any of them holds. */
     static CRefPtr<CPolygon> MultUnite(const std::vector<CPolygon *> &polygons);
     /** What of a lies outside b. */
     static CRefPtr<CPolygon> Subtract(const CPolygon *a, const CPolygon *b);
+    /** What both hold. */
     static CRefPtr<CPolygon> Intersect(const CPolygon *a, const CPolygon *b);
 };
 

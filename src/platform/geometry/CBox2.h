@@ -10,10 +10,13 @@ namespace vks {
 /** Box with sides along the axes, in millimetres. A new box is empty: its minimum lies above its maximum. */
 template <typename T> struct CBox2
 {
+    /** Lower left corner. */
     CVec2<T> minPt{std::numeric_limits<T>::max(), std::numeric_limits<T>::max()};
+    /** Upper right corner. */
     CVec2<T> maxPt{std::numeric_limits<T>::lowest(), std::numeric_limits<T>::lowest()};
 
     constexpr CBox2() = default;
+    /** The corners as they are: a minimum above the maximum makes it empty. */
     constexpr CBox2(const CVec2<T> &minimum, const CVec2<T> &maximum) : minPt(minimum), maxPt(maximum) {}
 
     /** False for an empty box and for one with a NaN; tolerance lets the minimum lie that far above the maximum. */
@@ -21,10 +24,14 @@ template <typename T> struct CBox2
     {
         return maxPt.x + tolerance >= minPt.x && maxPt.y + tolerance >= minPt.y;
     }
+    /** Along x, mm; below 0 for an empty box. */
     constexpr T Width() const { return maxPt.x - minPt.x; }
+    /** Along y, mm; below 0 for an empty box. */
     constexpr T Height() const { return maxPt.y - minPt.y; }
+    /** Means nothing for an empty box. */
     constexpr CVec2<T> Center() const { return (minPt + maxPt) / T(2); }
 
+    /** Grows the box until it holds the point. */
     void Add(const CVec2<T> &point)
     {
         minPt = {std::min(minPt.x, point.x), std::min(minPt.y, point.y)};
@@ -60,6 +67,7 @@ template <typename T> struct CBox2
     {
         return IsValid() && other.IsValid() && Touches(other, tolerance);
     }
+    /** True for a point within, or outside by no more than the tolerance; false for an empty box. */
     constexpr bool Contains(const CVec2<T> &point, T tolerance = T()) const
     {
         return point.x >= minPt.x - tolerance && point.x <= maxPt.x + tolerance && point.y >= minPt.y - tolerance &&

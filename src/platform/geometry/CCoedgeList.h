@@ -14,11 +14,13 @@ public:
      *  @param reversed  turns the curve around in place before it is appended */
     void AddCurve(CCurve2d *curve, bool reversed);
 
+    /** Number of curves. */
     int CurveCount() const { return static_cast<int>(m_curves.size()); }
     /** Null for an index out of range. The list goes on holding it. */
     CCurve2d *GetCurve(int index) const;
     /** Replaces the content of the vector by the curves in order; the list goes on holding them. */
     void GetCurves(std::vector<CCurve2d *> &curves) const;
+    /** The curves in order, held. */
     const std::vector<CRefPtr<CCurve2d>> &Curves() const { return m_curves; }
 
     /** Sum of the curves' lengths, mm. */
@@ -30,12 +32,13 @@ public:
     void Reverse();
 
     CBox2<double> Box() const override;
+    /** Moves in place, mm. */
     void Translate(const CVec2<double> &move) override;
     void Rotate(const CVec2<double> &centre, double angle) override;
     void MirrorX() override;
 
 protected:
-    std::vector<CRefPtr<CCurve2d>> m_curves;
+    std::vector<CRefPtr<CCurve2d>> m_curves; ///< none is null
 };
 
 } // namespace vks

@@ -14,19 +14,23 @@ namespace vks {
 class ORVCADPLATFORM_EXPORT CCurve2d : public CGeometry
 {
 public:
+    /** The values of Type. */
     enum EnCurveType { kLine = 1, kArc = 2 };
 
     /** 1 for a line, 2 for an arc. */
     virtual int Type() const = 0;
+    /** A copy with the same trim. */
     virtual CRefPtr<CCurve2d> Clone() const = 0;
 
+    /** Parameter of the start, mm. */
     double StartT() const { return m_startT; }
     /** Never farther from StartT than the curve can reach: once around an arc's circle. */
     double EndT() const { return std::min(m_endT, m_startT + m_longest); }
     /** Moves an end along the curve, mm, in whichever order; a line may also be lengthened, an arc up to its full
      *  circle. A value that is not finite changes nothing, and a line of no length keeps none. */
     void SetStartT(double t);
-    void SetEndT(double t);
+    void SetEndT(double t); ///< as SetStartT
+    /** True when the start lies beyond the end. */
     bool IsEmpty() const { return !(m_startT <= EndT()); }
 
     /** Length between the ends, mm; 0 for an empty curve. */
@@ -35,11 +39,15 @@ public:
     virtual CVec2<double> GetPoint(double t) const = 0;
     /** Unit direction of travel at a parameter; (0, 0) for a line of no length. */
     virtual CVec2<double> GetDirection(double t) const = 0;
+    /** Where the curve starts. */
     CVec2<double> StartPoint() const { return GetPoint(m_startT); }
+    /** Where it ends. */
     CVec2<double> EndPoint() const { return GetPoint(EndT()); }
+    /** Half its length from both ends. */
     CVec2<double> MidPoint() const { return GetPoint((m_startT + EndT()) / 2); }
     /** Unit directions at the ends, along the curve. */
     CVec2<double> StartVt() const { return GetDirection(m_startT); }
+    /** The same at the end. */
     CVec2<double> EndVt() const { return GetDirection(EndT()); }
 
     /** True for a full circle. */

@@ -17,6 +17,7 @@ public:
     /** Least box that holds the geometry, exact for arcs; empty for an empty geometry. */
     virtual CBox2<double> Box() const = 0;
 
+    /** Moves in place, mm. */
     virtual void Translate(const CVec2<double> &move) = 0;
     /** Turns counter-clockwise about a point, rad. */
     virtual void Rotate(const CVec2<double> &centre, double angle) = 0;

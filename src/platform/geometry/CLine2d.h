@@ -8,11 +8,13 @@ namespace vks {
 class ORVCADPLATFORM_EXPORT CLine2d : public CCurve2d
 {
 public:
+    /** From a point to another; they may be the same. */
     CLine2d(const CVec2<double> &start, const CVec2<double> &end);
     /** Through a point in a direction (of any length), from low to high in mm along it; it starts at the lower end. */
     CLine2d(const CVec2<double> &point, const CVec2<double> &direction, double low, double high);
 
     int Type() const override { return kLine; }
+    /** A copy with the same trim. */
     CRefPtr<CCurve2d> Clone() const override;
     CVec2<double> GetPoint(double t) const override;
     CVec2<double> GetDirection(double t) const override;
@@ -22,6 +24,7 @@ public:
     void Reverse() override;
 
     CBox2<double> Box() const override;
+    /** Moves in place, mm. */
     void Translate(const CVec2<double> &move) override;
     void Rotate(const CVec2<double> &centre, double angle) override;
     void MirrorX() override;

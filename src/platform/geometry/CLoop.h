@@ -8,9 +8,11 @@ namespace vks {
 class ORVCADPLATFORM_EXPORT CLoop : public CCoedgeList
 {
 public:
+    /** A loop of copies of the curves. */
     CRefPtr<CLoop> Clone() const;
     /** mm², exact for arcs; positive when the loop runs counter-clockwise. */
     double SignedArea() const;
+    /** The same without its sign. */
     double Area() const;
     /** Centre of the area, exact for arcs; of a loop without area the middle of its box. */
     CVec2<double> Barycentre() const;

@@ -28,15 +28,18 @@ public:
      *  @param takeOver  true: the loop belongs to the polygon from then on; false: a copy of it is added */
     void AddLoop(CLoop *loop, bool takeOver);
 
+    /** Number of loops, the outer one included. */
     int LoopCount() const { return static_cast<int>(m_loops.size()); }
     /** Null for an index out of range. The polygon goes on holding it. */
     CLoop *GetLoop(int index) const;
+    /** The loops in order, held. */
     const std::vector<CRefPtr<CLoop>> &Loops() const { return m_loops; }
     /** A curve counted through all loops in order; null out of range. The polygon goes on holding it. */
     CCurve2d *GetCurve(int index) const;
     /** Replaces the content of the vector by the curves of all loops in order; the polygon goes on holding them. */
     void GetCurves(std::vector<CCurve2d *> &curves) const;
 
+    /** A polygon of copies of the loops. */
     CRefPtr<CPolygon> Clone() const;
 
     /** mm², exact for arcs, holes taken off; never negative. */
@@ -57,6 +60,7 @@ public:
     bool IsValid(unsigned mask, void *detail, void *position) const;
 
     CBox2<double> Box() const override;
+    /** Moves in place, mm. */
     void Translate(const CVec2<double> &move) override;
     void Rotate(const CVec2<double> &centre, double angle) override;
     void MirrorX() override;

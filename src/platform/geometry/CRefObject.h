@@ -12,15 +12,19 @@ class ORVCADPLATFORM_EXPORT CRefObject
 {
 public:
     CRefObject() = default;
-    CRefObject(const CRefObject &) noexcept {} // a copy has holders of its own
+    /** A copy has holders of its own, none at first. */
+    CRefObject(const CRefObject &) noexcept {}
+    /** The holders stay with the object. */
     CRefObject &operator=(const CRefObject &) noexcept { return *this; }
     virtual ~CRefObject();
 
+    /** One hold more, by hand; each asks for a Release. */
     void AddRef() const noexcept { ++m_holders; }
     /** Lets go of one hold; the object is gone when it was the last. */
     void Release() const noexcept;
     /** Destroys an object that nothing holds; an object that is held stays as it is. */
     void Free() const noexcept;
+    /** Number of holds. */
     int HolderCount() const noexcept { return m_holders; }
 
 private:

@@ -8,27 +8,39 @@ namespace vks {
 /** Point or vector in the plan; lengths in millimetres. */
 template <typename T> struct CVec2
 {
-    T x = T();
-    T y = T();
+    T x = T(); ///< mm
+    T y = T(); ///< mm
 
     constexpr CVec2() = default;
+    /** The terms as they are. */
     constexpr CVec2(T xValue, T yValue) : x(xValue), y(yValue) {}
 
+    /** Term by term. */
     constexpr CVec2 operator+(const CVec2 &other) const { return {x + other.x, y + other.y}; }
+    /** Term by term. */
     constexpr CVec2 operator-(const CVec2 &other) const { return {x - other.x, y - other.y}; }
+    /** The opposite direction. */
     constexpr CVec2 operator-() const { return {-x, -y}; }
+    /** Each term times a factor. */
     constexpr CVec2 operator*(T factor) const { return {x * factor, y * factor}; }
+    /** Each term divided; nothing guards against 0. */
     constexpr CVec2 operator/(T divisor) const { return {x / divisor, y / divisor}; }
+    /** In place. */
     CVec2 &operator+=(const CVec2 &other) { return *this = *this + other; }
+    /** In place. */
     CVec2 &operator-=(const CVec2 &other) { return *this = *this - other; }
     /** Exact, term by term. */
     constexpr bool operator==(const CVec2 &other) const { return x == other.x && y == other.y; }
+    /** The contrary. */
     constexpr bool operator!=(const CVec2 &other) const { return !(*this == other); }
 
+    /** Scalar product; above 0 for directions less than a quarter turn apart. */
     constexpr T Dot(const CVec2 &other) const { return x * other.x + y * other.y; }
     /** Positive when other lies to the left of this. */
     constexpr T Cross(const CVec2 &other) const { return x * other.y - y * other.x; }
+    /** mm²; may overflow where Length does not. */
     constexpr T SqrLength() const { return Dot(*this); }
+    /** mm. */
     T Length() const
     {
         // std::hypot takes several times as long, and is needed only where the square overflows or vanishes.
@@ -36,6 +48,7 @@ template <typename T> struct CVec2
         const T square = SqrLength();
         return square >= least && square <= std::numeric_limits<T>::max() ? std::sqrt(square) : std::hypot(x, y);
     }
+    /** Of two points, mm. */
     T DistanceTo(const CVec2 &other) const { return (other - *this).Length(); }
     /** The same direction with length 1; (0, 0) stays as it is. */
     CVec2 Normalized() const
@@ -56,6 +69,7 @@ template <typename T> struct CVec2
     T Angle() const { return std::atan2(y, x); }
     /** Turn from this direction to another one, positive to the left, rad; from -pi to pi. */
     T AngleTo(const CVec2 &other) const { return std::atan2(Cross(other), Dot(other)); }
+    /** False when a term is infinite or NaN. */
     bool IsFinite() const { return std::isfinite(x) && std::isfinite(y); }
 };
 

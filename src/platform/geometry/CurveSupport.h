@@ -10,17 +10,21 @@ namespace vks {
 class ORVCADPLATFORM_EXPORT CurveSupport
 {
 public:
+    /** Keeps nothing of the curve. */
     explicit CurveSupport(const CCurve2d &curve);
 
+    /** False for a circle. */
     bool isLine() const { return m_radius == 0.0; }
     /** Of a circle; the centre of a line means nothing. */
     CVec2<double> centre() const { return m_centre; }
+    /** Of a circle, mm; 0 for a line. */
     double radius() const { return m_radius; }
     /** The start of the curve. */
     CVec2<double> start() const { return m_start; }
     /** Of a line, unit length. */
     CVec2<double> direction() const { return m_direction; }
 
+    /** From the support, mm. */
     double distanceTo(const CVec2<double> &point) const;
     /** 1 for a point to the left of the curve, lengthened at its ends, -1 to the right, 0 on it. */
     int sideOf(const CVec2<double> &point) const;
@@ -43,11 +47,14 @@ private:
 /** Up to two points. */
 struct SupportPoints
 {
-    std::array<CVec2<double>, 2> points;
-    int count = 0;
+    std::array<CVec2<double>, 2> points; ///< the first count of them
+    int count = 0;                       ///< 0, 1 or 2
 
+    /** One more; there is room for two. */
     void add(const CVec2<double> &point) { points[static_cast<std::size_t>(count++)] = point; }
+    /** For loops over the points. */
     const CVec2<double> *begin() const { return points.data(); }
+    /** Behind the last point. */
     const CVec2<double> *end() const { return points.data() + count; }
 };
 

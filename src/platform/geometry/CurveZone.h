@@ -12,10 +12,11 @@ namespace vks {
 class ORVCADPLATFORM_EXPORT CurveZone
 {
 public:
+    /** A part of the border with its box. */
     struct Piece
     {
-        CRefPtr<CCurve2d> curve;
-        CBox2<double> box;
+        CRefPtr<CCurve2d> curve; ///< a part of the border
+        CBox2<double> box;       ///< of that part
     };
 
     /** Pieces that do not touch the range are left out. */
@@ -26,6 +27,7 @@ public:
     /** A single curve with a disc at each end; distance above 0, mm. */
     void addCurve(const CCurve2d &curve, double distance);
 
+    /** All parts. */
     const std::vector<Piece> &border() const { return m_border; }
     /** Parameters of a curve, in order, at its ends and wherever it meets the border. */
     std::vector<double> cuts(const CCurve2d &curve) const;

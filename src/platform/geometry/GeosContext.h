@@ -16,8 +16,10 @@ namespace vks::geos {
 /** The context of the calling thread, made at its first use and gone with the thread. */
 ORVCADPLATFORM_EXPORT GEOSContextHandle_HS *context();
 
+/** Gives geometry back to the context of its thread. */
 struct ORVCADPLATFORM_EXPORT Release
 {
+    /** Null is allowed. */
     void operator()(GEOSGeom_t *geometry) const noexcept;
 };
 /** Owned geometry; null stands for a failed operation. */

@@ -8,8 +8,8 @@ namespace vks {
 /** Tolerances of cleaning. */
 struct CleaningTolerance
 {
-    double distance; // mm
-    double angle;    // rad
+    double distance; ///< mm
+    double angle;    ///< rad
 };
 
 /** A loop with its vertices welded, without edges shorter than the distance tolerance, cut apart where it comes back to

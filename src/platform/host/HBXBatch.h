@@ -10,6 +10,7 @@
 class HBXBatch
 {
 public:
+    /** Opens the bracket of the key; the model lives longer. */
     HBXBatch(IHBXModel &model, std::string key) : m_model(model), m_key(std::move(key))
     {
         m_model.beginBatch(m_key, true);

@@ -10,8 +10,10 @@
 class ORVCADPLATFORM_EXPORT HBXModelException : public std::runtime_error
 {
 public:
+    /** The reason is what a user is told. */
     explicit HBXModelException(const QString &reason);
     ~HBXModelException() override;
 
+    /** The same text. */
     QString reason() const;
 };

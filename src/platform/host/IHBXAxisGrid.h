@@ -12,8 +12,8 @@ class IHBXElementDrawObj;
 /** One axis of a grid: its label and its curves, in the coordinates of the grid's shape. */
 struct HBXAxis
 {
-    QString label;
-    std::vector<vks::CRefPtr<vks::CCurve2d>> curves;
+    QString label;                                   ///< as drawn at its end; may be empty
+    std::vector<vks::CRefPtr<vks::CCurve2d>> curves; ///< its pieces, mm
 };
 
 /** Axis lines in four groups, 0 and 1 for U, 2 and 3 for V. A copy of the grid behind a draw object: it belongs to the

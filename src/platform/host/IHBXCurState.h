@@ -13,6 +13,7 @@ public:
 
     /** The current region and floor; null when none is selected. */
     virtual IHBXRegion *region() = 0;
+    /** A floor of that region; null when none is selected. */
     virtual IHBXFloor *floor() = 0;
     /** Current layer for a draw object; the argument picks a kind of layer, -1 any. */
     virtual int currentLayer(int kind) = 0;

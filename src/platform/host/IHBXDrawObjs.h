@@ -27,12 +27,14 @@ public:
     virtual void addDrawObj(IHBXElementDrawObj *drawObj) = 0;
     /** Entered or not; null for an unknown id. */
     virtual IHBXElementDrawObj *drawObjById(qint64 id) = 0;
+    /** Objects of the types on the floors. */
     virtual void queryDrawObjs(QList<IHBXElementDrawObj *> &out, const QSet<qint64> &floorIds,
                                const QSet<qint64> &elementTypes, bool on) = 0;
     /** Sub-types kAnySubType and kAnySubType16 ask for all. */
     virtual void queryDrawObjsOfFloor(QList<IHBXElementDrawObj *> &out, int floorId, int elementType, int subType,
                                       bool on) = 0;
 
+    /** Number of entered objects. */
     virtual int count() const = 0;
     /** Null for a position out of range. */
     virtual IHBXElementDrawObj *at(int position) = 0;

@@ -6,6 +6,7 @@
 class ORVCADPLATFORM_EXPORT IHBXEObject
 {
 public:
+    /** The kinds, by the numbers that objectKind() gives. */
     enum Kind { kElement = 0, kDrawObj = 1 };
 
     virtual ~IHBXEObject() = default;

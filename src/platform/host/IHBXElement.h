@@ -14,10 +14,15 @@ class IHBXRegion;
 class ORVCADPLATFORM_EXPORT IHBXElement : public IHBXEObject
 {
 public:
+    /** Names the element in the model while it lives. */
     virtual qint64 id() const = 0;
+    /** Element type, a number of HBXElementTypes.h. */
     virtual qint64 type() const = 0;
+    /** Kind of section within the type, a number of the host. */
     virtual qint64 subType() const = 0;
+    /** The region of its floor. */
     virtual IHBXRegion *region() const = 0;
+    /** The floor that it was made on. */
     virtual IHBXFloor *floor() const = 0;
     /** The property set; null only where a host keeps none for the type. */
     virtual IHBXProperties *properties() = 0;
@@ -31,6 +36,7 @@ public:
     virtual void remove() = 0;
     /** Entered draw objects of this element. */
     virtual int drawObjCount() const = 0;
+    /** Fills out with those objects; the mode is the host's own. */
     virtual void drawObjs(QList<IHBXElementDrawObj *> &out, int mode) = 0;
 
     /** Owner of a unit, null for everything else. */

@@ -16,10 +16,15 @@ class IHBXShape;
 class ORVCADPLATFORM_EXPORT IHBXElementDrawObj : public IHBXEObject
 {
 public:
+    /** Names the object in the model from its making on, entered or not. */
     virtual qint64 id() const = 0;
+    /** Element type, a number of HBXElementTypes.h. */
     virtual qint64 type() const = 0;
+    /** Kind of section within the type, a number of the host. */
     virtual qint64 subType() const = 0;
+    /** The region of its floor. */
     virtual IHBXRegion *region() const = 0;
+    /** The floor that it stands on. */
     virtual IHBXFloor *floor() const = 0;
     /** The object's own values over those of its element; a write makes the value its own. Null only where a host keeps
      *  no set for the type. */
@@ -28,10 +33,13 @@ public:
     virtual IHBXElementDrawObj *cloneDrawObj(int mode, int flag, int depth) = 0;
     /** Unlinks, detaches and destroys the object; this pointer is then dead. */
     virtual void remove() = 0;
+    /** The element that it is an instance of. */
     virtual IHBXElement *element() const = 0;
     /** The geometry, to be cast to its kind; null when the type has none. */
     virtual IHBXShape *shape() = 0;
+    /** Its layer and state. */
     virtual IHBXDrawObjStatus *status() = 0;
+    /** Number of its children: one for each unit of its element. */
     virtual int childCount() const = 0;
     /** Null for an index out of range. */
     virtual IHBXElementDrawObj *child(int index) const = 0;
@@ -43,6 +51,7 @@ public:
     /** First object of the chain that holds this one. A beam object (15, 17, 18, 47) that is linked to nothing is its own
      *  head; null for other types and before the object is entered. */
     virtual IHBXElementDrawObj *chainHead() = 0;
+    /** The object that is linked behind this one; null where the chain ends. */
     virtual IHBXElementDrawObj *nextInChain() = 0;
     /** Makes next the following link; null ends the chain here. A link that would close a ring changes nothing, and so does
      *  one of an object that is no beam, and one to an object of another element. */

@@ -27,13 +27,16 @@ public:
     virtual IHBXElement *elementById(qint64 id) = 0;
     /** The first element, in id order, of that exact name and type on a floor; null when there is none. */
     virtual IHBXElement *findElement(const QString &name, int floorId, qint64 type, bool on, int flag) = 0;
+    /** Elements of the types on the floors. */
     virtual void queryElements(QList<IHBXElement *> &out, const QSet<qint64> &floorIds,
                                const QSet<qint64> &elementTypes, bool on) = 0;
+    /** The same of one floor and one type. */
     virtual void queryElementsOnFloor(QList<IHBXElement *> &out, qint64 floorId, qint64 type, bool on) = 0;
     /** A name that no element of the type has on a floor: the given one when it is free, else with a suffix "-1", "-2",
      *  …. Fills and returns out. */
     virtual QString &uniqueName(QString &out, qint64 floorId, qint64 type, const QString &name) = 0;
 
+    /** Number of elements. */
     virtual int count() const = 0;
     /** Null for a position out of range. */
     virtual IHBXElement *at(int position) = 0;

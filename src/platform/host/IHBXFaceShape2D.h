@@ -6,6 +6,7 @@
 class ORVCADPLATFORM_EXPORT IHBXFaceShape2D : public IHBXShape
 {
 public:
+    /** Sets the outline, in the shape's own coordinates; null clears it. */
     virtual void setPolygon(const vks::CPolygon *outline) = 0;
 
     /** The outline in the shape's own coordinates; null without geometry. */

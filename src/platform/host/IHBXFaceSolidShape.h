@@ -6,6 +6,7 @@
 class ORVCADPLATFORM_EXPORT IHBXFaceSolidShape : public IHBXShape
 {
 public:
+    /** Sets the outline, in the shape's own coordinates; null clears it. */
     virtual void setPolygon(const vks::CPolygon *outline) = 0;
     /** Signed height: minus the thickness of a slab or raft, which hangs down from its top. */
     virtual double height() const = 0;

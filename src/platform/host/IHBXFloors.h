@@ -17,6 +17,7 @@ public:
     /** The floor of that exact code (IHBXFloor::code); null when there is none. */
     virtual IHBXFloor *findByCode(const QString &code) = 0;
 
+    /** Number of floors. */
     virtual int count() const = 0;
     /** Null for a position out of range. */
     virtual IHBXFloor *at(int position) = 0;

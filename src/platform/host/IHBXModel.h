@@ -23,13 +23,18 @@ public:
 
     /** Kernel database of the model, with the option tables; null when the host has none. */
     virtual vks::CDatabase *database() = 0;
+    /** All building parts. */
     virtual IHBXRegions *regions() = 0;
+    /** All elements. */
     virtual IHBXElements *elements() = 0;
+    /** All draw objects. */
     virtual IHBXDrawObjs *drawObjects() = 0;
+    /** Judges draw objects before they stay. */
     virtual IHBXCheck *checker() = 0;
     /** Opens and closes a bracket around changes, paired by key; brackets of different keys nest. What the host does with
      *  it (undo, repaint) is its own. Closing a key that is not open does nothing. */
     virtual void beginBatch(const std::string &key, bool on) = 0;
+    /** Closes the bracket of the key. */
     virtual void endBatch(const std::string &key) = 0;
     /** Brings derived data up to date after property writes; the mode is 0. */
     virtual void refresh(int mode) = 0;

@@ -10,6 +10,8 @@ class ORVCADPLATFORM_EXPORT IHBXSection
 public:
     virtual ~IHBXSection() = default;
 
+    /** In the section library of the host. */
     virtual qint64 number() const = 0;
+    /** A number of the host. */
     virtual int kind() const = 0;
 };

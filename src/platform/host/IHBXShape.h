@@ -12,6 +12,7 @@
 class ORVCADPLATFORM_EXPORT IHBXShape
 {
 public:
+    /** The kinds, by the numbers that kind() gives. */
     enum Kind { kPoint = 0, kLine = 1, kFace = 2, kSection = 3, kPlanLine = 4, kPlanArea = 5, kGrid = 6 };
 
     virtual ~IHBXShape() = default;
@@ -25,5 +26,6 @@ public:
     /** World outline in plan (of a line solid the strip of its width); null without geometry. */
     virtual vks::CRefPtr<vks::CPolygon> &worldPoly(vks::CRefPtr<vks::CPolygon> &out, bool autoCalc) const = 0;
 
+    /** Sets the frame that the shape's own coordinates are told in. */
     virtual void setCoordinates(const vks::CCoord3<double> &frame) = 0;
 };

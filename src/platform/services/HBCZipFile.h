@@ -17,6 +17,7 @@
 class ORVCADPLATFORM_EXPORT HBCZipFile
 {
 public:
+    /** What all members of one archive may unpack to: 1 GiB. */
     static constexpr quint64 kMaxUnpackedBytes = quint64(1) << 30;
 
     /** Packs files into a new archive, which takes the place of a file that is there. A member is named after the file,

@@ -14,16 +14,20 @@
  *  title in a legend. A CAD layer is of a type when its name holds one of the type's layer words, case ignored. */
 namespace hbx {
 
+/** A row of the table. */
 struct ElementTypeInfo
 {
-    qint64 number;
+    qint64 number;           ///< of HBXElementTypes.h
     const char *analysisKey; ///< ASCII; no two types share one
     const char *ownName;     ///< UTF-8; no two types share one
     const char *layerWords;  ///< UTF-8, separated by blanks
     int colour;              ///< 0xRRGGBB
 
+    /** The analysis key as text. */
     QString key() const { return QString::fromLatin1(analysisKey); }
+    /** The own name as text. */
     QString name() const { return QString::fromUtf8(ownName); }
+    /** The layer words, one by one. */
     QStringList words() const { return QString::fromUtf8(layerWords).split(QLatin1Char(' ')); }
 };
 

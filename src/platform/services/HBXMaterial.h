@@ -6,5 +6,5 @@
 struct HBXMaterial
 {
     int number = 0; ///< from 1
-    QString name;
+    QString name;   ///< as the rules tell it
 };

@@ -23,9 +23,11 @@ public:
     int standardFloorCount() const { return m_standardFloorCount; }
     /** Top of the floor above the building's zero, m; 0 without a floor. */
     double topElev() const { return m_topElev; }
+    /** Empty without a floor. */
     QString floorName() const { return m_floorName; }
     /** -1 without a floor. */
     int floorID() const { return m_floorID; }
+    /** Empty without a region. */
     QString regionName() const { return m_regionName; }
     /** -1 without a region, and for a region whose id does not fit into 32 bits. */
     int regionID() const { return m_regionID; }

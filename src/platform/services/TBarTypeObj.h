@@ -9,6 +9,7 @@ class TBarTypeObj
 {
 public:
     TBarTypeObj() = default;
+    /** Any text is taken, as it is. */
     explicit TBarTypeObj(const QString &text) : m_text(text) {}
 
     /** Empty when there are no bars. */

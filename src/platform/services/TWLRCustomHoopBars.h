@@ -15,9 +15,11 @@ public:
 class ORVCADPLATFORM_EXPORT TWLRCustomHoopBars : public IWLRCustomHoopBars
 {
 public:
+    /** Any text is taken, as it is. */
     explicit TWLRCustomHoopBars(const QString &text) : m_text(text) {}
     ~TWLRCustomHoopBars() override;
 
+    /** The same text. */
     QString getAsString() const { return m_text; }
 
 private:

@@ -10,6 +10,7 @@ class ORVCADPLATFORM_EXPORT WLRBeamSpans
 public:
     virtual ~WLRBeamSpans();
 
+    /** Number of spans. */
     virtual int count() const = 0;
     /** Belongs to the set; null for a position out of range. */
     virtual IWLRBeamSpan *span(int position) = 0;
