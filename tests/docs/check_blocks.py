@@ -38,8 +38,8 @@ class Blocks:
     """Checks blocks by language; a method gives the problems of one block."""
 
     def __init__(self, arguments):
-        self.root = arguments.root
-        self.tools = arguments.orvcad.parent
+        self.root = arguments.root.resolve()
+        self.tools = arguments.orvcad.resolve().parent
         self.compiler = arguments.compiler
         self.flags = arguments.flags.read_text(encoding="utf-8").split("\n")
         self.cmake = arguments.cmake
@@ -118,7 +118,7 @@ def problems_of(arguments):
     for blocks in pages.values():
         with tempfile.TemporaryDirectory() as name:
             folder = pathlib.Path(name)
-            lay_out(arguments.root, folder)
+            lay_out(checks.root, folder)
             for block in blocks:
                 if "unrun" not in block.info:
                     problems += [f"{block.place}: {problem}" for problem in checks.check(block, folder)]
