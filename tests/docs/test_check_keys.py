@@ -30,8 +30,13 @@ class Keys(unittest.TestCase):
         self.assertFalse(is_explained("layer_", "`layer_`"))
 
     def test_unexplainedKeyIsNamedWithItsSourceAndPage(self):
-        self.assertEqual(unexplained("schemas/beams.schema.json", '{"properties": {"Name": {}, "Lost": {}}}', ['"Name"']),
+        self.assertEqual(unexplained("schemas/beams.schema.json", '{"properties": {"Name": {}, "Lost": {}}}', {"beams": '"Name"'}),
                          ["schemas/beams.schema.json: Lost is not explained in beams"])
+
+    def test_keyOfASchemaWithoutPagesOfItsOwnMayStandOnAny(self):
+        schema = '{"properties": {"Name": {}, "Lost": {}}}'
+        self.assertEqual(unexplained("schemas/new.schema.json", schema, {"a": "", "b": '"Name"'}),
+                         ["schemas/new.schema.json: Lost is not explained in any page"])
 
 
 if __name__ == "__main__":
