@@ -1,5 +1,5 @@
-"""Every code block of the documents holds: commands run and print what is shown, JSON parses and keeps to the schema that
-its block names, C++ compiles against the headers, CMake parses.
+"""Every code block of the documents holds: commands run and print what is shown, JSON parses and keeps to the schema
+that its block names, C++ compiles against the headers, CMake parses.
 
     sh            run in order, in one scratch folder for each page; lines of ./dev are looked up only
     console       the same, and what is printed is compared
@@ -47,8 +47,8 @@ class Blocks:
         self.sources = []  # of C++, compiled together at the end
 
     def check(self, block, folder):
-        by_language = {"sh": self.check_sh, "console": self.check_console, "json": self.check_json, "cpp": self.check_cpp,
-                       "cmake": self.check_cmake, "text": self.check_text, "": self.check_text}
+        by_language = {"sh": self.check_sh, "console": self.check_console, "json": self.check_json,
+                       "cpp": self.check_cpp, "cmake": self.check_cmake, "text": self.check_text, "": self.check_text}
         check = by_language.get(block.language)
         if not check:
             return [f"no kind of block: {block.language}"]
@@ -84,7 +84,7 @@ class Blocks:
         return ["shows a command and is no console block"] if re.search(r"^\$ ", block.text, re.MULTILINE) else []
 
     def compile_sources(self):
-        """All blocks of C++ as one source: their includes in front, each block in a namespace or function of its own."""
+        """All C++ as one source: the includes in front, each block in a namespace or function of its own."""
         includes, bodies = [], []
         for number, block in enumerate(self.sources):
             lines = block.text.splitlines()

@@ -1,5 +1,5 @@
-"""Every key of every document is explained on the page of its format: the keys that the key headers of the sources and the
-properties of the JSON Schemas name stand there in quotes or between backticks."""
+"""Every key of every document is explained on the page of its format: the keys that the key headers of the sources and
+the properties of the JSON Schemas name stand there in quotes or between backticks."""
 
 import argparse
 import json
@@ -7,7 +7,8 @@ import pathlib
 import re
 import sys
 
-# The pages that explain the keys of a schema, or of a header that lists them; of one that is not named here, any page may.
+# The pages that explain the keys of a schema, or of a header that lists them; of one without
+# an entry, any page may.
 PAGES = {
     "schemas/beams.schema.json": ["beams"],
     "schemas/cadi2.schema.json": ["cadi2"],

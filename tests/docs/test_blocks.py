@@ -103,7 +103,8 @@ class OtherBlocks(unittest.TestCase):
         self.assertEqual(len(self.checks().check(block('{"a": }', "json"), None)), 1)
 
     def test_jsonIsHeldToTheSchemaThatItNames(self):
-        self.assertEqual(self.checks().check_json(block('{"AreaName": "A", "Floors": []}', "json", "floors"), None), [])
+        good = block('{"AreaName": "A", "Floors": []}', "json", "floors")
+        self.assertEqual(self.checks().check_json(good, None), [])
         self.assertEqual(len(self.checks().check_json(block('{"Floors": []}', "json", "floors"), None)), 1)
 
     def compiled(self, text, *words):
@@ -130,7 +131,8 @@ class OtherBlocks(unittest.TestCase):
         self.assertIn("docs/a.md: not run, and no reason is told: x", unrun_problems([block("x\n", "sh", "unrun")]))
 
     def test_reasonWithoutABlockIsFound(self):
-        self.assertIn("docs/cli.md: no such block is marked unrun: $ orvcad column check reply.json", unrun_problems([]))
+        self.assertIn("docs/cli.md: no such block is marked unrun: $ orvcad column check reply.json",
+                      unrun_problems([]))
 
 
 if __name__ == "__main__":
