@@ -19,7 +19,7 @@ import sys
 import tempfile
 
 from code_blocks import read_blocks
-from sessions import run_script, run_session
+from transcripts import run_script, run_transcript
 
 sys.path.append(str(pathlib.Path(__file__).resolve().parents[1] / "schemas"))
 from check_documents import validator_of
@@ -39,7 +39,7 @@ class Blocks:
 
     def __init__(self, arguments):
         self.root = arguments.root.resolve()
-        self.tools = arguments.orvcad.resolve().parent
+        self.programs = arguments.orvcad.resolve().parent
         self.compiler = arguments.compiler
         self.flags = arguments.flags.read_text(encoding="utf-8").split("\n")
         self.cmake = arguments.cmake
@@ -54,14 +54,14 @@ class Blocks:
             return [f"no kind of block: {block.language}"]
         try:
             return check(block, folder)
-        except ValueError as error:  # what is no session, no JSON
+        except ValueError as error:  # what is no transcript, no JSON
             return [str(error)]
 
     def check_sh(self, block, folder):
-        return run_script(block.text, folder, self.tools, self.verbs)
+        return run_script(block.text, folder, self.programs, self.verbs)
 
     def check_console(self, block, folder):
-        return run_session(block.text, folder, self.tools)
+        return run_transcript(block.text, folder, self.programs)
 
     def check_json(self, block, _folder):
         document = json.loads(block.text)
