@@ -1,5 +1,5 @@
-"""Every code block of the documents holds: commands run and print what is shown, JSON parses and keeps to the schema that
-its block names, C++ compiles against the headers, CMake parses.
+"""Every code block of the documents holds: commands run and print what is shown, JSON parses and keeps to the schema
+that its block names, C++ compiles against the headers, CMake parses.
 
     sh            run in order, in one scratch folder for each page; lines of ./dev are looked up only
     console       the same, and what is printed is compared
@@ -19,7 +19,7 @@ import sys
 import tempfile
 
 from code_blocks import read_blocks
-from sessions import run_script, run_session
+from transcripts import run_script, run_transcript
 
 sys.path.append(str(pathlib.Path(__file__).resolve().parents[1] / "schemas"))
 from check_documents import validator_of
@@ -45,8 +45,8 @@ class Blocks:
     """Checks blocks by language; a method gives the problems of one block."""
 
     def __init__(self, arguments):
-        self.root = arguments.root
-        self.tools = arguments.orvcad.parent
+        self.root = arguments.root.resolve()
+        self.programs = arguments.orvcad.resolve().parent
         self.compiler = arguments.compiler
         self.flags = arguments.flags.read_text(encoding="utf-8").split("\n")
         self.cmake = arguments.cmake
@@ -54,21 +54,21 @@ class Blocks:
         self.sources = []  # of C++, compiled together at the end
 
     def check(self, block, folder):
-        by_language = {"sh": self.check_sh, "console": self.check_console, "json": self.check_json, "cpp": self.check_cpp,
-                       "cmake": self.check_cmake, "text": self.check_text, "": self.check_text}
+        by_language = {"sh": self.check_sh, "console": self.check_console, "json": self.check_json,
+                       "cpp": self.check_cpp, "cmake": self.check_cmake, "text": self.check_text, "": self.check_text}
         check = by_language.get(block.language)
         if not check:
             return [f"no kind of block: {block.language}"]
         try:
             return check(block, folder)
-        except ValueError as error:  # what is no session, no JSON
+        except ValueError as error:  # what is no transcript, no JSON
             return [str(error)]
 
     def check_sh(self, block, folder):
-        return run_script(block.text, folder, self.tools, self.verbs)
+        return run_script(block.text, folder, self.programs, self.verbs)
 
     def check_console(self, block, folder):
-        return run_session(block.text, folder, self.tools)
+        return run_transcript(block.text, folder, self.programs)
 
     def check_json(self, block, _folder):
         document = json.loads(block.text)
@@ -91,7 +91,7 @@ class Blocks:
         return ["shows a command and is no console block"] if re.search(r"^\$ ", block.text, re.MULTILINE) else []
 
     def compile_sources(self):
-        """All blocks of C++ as one source: their includes in front, each block in a namespace or function of its own."""
+        """All C++ as one source: the includes in front, each block in a namespace or function of its own."""
         includes, bodies = [], []
         for number, block in enumerate(self.sources):
             lines = block.text.splitlines()
@@ -125,7 +125,7 @@ def problems_of(arguments):
     for blocks in pages.values():
         with tempfile.TemporaryDirectory() as name:
             folder = pathlib.Path(name)
-            lay_out(arguments.root, folder)
+            lay_out(checks.root, folder)
             for block in blocks:
                 if "unrun" not in block.info:
                     problems += [f"{block.place}: {problem}" for problem in checks.check(block, folder)]

@@ -1,5 +1,5 @@
-"""Every key of every document is explained on the page of its format: the keys that the key headers of the sources and the
-properties of the JSON Schemas name stand there in quotes or between backticks."""
+"""Every key of every document is explained on the page of its format: the keys that the key headers of the sources and
+the properties of the JSON Schemas name stand there in quotes or between backticks."""
 
 import argparse
 import json
@@ -7,7 +7,8 @@ import pathlib
 import re
 import sys
 
-# The pages that explain the keys of a schema, or of a header that lists them.
+# The pages that explain the keys of a schema, or of a header that lists them; of one without
+# an entry, any page may.
 PAGES = {
     "schemas/beams.schema.json": ["beams"],
     "schemas/cadi2.schema.json": ["cadi2"],
@@ -67,29 +68,34 @@ def is_explained(key, page):
 
 
 def unexplained(path, text, pages):
-    return [f"{path}: {key} is not explained in {' or '.join(PAGES[path])}"
-            for key in sorted(keys_of(path, text)) if not any(is_explained(key, page) for page in pages)]
+    """Keys that none of the pages, texts by name, explains."""
+    where = " or ".join(PAGES.get(path, ["any page"]))
+    return [f"{path}: {key} is not explained in {where}"
+            for key in sorted(keys_of(path, text)) if not any(is_explained(key, page) for page in pages.values())]
 
 
 def sources_of(root):
     """Schemas that there are, and headers that list keys."""
-    paths = {str(path.relative_to(root)): path for pattern in ("schemas/*.json", "src/**/*.h") for path in root.glob(pattern)}
+    paths = {str(path.relative_to(root)): path
+             for pattern in ("schemas/*.json", "src/**/*.h") for path in root.glob(pattern)}
     return {name for name, path in paths.items() if name.endswith(".json") or LITERAL.search(path.read_text("utf-8"))}
 
 
 def problems_of(root):
-    problems = [f"{path}: no page is named for it" for path in sorted(sources_of(root) - set(PAGES))]
-    for path, names in PAGES.items():
-        pages = [(root / f"docs/formats/{name}.md").read_text(encoding="utf-8") for name in names]
-        problems += unexplained(path, (root / path).read_text(encoding="utf-8"), pages)
+    pages = {path.stem: path.read_text(encoding="utf-8") for path in (root / "docs/formats").glob("*.md")}
+    problems = [f"{path}: is not there" for path in PAGES if not (root / path).exists()]
+    for path in sorted(sources_of(root)):
+        its_pages = {name: pages[name] for name in PAGES.get(path, pages)}
+        problems += unexplained(path, (root / path).read_text(encoding="utf-8"), its_pages)
     return problems
 
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--root", type=pathlib.Path, required=True, help="of the sources")
-    problems = problems_of(parser.parse_args().root)
-    print("\n".join(problems) or f"every key of {len(PAGES)} schemas and headers is explained")
+    root = parser.parse_args().root
+    problems = problems_of(root)
+    print("\n".join(problems) or f"every key of {len(sources_of(root))} schemas and headers is explained")
     return 1 if problems else 0
 
 

@@ -41,10 +41,11 @@ def blocks_of(page, text):
 
 
 def pages_of(root):
-    return sorted([root / "README.md", root / "CONTRIBUTING.md", root / "examples/README.md", *root.glob("docs/**/*.md")])
+    outside = [root / name for name in ("README.md", "CONTRIBUTING.md", "examples/README.md")]
+    return sorted([*outside, *root.glob("docs/**/*.md")])
 
 
 def read_blocks(root: pathlib.Path):
     """Blocks of all pages, page by page."""
-    return {str(path.relative_to(root)): blocks_of(str(path.relative_to(root)), path.read_text(encoding="utf-8"))
-            for path in pages_of(root)}
+    names = {str(path.relative_to(root)): path for path in pages_of(root)}
+    return {name: blocks_of(name, path.read_text(encoding="utf-8")) for name, path in names.items()}

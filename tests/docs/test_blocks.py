@@ -6,7 +6,7 @@ import unittest
 
 from check_blocks import Blocks, unrun_problems
 from code_blocks import Block, blocks_of
-from sessions import commands_of, pattern_of, run_script, run_session
+from transcripts import commands_of, pattern_of, run_script, run_transcript
 
 
 def block(text, *info):
@@ -27,14 +27,14 @@ class WhereBlocksAre(unittest.TestCase):
             blocks_of("a.md", "```sh\ntrue\n")
 
 
-class Sessions(unittest.TestCase):
+class Transcripts(unittest.TestCase):
     def setUp(self):
         scratch = tempfile.TemporaryDirectory()
         self.addCleanup(scratch.cleanup)
         self.folder = pathlib.Path(scratch.name)
 
-    def run_session(self, text):
-        return run_session(text, self.folder, self.folder)
+    def run_transcript(self, text):
+        return run_transcript(text, self.folder, self.folder)
 
     def test_commandStandsAboveWhatItPrints(self):
         self.assertEqual(commands_of("$ a\nx\n\ny\n$ b\n"), [("a", ["x", "", "y"]), ("b", [])])
@@ -59,26 +59,26 @@ class Sessions(unittest.TestCase):
         self.assertFalse(pattern_of(["1.5 (m)"]).fullmatch("1x5 m\n"))
 
     def test_sameOutputHolds(self):
-        self.assertEqual(self.run_session("$ printf 'a\\nb\\n'\na\nb\n"), [])
+        self.assertEqual(self.run_transcript("$ printf 'a\\nb\\n'\na\nb\n"), [])
 
     def test_otherOutputDoesNot(self):
-        self.assertEqual(len(self.run_session("$ echo a\nb\n")), 1)
+        self.assertEqual(len(self.run_transcript("$ echo a\nb\n")), 1)
 
     def test_missingOutputDoesNot(self):
-        self.assertEqual(len(self.run_session("$ echo a\n")), 1)
+        self.assertEqual(len(self.run_transcript("$ echo a\n")), 1)
 
     def test_errorsAreOutputToo(self):
-        self.assertEqual(self.run_session("$ echo a >&2\na\n"), [])
+        self.assertEqual(self.run_transcript("$ echo a >&2\na\n"), [])
 
     def test_failureMustBeShown(self):
-        self.assertEqual(self.run_session("$ (exit 3)\n$ echo $?\n3\n"), [])
-        self.assertEqual(len(self.run_session("$ (exit 3)\n")), 1)
+        self.assertEqual(self.run_transcript("$ (exit 3)\n$ echo $?\n3\n"), [])
+        self.assertEqual(len(self.run_transcript("$ (exit 3)\n")), 1)
 
     def test_wrongExitCodeIsFound(self):
-        self.assertEqual(len(self.run_session("$ (exit 3)\n$ echo $?\n2\n")), 1)
+        self.assertEqual(len(self.run_transcript("$ (exit 3)\n$ echo $?\n2\n")), 1)
 
     def test_filesStayFromCommandToCommand(self):
-        self.assertEqual(self.run_session("$ echo a > b\n$ cat b\na\n"), [])
+        self.assertEqual(self.run_transcript("$ echo a > b\n$ cat b\na\n"), [])
 
     def test_scriptEndsAtItsFirstFailure(self):
         self.assertEqual(run_script("true\n", self.folder, self.folder, set()), [])
@@ -93,7 +93,7 @@ class OtherBlocks(unittest.TestCase):
     root = pathlib.Path(__file__).resolve().parents[2]
 
     def checks(self):
-        checks = Blocks.__new__(Blocks)  # without the tools of a build
+        checks = Blocks.__new__(Blocks)  # without the programs of a build
         checks.root = self.root
         checks.sources = []
         return checks
@@ -103,7 +103,8 @@ class OtherBlocks(unittest.TestCase):
         self.assertEqual(len(self.checks().check(block('{"a": }', "json"), None)), 1)
 
     def test_jsonIsHeldToTheSchemaThatItNames(self):
-        self.assertEqual(self.checks().check_json(block('{"AreaName": "A", "Floors": []}', "json", "floors"), None), [])
+        good = block('{"AreaName": "A", "Floors": []}', "json", "floors")
+        self.assertEqual(self.checks().check_json(good, None), [])
         self.assertEqual(len(self.checks().check_json(block('{"Floors": []}', "json", "floors"), None)), 1)
 
     def compiled(self, text, *words):
@@ -130,7 +131,8 @@ class OtherBlocks(unittest.TestCase):
         self.assertIn("docs/a.md: not run, and no reason is told: x", unrun_problems([block("x\n", "sh", "unrun")]))
 
     def test_reasonWithoutABlockIsFound(self):
-        self.assertIn("docs/cli.md: no such block is marked unrun: $ orvcad column check reply.json", unrun_problems([]))
+        self.assertIn("docs/cli.md: no such block is marked unrun: $ orvcad column check reply.json",
+                      unrun_problems([]))
 
 
 if __name__ == "__main__":

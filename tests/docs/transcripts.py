@@ -1,4 +1,4 @@
-"""Commands on a page: shell scripts, and sessions that show what each command prints."""
+"""Commands on a page: shell scripts, and transcripts that show what each command prints."""
 
 import os
 import re
@@ -8,17 +8,17 @@ import subprocess
 
 def commands_of(text):
     """Pairs of a command, behind "$ " and its further lines behind "> ", and the lines that it is said to print."""
-    session = []
+    transcript = []
     for line in text.splitlines():
         if line.startswith("$ "):
-            session.append((line[2:], []))
-        elif session and line.startswith("> ") and not session[-1][1]:
-            session[-1] = (f"{session[-1][0]}\n{line[2:]}", [])
-        elif session:
-            session[-1][1].append(line)
+            transcript.append((line[2:], []))
+        elif transcript and line.startswith("> ") and not transcript[-1][1]:
+            transcript[-1] = (f"{transcript[-1][0]}\n{line[2:]}", [])
+        elif transcript:
+            transcript[-1][1].append(line)
         else:
             raise ValueError(f'there is no command above "{line}"')
-    return session
+    return transcript
 
 
 def pattern_of(lines):
@@ -28,7 +28,8 @@ def pattern_of(lines):
 
 
 def shell(script, folder, path, options=("-c",)):
-    environment = {**os.environ, "PATH": f"{path}{os.pathsep}{os.environ['PATH']}", "LC_ALL": "C.UTF-8", "TMPDIR": str(folder)}
+    environment = {**os.environ, "PATH": f"{path}{os.pathsep}{os.environ['PATH']}", "LC_ALL": "C.UTF-8",
+                   "TMPDIR": str(folder)}
     return subprocess.run(["sh", *options, script], cwd=folder, env=environment, stdin=subprocess.DEVNULL, timeout=60,
                           stdout=subprocess.PIPE, stderr=subprocess.STDOUT, encoding="utf-8")
 
@@ -45,17 +46,17 @@ def run_script(text, folder, path, verbs):
     return problems
 
 
-def run_session(text, folder, path):
-    """Problems of a session: a command that prints something else, or a failure that is not shown by "echo $?"."""
+def run_transcript(text, folder, path):
+    """Problems of a transcript: a command that prints something else, or a failure that is not shown by "echo $?"."""
     problems, code = [], 0
-    session = commands_of(text)
-    for place, (command, expected) in enumerate(session):
+    transcript = commands_of(text)
+    for place, (command, expected) in enumerate(transcript):
         result = shell(f"(exit {code})\n{command}", folder, path)
         code = result.returncode
         output = result.stdout if not result.stdout or result.stdout.endswith("\n") else result.stdout + "\n"
         if not pattern_of(expected).fullmatch(output):
             problems.append(f"{command}\nprints\n{output}and not\n" + "\n".join(expected))
-        following = session[place + 1][0] if place + 1 < len(session) else ""
+        following = transcript[place + 1][0] if place + 1 < len(transcript) else ""
         if code != 0 and following != "echo $?":
             problems.append(f'{command}\nends with exit code {code}, and no "echo $?" behind it tells')
     return problems
