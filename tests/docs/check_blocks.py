@@ -30,11 +30,14 @@ UNRUN = {
     ("docs/cli.md", "$ orvcad column check reply.json"): "a reply with two faults in it, made up",
     ("docs/cli.md", '$ orvcad copy house.hbxdb --floor "Level 1" --to-floor "Level 2" --roads wall,opening'):
         "a house of its own, made up",
+    ("docs/cli.md", "$ orvcad draw house.hbxdb barn.hbxdb --floor 1 -o plans"): "buildings of their own, made up",
+    ("docs/cli.md", "$ orvcad diff before.hbxdb after.hbxdb"): "buildings of their own, made up",
     ("docs/cli.md", "$ orvcad check reply.json"): "a reply with two faults in it, made up",
     ("docs/at-scale.md", "$ find buildings -name '*.json' -print0 |"): "needs other machines",
     ("docs/linking.md", 'cmake --install build/release --prefix "$HOME/orvcad"'): "run by tests/package",
     ("docs/linking.md", 'cmake -S examples/floors_reader -B build/floors_reader -D CMAKE_PREFIX_PATH="$HOME/orvcad"'): "run by tests/package",
     ("docs/linking.md", 'export PKG_CONFIG_PATH="$HOME/orvcad/lib/pkgconfig"'): "run by tests/package",
+    ("examples/README.md", 'cmake --install build/release --prefix "$HOME/orvcad"'): "run by tests/package",
     ("docs/host-contract.md", '#include "HostContract.h"'): "openContractBuilding is the reader's own",
 }
 # What the pages find beside them: the checkout, as far as they name it.

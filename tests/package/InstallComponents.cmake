@@ -26,9 +26,9 @@ function(expect_matches text pattern)
 endfunction()
 
 # That the list of a component's files has some.
-function(expect_held component files)
+function(expect_held component list)
     foreach(wanted IN LISTS ARGN)
-        if(NOT wanted IN_LIST ${files})
+        if(NOT wanted IN_LIST ${list})
             message(FATAL_ERROR "${component} lacks ${wanted}")
         endif()
     endforeach()
