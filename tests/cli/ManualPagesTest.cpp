@@ -32,10 +32,10 @@ TEST_F(ManualPagesTest, programAndEachGroupThatTheHelpShowsHaveOne)
     std::vector<std::string> names;
     for (const ManualPage &page : manualPages(m_line.app()))
         names.push_back(page.name);
-    EXPECT_EQ(names,
-              (std::vector<std::string>{"orvcad", "orvcad-demo", "orvcad-project", "orvcad-floors", "orvcad-opening",
-                                        "orvcad-slab", "orvcad-beam", "orvcad-wall", "orvcad-column", "orvcad-drawing",
-                                        "orvcad-drawings", "orvcad-draw", "orvcad-diff", "orvcad-copy", "orvcad-check"}));
+    EXPECT_EQ(names, (std::vector<std::string>{"orvcad", "orvcad-demo", "orvcad-project", "orvcad-floors",
+                                               "orvcad-opening", "orvcad-slab", "orvcad-beam", "orvcad-wall",
+                                               "orvcad-column", "orvcad-drawing", "orvcad-drawings", "orvcad-draw",
+                                               "orvcad-diff", "orvcad-copy", "orvcad-check"}));
 }
 
 TEST_F(ManualPagesTest, pageOfTheProgramNamesThePagesOfTheGroupsAndTheExitCodes)
