@@ -197,10 +197,10 @@ Measurement medianOf(const std::vector<Measurement> &all)
     Measurement result = all.front();
     for (const auto figure : {&Measurement::ours, &Measurement::floor, &Measurement::ratio, &Measurement::allocations,
                               &Measurement::peakBytes, &Measurement::floorPeakBytes, &Measurement::documentBytes}) {
-        std::vector<double> values;
-        for (const Measurement &one : all)
-            values.push_back(one.*figure);
-        result.*figure = median(values);
+        std::vector<double> values(all.size());
+        std::transform(all.begin(), all.end(), values.begin(),
+                       [figure](const Measurement &one) { return one.*figure; });
+        result.*figure = median(std::move(values));
     }
     for (const Measurement &one : all)
         if (!one.failure.isEmpty())
