@@ -74,7 +74,8 @@ Summary applySeatDocument(const Arguments &arguments)
     return saveApplied(*project, applySeats(*project, readJsonFile(input).object(), input), arguments.strict);
 }
 
-void addExport(CLI::App &group, Command &command, const std::string &description, const std::string &ending, Action run)
+void addExport(CLI::App &group, Command &command, const std::string &description, const std::string &ending,
+               const Action &run)
 {
     Verb(group, command, "export", description, run)
         .projects()
@@ -83,7 +84,7 @@ void addExport(CLI::App &group, Command &command, const std::string &description
 }
 
 void addApply(CLI::App &group, Command &command, const std::string &description, const std::string &document,
-              Action run)
+              const Action &run)
 {
     Verb(group, command, "apply", description, run)
         .project()
