@@ -39,7 +39,7 @@ QString whyNotOutlineText(const QString &text)
 
 QString whyNotKernelCurve(const QString &text)
 {
-    const QString reason = whyNotWord(text, {"LINESTRING", "CIRCULARSTRING"});
+    QString reason = whyNotWord(text, {"LINESTRING", "CIRCULARSTRING"});
     if (!reason.isEmpty())
         return reason;
     return encoding::KernelText::curve(text) ? QString() : QStringLiteral("is no well-known text of a line or an arc");
@@ -49,7 +49,7 @@ QString whyNotKernelOutline(const QString &text)
 {
     if (text == QLatin1String("POLYGON EMPTY"))
         return {};
-    const QString reason = whyNotWord(text, {"POLYGON", "CURVEPOLYGON"});
+    QString reason = whyNotWord(text, {"POLYGON", "CURVEPOLYGON"});
     if (!reason.isEmpty())
         return reason;
     try {

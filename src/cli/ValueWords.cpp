@@ -51,7 +51,7 @@ QString shortText(const JsonTree &document, JsonTree::Index value)
 
 QString wordsFor(const JsonTree &document, JsonTree::Index value)
 {
-    const QString text = shortText(document, value);
+    QString text = shortText(document, value);
     switch (document.node(value).kind) {
     case Kind::Text:
         return text.isEmpty() ? QStringLiteral("an empty text") : QStringLiteral("the text \"%1\"").arg(text);

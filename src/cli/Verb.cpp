@@ -11,7 +11,8 @@ constexpr char kProject[] = "PROJECT";
 constexpr char kProjectFile[] = "Project file (.hbxdb)";
 } // namespace
 
-Verb::Verb(CLI::App &group, Command &command, const std::string &name, const std::string &description, Action action)
+Verb::Verb(CLI::App &group, Command &command, const std::string &name, const std::string &description,
+           const Action &action)
     : m_app(group.add_subcommand(name, description)), m_arguments(std::make_shared<Arguments>()),
       m_batch(std::make_shared<FileBatch>())
 {

@@ -18,7 +18,8 @@ public:
     enum class NoOutput { StandardOutput, NothingIsWritten, WrongUsage };
 
     /** Adds the verb to a group. Chosen by the user, it stores its action in command, which must outlive the group. */
-    Verb(CLI::App &group, Command &command, const std::string &name, const std::string &description, Action action);
+    Verb(CLI::App &group, Command &command, const std::string &name, const std::string &description,
+         const Action &action);
 
     Verb &project();     ///< PROJECT
     Verb &projects();    ///< PROJECT, one or many

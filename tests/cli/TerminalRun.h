@@ -23,9 +23,11 @@ inline QByteArray shownOnTerminal(const std::string &directory, const QStringLis
                                   const std::vector<std::pair<std::string, std::string>> &environment)
 {
     std::vector<QByteArray> words;
+    words.reserve(static_cast<std::size_t>(command.size()));
     for (const QString &word : command)
         words.push_back(word.toLocal8Bit());
     std::vector<char *> argv;
+    argv.reserve(words.size() + 1);
     for (QByteArray &word : words)
         argv.push_back(word.data());
     argv.push_back(nullptr);
