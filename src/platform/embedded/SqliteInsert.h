@@ -12,7 +12,8 @@ namespace hbx::embedded {
 class ORVCADPLATFORM_EXPORT SqliteInsert
 {
 public:
-    /** A row to be filled: called with the values of all columns, in their order. Geometry and texts are copied. */
+    /** A row to be filled: called with the values of all columns, in their order. Texts are
+     *  copied; the bytes of a view must last until run() is done. */
     class Row
     {
     public:
