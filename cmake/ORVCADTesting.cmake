@@ -19,6 +19,19 @@ function(orvcad_configure_test_target target)
     orvcad_use_precompiled(${target} ORVCADTestPrecompiled)
 endfunction()
 
+# orvcad_add_shards(<name> <program> <directory>)
+# The program in ORVCAD_TEST_SHARDS runs, each of which takes its share of the tests.
+function(orvcad_add_shards name program directory)
+    foreach(shard RANGE 1 ${ORVCAD_TEST_SHARDS})
+        math(EXPR index "${shard} - 1")
+        add_test(NAME ${name}.${shard} COMMAND ${program} --gtest_brief=1 WORKING_DIRECTORY ${directory})
+        set_tests_properties(${name}.${shard} PROPERTIES
+            LABELS ${name}
+            TIMEOUT 1800
+            ENVIRONMENT "GTEST_TOTAL_SHARDS=${ORVCAD_TEST_SHARDS};GTEST_SHARD_INDEX=${index}")
+    endforeach()
+endfunction()
+
 # orvcad_add_tests(<name> SOURCES <file>... [LIBRARIES <target>...] [EMBEDDED])
 # Makes the program <name>Tests; its tests carry the label <name>. EMBEDDED: the sources use the embedded host, so the
 # program is left out where a vendor's platform takes its place.
@@ -40,6 +53,10 @@ function(orvcad_add_tests name)
 
     set(work ${PROJECT_BINARY_DIR}/tests/work/${name})
     file(MAKE_DIRECTORY ${work})
+    if(ORVCAD_TEST_SHARDS)
+        orvcad_add_shards(${name} ${program} ${work})
+        return()
+    endif()
     gtest_discover_tests(${program}
         NO_PRETTY_VALUES
         DISCOVERY_MODE PRE_TEST
