@@ -1,10 +1,13 @@
 #include "cli/Counted.h"
 
+#include "cli/Message.h"
+
 namespace orvcad {
 
 QString counted(int number, const QString &singular)
 {
-    return QStringLiteral("%1 %2%3").arg(number).arg(singular, number == 1 ? QString() : QStringLiteral("s"));
+    const QString counted = number == 1 ? Message::tr("%1 %2") : Message::tr("%1 %2s");
+    return counted.arg(number).arg(singular);
 }
 
 } // namespace orvcad

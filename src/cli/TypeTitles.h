@@ -4,7 +4,9 @@
 
 namespace orvcad {
 
-/** English title of an element type, for summaries and legends: "brick wall"; "type" for an unknown one. */
+/** English title of an element type, for documents and pictures: "brick wall"; "type" for an unknown one. */
 QString typeTitle(qint64 type);
+/** The same in the language of the user, for messages. */
+QString shownTypeTitle(qint64 type);
 
 } // namespace orvcad

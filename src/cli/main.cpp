@@ -1,5 +1,7 @@
 #include "cli/CommandLine.h"
 #include "cli/Files.h"
+#include "cli/Language.h"
+#include "cli/Message.h"
 #include "cli/Progress.h"
 #include "cli/Terminal.h"
 
@@ -13,6 +15,7 @@
 #include <csignal>
 #include <cstdio>
 #include <new>
+#include <optional>
 #include <sstream>
 #include <string_view>
 
@@ -39,9 +42,9 @@ QString indented(const QJsonObject &json) { return QString::fromUtf8(QJsonDocume
 QString whatStands(const QJsonObject &summary)
 {
     if (summary["saved"].toBool())
-        return QStringLiteral("; the project is saved all the same");
+        return orvcad::Message::tr("; the project is saved all the same");
     const QString output = summary["output"].toString();
-    return output.isEmpty() ? QString() : QStringLiteral("; %1 is written all the same").arg(output);
+    return output.isEmpty() ? QString() : orvcad::Message::tr("; %1 is written all the same").arg(output);
 }
 
 void print(const orvcad::Summary &summary, const Flags &flags)
@@ -101,16 +104,21 @@ int tellAbout(const CLI::App &app, const CLI::Error &request)
     return run(print, Flags());
 }
 
+/** Known before the arguments are read, since their help has a language and their faults have a form. */
+bool asksForJson(int argc, char **argv) { return std::count(argv + 1, argv + argc, std::string_view("--json")) > 0; }
+
 int parseAndRun(int argc, char **argv)
 {
+    std::optional<orvcad::Language> language;
+    if (!asksForJson(argc, argv))
+        language.emplace();
     orvcad::CommandLine line;
     try {
         line.app().parse(argc, argv);
     } catch (const CLI::ParseError &error) {
         if (error.get_exit_code() == 0)
             return tellAbout(line.app(), error);
-        // The flags may not have been read yet when the arguments fail.
-        return tellWrongUsage(line.app(), error, std::count(argv + 1, argv + argc, std::string_view("--json")) > 0);
+        return tellWrongUsage(line.app(), error, asksForJson(argc, argv));
     }
     return run(line.command(), {line.isJson(), line.isQuiet()});
 }

@@ -28,7 +28,7 @@ def pattern_of(lines):
 
 
 def shell(script, folder, path, options=("-c",)):
-    environment = {**os.environ, "PATH": f"{path}{os.pathsep}{os.environ['PATH']}", "LC_ALL": "C.UTF-8",
+    environment = {**os.environ, "PATH": f"{path}{os.pathsep}{os.environ['PATH']}", "LC_ALL": "C.UTF-8", "LANGUAGE": "",
                    "TMPDIR": str(folder)}
     return subprocess.run(["sh", *options, script], cwd=folder, env=environment, stdin=subprocess.DEVNULL, timeout=60,
                           stdout=subprocess.PIPE, stderr=subprocess.STDOUT, encoding="utf-8")

@@ -3,6 +3,7 @@
 #include "platform/dwgx/Cadi2Format.h"
 #include "platform/dwgx/Cadi2Reader.h"
 #include "platform/dwgx/Cadi2Writer.h"
+#include "platform/dwgx/Reason.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -51,12 +52,12 @@ bool Cadi2Operator::fail(const QString &reason, const QString &place)
 bool Cadi2Operator::readBytes(const QString &path, QByteArray &bytes)
 {
     if (!QFileInfo(path).isFile())
-        return fail(QStringLiteral("there is no such file"));
+        return fail(Reason::tr("there is no such file"));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return fail(file.errorString());
     if (file.size() > cadi2::kMaxFileBytes)
-        return fail(QStringLiteral("is larger than %1 bytes").arg(cadi2::kMaxFileBytes));
+        return fail(Reason::tr("is larger than %1 bytes").arg(cadi2::kMaxFileBytes));
     bytes = file.readAll(); // not read(limit), which takes the memory of the limit for every file
     return file.error() == QFileDevice::NoError || fail(file.errorString());
 }
@@ -64,7 +65,7 @@ bool Cadi2Operator::readBytes(const QString &path, QByteArray &bytes)
 bool Cadi2Operator::read(const QString &path, DWGXModel *model)
 {
     if (!model)
-        return fail(QStringLiteral("there is no drawing to read into"));
+        return fail(Reason::tr("there is no drawing to read into"));
     QByteArray bytes;
     if (!readBytes(path, bytes))
         return false;
@@ -81,12 +82,12 @@ bool Cadi2Operator::read(const QString &path, DWGXModel *model)
 bool Cadi2Operator::write(const QString &path, const DWGXModel *model, const QString &title, const QString &remark)
 {
     if (!model)
-        return fail(QStringLiteral("there is no drawing to write"));
+        return fail(Reason::tr("there is no drawing to write"));
     if (!isFinite(model->getViewerInfoData()))
-        return fail(QStringLiteral("is not finite"), cadi2::key::viewer);
+        return fail(Reason::tr("is not finite"), cadi2::key::viewer);
     const QFileInfo info(path);
     if (info.exists() && !info.isFile())
-        return fail(QStringLiteral("is no file")); // which a file would take the place of
+        return fail(Reason::tr("is no file")); // which a file would take the place of
     QSaveFile file(path);
     // Committing does not tell of a short write while part of it waits in the buffer.
     const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(writeCadi2(*model, title, remark)) >= 0 &&

@@ -1,6 +1,7 @@
 #include "platform/dwgx/Cadi2Reader.h"
 
 #include "platform/dwgx/Cadi2Format.h"
+#include "platform/dwgx/Reason.h"
 
 #include <QJsonDocument>
 
@@ -20,9 +21,9 @@ QJsonObject parseDocument(const QByteArray &json)
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
     const JsonPlace place;
     if (error.error != QJsonParseError::NoError)
-        place.refuse(QStringLiteral("is not JSON: %1 at byte %2").arg(error.errorString()).arg(error.offset));
+        place.refuse(Reason::tr("is not JSON: %1 at byte %2").arg(error.errorString()).arg(error.offset));
     if (!document.isObject())
-        place.refuse(QStringLiteral("is not an object"));
+        place.refuse(Reason::tr("is not an object"));
     return document.object();
 }
 
@@ -31,12 +32,12 @@ void checkFormat(const QJsonObject &document)
 {
     const JsonPlace place;
     if (document.value(key::format) != QJsonValue(cadi2::kFormatName))
-        JsonPlace(place, key::format).refuse(QStringLiteral("is not \"cadi2\""));
+        JsonPlace(place, key::format).refuse(Reason::tr("is not \"cadi2\""));
     const double version = document.value(key::version).toDouble(std::nan(""));
     if (version > cadi2::kVersion)
-        JsonPlace(place, key::version).refuse(QStringLiteral("is newer than %1").arg(cadi2::kVersion));
+        JsonPlace(place, key::version).refuse(Reason::tr("is newer than %1").arg(cadi2::kVersion));
     if (version != cadi2::kVersion)
-        JsonPlace(place, key::version).refuse(QStringLiteral("is not %1").arg(cadi2::kVersion));
+        JsonPlace(place, key::version).refuse(Reason::tr("is not %1").arg(cadi2::kVersion));
 }
 
 void readExtData(const StrictObject &owner, DWGXObject &target)
@@ -46,12 +47,12 @@ void readExtData(const StrictObject &owner, DWGXObject &target)
     const JsonPlace place(owner.place(), key::ext);
     const QJsonValue ext = owner.value(key::ext);
     if (!ext.isObject())
-        place.refuse(QStringLiteral("is not an object"));
+        place.refuse(Reason::tr("is not an object"));
     const QJsonObject members = ext.toObject();
     target.setCADExtData(new HBXCADExtData);
     for (auto member = members.constBegin(); member != members.constEnd(); ++member) {
         if (!member.value().isString() || member.value().toString().isEmpty())
-            place.refuse(QStringLiteral("has no text under \"%1\"").arg(member.key()));
+            place.refuse(Reason::tr("has no text under \"%1\"").arg(member.key()));
         target.getCADExtData()->setValue(member.key(), member.value().toString());
     }
 }
@@ -59,7 +60,7 @@ void readExtData(const StrictObject &owner, DWGXObject &target)
 float singlePrecision(const JsonPlace &place, double value)
 {
     if (std::abs(value) > static_cast<double>(std::numeric_limits<float>::max()))
-        place.refuse(QStringLiteral("is out of range"));
+        place.refuse(Reason::tr("is out of range"));
     return static_cast<float>(value);
 }
 
@@ -94,7 +95,7 @@ vks::CRefPtr<vks::CCurve2d> readCurve(const StrictObject &json)
         text.contains('\0') ? nullptr : vks::CGeometry::LoadFromStr(text.constData());
     vks::CRefPtr<vks::CCurve2d> curve = dynamic_cast<vks::CCurve2d *>(geometry.get());
     if (!curve)
-        JsonPlace(json.place(), key::curve).refuse(QStringLiteral("is not the text of a line or an arc"));
+        JsonPlace(json.place(), key::curve).refuse(Reason::tr("is not the text of a line or an arc"));
     return curve;
 }
 
@@ -105,9 +106,9 @@ void readLine(const QJsonValue &value, const JsonPlace &place, const QString &la
     readEntity(json, line);
     line.curve = readCurve(json);
     if (!line.isSound())
-        JsonPlace(place, key::curve).refuse(QStringLiteral("is empty or not finite"));
+        JsonPlace(place, key::curve).refuse(Reason::tr("is empty or not finite"));
     if (!model.addLine(layer, std::move(line)))
-        JsonPlace(place, key::id).refuse(QStringLiteral("stands twice in the drawing"));
+        JsonPlace(place, key::id).refuse(Reason::tr("stands twice in the drawing"));
 }
 
 void readText(const QJsonValue &value, const JsonPlace &place, const QString &layer, DWGXModel &model)
@@ -123,9 +124,9 @@ void readText(const QJsonValue &value, const JsonPlace &place, const QString &la
     if (json.has(key::angle))
         text.angle = json.number(key::angle);
     if (!text.isSound())
-        JsonPlace(place, key::height).refuse(QStringLiteral("is not above 0"));
+        JsonPlace(place, key::height).refuse(Reason::tr("is not above 0"));
     if (!model.addText(layer, std::move(text)))
-        JsonPlace(place, key::id).refuse(QStringLiteral("stands twice in the drawing"));
+        JsonPlace(place, key::id).refuse(Reason::tr("stands twice in the drawing"));
 }
 
 using EntityReader = void (*)(const QJsonValue &, const JsonPlace &, const QString &, DWGXModel &);
@@ -147,7 +148,7 @@ void readLayer(const QJsonValue &value, const JsonPlace &place, DWGXModel &model
     const QString name = json.text(key::name);
     const qint64 color = json.integer(key::color, 1, kColorByLayer - 1);
     if (!model.addLayer(name, static_cast<int>(color)))
-        JsonPlace(place, key::name).refuse(QStringLiteral("is empty or stands twice in the drawing"));
+        JsonPlace(place, key::name).refuse(Reason::tr("is empty or stands twice in the drawing"));
     readEntities(json, key::lines, &readLine, name, model);
     readEntities(json, key::texts, &readText, name, model);
 }

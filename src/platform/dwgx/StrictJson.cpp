@@ -1,5 +1,7 @@
 #include "platform/dwgx/StrictJson.h"
 
+#include "platform/dwgx/Reason.h"
+
 #include <algorithm>
 
 namespace dwgx {
@@ -9,7 +11,7 @@ QString lineAndColumn(const QByteArray &text, int offset)
     const QByteArray before = text.left(offset);
     const int line = before.count('\n') + 1;
     const int column = QString::fromUtf8(before.mid(before.lastIndexOf('\n') + 1)).size() + 1;
-    return QStringLiteral("line %1, column %2").arg(line).arg(column);
+    return Reason::tr("line %1, column %2").arg(line).arg(column);
 }
 
 QString JsonPlace::text() const
@@ -31,20 +33,20 @@ StrictObject::StrictObject(const QJsonValue &value, const JsonPlace &place,
     : m_object(value.toObject()), m_place(place)
 {
     if (!value.isObject())
-        place.refuse(QStringLiteral("is not an object"));
+        place.refuse(Reason::tr("is not an object"));
     const auto isKnown = [&](const QString &key) {
         return std::any_of(knownKeys.begin(), knownKeys.end(), [&](QLatin1String known) { return key == known; });
     };
     for (auto member = m_object.constBegin(); member != m_object.constEnd(); ++member)
         if (!isKnown(member.key()))
-            place.refuse(QStringLiteral("has the unknown member \"%1\"").arg(member.key()));
+            place.refuse(Reason::tr("has the unknown member \"%1\"").arg(member.key()));
 }
 
 QJsonValue StrictObject::value(QLatin1String key) const
 {
     const auto member = m_object.constFind(key);
     if (member == m_object.constEnd())
-        m_place.refuse(QStringLiteral("has no \"%1\"").arg(key));
+        m_place.refuse(Reason::tr("has no \"%1\"").arg(key));
     return *member;
 }
 
@@ -52,7 +54,7 @@ QString StrictObject::text(QLatin1String key) const
 {
     const QJsonValue member = value(key);
     if (!member.isString())
-        JsonPlace(m_place, key).refuse(QStringLiteral("is not a text"));
+        JsonPlace(m_place, key).refuse(Reason::tr("is not a text"));
     return member.toString();
 }
 
@@ -60,7 +62,7 @@ double StrictObject::number(QLatin1String key) const
 {
     const QJsonValue member = value(key);
     if (!member.isDouble())
-        JsonPlace(m_place, key).refuse(QStringLiteral("is not a number"));
+        JsonPlace(m_place, key).refuse(Reason::tr("is not a number"));
     return member.toDouble();
 }
 
@@ -70,7 +72,7 @@ qint64 StrictObject::integer(QLatin1String key, qint64 low, qint64 high) const
     // Compared as doubles first: a number beyond 64 bits must not be cast.
     const bool inside = found >= static_cast<double>(low) && found <= static_cast<double>(high);
     if (!inside || static_cast<double>(static_cast<qint64>(found)) != found)
-        JsonPlace(m_place, key).refuse(QStringLiteral("is not an integer from %1 to %2").arg(low).arg(high));
+        JsonPlace(m_place, key).refuse(Reason::tr("is not an integer from %1 to %2").arg(low).arg(high));
     return static_cast<qint64>(found);
 }
 
@@ -78,7 +80,7 @@ QJsonArray StrictObject::array(QLatin1String key) const
 {
     const QJsonValue member = value(key);
     if (!member.isArray())
-        JsonPlace(m_place, key).refuse(QStringLiteral("is not an array"));
+        JsonPlace(m_place, key).refuse(Reason::tr("is not an array"));
     return member.toArray();
 }
 
@@ -88,7 +90,7 @@ std::vector<double> StrictObject::numbers(QLatin1String key, int count) const
     const bool sound = members.size() == count &&
                        std::all_of(members.begin(), members.end(), [](const auto &each) { return each.isDouble(); });
     if (!sound)
-        JsonPlace(m_place, key).refuse(QStringLiteral("is not an array of %1 numbers").arg(count));
+        JsonPlace(m_place, key).refuse(Reason::tr("is not an array of %1 numbers").arg(count));
     std::vector<double> numbers;
     for (const QJsonValue member : members)
         numbers.push_back(member.toDouble());

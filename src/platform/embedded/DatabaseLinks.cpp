@@ -1,5 +1,6 @@
 #include "platform/embedded/DatabaseLinks.h"
 
+#include "platform/dwgx/Reason.h"
 #include "platform/embedded/ChainRing.h"
 #include "platform/embedded/DatabaseRefusal.h"
 #include "platform/embedded/HBXProjectRecords.h"
@@ -50,9 +51,9 @@ private:
     {
         for (const Record &record : records) {
             if (record.id < 1 || record.id >= m_project.nextId)
-                refuse(table, record.id, "id", QStringLiteral("was never given out"));
+                refuse(table, record.id, "id", dwgx::Reason::tr("was never given out"));
             if (m_ids.contains(record.id))
-                refuse(table, record.id, "id", QStringLiteral("stands twice in the project"));
+                refuse(table, record.id, "id", dwgx::Reason::tr("stands twice in the project"));
             m_ids.insert(record.id);
         }
     }
@@ -60,7 +61,7 @@ private:
     static void require(bool isGood, const char *table, qint64 id, const char *column)
     {
         if (!isGood)
-            refuse(table, id, column, QStringLiteral("names nothing that fits"));
+            refuse(table, id, column, dwgx::Reason::tr("names nothing that fits"));
     }
 
     void checkElement(const ElementRecord &element) const
@@ -97,7 +98,7 @@ private:
         for (const DrawObjRecord &drawObj : m_project.drawObjs)
             next.push_back(drawObj.next == 0 ? -1 : placeOf(drawObj.next));
         if (const auto place = firstInRing(next))
-            refuse("draw_object", m_project.drawObjs[*place].id, "next_id", QLatin1String(kClosesRing));
+            refuse("draw_object", m_project.drawObjs[*place].id, "next_id", dwgx::Reason::tr(kClosesRing));
     }
 
     /** Place of an object that is known to be there. */

@@ -1,5 +1,6 @@
 #include "platform/embedded/DatabasePropertyReader.h"
 
+#include "platform/dwgx/Reason.h"
 #include "platform/embedded/HBXElevationText.h"
 #include "platform/embedded/HBXPropertyValue.h"
 #include "platform/embedded/StoredGeometry.h"
@@ -92,14 +93,14 @@ void DatabasePropertyReader::read(const DatabaseRows &rows, const TypeProperties
     const SqliteStatement &row = rows.row();
     const PropertyEntry *entry = entryOf(row.bytes(kName), type);
     if (!entry)
-        rows.refuse(kName, QStringLiteral("is no property of the object: \"%1\"").arg(row.text(kName)));
+        rows.refuse(kName, dwgx::Reason::tr("is no property of the object: \"%1\"").arg(row.text(kName)));
     Read value = valueOf(row, *entry);
     if (!value)
-        rows.refuse(kValue, QStringLiteral("is no %1").arg(kindName(entry->kind)));
+        rows.refuse(kValue, dwgx::Reason::tr("is no %1").arg(kindName(entry->kind)));
     const bool standsTwice = std::any_of(properties.begin(), properties.end(),
                                          [entry](const auto &each) { return each.first == entry->name; });
     if (standsTwice)
-        rows.refuse(kName, QStringLiteral("stands twice: \"%1\"").arg(entry->name));
+        rows.refuse(kName, dwgx::Reason::tr("stands twice: \"%1\"").arg(entry->name));
     properties.emplace_back(entry->name, std::move(*value));
 }
 

@@ -1,5 +1,6 @@
 #include "platform/embedded/DatabaseRows.h"
 
+#include "platform/dwgx/Reason.h"
 #include "platform/embedded/DatabaseRefusal.h"
 
 #include <QStringList>
@@ -26,7 +27,7 @@ int DatabaseRows::integer32(int column) const
 {
     const qint64 found = m_rows.integer(column);
     if (found < std::numeric_limits<int>::min() || found > std::numeric_limits<int>::max())
-        refuse(column, QStringLiteral("is out of range"));
+        refuse(column, dwgx::Reason::tr("is out of range"));
     return static_cast<int>(found);
 }
 
@@ -34,7 +35,7 @@ double DatabaseRows::number(int column) const
 {
     const double found = m_rows.number(column);
     if (!std::isfinite(found))
-        refuse(column, QStringLiteral("is not finite"));
+        refuse(column, dwgx::Reason::tr("is not finite"));
     return found;
 }
 
@@ -53,6 +54,6 @@ QString DatabaseRows::place() const
     return QStringLiteral("%1[%2]").arg(QLatin1String(m_table), terms.join(QLatin1String(", ")));
 }
 
-void OwnedRows::refuseOrphan() const { m_rows.refuseRow(QStringLiteral("belongs to nothing that is in the file")); }
+void OwnedRows::refuseOrphan() const { m_rows.refuseRow(dwgx::Reason::tr("belongs to nothing that is in the file")); }
 
 } // namespace hbx::embedded

@@ -1,5 +1,6 @@
 #include "platform/embedded/ExchangeFloorReader.h"
 
+#include "platform/dwgx/Reason.h"
 #include "platform/embedded/ChainRing.h"
 #include "platform/embedded/ExchangeFormat.h"
 #include "platform/embedded/ExchangeShape.h"
@@ -24,7 +25,7 @@ const TypeProperties &catalogueOf(const JsonPlace &typePlace, qint64 type)
 {
     const TypeProperties *properties = HBXPropertyCatalogue::instance().properties(type);
     if (!properties)
-        typePlace.refuse(QStringLiteral("is no type that the host knows"));
+        typePlace.refuse(dwgx::Reason::tr("is no type that the host knows"));
     return *properties;
 }
 
@@ -49,7 +50,7 @@ int position(const QJsonValue &value, const JsonPlace &place)
 {
     const int found = value.toInt(-1);
     if (found < 0)
-        place.refuse(QStringLiteral("is no position"));
+        place.refuse(dwgx::Reason::tr("is no position"));
     return found;
 }
 
@@ -73,7 +74,7 @@ void ExchangeFloorReader::readElement(const QJsonValue &value, const JsonPlace &
     element.name = json.name(key::name);
     element.type = json.wide(key::type);
     if (isOneOf(element.type, kUnits))
-        json.placeOf(key::type).refuse(QStringLiteral("is a unit's, which stands in the units of its owner"));
+        json.placeOf(key::type).refuse(dwgx::Reason::tr("is a unit's, which stands in the units of its owner"));
     checkName(json, element);
     element.id = addElement(json, element.type, 0);
     element.subType = m_reading.project.elements.back().subType;
@@ -90,7 +91,7 @@ void ExchangeFloorReader::checkName(const ExchangeObject &json, const Element &e
     const QPair<qint64, QString> name(element.type, element.name);
     if (m_elementByName.contains(name))
         json.placeOf(key::name).refuse(
-            QStringLiteral("\"%1\" stands twice on the floor for type %2").arg(element.name).arg(element.type));
+            dwgx::Reason::tr("\"%1\" stands twice on the floor for type %2").arg(element.name).arg(element.type));
     m_elementByName.insert(name, m_elements.size());
 }
 
@@ -116,9 +117,9 @@ void ExchangeFloorReader::readUnit(const QJsonValue &value, const JsonPlace &pla
         value, place, {key::name, key::type, key::subType, key::properties, key::orderNumber, key::drawObjects});
     const qint64 type = json.wide(key::type);
     if (!isOneOf(type, kUnits))
-        json.placeOf(key::type).refuse(QStringLiteral("is no unit's"));
+        json.placeOf(key::type).refuse(dwgx::Reason::tr("is no unit's"));
     if (json.has(key::drawObjects) && !json.array(key::drawObjects).isEmpty())
-        json.placeOf(key::drawObjects).refuse(QStringLiteral("is not empty: a unit's are children of its owner's"));
+        json.placeOf(key::drawObjects).refuse(dwgx::Reason::tr("is not empty: a unit's are children of its owner's"));
     const qint64 id = addElement(json, type, owner.id);
     owner.units.push_back({id, type, m_reading.project.elements.back().subType});
 }
@@ -127,7 +128,7 @@ ExchangeFloorReader::Attachment ExchangeFloorReader::readAttachment(const Exchan
 {
     const QJsonArray terms = json.array(key::attachedTo);
     if (terms.size() != 3 || !terms.at(0).isDouble() || !terms.at(1).isString() || terms.at(2).toInt(-1) < 0)
-        json.placeOf(key::attachedTo).refuse(QStringLiteral("is not [type, element name, position]"));
+        json.placeOf(key::attachedTo).refuse(dwgx::Reason::tr("is not [type, element name, position]"));
     return {terms.at(0).toInt(-1), terms.at(1).toString(), terms.at(2).toInt()};
 }
 
@@ -167,9 +168,9 @@ void ExchangeFloorReader::readChild(const QJsonValue &value, const JsonPlace &pl
                                key::layer, key::state, key::key, key::order});
     const auto unit = static_cast<std::size_t>(position(json.value(key::unit), json.placeOf(key::unit)));
     if (unit >= taken.size())
-        json.placeOf(key::unit).refuse(QStringLiteral("is no position in the owner's units"));
+        json.placeOf(key::unit).refuse(dwgx::Reason::tr("is no position in the owner's units"));
     if (taken[unit])
-        json.placeOf(key::unit).refuse(QStringLiteral("has two children of one object"));
+        json.placeOf(key::unit).refuse(dwgx::Reason::tr("has two children of one object"));
     taken[unit] = true;
     Placed child;
     child.element = m_placed[ownerIndex].element;
@@ -201,7 +202,7 @@ void ExchangeFloorReader::readKey(const ExchangeObject &json, DrawObjRecord &rec
         return;
     record.key = json.name(key::key);
     if (m_reading.idByKey.contains(record.key))
-        json.placeOf(key::key).refuse(QStringLiteral("\"%1\" stands twice in the file").arg(record.key));
+        json.placeOf(key::key).refuse(dwgx::Reason::tr("\"%1\" stands twice in the file").arg(record.key));
     m_reading.idByKey.insert(record.key, 0);
 }
 
@@ -239,12 +240,12 @@ void ExchangeFloorReader::linkNext(Placed &object)
 {
     const std::vector<std::size_t> &siblings = m_elements[object.element].placed;
     if (!isOneOf(object.record.type, kChainTypes))
-        refuse(object, key::next, QStringLiteral("belongs to beams only"));
+        refuse(object, key::next, dwgx::Reason::tr("belongs to beams only"));
     if (static_cast<std::size_t>(object.next) >= siblings.size())
-        refuse(object, key::next, QStringLiteral("is no position in the element's drawObjects"));
+        refuse(object, key::next, dwgx::Reason::tr("is no position in the element's drawObjects"));
     Placed &next = m_placed[siblings[static_cast<std::size_t>(object.next)]];
     if (next.isFollowed)
-        refuse(object, key::next, QStringLiteral("names an object that is another one's next, too"));
+        refuse(object, key::next, dwgx::Reason::tr("names an object that is another one's next, too"));
     next.isFollowed = true;
     object.record.next = next.record.id;
 }
@@ -254,9 +255,9 @@ void ExchangeFloorReader::checkChain(const Placed &object) const
     if (object.record.spans.empty())
         return;
     if (!isOneOf(object.record.type, kChainTypes))
-        refuse(object, key::spans, QStringLiteral("belongs to beams only"));
+        refuse(object, key::spans, dwgx::Reason::tr("belongs to beams only"));
     if (object.isFollowed)
-        refuse(object, key::spans, QStringLiteral("belongs to the head of the chain"));
+        refuse(object, key::spans, dwgx::Reason::tr("belongs to the head of the chain"));
 }
 
 void ExchangeFloorReader::checkRings(const Element &element) const
@@ -265,21 +266,21 @@ void ExchangeFloorReader::checkRings(const Element &element) const
     for (const std::size_t index : element.placed)
         next.push_back(m_placed[index].next);
     if (const auto position = firstInRing(next))
-        refuse(m_placed[element.placed[*position]], key::next, QLatin1String(kClosesRing));
+        refuse(m_placed[element.placed[*position]], key::next, dwgx::Reason::tr(kClosesRing));
 }
 
 void ExchangeFloorReader::attach(Placed &object)
 {
     const AttachmentRule *rule = attachmentRuleOf(object.record.type);
     if (!rule)
-        refuse(object, key::attachedTo, QStringLiteral("belongs to doors, windows and holes only"));
+        refuse(object, key::attachedTo, dwgx::Reason::tr("belongs to doors, windows and holes only"));
     const Attachment &wanted = *object.attachment;
     const auto found = m_elementByName.constFind({wanted.type, wanted.element});
     if (!isOneOf(wanted.type, rule->hosts) || found == m_elementByName.constEnd())
-        refuse(object, key::attachedTo, QLatin1String(rule->otherHost));
+        refuse(object, key::attachedTo, dwgx::Reason::tr(rule->otherHost));
     const std::vector<std::size_t> &hosts = m_elements[*found].placed;
     if (static_cast<std::size_t>(wanted.position) >= hosts.size())
-        refuse(object, key::attachedTo, QStringLiteral("names no draw object of \"%1\"").arg(wanted.element));
+        refuse(object, key::attachedTo, dwgx::Reason::tr("names no draw object of \"%1\"").arg(wanted.element));
     object.record.attachedTo = m_placed[hosts[static_cast<std::size_t>(wanted.position)]].record.id;
 }
 

@@ -1,5 +1,6 @@
 #include "platform/embedded/ExchangeGeometry.h"
 
+#include "platform/dwgx/Reason.h"
 #include "platform/embedded/StoredGeometry.h"
 #include "platform/geometry/KernelTolerance.h"
 
@@ -18,20 +19,20 @@ struct PolygonRule
 };
 
 constexpr PolygonRule kPolygonRules[] = {
-    {CPolygon::kNotEmpty, "has an empty ring"},
-    {CPolygon::kClosed, "has an open ring"},
-    {CPolygon::kNoShortEdge, "has an edge of no length"},
-    {CPolygon::kNoCrossing, "crosses itself"},
-    {CPolygon::kHasArea, "has no area"},
-    {CPolygon::kHolesInside, "has a hole that is not inside or meets another"},
+    {CPolygon::kNotEmpty, QT_TRANSLATE_NOOP("host", "has an empty ring")},
+    {CPolygon::kClosed, QT_TRANSLATE_NOOP("host", "has an open ring")},
+    {CPolygon::kNoShortEdge, QT_TRANSLATE_NOOP("host", "has an edge of no length")},
+    {CPolygon::kNoCrossing, QT_TRANSLATE_NOOP("host", "crosses itself")},
+    {CPolygon::kHasArea, QT_TRANSLATE_NOOP("host", "has no area")},
+    {CPolygon::kHolesInside, QT_TRANSLATE_NOOP("host", "has a hole that is not inside or meets another")},
 };
 
-template <typename Geometry> CRefPtr<Geometry> read(const QJsonValue &value, const JsonPlace &place, const char *what)
+template <typename Geometry> CRefPtr<Geometry> read(const QJsonValue &value, const JsonPlace &place, const char *fault)
 {
     const QByteArray text = value.toString().toUtf8();
     CRefPtr<Geometry> geometry = storedGeometry<Geometry>({text.constData(), static_cast<std::size_t>(text.size())});
     if (!geometry)
-        place.refuse(QStringLiteral("is not the text of a %1").arg(QLatin1String(what)));
+        place.refuse(dwgx::Reason::tr(fault));
     return geometry;
 }
 
@@ -41,25 +42,26 @@ CRefPtr<CPolygon> polygonFromJson(const QJsonValue &value, const JsonPlace &plac
 {
     if (value.isNull())
         return nullptr;
-    CRefPtr<CPolygon> polygon = read<CPolygon>(value, place, "polygon");
+    CRefPtr<CPolygon> polygon = read<CPolygon>(value, place, QT_TRANSLATE_NOOP("host", "is not the text of a polygon"));
     if (isSound(*polygon))
         return polygon;
     for (const PolygonRule &rule : kPolygonRules)
         if (!polygon->IsValid(rule.check, nullptr, nullptr))
-            place.refuse(QLatin1String(rule.broken));
-    place.refuse(QStringLiteral("is not a valid polygon"));
+            place.refuse(dwgx::Reason::tr(rule.broken));
+    place.refuse(dwgx::Reason::tr("is not a valid polygon"));
 }
 
 CRefPtr<CCurve2d> curveFromJson(const QJsonValue &value, const JsonPlace &place)
 {
-    return value.isNull() ? nullptr : read<CCurve2d>(value, place, "curve");
+    return value.isNull() ? nullptr
+                          : read<CCurve2d>(value, place, QT_TRANSLATE_NOOP("host", "is not the text of a curve"));
 }
 
 CRefPtr<CCurve2d> placedCurveFromJson(const QJsonValue &value, const JsonPlace &place)
 {
     CRefPtr<CCurve2d> axis = curveFromJson(value, place);
     if (axis && !(axis->Length() > vks::g_DistEpsilon))
-        place.refuse(QStringLiteral("has no length"));
+        place.refuse(dwgx::Reason::tr("has no length"));
     return axis;
 }
 
@@ -67,7 +69,7 @@ vks::CVec2<double> pointFromJson(const QJsonValue &value, const JsonPlace &place
 {
     const QJsonArray terms = value.toArray();
     if (terms.size() != 2 || !terms.at(0).isDouble() || !terms.at(1).isDouble())
-        place.refuse(QStringLiteral("is not an array of 2 numbers"));
+        place.refuse(dwgx::Reason::tr("is not an array of 2 numbers"));
     return {terms.at(0).toDouble(), terms.at(1).toDouble()};
 }
 

@@ -1,5 +1,7 @@
 #include "platform/embedded/ExchangeObject.h"
 
+#include "platform/dwgx/Reason.h"
+
 namespace hbx::embedded {
 namespace {
 
@@ -11,7 +13,7 @@ QString ExchangeObject::name(QLatin1String key) const
 {
     QString found = text(key);
     if (found.isEmpty())
-        placeOf(key).refuse(QStringLiteral("is empty"));
+        placeOf(key).refuse(dwgx::Reason::tr("is empty"));
     return found;
 }
 
@@ -25,7 +27,7 @@ bool ExchangeObject::flagOr(QLatin1String key, bool absent) const
         return absent;
     const QJsonValue found = value(key);
     if (!found.isBool())
-        placeOf(key).refuse(QStringLiteral("is neither true nor false"));
+        placeOf(key).refuse(dwgx::Reason::tr("is neither true nor false"));
     return found.toBool();
 }
 

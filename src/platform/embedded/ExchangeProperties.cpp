@@ -1,5 +1,6 @@
 #include "platform/embedded/ExchangeProperties.h"
 
+#include "platform/dwgx/Reason.h"
 #include "platform/embedded/ExchangeGeometry.h"
 #include "platform/embedded/HBXElevationText.h"
 #include "platform/embedded/HBXPropertyValue.h"
@@ -25,14 +26,14 @@ PropertyValue readInteger(const QJsonValue &value, const JsonPlace &place)
 {
     const std::optional<int> number = wholeInt(value);
     if (!number)
-        place.refuse(QStringLiteral("is not an integer of 32 bits"));
+        place.refuse(dwgx::Reason::tr("is not an integer of 32 bits"));
     return *number;
 }
 
 PropertyValue readDouble(const QJsonValue &value, const JsonPlace &place)
 {
     if (!value.isDouble())
-        place.refuse(QStringLiteral("is not a number"));
+        place.refuse(dwgx::Reason::tr("is not a number"));
     return value.toDouble();
 }
 
@@ -43,14 +44,14 @@ PropertyValue readText(const QJsonValue &value, const JsonPlace &place)
         return whole ? textOf(*whole) : textOf(value.toDouble());
     }
     if (!value.isString())
-        place.refuse(QStringLiteral("is neither a text nor a number"));
+        place.refuse(dwgx::Reason::tr("is neither a text nor a number"));
     return value.toString();
 }
 
 PropertyValue readElevation(const QJsonValue &value, const JsonPlace &place)
 {
     if (!value.isString() || !HBXElevationText::parse(value.toString()))
-        place.refuse(QStringLiteral("is not the text of an elevation"));
+        place.refuse(dwgx::Reason::tr("is not the text of an elevation"));
     return value.toString();
 }
 
@@ -76,8 +77,8 @@ PropertyValue readReference(const QJsonValue &value, const JsonPlace &place, con
     if (isSingle && wholeInt(value) == kNoDrawObject)
         return kNoDrawObject;
     if (!value.isString())
-        place.refuse(isSingle ? QStringLiteral("is neither the key of a draw object nor -1")
-                              : QStringLiteral("is not a text"));
+        place.refuse(isSingle ? dwgx::Reason::tr("is neither the key of a draw object nor -1")
+                              : dwgx::Reason::tr("is not a text"));
     return value.toString();
 }
 
@@ -122,10 +123,10 @@ public:
     void read(const QString &name, const QJsonValue &value, const PropertyEntry *entry)
     {
         if (!entry)
-            m_place.refuse(QStringLiteral("has the unknown property \"%1\"").arg(name));
+            m_place.refuse(dwgx::Reason::tr("has the unknown property \"%1\"").arg(name));
         if (std::any_of(m_records.begin(), m_records.end(),
                         [&](const auto &each) { return each.first == entry->name; }))
-            m_place.refuse(QStringLiteral("has the property \"%1\" under two names").arg(entry->name));
+            m_place.refuse(dwgx::Reason::tr("has the property \"%1\" under two names").arg(entry->name));
         const QByteArray latinName = name.toLatin1();
         const JsonPlace place(m_place, QLatin1String(latinName));
         m_records.emplace_back(entry->name, valueAt(value, place, *entry));
@@ -152,7 +153,7 @@ private:
 
 [[noreturn]] void refuseUnknown(const KeyUse &use, const QString &key)
 {
-    throw dwgx::JsonRefusal{use.place, QStringLiteral("names the unknown draw object \"%1\"").arg(key)};
+    throw dwgx::JsonRefusal{use.place, dwgx::Reason::tr("names the unknown draw object \"%1\"").arg(key)};
 }
 
 PropertyValue resolvedId(const QString &key, const KeyUse &use, const ReferenceMap &map)
@@ -177,7 +178,7 @@ PropertyRecords propertiesFromJson(const QJsonValue &value, const JsonPlace &pla
                                    bool forDrawObject, std::vector<KeyUse> &keyUses)
 {
     if (!value.isObject())
-        place.refuse(QStringLiteral("is not an object"));
+        place.refuse(dwgx::Reason::tr("is not an object"));
     const QJsonObject json = value.toObject();
     PropertiesReader reader(place, keyUses);
     for (auto member = json.constBegin(); member != json.constEnd(); ++member) {

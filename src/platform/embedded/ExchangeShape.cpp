@@ -1,5 +1,6 @@
 #include "platform/embedded/ExchangeShape.h"
 
+#include "platform/dwgx/Reason.h"
 #include "platform/embedded/ExchangeFormat.h"
 #include "platform/embedded/ExchangeGeometry.h"
 
@@ -47,7 +48,7 @@ void readLine(const ExchangeObject &json, ShapeRecord &record)
     record.curve = curveOf(json, key::axis);
     record.width = json.numberOr(key::width, 0.0);
     if (record.width < 0.0)
-        json.placeOf(key::width).refuse(QStringLiteral("is below 0"));
+        json.placeOf(key::width).refuse(dwgx::Reason::tr("is below 0"));
     if (json.has(key::distanceToLeft))
         record.distanceToLeft = json.number(key::distanceToLeft);
 }
@@ -70,7 +71,7 @@ HBXAxis axisFromJson(const QJsonValue &value, const JsonPlace &place)
     const ExchangeObject json(value, place, {key::label, key::curve});
     const auto curve = placedCurveFromJson(json.value(key::curve), json.placeOf(key::curve));
     if (!curve)
-        json.placeOf(key::curve).refuse(QStringLiteral("is not the text of a curve"));
+        json.placeOf(key::curve).refuse(dwgx::Reason::tr("is not the text of a curve"));
     return {json.text(key::label), {curve}};
 }
 
@@ -78,10 +79,10 @@ void readGrid(const ExchangeObject &json, ShapeRecord &record)
 {
     record.outline = outlineOf(json);
     if (json.has(key::axes) && json.array(key::axes).size() != IHBXAxisGrid::kGroupCount)
-        json.placeOf(key::axes).refuse(QStringLiteral("is not an array of 4 lists"));
+        json.placeOf(key::axes).refuse(dwgx::Reason::tr("is not an array of 4 lists"));
     json.each(key::axes, [&](const QJsonValue &group, const JsonPlace &place, int index) {
         if (!group.isArray())
-            place.refuse(QStringLiteral("is not an array"));
+            place.refuse(dwgx::Reason::tr("is not an array"));
         const QJsonArray axes = group.toArray();
         for (int i = 0; i < axes.size(); ++i)
             record.axes[static_cast<std::size_t>(index)].push_back(axisFromJson(axes.at(i), {place, i}));
@@ -172,16 +173,16 @@ const ShapeForm kForms[] = {
 const ShapeForm &formOf(const QJsonValue &value, const JsonPlace &place)
 {
     if (!value.isObject())
-        place.refuse(QStringLiteral("is not an object"));
+        place.refuse(dwgx::Reason::tr("is not an object"));
     const QJsonObject object = value.toObject();
     const auto kind = object.constFind(key::kind);
     if (kind == object.constEnd())
-        place.refuse(QStringLiteral("has no \"kind\""));
+        place.refuse(dwgx::Reason::tr("has no \"kind\""));
     const QString word = kind->toString();
     for (const ShapeForm &form : kForms)
         if (word == form.word)
             return form;
-    JsonPlace(place, key::kind).refuse(QStringLiteral("is none of face, line, point, section, face2d, line2d, grid"));
+    JsonPlace(place, key::kind).refuse(dwgx::Reason::tr("is none of face, line, point, section, face2d, line2d, grid"));
 }
 
 QJsonArray vectorToJson(const vks::CVec3<double> &vector) { return {vector.x, vector.y, vector.z}; }

@@ -1,5 +1,6 @@
 #include "platform/embedded/ExchangeSpan.h"
 
+#include "platform/dwgx/Reason.h"
 #include "platform/embedded/HBXSpanKeys.h"
 
 #include <algorithm>
@@ -38,11 +39,13 @@ const char *wrongKind(SpanValue kind, const QJsonValue &value)
     const int number = value.toInt();
     switch (kind) {
     case SpanValue::Integer:
-        return value.isDouble() && value.toDouble() == number ? nullptr : "is not an integer of 32 bits";
+        return value.isDouble() && value.toDouble() == number
+                   ? nullptr
+                   : QT_TRANSLATE_NOOP("host", "is not an integer of 32 bits");
     case SpanValue::Number:
-        return value.isDouble() ? nullptr : "is not a number";
+        return value.isDouble() ? nullptr : QT_TRANSLATE_NOOP("host", "is not a number");
     case SpanValue::Text:
-        return value.isString() ? nullptr : "is not a text";
+        return value.isString() ? nullptr : QT_TRANSLATE_NOOP("host", "is not a text");
     }
     return nullptr;
 }
@@ -52,9 +55,9 @@ void checkMember(const QString &key, const QJsonValue &value, const JsonPlace &p
     const auto *known =
         std::find_if(std::begin(kSpanKeys), std::end(kSpanKeys), [&](const SpanKey &each) { return key == each.key; });
     if (known == std::end(kSpanKeys))
-        place.refuse(QStringLiteral("has the unknown member \"%1\"").arg(key));
+        place.refuse(dwgx::Reason::tr("has the unknown member \"%1\"").arg(key));
     if (const char *reason = wrongKind(known->kind, value))
-        JsonPlace(place, known->key).refuse(QLatin1String(reason));
+        JsonPlace(place, known->key).refuse(dwgx::Reason::tr(reason));
 }
 
 } // namespace
@@ -62,7 +65,7 @@ void checkMember(const QString &key, const QJsonValue &value, const JsonPlace &p
 QJsonObject spanFromJson(const QJsonValue &value, const JsonPlace &place)
 {
     if (!value.isObject())
-        place.refuse(QStringLiteral("is not an object"));
+        place.refuse(dwgx::Reason::tr("is not an object"));
     QJsonObject span = value.toObject();
     for (auto member = span.constBegin(); member != span.constEnd(); ++member)
         checkMember(member.key(), member.value(), place);

@@ -1,5 +1,6 @@
 #include "platform/embedded/HBXAttachment.h"
 
+#include "platform/dwgx/Reason.h"
 #include "platform/services/HBXElementTypes.h"
 
 #include <algorithm>
@@ -11,8 +12,8 @@ namespace {
 const AttachmentRule kRules[] = {
     {{type::door, type::window, type::doorWithWindow, type::wallOpening},
      {type::forceWall, type::partitionWall, type::retainingWall, type::curtainWall, type::brickWall},
-     "names no wall"},
-    {{type::slabHole}, {type::slab, type::raft}, "names no slab or raft"},
+     QT_TRANSLATE_NOOP("host", "names no wall")},
+    {{type::slabHole}, {type::slab, type::raft}, QT_TRANSLATE_NOOP("host", "names no slab or raft")},
 };
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "platform/embedded/HBXCheck.h"
 
+#include "platform/dwgx/Reason.h"
 #include "platform/embedded/HBXModel.h"
 #include "platform/embedded/HBXPlacedShape.h"
 #include "platform/embedded/HBXSameObject.h"
@@ -17,13 +18,16 @@ struct OutlineFault
 };
 /** In the order in which a fault makes sense: each check takes the ones before for granted. */
 constexpr OutlineFault kOutlineFaults[] = {
-    {vks::CPolygon::kNotEmpty, "The outline of the draw object has no edges."},
-    {vks::CPolygon::kClosed, "The outline of the draw object is open."},
-    {vks::CPolygon::kNoShortEdge, "The outline of the draw object has an edge of no length."},
-    {vks::CPolygon::kHasArea, "The outline of the draw object has no area."},
-    {vks::CPolygon::kNoCrossing, "The outline of the draw object crosses or overlaps itself."},
-    {vks::CPolygon::kHolesInside, "A hole in the outline of the draw object is not inside it."},
-    {vks::CPolygon::kAllChecks, "The outline of the draw object is invalid."},
+    {vks::CPolygon::kNotEmpty, QT_TRANSLATE_NOOP("host", "The outline of the draw object has no edges.")},
+    {vks::CPolygon::kClosed, QT_TRANSLATE_NOOP("host", "The outline of the draw object is open.")},
+    {vks::CPolygon::kNoShortEdge,
+     QT_TRANSLATE_NOOP("host", "The outline of the draw object has an edge of no length.")},
+    {vks::CPolygon::kHasArea, QT_TRANSLATE_NOOP("host", "The outline of the draw object has no area.")},
+    {vks::CPolygon::kNoCrossing,
+     QT_TRANSLATE_NOOP("host", "The outline of the draw object crosses or overlaps itself.")},
+    {vks::CPolygon::kHolesInside,
+     QT_TRANSLATE_NOOP("host", "A hole in the outline of the draw object is not inside it.")},
+    {vks::CPolygon::kAllChecks, QT_TRANSLATE_NOOP("host", "The outline of the draw object is invalid.")},
 };
 
 QString outlineFault(const vks::CPolygon *outline)
@@ -33,13 +37,13 @@ QString outlineFault(const vks::CPolygon *outline)
     const auto *fault = std::find_if(std::begin(kOutlineFaults), std::end(kOutlineFaults), [outline](const auto &row) {
         return !outline->IsValid(row.check, nullptr, nullptr);
     });
-    return QString::fromLatin1(fault->reason);
+    return dwgx::Reason::tr(fault->reason);
 }
 
 QString curveFault(const vks::CCurve2d *curve)
 {
     const bool hasLength = !curve || curve->Length() > vks::g_DistEpsilon;
-    return hasLength ? QString() : QStringLiteral("The curve of the draw object has no length.");
+    return hasLength ? QString() : dwgx::Reason::tr("The curve of the draw object has no length.");
 }
 
 } // namespace
@@ -50,7 +54,7 @@ bool HBXCheck::checkDrawObj(IHBXElementDrawObj *drawObj, HBXCheckError &error, s
     collisions.clear();
     HBXElementDrawObj *object = m_model.drawObjects()->own(drawObj);
     if (!object) {
-        error.reason = QStringLiteral("There is no draw object of this building to check.");
+        error.reason = dwgx::Reason::tr("There is no draw object of this building to check.");
         return false;
     }
     error.reason = faultOf(*object);
@@ -68,9 +72,9 @@ QString HBXCheck::faultOf(HBXElementDrawObj &object) const
 {
     const HBXPlacedShape &shape = object.placedShape();
     if (!m_model.regions()->own(object.floor()))
-        return QStringLiteral("The draw object stands on no floor.");
+        return dwgx::Reason::tr("The draw object stands on no floor.");
     if (!shape.hasGeometry())
-        return QStringLiteral("The draw object has no geometry.");
+        return dwgx::Reason::tr("The draw object has no geometry.");
     const QString fault = curveFault(shape.worldCurve());
     const bool isArea = shape.shapeKind() != IHBXShape::kPlanLine; // a plan line's outline encloses nothing
     return fault.isEmpty() && isArea ? outlineFault(shape.worldPolygon()) : fault;
@@ -96,7 +100,7 @@ std::map<qint64, QString> HBXCheck::collisionsOf(HBXElementDrawObj &object) cons
     std::map<qint64, QString> collisions;
     for (const HBXElementDrawObj *other : inSamePlace(object))
         if (other != &object && areSame(object, *other))
-            collisions.emplace(other->id(), QStringLiteral("The draw object is the same as draw object %1 of \"%2\".")
+            collisions.emplace(other->id(), dwgx::Reason::tr("The draw object is the same as draw object %1 of \"%2\".")
                                                 .arg(other->id())
                                                 .arg(other->ownElement().ownName()));
     return collisions;

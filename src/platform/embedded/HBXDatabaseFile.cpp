@@ -1,5 +1,6 @@
 #include "platform/embedded/HBXDatabaseFile.h"
 
+#include "platform/dwgx/Reason.h"
 #include "platform/embedded/DatabaseRefusal.h"
 #include "platform/embedded/HBXDatabaseReader.h"
 #include "platform/embedded/HBXDatabaseSchema.h"
@@ -17,18 +18,16 @@
 namespace hbx::embedded {
 namespace {
 
-constexpr char kBusy[] = "is being written by another program";
-constexpr char kNotWritten[] = "cannot be written";
+constexpr char kBusy[] = QT_TRANSLATE_NOOP("host", "is being written by another program");
+constexpr char kNotWritten[] = QT_TRANSLATE_NOOP("host", "cannot be written: %1");
+constexpr char kDamaged[] = QT_TRANSLATE_NOOP("host", "is damaged: %1");
 
 constexpr const char *kSideFiles[] = {"-journal", "-wal", "-shm"};
 
 [[noreturn]] void refuse(const QString &reason) { throw DatabaseRefusal{QString(), reason}; }
 
 /** The failure with what the system said of it. */
-QString failed(const char *failure, const QString &message)
-{
-    return QStringLiteral("%1: %2").arg(QLatin1String(failure), message);
-}
+QString failed(const char *failure, const QString &message) { return dwgx::Reason::tr(failure).arg(message); }
 
 /** Runs work, and turns whatever it throws into an error of the file. */
 template <typename Work> bool guarded(const QString &path, const char *failure, ProjectError &error, Work work)
@@ -40,7 +39,7 @@ template <typename Work> bool guarded(const QString &path, const char *failure, 
     } catch (const DatabaseRefusal &refusal) {
         error = {path, refusal.place, refusal.reason};
     } catch (const SqliteError &problem) {
-        error = {path, QString(), problem.isBusy() ? QString(QLatin1String(kBusy)) : failed(failure, problem.message)};
+        error = {path, QString(), problem.isBusy() ? dwgx::Reason::tr(kBusy) : failed(failure, problem.message)};
     }
     return false;
 }
@@ -52,12 +51,12 @@ void checkFile(const QString &path)
 {
     const QFileInfo info(path);
     if (!info.exists())
-        refuse(QStringLiteral("does not exist"));
+        refuse(dwgx::Reason::tr("does not exist"));
     if (!info.isFile())
-        refuse(QStringLiteral("is no file"));
+        refuse(dwgx::Reason::tr("is no file"));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        refuse(QStringLiteral("cannot be read: ") + file.errorString());
+        refuse(dwgx::Reason::tr("cannot be read: %1").arg(file.errorString()));
     schema::checkHeader(file.read(schema::kHeaderSize));
 }
 
@@ -70,7 +69,7 @@ void rollBack(const QString &path)
     } catch (const SqliteError &problem) {
         if (problem.isBusy())
             throw;
-        refuse(failed("holds a save that was interrupted and cannot be undone", problem.message));
+        refuse(dwgx::Reason::tr("holds a save that was interrupted and cannot be undone: %1").arg(problem.message));
     }
 }
 
@@ -84,11 +83,11 @@ void beginReading(SqliteConnection &connection)
 void checkContent(SqliteConnection &connection)
 {
     if (connection.isWrittenByOthers())
-        refuse(QLatin1String(kBusy));
+        refuse(dwgx::Reason::tr(kBusy));
     schema::check(connection);
     SqliteStatement check(connection, "PRAGMA quick_check(1)");
     if (check.next() && check.bytes(0) != "ok")
-        refuse(QStringLiteral("is damaged: ") + check.text(0));
+        refuse(failed(kDamaged, check.text(0)));
 }
 
 /** What the last save left; nothing in a file that has lost it. */
@@ -103,7 +102,7 @@ void checkForeignKeys(SqliteConnection &connection)
     SqliteStatement check(connection, "PRAGMA foreign_key_check");
     if (check.next())
         throw DatabaseRefusal{QStringLiteral("%1[id=%2]").arg(check.text(0)).arg(check.integer(1)),
-                              QStringLiteral("would name an object that is gone")};
+                              dwgx::Reason::tr("would name an object that is gone")};
 }
 
 /** Journals of a file that is about to be replaced would be taken for the new one's. */
@@ -117,9 +116,9 @@ void refuseIfNoFile(const QString &path)
 {
     const QFileInfo info(path);
     if (info.isDir())
-        refuse(QStringLiteral("is a directory"));
+        refuse(dwgx::Reason::tr("is a directory"));
     if (info.exists() && !info.isFile())
-        refuse(QStringLiteral("is no file")); // which a file would take the place of
+        refuse(dwgx::Reason::tr("is no file")); // which a file would take the place of
 }
 
 /** Waits for nobody: a file that somebody writes to is not replaced. A save that was interrupted is undone here, so that
@@ -132,10 +131,10 @@ void refuseIfWritten(const QString &path)
         SqliteConnection connection(path, SqliteConnection::kWrite);
         connection.run("BEGIN; SELECT count(*) FROM sqlite_schema");
         if (connection.isWrittenByOthers())
-            refuse(QLatin1String(kBusy));
+            refuse(dwgx::Reason::tr(kBusy));
     } catch (const SqliteError &problem) {
         if (problem.isBusy())
-            refuse(QLatin1String(kBusy)); // anything else is to be replaced anyway
+            refuse(dwgx::Reason::tr(kBusy)); // anything else is to be replaced anyway
     }
 }
 
@@ -171,7 +170,7 @@ void replaceFile(const QString &target, const SqliteConnection &connection)
 std::optional<ProjectRecord> HBXDatabaseFile::read(ProjectError &error)
 {
     std::optional<ProjectRecord> project;
-    guarded(m_path, "is damaged", error, [&] {
+    guarded(m_path, kDamaged, error, [&] {
         checkFile(m_path);
         try {
             project = readChecked();
@@ -224,7 +223,7 @@ void HBXDatabaseFile::update(const ProjectUpdate &changes)
     SqliteTransaction transaction(connection, "BEGIN IMMEDIATE");
     schema::check(connection);
     if (saveMarkIn(connection) != m_saveMark)
-        refuse(QStringLiteral("was changed by another program since it was opened"));
+        refuse(dwgx::Reason::tr("was changed by another program since it was opened"));
     const qint64 mark = freshMark();
     HBXDatabaseWriter(connection).writeUpdate(changes, mark);
     if (!changes.removedDrawObjs.empty() || !changes.removedElements.empty())

@@ -1,5 +1,6 @@
 #include "platform/embedded/HBXDatabaseReader.h"
 
+#include "platform/dwgx/Reason.h"
 #include "platform/embedded/DatabaseLinks.h"
 #include "platform/embedded/DatabasePropertyReader.h"
 #include "platform/embedded/DatabaseRefusal.h"
@@ -20,7 +21,7 @@ const TypeProperties &catalogueOf(const DatabaseRows &rows, int typeColumn)
     const qint64 type = rows.row().integer(typeColumn);
     const TypeProperties *properties = HBXPropertyCatalogue::instance().properties(type);
     if (!properties)
-        rows.refuse(typeColumn, QStringLiteral("is no type that the host knows: %1").arg(type));
+        rows.refuse(typeColumn, dwgx::Reason::tr("is no type that the host knows: %1").arg(type));
     return *properties;
 }
 
@@ -31,7 +32,7 @@ template <typename Geometry> vks::CRefPtr<Geometry> readGeometry(const DatabaseR
         return nullptr;
     vks::CRefPtr<Geometry> geometry = storedGeometry<Geometry>(rows.row().bytes(column));
     if (!geometry)
-        rows.refuse(column, QStringLiteral("is not the text of its geometry"));
+        rows.refuse(column, dwgx::Reason::tr("is not the text of its geometry"));
     return geometry;
 }
 
@@ -126,7 +127,7 @@ vks::CVec3<double> readVector(const DatabaseRows &rows, int firstColumn)
     double terms[3];
     for (int i = 0; i < 3; ++i) {
         if (rows.row().isNull(firstColumn + i))
-            rows.refuse(firstColumn + i, QStringLiteral("is missing"));
+            rows.refuse(firstColumn + i, dwgx::Reason::tr("is missing"));
         terms[i] = rows.number(firstColumn + i);
     }
     return {terms[0], terms[1], terms[2]};
@@ -137,7 +138,7 @@ void readShape(const DatabaseRows &rows, ShapeRecord &shape)
     using namespace shapeTable;
     const int kind = rows.integer32(kKind);
     if (kind < IHBXShape::kPoint || kind > IHBXShape::kGrid)
-        rows.refuse(kKind, QStringLiteral("is no kind of shape"));
+        rows.refuse(kKind, dwgx::Reason::tr("is no kind of shape"));
     shape.kind = static_cast<IHBXShape::Kind>(kind);
     shape.outline = readGeometry<vks::CPolygon>(rows, kOutline);
     shape.curve = readGeometry<vks::CCurve2d>(rows, kCurve);
@@ -163,13 +164,13 @@ void readAxis(const DatabaseRows &rows, ShapeRecord &shape)
     using namespace axisTable;
     const qint64 group = rows.row().integer(kGroup);
     if (group < 0 || group >= IHBXAxisGrid::kGroupCount)
-        rows.refuse(kGroup, QStringLiteral("is no group of axes"));
+        rows.refuse(kGroup, dwgx::Reason::tr("is no group of axes"));
     std::vector<HBXAxis> &axes = shape.axes[static_cast<std::size_t>(group)];
     const bool isFurtherCurve = rows.row().integer(kCurvePosition) != 0;
     if (!isFurtherCurve)
         axes.push_back({rows.row().text(kLabel), {}});
     if (axes.empty())
-        rows.refuse(kCurvePosition, QStringLiteral("has no axis in front of it"));
+        rows.refuse(kCurvePosition, dwgx::Reason::tr("has no axis in front of it"));
     axes.back().curves.push_back(readGeometry<vks::CCurve2d>(rows, kCurve));
 }
 
@@ -179,7 +180,7 @@ QJsonObject readSpan(const DatabaseRows &rows)
     const std::string_view text = rows.row().bytes(kRecord);
     const auto document = QJsonDocument::fromJson({text.data(), static_cast<int>(text.size())});
     if (!document.isObject())
-        rows.refuse(kRecord, QStringLiteral("is no JSON object"));
+        rows.refuse(kRecord, dwgx::Reason::tr("is no JSON object"));
     try {
         return spanFromJson(document.object(), dwgx::JsonPlace());
     } catch (const dwgx::JsonRefusal &refusal) {
@@ -216,7 +217,7 @@ void HBXDatabaseReader::readProject()
     enum { kId, kName, kSource, kPlaneRule, kNextId, kSaveMark };
     DatabaseRows rows(m_connection, "project", "id", "name, source, plane_rule, next_id, save_mark");
     if (!rows.next())
-        throw DatabaseRefusal{QStringLiteral("project"), QStringLiteral("has no row")};
+        throw DatabaseRefusal{QStringLiteral("project"), dwgx::Reason::tr("has no row")};
     const SqliteStatement &row = rows.row();
     m_project.name = row.text(kName);
     m_project.source = row.text(kSource);
@@ -291,7 +292,8 @@ void HBXDatabaseReader::readShapes()
             isThere = true;
         });
         if (!isThere)
-            throw DatabaseRefusal{QStringLiteral("draw_object[id=%1]").arg(drawObj.id), QStringLiteral("has no shape")};
+            throw DatabaseRefusal{QStringLiteral("draw_object[id=%1]").arg(drawObj.id),
+                                  dwgx::Reason::tr("has no shape")};
     }
     rows.finish();
 }

@@ -1,5 +1,6 @@
 #include "platform/embedded/HBXDatabaseSchema.h"
 
+#include "platform/dwgx/Reason.h"
 #include "platform/embedded/DatabaseRefusal.h"
 #include "platform/embedded/SqliteStatement.h"
 
@@ -81,10 +82,10 @@ void checkObject(std::string_view kind, std::string_view name, std::string_view 
     const auto *table =
         std::find_if(std::begin(kTables), std::end(kTables), [name](const Table &each) { return each.name == name; });
     if (kind != "table" || table == std::end(kTables))
-        refuse(QStringLiteral("has the foreign %1 %2")
+        refuse(dwgx::Reason::tr("has the foreign %1 %2")
                    .arg(QString::fromUtf8(kind.data(), static_cast<int>(kind.size())), quoted(name)));
     if (definition != table->definition)
-        refuse(QStringLiteral("has the table %1 in another form").arg(quoted(name)));
+        refuse(dwgx::Reason::tr("has the table %1 in another form").arg(quoted(name)));
 }
 
 } // namespace
@@ -92,21 +93,21 @@ void checkObject(std::string_view kind, std::string_view name, std::string_view 
 void checkHeader(const QByteArray &header)
 {
     if (header.isEmpty())
-        refuse(QStringLiteral("is empty"));
+        refuse(dwgx::Reason::tr("is empty"));
     if (!header.startsWith(QByteArray(kMagic, sizeof kMagic)))
-        refuse(QStringLiteral("is no project file"));
+        refuse(dwgx::Reason::tr("is no project file"));
     if (header.size() < kHeaderSize)
-        refuse(QStringLiteral("is damaged: it ends in its header"));
+        refuse(dwgx::Reason::tr("is damaged: it ends in its header"));
     if (numberAt(header, kApplicationIdAt) != kApplicationId)
-        refuse(QStringLiteral("is an SQLite file, but no project file"));
+        refuse(dwgx::Reason::tr("is an SQLite file, but no project file"));
     const quint32 version = numberAt(header, kUserVersionAt);
     if (version != kVersion)
-        refuse(QStringLiteral("is of form %1, %2 than the form %3 that this program reads")
+        refuse((version > kVersion ? dwgx::Reason::tr("is of form %1, newer than the form %2 that this program reads")
+                                   : dwgx::Reason::tr("is of form %1, older than the form %2 that this program reads"))
                    .arg(version)
-                   .arg(version > kVersion ? QLatin1String("newer") : QLatin1String("older"))
                    .arg(kVersion));
     if (header[kWriteVersionAt] != kRollbackJournal || header[kReadVersionAt] != kRollbackJournal)
-        refuse(QStringLiteral("is in a journal mode that project files do not use"));
+        refuse(dwgx::Reason::tr("is in a journal mode that project files do not use"));
 }
 
 void create(SqliteConnection &connection)
@@ -125,7 +126,7 @@ void check(SqliteConnection &connection)
     for (; objects.next(); ++tables)
         checkObject(objects.bytes(0), objects.bytes(1), objects.bytes(2));
     if (tables != std::size(kTables))
-        refuse(QStringLiteral("lacks tables of a project file"));
+        refuse(dwgx::Reason::tr("lacks tables of a project file"));
 }
 
 } // namespace hbx::embedded::schema

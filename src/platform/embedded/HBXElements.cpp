@@ -1,5 +1,6 @@
 #include "platform/embedded/HBXElements.h"
 
+#include "platform/dwgx/Reason.h"
 #include "platform/embedded/HBXFloorQuery.h"
 #include "platform/embedded/HBXModel.h"
 #include "platform/host/HBXModelException.h"
@@ -136,10 +137,10 @@ QString HBXElements::freeName(HBXFloor &floor, qint64 type, const QString &name)
 QString HBXElements::refusalOf(const HBXElement &element, const QString &name) const
 {
     if (name.isEmpty())
-        return QStringLiteral("An element cannot have an empty name.");
+        return dwgx::Reason::tr("An element cannot have an empty name.");
     const bool isFree =
         name == element.ownName() || isUnitType(element.type()) || !isTaken(element.ownFloor(), element.type(), name);
-    return isFree ? QString() : QStringLiteral("The floor has another element of the name \"%1\".").arg(name);
+    return isFree ? QString() : dwgx::Reason::tr("The floor has another element of the name \"%1\".").arg(name);
 }
 
 void HBXElements::rename(HBXElement &element, const QString &name)

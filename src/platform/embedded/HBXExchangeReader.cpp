@@ -1,5 +1,6 @@
 #include "platform/embedded/HBXExchangeReader.h"
 
+#include "platform/dwgx/Reason.h"
 #include "platform/embedded/ExchangeFloorReader.h"
 #include "platform/embedded/ExchangeFormat.h"
 #include "platform/embedded/HBXProject.h"
@@ -14,15 +15,18 @@ namespace {
 
 namespace key = exchange::key;
 
+constexpr char kTwiceInProject[] = QT_TRANSLATE_NOOP("host", "\"%1\" stands twice in the project");
+constexpr char kTwiceInRegion[] = QT_TRANSLATE_NOOP("host", "\"%1\" stands twice in the region");
+
 QJsonValue parseDocument(const QByteArray &json)
 {
     if (json.trimmed().isEmpty())
-        throw dwgx::JsonRefusal{QString(), QStringLiteral("is empty")};
+        throw dwgx::JsonRefusal{QString(), dwgx::Reason::tr("is empty")};
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
     if (error.error != QJsonParseError::NoError)
         throw dwgx::JsonRefusal{dwgx::lineAndColumn(json, error.offset),
-                                QStringLiteral("is not JSON: %1").arg(error.errorString())};
+                                dwgx::Reason::tr("is not JSON: %1").arg(error.errorString())};
     return document.isObject() ? QJsonValue(document.object()) : QJsonValue(document.array());
 }
 
@@ -31,12 +35,12 @@ void checkFormat(const QJsonObject &document)
 {
     const JsonPlace place;
     if (document.value(key::format) != QJsonValue(exchange::kFormatName))
-        JsonPlace(place, key::format).refuse(QStringLiteral("is not \"hbx-project\""));
+        JsonPlace(place, key::format).refuse(dwgx::Reason::tr("is not \"hbx-project\""));
     const double version = document.value(key::version).toDouble(std::nan(""));
     if (version > exchange::kVersion)
-        JsonPlace(place, key::version).refuse(QStringLiteral("is newer than %1").arg(exchange::kVersion));
+        JsonPlace(place, key::version).refuse(dwgx::Reason::tr("is newer than %1").arg(exchange::kVersion));
     if (version != exchange::kVersion)
-        JsonPlace(place, key::version).refuse(QStringLiteral("is not %1").arg(exchange::kVersion));
+        JsonPlace(place, key::version).refuse(dwgx::Reason::tr("is not %1").arg(exchange::kVersion));
 }
 
 /** Reads the document around the floors' content. */
@@ -47,7 +51,7 @@ public:
     {
         const JsonPlace place;
         if (!value.isObject())
-            place.refuse(QStringLiteral("is not an object"));
+            place.refuse(dwgx::Reason::tr("is not an object"));
         checkFormat(value.toObject());
         const ExchangeObject json(value, place,
                                   {key::format, key::version, key::name, key::source, key::regions, key::options,
@@ -83,7 +87,7 @@ private:
         const ExchangeObject row(value, place, {key::number, key::name});
         const int number = row.integer32(key::number, 1);
         if (m_materialNumbers.contains(number))
-            row.placeOf(key::number).refuse(QStringLiteral("%1 stands twice in the file").arg(number));
+            row.placeOf(key::number).refuse(dwgx::Reason::tr("%1 stands twice in the file").arg(number));
         m_materialNumbers.insert(number);
         m_reading.project.materials.push_back({number, row.text(key::name)});
     }
@@ -93,7 +97,7 @@ private:
         const ExchangeObject json(value, place, {key::name, key::floors});
         RegionRecord region;
         region.name = json.name(key::name);
-        refuseTwice(m_regionNames, json, key::name, "project");
+        refuseTwice(m_regionNames, json, key::name, kTwiceInProject);
         region.id = m_reading.takeId();
         m_reading.project.regions.push_back(region);
         m_floorNames.clear();
@@ -111,8 +115,8 @@ private:
         floor.regionId = regionId;
         floor.name = json.name(key::name);
         floor.code = json.name(key::code);
-        refuseTwice(m_floorNames, json, key::name, "region");
-        refuseTwice(m_floorCodes, json, key::code, "region");
+        refuseTwice(m_floorNames, json, key::name, kTwiceInRegion);
+        refuseTwice(m_floorCodes, json, key::code, kTwiceInRegion);
         floor.bottomElev = json.number(key::bottomElev);
         floor.height = json.number(key::height);
         floor.standardFloorCount = json.integer32Or(key::standardFloorCount, 1);
@@ -123,12 +127,11 @@ private:
         ExchangeFloorReader(m_reading, json, floor.id).read();
     }
 
-    static void refuseTwice(QSet<QString> &names, const ExchangeObject &json, QLatin1String member, const char *where)
+    static void refuseTwice(QSet<QString> &names, const ExchangeObject &json, QLatin1String member, const char *fault)
     {
         const QString name = json.text(member);
         if (names.contains(name))
-            json.placeOf(member).refuse(
-                QStringLiteral("\"%1\" stands twice in the %2").arg(name, QLatin1String(where)));
+            json.placeOf(member).refuse(dwgx::Reason::tr(fault).arg(name));
         names.insert(name);
     }
 

@@ -1,5 +1,6 @@
 #include "platform/embedded/HBXProject.h"
 
+#include "platform/dwgx/Reason.h"
 #include "platform/embedded/HBXDatabaseFile.h"
 #include "platform/embedded/HBXExchangeReader.h"
 #include "platform/embedded/HBXExchangeWriter.h"
@@ -83,7 +84,7 @@ std::unique_ptr<HBXProject> HBXProject::fromJson(const QByteArray &json, const Q
 bool HBXProject::save(ProjectError &error)
 {
     if (!m_state->file) {
-        error = {name(), QString(), QStringLiteral("has no file yet")};
+        error = {name(), QString(), dwgx::Reason::tr("has no file yet")};
         return false;
     }
     error = {};

@@ -1,5 +1,6 @@
 #include "platform/embedded/HBXProperties.h"
 
+#include "platform/dwgx/Reason.h"
 #include "platform/embedded/HBXElevationText.h"
 #include "platform/embedded/HBXProperty.h"
 #include "platform/embedded/HBXPropertyValue.h"
@@ -174,7 +175,7 @@ void HBXProperties::write(const PropertyEntry &entry, const PropertyValue &value
 {
     std::optional<PropertyValue> kept = keptAs(entry.kind, value);
     if (!kept) {
-        const QString reason = QStringLiteral("The property \"%1\" is of the kind %2 and cannot take \"%3\".")
+        const QString reason = dwgx::Reason::tr("The property \"%1\" is of the kind %2 and cannot take \"%3\".")
                                    .arg(entry.name, kindName(entry.kind), shownText(value));
         m_holder.propertyRefused(reason);
         throw HBXModelException(reason);

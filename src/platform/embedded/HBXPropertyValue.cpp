@@ -1,5 +1,6 @@
 #include "platform/embedded/HBXPropertyValue.h"
 
+#include "platform/dwgx/Reason.h"
 #include "platform/embedded/HBXElevationText.h"
 #include "platform/embedded/StoredGeometry.h"
 
@@ -96,13 +97,13 @@ struct KindRow
     Kept (*keep)(const PropertyValue &);
 };
 constexpr KindRow kKinds[] = {
-    {PropertyKind::Integer, "whole number", keptAsInteger},
-    {PropertyKind::Double, "number", keptAsDouble},
-    {PropertyKind::Text, "text", keptAsText},
-    {PropertyKind::Elevation, "elevation", keptAsElevation},
-    {PropertyKind::Point, "point", keptAsPoint},
-    {PropertyKind::Curve, "curve", keptAsGeometry<vks::CCurve2d>},
-    {PropertyKind::Polygon, "polygon", keptAsGeometry<vks::CPolygon>},
+    {PropertyKind::Integer, QT_TRANSLATE_NOOP("host", "whole number"), keptAsInteger},
+    {PropertyKind::Double, QT_TRANSLATE_NOOP("host", "number"), keptAsDouble},
+    {PropertyKind::Text, QT_TRANSLATE_NOOP("host", "text"), keptAsText},
+    {PropertyKind::Elevation, QT_TRANSLATE_NOOP("host", "elevation"), keptAsElevation},
+    {PropertyKind::Point, QT_TRANSLATE_NOOP("host", "point"), keptAsPoint},
+    {PropertyKind::Curve, QT_TRANSLATE_NOOP("host", "curve"), keptAsGeometry<vks::CCurve2d>},
+    {PropertyKind::Polygon, QT_TRANSLATE_NOOP("host", "polygon"), keptAsGeometry<vks::CPolygon>},
 };
 
 const KindRow &rowOf(PropertyKind kind)
@@ -160,6 +161,6 @@ QString textOf(const PropertyValue &value)
     return number ? decimalText(*number) : QString();
 }
 
-QString kindName(PropertyKind kind) { return QString::fromLatin1(rowOf(kind).name); }
+QString kindName(PropertyKind kind) { return dwgx::Reason::tr(rowOf(kind).name); }
 
 } // namespace hbx::embedded
