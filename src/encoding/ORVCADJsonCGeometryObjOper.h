@@ -20,6 +20,7 @@
 class ORVCADMODELDATA_EXPORT ORVCADJsonCGeometryObjOper
 {
 public:
+    /** Each object does the same. */
     ORVCADJsonCGeometryObjOper();
     ~ORVCADJsonCGeometryObjOper();
     ORVCADJsonCGeometryObjOper(const ORVCADJsonCGeometryObjOper &) = delete;

@@ -17,6 +17,7 @@ class Log_AI;
 extern template class ORVCADMODELDATA_EXPORT gp::TreeNode<cv::Object_AI *, 0>;
 extern template class ORVCADMODELDATA_EXPORT gp::Object_AI<cv::Object_AI *, QString, Any>;
 
+/** The object system as the slab model has it. */
 namespace cv {
 
 /** Third layer of the object system: an object that keeps a diary. Base of the classes of the slab model.

@@ -47,8 +47,8 @@ public:
     /** Appends; lists in XML do not read back. */
     void loadCadEntForceWallDataInfo(std::list<ORVCADCloudEntForceWallStruct> &walls);
 
-    /** "CadFilterTextEdoDataInfo", the only list that holds what texts a text stands for. An empty set of them reads back
-     *  as one 0. */
+    /** "CadFilterTextEdoDataInfo", the only list that holds what texts a text stands for. An empty set of them reads
+     *  back as one 0. */
     void saveCadFilterTextEdoDataInfo(const std::list<ORVCADCloudTextEdoInfo> &texts);
     /** Appends; lists in XML do not read back. */
     void loadCadFilterTextEdoDataInfo(std::list<ORVCADCloudTextEdoInfo> &texts);

@@ -29,8 +29,8 @@ public:
     ORVCADOutputModelSerialization(const ORVCADOutputModelSerialization &) = default;
     ORVCADOutputModelSerialization &operator=(const ORVCADOutputModelSerialization &) = default;
 
-    /** "BrickWallIdentifyData". Elements that are equal in all that is written become one, with the pieces of all; a null
-     *  element is left out. */
+    /** "BrickWallIdentifyData". Elements that are equal in all that is written become one, with the pieces of all; a
+     *  null element is left out. */
     void saveBrickWallIdentifyData(const BrickWalls &walls);
     /** Adds a new element, which belongs to the caller, for each in the document; the map has these in the order of
      *  their records. */

@@ -4,6 +4,7 @@
 
 #include <QJsonObject>
 
+/** What brick and load-bearing walls have in common. */
 namespace wall {
 
 /** What the input models of both kinds of walls are: the base model, the walls of one kind that the host has already,

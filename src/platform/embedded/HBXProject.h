@@ -10,6 +10,7 @@
 
 class IHBXService;
 
+/** The embedded host (docs/embedded-host.md). */
 namespace hbx::embedded {
 
 class HBXModelStore; // the model in memory
