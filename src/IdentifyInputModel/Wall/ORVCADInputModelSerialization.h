@@ -93,7 +93,7 @@ public:
     void saveIdentifyType(EORVCADIdentifyType type);  ///< "IdentifyType"
     void loadIdentifyType(EORVCADIdentifyType &type); ///< any number is a type
     void saveProjectName(const std::wstring &name);   ///< "ProjectName"
-    void loadProjectName(std::wstring &name);         ///< stays without the key, as those below
+    void loadProjectName(std::wstring &name);         ///< left alone where there is no such key, as all below
     void saveFloorCode(const std::wstring &code);     ///< "floorCode", in the cloud form alone
     void loadFloorCode(std::wstring &code);           ///< from any document
     void saveFloorName(const std::wstring &name);     ///< "floorName", in the cloud form alone

@@ -69,9 +69,9 @@ public:
     /** Replaces the texts of a layer. */
     void setCadTextEdoDataInfo(const std::wstring &layer, DrawingTexts texts);
 
-    /** Empty until it is set or loaded, as those below. */
+    /** Empty until it is set or loaded; so are those below. */
     std::wstring getProjectName() const { return m_projectName; }
-    /** Text with "/" or ":" in it comes back cut from a document, as that of those below. */
+    /** A name with "/" or ":" in it comes back cut from a document; so do those below. */
     void setProjectName(std::wstring name) { m_projectName = std::move(name); }
     /** As shown to the user. */
     std::wstring getFloorName() const { return m_floorName; }
