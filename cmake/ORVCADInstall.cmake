@@ -31,12 +31,14 @@ endif()
 foreach(library IN LISTS ORVCAD_LIBRARIES)
     get_target_property(headers ${library} ORVCAD_PUBLIC_HEADERS)
     foreach(header IN LISTS headers)
+        string(APPEND doxygen_input "INPUT += \"${header}\"\n")
         file(RELATIVE_PATH path ${PROJECT_SOURCE_DIR}/src ${header})
         cmake_path(GET path PARENT_PATH folder)
         orvcad_install_development(${ORVCAD_HEADER_DIR}/${folder} ${header})
     endforeach()
     orvcad_install_development(${ORVCAD_HEADER_DIR} ${PROJECT_BINARY_DIR}/include/${library}Export.h)
 endforeach()
+file(WRITE ${PROJECT_BINARY_DIR}/public-headers.doxyfile "${doxygen_input}") # what docs/Doxyfile tells of
 
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/schemas/ DESTINATION ${CMAKE_INSTALL_DATADIR}/orvcad/schemas COMPONENT Command
     FILES_MATCHING PATTERN "*.schema.json")

@@ -22,7 +22,7 @@ class WLRBeamSpans;
 class ORVCADMODELDATA_EXPORT ORVCADBeamHBXModelConvertService
 {
 public:
-    using Beams = std::vector<std::shared_ptr<BeamModelDataInfo>>;
+    using Beams = std::vector<std::shared_ptr<BeamModelDataInfo>>; ///< one for each element, never null
 
     /** One record per element, in list order. The placed beams of one stand in no particular order. An element that is null
      *  gives an element record of zeros and empty texts. */

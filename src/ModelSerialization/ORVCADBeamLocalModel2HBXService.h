@@ -43,10 +43,10 @@ public:
         kElevationsNotWritten = 108    ///< neither elevation was accepted
     };
 
-    using Curve = GeometryTextReader::Curve;
-    using Polygon = GeometryTextReader::Polygon;
-    using Vertex = GeometryTextReader::Vertex;
-    using Seat = std::shared_ptr<ORVBeamSDCSeatInfoModel>;
+    using Curve = GeometryTextReader::Curve;               ///< of an axis
+    using Polygon = GeometryTextReader::Polygon;           ///< of a section
+    using Vertex = GeometryTextReader::Vertex;             ///< of a polygon text
+    using Seat = std::shared_ptr<ORVBeamSDCSeatInfoModel>; ///< a foundation, pile or tie beam; null fails
 
     /** The service is not owned. Null is allowed: every reconstruction then fails. */
     explicit ORVCADBeamLocalModel2HBXService(IHBXService *service);
@@ -65,7 +65,9 @@ public:
      *  @return a Result */
     int localModel2BeamEdo(BeamEdoInfo *edoInfo, IHBXElement *element);
 
+    /** Kind within the type: "Type1" of a beam, "Type" of others; a link beam has none and succeeds. */
     bool reconstructBeam_BeamInfo_CreateEnt_SetType(IHBXElement *element, BaseBeamEntInfo *beam);
+    /** The text of spans and cantilevers, such as 3A; a link beam has none and succeeds. */
     bool reconstructBeam_BeamInfo_CreateEnt_SetSpanCount(IHBXElement *element, BaseBeamEntInfo *beam);
     /** Width and height, or the outline where the record has one. @return a Result */
     int reconstructBeam_BeamInfo_CreateEnt_SetSection(IHBXElement *element, BaseBeamEntInfo *beam);
@@ -92,7 +94,9 @@ public:
 
     /** The element, found by name or made, for a foundation with a further unit below it, and one draw object. */
     bool reconstructFoundation(const Seat &seat);
+    /** The same for a pile, which has no unit. */
     bool reconstructPile(const Seat &seat);
+    /** The same for a tie beam, which lies along the seat's centre line. */
     bool reconstructTieBeam(const Seat &seat);
 
     /** A name that the host refuses ends this and the next; meant: the unit and a tie beam keep the name they have. */
@@ -100,10 +104,13 @@ public:
     /** Sub-type 169 becomes 128, in the record, too. The outline is moved to the origin, that of a foundation is not.
      *  @return whether "Type1", "TopElev" or a rectangle's "SectionWidth" was accepted, whatever becomes of the rest */
     bool localModel2PileEnt(const Seat &seat, IHBXElement *&element);
+    /** A rectangle (70) gets its sides, any other sub-type its outline. @return whether one of them was accepted */
     bool localModel2TieBeamEnt(const Seat &seat, IHBXElement *&element);
-    /** The draw object stands at the middle of the seat's box. */
+    /** The draw object stands at the middle of the seat's box. @return whether its top or underside was accepted */
     bool localModel2FoundationEdo(const Seat &seat, IHBXElement *element);
+    /** Likewise. @return whether its top was accepted */
     bool localModel2PileEdo(const Seat &seat, IHBXElement *element);
+    /** A line solid along the centre line, null included. @return whether an elevation or offset was accepted */
     bool localModel2TieBeamEdo(const Seat &seat, IHBXElement *element);
 
     /** Finds the seat's floor, and its element by name, which may be null.
@@ -121,47 +128,58 @@ public:
      *  that is no number writes 0.
      *  @return false only when the host threw */
     bool writeEntProp(const std::wstring &name, const QString &value, IHBXElement *element, PropType type, bool flag);
+    /** The same for a draw object. */
     bool writeEdoProp(const std::wstring &name, const QString &value, IHBXElementDrawObj *drawObj, PropType type,
                       bool flag);
 
     // Readers of curves and polygons: see GeometryTextReader
 
+    /** As GeometryTextReader::reconstructCurve. */
     static bool reconstructCurve(const QString &text, Curve &curve)
     {
         return GeometryTextReader::reconstructCurve(text, curve);
     }
+    /** As GeometryTextReader::reconstructCurve_Arc. */
     static bool reconstructCurve_Arc(const QStringList &parts, Curve &curve)
     {
         return GeometryTextReader::reconstructCurve_Arc(parts, curve);
     }
+    /** As GeometryTextReader::reconstructCurve_Circle. */
     static bool reconstructCurve_Circle(const QStringList &parts, Curve &curve)
     {
         return GeometryTextReader::reconstructCurve_Circle(parts, curve);
     }
+    /** As GeometryTextReader::reconstructCurve_Line. */
     static bool reconstructCurve_Line(const QStringList &parts, Curve &curve)
     {
         return GeometryTextReader::reconstructCurve_Line(parts, curve);
     }
+    /** As GeometryTextReader::reconstructCurve_StringToDouble. */
     static bool reconstructCurve_StringToDouble(const QStringList &parts, double *numbers)
     {
         return GeometryTextReader::reconstructCurve_StringToDouble(parts, numbers);
     }
+    /** As GeometryTextReader::reconstructPoly. */
     static bool reconstructPoly(const QString &text, Polygon &polygon)
     {
         return GeometryTextReader::reconstructPoly(text, polygon);
     }
+    /** As GeometryTextReader::reconstructPoly_Simplified_NoSemicolon. */
     static bool reconstructPoly_Simplified_NoSemicolon(const QString &text, Polygon &polygon)
     {
         return GeometryTextReader::reconstructPoly_Simplified_NoSemicolon(text, polygon);
     }
+    /** As GeometryTextReader::reconstructPoly_Simplified_Normal. */
     static bool reconstructPoly_Simplified_Normal(const QString &text, Polygon &polygon)
     {
         return GeometryTextReader::reconstructPoly_Simplified_Normal(text, polygon);
     }
+    /** As GeometryTextReader::reconstructPoly_Simplified_Normal_StringToDouble. */
     static bool reconstructPoly_Simplified_Normal_StringToDouble(const QString &text, std::vector<Vertex> &vertices)
     {
         return GeometryTextReader::reconstructPoly_Simplified_Normal_StringToDouble(text, vertices);
     }
+    /** As GeometryTextReader::reconstructPoly_WithAsString. */
     static bool reconstructPoly_WithAsString(const QString &text, Polygon &polygon)
     {
         return GeometryTextReader::reconstructPoly_WithAsString(text, polygon);

@@ -33,7 +33,7 @@ class ORVCADBoardLocalModel_Sample;
 class ORVCADMODELDATA_EXPORT ORVCADBoardLocalModelTransformHBXService_Sample
 {
 public:
-    using IdMap = std::map<qint64, QUuid>;
+    using IdMap = std::map<qint64, QUuid>; ///< recongnizedID by the host's id
 
     /** Which elements come out of the host. Compared as a whole, as the writer of JSON does; the values are the same. */
     enum Parts : int {
@@ -98,23 +98,28 @@ public:
     // prefix of their kind. A text that tells no bars (ValidateBarInfo) leaves out all that have it. The text is written
     // in upper case.
 
+    /** Working bars of one slab each; the prefix is SLJ. */
     static void localForceBar2HBX(const ORVCADBoardLocalModel_Sample *local, IHBXService *service,
                                   dwgx::DWGXBaseBoxTree *boxTree, const QString &region, const QString &floor,
                                   IdMap &idMap);
+    /** Working bars across slabs; the prefix is KBSLJ. */
     static void localStraddleForcedBar2HBX(const ORVCADBoardLocalModel_Sample *local, IHBXService *service,
                                            dwgx::DWGXBaseBoxTree *boxTree, const QString &region, const QString &floor,
                                            IdMap &idMap);
+    /** Working bars of one raft each; the prefix is FBZJ. */
     static void localRaftMainForceBar2HBX(const ORVCADBoardLocalModel_Sample *local, IHBXService *service,
                                           dwgx::DWGXBaseBoxTree *boxTree, const QString &region, const QString &floor,
                                           IdMap &idMap);
+    /** Working bars across rafts; the prefix is KFBZJ. */
     static void localRaftStraddleMainForcedBar2HBX(const ORVCADBoardLocalModel_Sample *local, IHBXService *service,
                                                    dwgx::DWGXBaseBoxTree *boxTree, const QString &region,
                                                    const QString &floor, IdMap &idMap);
-    /** One that is drawn over another negative bar of the current floor at the elevation of its slab is left out. */
+    /** Top bars of slabs; the prefix is FJ. One that is drawn over another negative bar of the current floor at the
+     *  elevation of its slab is left out. */
     static void localNegativeForcedBar2HBX(const ORVCADBoardLocalModel_Sample *local, IHBXService *service,
                                            dwgx::DWGXBaseBoxTree *boxTree, const QString &region, const QString &floor,
                                            IdMap &idMap);
-    /** Meant: they are compared with the negative bars of slabs, not of rafts. */
+    /** Top bars of rafts; the prefix is FBFJ. Meant: they are compared with the negative bars of slabs, not of rafts. */
     static void localRaftNegativeForcedBar2HBX(const ORVCADBoardLocalModel_Sample *local, IHBXService *service,
                                                dwgx::DWGXBaseBoxTree *boxTree, const QString &region,
                                                const QString &floor, IdMap &idMap);

@@ -13,13 +13,16 @@ enum class PropType { Text = 0, Integer = 1, Double = 2 };
  *  a double under an integer property arrives only when its text is that of a whole number, and is 0 there otherwise. */
 struct PropertyText
 {
-    const std::wstring &name;
-    PropType type;
-    bool flag; ///< the host's own
-    QString value;
+    const std::wstring &name; ///< of the property; lives longer
+    PropType type;            ///< how the host is given the value
+    bool flag;                ///< the host's own
+    QString value;            ///< empty: nothing is written
 
+    /** As it is. */
     static QString textOf(const QString &value) { return value; }
+    /** Decimal. */
     static QString textOf(int value) { return QString::number(value); }
+    /** Six significant digits. */
     static QString textOf(double value)
     {
         QString text;

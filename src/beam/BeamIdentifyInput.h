@@ -8,7 +8,8 @@
 class IHBXModel;
 class IHBXService;
 
-/** Reading of what the recognition of beams is told of the current floor. Nothing in the host is changed. What the host
+/** @file
+ *  Reading of what the recognition of beams is told of the current floor. Nothing in the host is changed. What the host
  *  throws passes through, and nothing is leaked then. */
 
 /** A new model of the host's current floor, to be given back with freeBeamIdentifyInputModel: floor data, layer names, beam

@@ -7,6 +7,7 @@
 
 class IHBXElementDrawObj;
 
+/** Beams and what they rest on. */
 namespace beam {
 
 /** Reads one placed object of a host as a seat; null for one that no beam can rest on: without an outline in the world,

@@ -19,6 +19,7 @@ class IHBXService;
  *  @return always false, also after complete success */
 ORVCADMODELDATA_EXPORT bool jsonDoorWin2HBX(IHBXService *service, const QJsonObject &reply);
 
+/** The steps of writing openings that others take, too. */
 namespace doorwindow {
 
 /** Sub-type that an element of a type is made with: fixed for 4, 5 and 7, for others the one that the reply names. */

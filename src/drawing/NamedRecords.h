@@ -20,9 +20,12 @@ namespace drawing {
 template <typename Record, const QString &(Record::*Name)() const> class NamedRecords
 {
 public:
+    /** May be changed, null records included. */
     QList<Record *> &list() { return m_records; }
+    /** The same, to be read. */
     const QList<Record *> &list() const { return m_records; }
 
+    /** The index goes along. Null is kept and never found. */
     void append(Record *record)
     {
         const bool indexed = isIndexed();
@@ -114,9 +117,11 @@ namespace encoding {
 /** Array of the records, like that of a plain list of pointers. */
 template <typename Record, const QString &(Record::*Name)() const> struct ValueKind<drawing::NamedRecords<Record, Name>>
 {
-    using Records = drawing::NamedRecords<Record, Name>;
+    using Records = drawing::NamedRecords<Record, Name>; ///< of the field
 
+    /** Each by its toJson; null records are not written. */
     static QJsonValue toValue(const Records &records) { return ValueKind<QList<Record *>>::toValue(records.list()); }
+    /** New records, which belong to whoever has the list; the fallback for what is no array. */
     static Records fromValue(const QJsonValue &json, const Records &fallback)
     {
         if (!json.isArray())

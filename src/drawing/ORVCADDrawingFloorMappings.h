@@ -20,6 +20,7 @@
 class ORVCADMODELDATA_EXPORT ORVCADDrawingFloorMappings
 {
 public:
+    /** Without records. */
     ORVCADDrawingFloorMappings();
     ~ORVCADDrawingFloorMappings() = default;
     ORVCADDrawingFloorMappings(const ORVCADDrawingFloorMappings &) = default;

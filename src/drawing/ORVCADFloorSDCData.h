@@ -80,6 +80,7 @@ public:
         std::vector<ConcreteAnchorJoint> ConcreteAnchorJoints; ///< settings; written where there are some
     };
 
+    /** Holds no floors: they go through the calls. */
     ORVCADFloorSDCData();
 
     /** The document: one member, "FloorSDCData", the array of floors. A field without a value is not written; "Region"

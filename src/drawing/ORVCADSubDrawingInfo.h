@@ -24,4 +24,5 @@ inline bool operator==(const ORVCADSubDrawingInfo &a, const ORVCADSubDrawingInfo
 {
     return a.number == b.number && a.drawingPath == b.drawingPath && a.secondText == b.secondText;
 }
+/** Likewise without the extent. */
 inline bool operator!=(const ORVCADSubDrawingInfo &a, const ORVCADSubDrawingInfo &b) { return !(a == b); }

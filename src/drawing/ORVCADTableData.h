@@ -7,10 +7,10 @@
 
 #include <array>
 
-/** Types of tables found on drawings. */
-constexpr int kFloorTable = 0;
-constexpr int kColumnTable = 1;
-constexpr int kUnknownTable = 10000;
+// Types of tables found on drawings.
+constexpr int kFloorTable = 0;       ///< "楼层表"
+constexpr int kColumnTable = 1;      ///< "柱表"
+constexpr int kUnknownTable = 10000; ///< any other text
 
 /** One row of a table. */
 struct ORVCADTableRowData

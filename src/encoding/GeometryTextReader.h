@@ -19,20 +19,21 @@
 class ORVCADMODELDATA_EXPORT GeometryTextReader
 {
 public:
-    using Curve = vks::CRefPtr<vks::CCurve2d>;
-    using Polygon = vks::CRefPtr<vks::CPolygon>;
+    using Curve = vks::CRefPtr<vks::CCurve2d>;   ///< of a line, circle or arc; null for bad text
+    using Polygon = vks::CRefPtr<vks::CPolygon>; ///< of a text in any form
 
     /** One vertex of a polygon text: where an edge starts, mm, and how it goes on to the next vertex. */
     struct Vertex
     {
-        double x = 0.0;
-        double y = 0.0;
-        double bulge = 0.0;
+        double x = 0.0;     ///< mm
+        double y = 0.0;     ///< mm
+        double bulge = 0.0; ///< tangent of a quarter of the swept angle, above 0 counter-clockwise; 0 is straight
         bool isArc = false; ///< a third number was there, also when it is 0
     };
 
     /** Line, Circle or Arc text; the number of parts between commas (4, 3, 5) tells which. */
     static bool reconstructCurve(QStringView text, Curve &curve);
+    /** The same for a text that owns its characters. */
     static bool reconstructCurve(const QString &text, Curve &curve)
     {
         return reconstructCurve(QStringView(text), curve);

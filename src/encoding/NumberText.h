@@ -32,6 +32,7 @@ ORVCADMODELDATA_EXPORT void appendInteger(QString &text, qint64 value);
 /** Reads an integer of base 10 as QString::toInt and QString::toLongLong do; 0 for what is none or does not fit. White
  *  space around and a leading plus pass. */
 ORVCADMODELDATA_EXPORT int readInt(QStringView text);
+/** The same for 64 bits. */
 ORVCADMODELDATA_EXPORT qint64 readLongLong(QStringView text);
 
 } // namespace encoding

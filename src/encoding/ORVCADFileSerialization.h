@@ -17,6 +17,7 @@
 class ORVCADMODELDATA_EXPORT ORVCADFileSerialization : public QObject // without a meta-object of its own
 {
 public:
+    /** The text to be read; the empty one where an archive is written. */
     explicit ORVCADFileSerialization(const QString &text);
     ~ORVCADFileSerialization() override;
 
@@ -37,8 +38,9 @@ public:
     /** Turns what was written into the content. Here the text becomes the content; the concrete classes ignore it. */
     virtual void save(const QString &text);
 
+    /** What the constructor was told, until save() puts the written text in its place. */
     QString content() const { return m_content; }
 
 protected:
-    QString m_content;
+    QString m_content; ///< read by parse(), replaced by save()
 };

@@ -20,6 +20,7 @@
 class ORVCADMODELDATA_EXPORT ORVCADJsonCGeometryObjOper
 {
 public:
+    /** Each object does the same. */
     ORVCADJsonCGeometryObjOper();
     ~ORVCADJsonCGeometryObjOper();
     ORVCADJsonCGeometryObjOper(const ORVCADJsonCGeometryObjOper &) = delete;
@@ -42,6 +43,7 @@ public:
 
     /** Point of a text; (0, 0) when it is bad. White space around the numbers passes, unlike in curves. */
     vks::CVec2<double> getVector2dInfo(const QString &text) const;
+    /** Text of a point, "x,y". */
     QString getVector2dInfo(const vks::CVec2<double> &point) const;
     /** Always true. */
     bool getVector2dInfo(const vks::CVec2<double> &point, QString &text) const;
@@ -50,6 +52,7 @@ public:
 
     /** Points of a text; none when one of them is bad. The last semicolon may be missing. */
     std::vector<vks::CVec2<double>> getVector2dsInfo(const QString &text) const;
+    /** Text of points, "x,y;" for each; empty for none. */
     QString getVector2dsInfo(const std::vector<vks::CVec2<double>> &points) const;
     /** Empties the text first. @return whether there was a point to write */
     bool getVector2dsInfo(const std::vector<vks::CVec2<double>> &points, QString &text) const;

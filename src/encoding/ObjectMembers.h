@@ -24,6 +24,7 @@ public:
      *  never trusted. */
     template <std::size_t count> using Places = std::array<int, count>;
 
+    /** @param places  of the keys in the order in which they will be sought; renewed as they are */
     template <std::size_t count>
     ObjectMembers(const QJsonObject &object, Places<count> &places)
         : m_object(object), m_size(object.size()), m_next(places.data()), m_end(places.data() + count)
@@ -31,6 +32,7 @@ public:
 
     /** Undefined for a key that the object lacks. */
     QJsonValue value(QLatin1String key) const;
+    /** Also true where the value is null. Counts as one look, as value() does. */
     bool contains(QLatin1String key) const;
 
 private:

@@ -40,16 +40,21 @@ enum class Flow { Both, ReadOnly, WriteOnly };
  *  already is a struct of its own, named in fieldAs. */
 template <typename T, typename = void> struct ValueKind;
 
+/** Text as it is; a number is none. */
 template <> struct ValueKind<QString>
 {
+    /** The null text becomes the empty one. */
     static QJsonValue toValue(const QString &value) { return value; }
+    /** The fallback for whatever is no text. */
     static QString fromValue(const QJsonValue &json, const QString &fallback) { return json.toString(fallback); }
 };
 
 /** A number that is not whole or does not fit into 32 bits counts as mistyped. */
 template <> struct ValueKind<int>
 {
+    /** Exact in memory and in text. */
     static QJsonValue toValue(int value) { return value; }
+    /** The fallback for a text of digits, too. */
     static int fromValue(const QJsonValue &json, int fallback) { return json.toInt(fallback); }
 };
 
@@ -57,7 +62,9 @@ template <> struct ValueKind<int>
  *  A number that is not whole is rounded, one beyond 64 bits counts as mistyped. */
 template <> struct ValueKind<qint64>
 {
+    /** Exact up to 53 bits. */
     static QJsonValue toValue(qint64 value) { return value; }
+    /** The fallback for a text of digits, too. */
     static qint64 fromValue(const QJsonValue &json, qint64 fallback)
     {
         constexpr double firstBeyond = 9223372036854775808.0; // 2 to the 63rd
@@ -75,13 +82,18 @@ template <> struct ValueKind<qint64>
 /** A number that is not finite is written as null, as JSON knows no other way, and so reads as mistyped. */
 template <> struct ValueKind<double>
 {
+    /** As it is: only text makes null of what is not finite. */
     static QJsonValue toValue(double value) { return value; }
+    /** Any number; the fallback for null. */
     static double fromValue(const QJsonValue &json, double fallback) { return json.toDouble(fallback); }
 };
 
+/** true and false alone: 0 and 1 are numbers. */
 template <> struct ValueKind<bool>
 {
+    /** Never 0 or 1. */
     static QJsonValue toValue(bool value) { return value; }
+    /** The fallback for a number. */
     static bool fromValue(const QJsonValue &json, bool fallback) { return json.toBool(fallback); }
 };
 
@@ -89,7 +101,9 @@ template <> struct ValueKind<bool>
 template <typename T>
 struct ValueKind<T, std::void_t<decltype(std::declval<const T &>().toJson()), decltype(T::fromJson(QJsonObject()))>>
 {
+    /** An object, if only an empty one. */
     static QJsonValue toValue(const T &value) { return value.toJson(); }
+    /** A record of its own, not the fallback with changes. */
     static T fromValue(const QJsonValue &json, const T &fallback)
     {
         return json.isObject() ? T::fromJson(json.toObject()) : fallback;
@@ -99,6 +113,7 @@ struct ValueKind<T, std::void_t<decltype(std::declval<const T &>().toJson()), de
 /** Array of the elements in list order. */
 template <typename T> struct ValueKind<QList<T>>
 {
+    /** Each by the kind of its type. */
     static QJsonValue toValue(const QList<T> &values)
     {
         QJsonArray array;
@@ -123,6 +138,7 @@ template <typename T> struct ValueKind<QList<T>>
 /** Array of records that the list's owner deletes; null pointers are not written. */
 template <typename T> struct ValueKind<QList<T *>>
 {
+    /** Each by its toJson. */
     static QJsonValue toValue(const QList<T *> &records)
     {
         QJsonArray array;
@@ -146,15 +162,21 @@ template <typename T> struct ValueKind<QList<T *>>
     }
 };
 
+/** What a missing or mistyped key leads to. */
 namespace detail {
 
+/** The field stays as it is. */
 struct KeepPresent
 {};
+/** The field becomes 0, false, empty or null. */
 struct UseZero
 {};
 
+/** The value that the field has. */
 template <typename T> const T &fallbackOf(KeepPresent, const T &present) { return present; }
+/** T(), whatever the field has. */
 template <typename T> T fallbackOf(UseZero, const T &) { return T(); }
+/** The value that the row tells. */
 template <typename T, typename Given> T fallbackOf(const Given &given, const T &) { return T(given); }
 
 } // namespace detail
@@ -162,14 +184,14 @@ template <typename T, typename Given> T fallbackOf(const Given &given, const T &
 /** One row of a table. */
 template <typename Kind, typename Record, typename T, typename Fallback> struct FieldRow
 {
-    using Value = T;
-    using KindOfValue = Kind;
+    using Value = T;          ///< of the field
+    using KindOfValue = Kind; ///< how it becomes a JSON value
 
-    QLatin1String key;
-    T Record::*member;
-    Fallback fallback;
-    Flow flow;
-    bool required;
+    QLatin1String key; ///< under which it stands in the object
+    T Record::*member; ///< where it stands in the record
+    Fallback fallback; ///< for a missing or mistyped key: KeepPresent, UseZero or the value itself
+    Flow flow;         ///< looked at by those who walk the table, not by the row
+    bool required;     ///< whether a missing key ends the reading
 
     /** False only when the key is required and missing; the record is untouched then.
      *  @tparam Members  QJsonObject or ObjectMembers */
@@ -182,6 +204,7 @@ template <typename Kind, typename Record, typename T, typename Fallback> struct 
         present = Kind::fromValue(value, detail::fallbackOf(fallback, std::as_const(present)));
         return true;
     }
+    /** Takes the place of what stands under the key; an undefined value takes the key away. */
     template <typename Source> void write(const Source &record, QJsonObject &json) const
     {
         json.insert(key, Kind::toValue(record.*member));

@@ -26,19 +26,25 @@ public:
     Any(T &&value) // NOLINT(bugprone-forwarding-reference-overload): the condition leaves out Any itself
         : m_held(new Derived<Held>(std::forward<T>(value))), m_type(&typeid(Held))
     {}
+    /** Copies the held value. */
     Any(const Any &other);
     /** Leaves the other holding nothing. */
     Any(Any &&other) noexcept;
+    /** The value that was held dies. */
     Any &operator=(Any other) noexcept;
     ~Any();
 
+    /** True of what was moved from; a null pointer is a value. */
     bool isEmpty() const { return !m_held; }
+    /** Of the held value as std::decay makes it; that of void where nothing is held. */
     const std::type_info &type() const { return *m_type; }
+    /** Whether the held type is exactly T: neither a base nor a type that converts counts. */
     template <typename T> bool holds() const { return *m_type == typeid(T); }
 
     /** The held value, for which the type has to be exactly T. Otherwise writes "can not cast <T> from <held type>" to
      *  standard output, types by their std::type_info names, and throws a std::bad_cast that says "bad cast". */
     template <typename T> T &cast();
+    /** The same, to be read. */
     template <typename T> const T &cast() const;
 
     /** The held value converted; a T itself always, else:
@@ -69,7 +75,9 @@ public:
     {
     public:
         virtual ~Base();
+        /** A copy made with new, which belongs to the caller. */
         virtual Base *clone() const = 0;
+        /** As Any::text gives it. */
         virtual std::string text() const = 0;
 
     protected:
@@ -89,10 +97,13 @@ private:
     const std::type_info *m_type = &typeid(void);
 };
 
+/** Holds a value of one type, which is a decayed one. */
 template <typename T> class Any::Derived : public Any::Base
 {
 public:
+    /** Copies the value. */
     explicit Derived(const T &value) : held(value) {}
+    /** Takes the value. */
     explicit Derived(T &&value) : held(std::move(value)) {}
 
     Base *clone() const override { return new Derived(held); }
@@ -110,7 +121,7 @@ public:
             return {};
     }
 
-    T held;
+    T held; ///< what Any::cast refers to
 };
 
 template <typename T> const T &Any::cast() const

@@ -8,6 +8,7 @@
 /** Told to a node, and then to those above it, when its children change. */
 struct Event
 {
+    /** What happens to the children. Nothing sends 4 and 5. */
     enum Type {
         ChildAboutToBeAdded = 0,   ///< a ChildEvent, as are the next three
         ChildAdded = 1,            ///< the child stands in the list and knows its parent
@@ -17,6 +18,7 @@ struct Event
         ChildrenChanged = 7        ///< after them
     };
 
+    /** Any number goes: what is none of Type means what its sender says. */
     explicit Event(int eventType) : type(eventType) {}
     virtual ~Event() = default;
 
@@ -34,9 +36,12 @@ enum FindChildOption {
 template <typename T> class Embedded
 {
 public:
+    /** Null until one is told. */
     explicit Embedded(const T &data = T()) : m_data(data) {}
 
+    /** Null for a node that was told none. */
     const T &data() const { return m_data; }
+    /** Searches go by the new payload from now on; no event tells. */
     void setData(const T &data) { m_data = data; }
 
 private:
@@ -54,7 +59,9 @@ public:
     /** Leaves the parent, with events there whose payload is an address only: the object behind it is gone. */
     virtual ~ChildNode() { detach(); }
 
+    /** Null for a root. */
     Tree *parentNode() const { return m_parent; }
+    /** False for a root. */
     bool hasParent() const { return m_parent != nullptr; }
     /** Payload of the parent, null for a root. */
     T parent() const { return m_parent ? m_parent->data() : T(); }

@@ -28,9 +28,11 @@ protected:
     Hook() = default;
 };
 
+/** The node in the second tree, which carries itself as its payload. */
 template <typename Owner> class Hook<Owner>::Adapter : public My<std::nullptr_t, Hook<Owner> *>, public Hook<Owner>
 {
 public:
+    /** A root of a tree of its own. */
     Adapter() { this->setData(this); }
 
     /** The object that this is the second side of. */
@@ -47,14 +49,18 @@ namespace cv {
 class ORVCADMODELDATA_EXPORT DataObject : public Object_AI, public gp::Hook<DataObject>::Adapter
 {
 public:
+    /** Stands under the parent in the tree of objects, which then owns it; in the tree of hooks it is a root. */
     explicit DataObject(Object_AI *parent = nullptr);
+    /** The same with a name. */
     explicit DataObject(const QString &name, Object_AI *parent = nullptr);
     ~DataObject() override;
 
     DataObject(const DataObject &) = delete;
     DataObject &operator=(const DataObject &) = delete;
 
+    /** Its side in the tree of objects. */
     Object_AI &object() { return *this; }
+    /** Its side in the tree of hooks. */
     gp::Hook<DataObject>::Adapter &hook() { return *this; }
 
     /** First DataObject of that name in the subtree, direct children before deeper ones; null if there is none. */

@@ -17,6 +17,7 @@ class Log_AI;
 extern template class ORVCADMODELDATA_EXPORT gp::TreeNode<cv::Object_AI *, 0>;
 extern template class ORVCADMODELDATA_EXPORT gp::Object_AI<cv::Object_AI *, QString, Any>;
 
+/** The object system as the slab model has it. */
 namespace cv {
 
 /** Third layer of the object system: an object that keeps a diary. Base of the classes of the slab model.
@@ -32,7 +33,9 @@ class ORVCADMODELDATA_EXPORT Object_AI : public gp::Object_AI<Object_AI *, QStri
 public:
     /** With a parent the object becomes its last child and belongs to it; without one it belongs to the caller. */
     explicit Object_AI(Object_AI *parent = nullptr);
+    /** The same with a name, by which findChild finds it. */
     explicit Object_AI(const QString &name, Object_AI *parent = nullptr);
+    /** The same with a name in UTF-8. */
     Object_AI(const char *name, Object_AI *parent);
     /** Copies name and properties into a root without methods and callback; a bound property stays bound to the same. */
     Object_AI(const Object_AI &other);

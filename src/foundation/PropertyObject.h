@@ -33,15 +33,20 @@ template <typename Data, typename Name, typename Value> class Object_AI : public
     using Tree = TreeNode<Data, 0>;
 
 public:
+    /** What reading a bound property calls. */
     using Getter = std::function<Value()>;
+    /** What writing a bound property calls, with what is written. */
     using Setter = std::function<void(Value)>;
+    /** A named method: nine arguments, of which those left out are empty values. */
     using Method = std::function<Value(Value, Value, Value, Value, Value, Value, Value, Value, Value)>;
+    /** Whether an object is one that is sought; it is never asked about null. */
     using Predicate = std::function<bool(Object_AI *)>;
 
+    /** A property as it reads. */
     struct property_t
     {
-        Name name;
-        Value value;
+        Name name;   ///< by which it is read and written
+        Value value; ///< what property() gives
     };
 
     /** A named property of an object, whether it is there or not: it is written by assignment and read by conversion.
@@ -49,16 +54,21 @@ public:
     class PropertyAssistant : public AnySource
     {
     public:
+        /** The object is not owned. */
         PropertyAssistant(Object_AI *owner, const Name &name) : m_owner(owner), m_name(name) {}
         PropertyAssistant(const PropertyAssistant &) = default;
         ~PropertyAssistant() = default;
 
+        /** Writes the property, making it if need be. */
         PropertyAssistant &operator=(const Value &value);
         /** Copies the value of the other property. */
         PropertyAssistant &operator=(const PropertyAssistant &other); // NOLINT(bugprone-unhandled-self-assignment)
 
+        /** What the property reads as; an empty value where there is none. */
         operator Value() const { return m_owner->property(m_name); }
+        /** The same, converted as the value converts itself. */
         template <typename T> T to() const { return Value(*this).template to<T>(); }
+        /** The same, of exactly that type; throws what the value throws for another. */
         template <typename T> T cast() const { return Value(*this).template cast<T>(); }
 
     private:
@@ -69,6 +79,7 @@ public:
     /** @param data    the object that this node is part of
      *  @param parent  appends the new object to its children; the tree owns it then. Null makes a root */
     explicit Object_AI(const Data &data, Object_AI *parent = nullptr) : Object_AI(Name(), data, parent) {}
+    /** The same with a name. */
     Object_AI(const Name &name, const Data &data, Object_AI *parent = nullptr);
     /** Copies name and properties, but neither methods, callback, parent nor children. A bound property of the copy is
      *  bound to what the other's is bound to. */
@@ -84,7 +95,9 @@ public:
      *  happens for an object that stands in this one, or is it. */
     Object_AI &operator=(Object_AI &&other); // NOLINT(*-noexcept-move-*,*-exception-escape): handlers may throw
 
+    /** Empty at first; siblings may have the same. */
     const Name &objectName() const { return m_name; }
+    /** No event tells. */
     void setObjectName(const Name &name) { m_name = name; }
 
     // ---- Properties
@@ -97,21 +110,27 @@ public:
     Value property(const Name &name, const Value &defaultValue = Value()) const;
     /** The same from this object or the nearest one above it that has the property. */
     Value inherited_property(const Name &name, const Value &defaultValue = Value()) const;
+    /** Whether it is there on this object, stored or bound. */
     bool hasProperty(const Name &name) const { return boundProperties().count(name) != 0; }
+    /** Takes away value and binding; a field that it was bound to stays as it is. */
     void deleteProperty(const Name &name) { boundProperties().erase(name); }
     /** In the order of names, as properties() is. */
     std::vector<Name> propertyNames() const;
+    /** Each as it reads, so every getter is called. */
     std::vector<property_t> properties() const;
 
+    /** The property, to be read or written; naming one makes none. */
     PropertyAssistant operator[](const Name &name) { return {this, name}; }
     /** Not to be assigned to; copies of it should be const too. */
     const PropertyAssistant operator[](const Name &name) const; // NOLINT(readability-const-return-type)
     /** The child at a position; twice, as a position 0 would be a name else. */
     Data operator[](qint64 position) { return this->child(position); }
+    /** The same. */
     Data operator[](qint64 position) const { return this->child(position); }
 
     // ---- Methods
 
+    /** Takes the place of a method of that name; an empty one gives empty values. */
     void setMethod(const Name &name, const Method &method) { m_methods[name] = method; }
     /** Calls a copy of the method, so that it may replace itself. Arguments left out are empty values. */
     Value invokeMethod(const Name &name, const Value &a1 = Value(), const Value &a2 = Value(),
@@ -129,14 +148,19 @@ public:
     // ---- Searches, in the order of the tree's; each gives the data of what it finds, null or nothing otherwise.
 
     using Tree::findChild;
+    /** First object of that name. */
     Data findChild(const Name &name, FindChildOption option = FindDirectChildren) const;
+    /** First object that the predicate holds for. */
     Data findChild_if(const Predicate &predicate, FindChildOption option = FindDirectChildren) const;
+    /** All objects of that name. */
     std::vector<Data> findChildren(const Name &name, FindChildOption option = FindDirectChildren) const;
+    /** All objects that the predicate holds for. */
     std::vector<Data> findChildren_if(const Predicate &predicate, FindChildOption option = FindDirectChildren) const;
     /** The child of that name, or a new one. Null only for an object without data. */
     Data createIfNotExists(const Name &name, FindChildOption option = FindDirectChildren);
 
 protected:
+    /** Binds all properties of the object that it is called with. */
     using Binder = void (*)(Object_AI &);
 
     /** Leaves the binding of properties to a function that is called at the first question for any of them, so that an

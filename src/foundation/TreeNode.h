@@ -34,30 +34,30 @@ namespace gp {
 template <typename T, int Index = 0> class TreeNode : public ChildNode<TreeNode<T, Index>, T>
 {
 public:
-    using ChildNode = gp::ChildNode<TreeNode, T>;
-    /** On a node. */
-    using Predicate = std::function<bool(ChildNode *)>;
+    using ChildNode = gp::ChildNode<TreeNode, T>;       ///< a node as its parent knows it
+    using Predicate = std::function<bool(ChildNode *)>; ///< whether a node is one that is sought
 
     /** The events 0 to 3. */
     struct ChildEvent : Event
     {
+        /** Nothing checks that the number is one of those. */
         ChildEvent(int eventType, const T &childData) : Event(eventType), child(childData) {}
         T child; ///< payload of the child that comes or goes
     };
 
-    explicit TreeNode(const T &data = T()) : ChildNode(data) {}
+    explicit TreeNode(const T &data = T()) : ChildNode(data) {} ///< a root without children
     /** Deletes what stands below, without recursion, and leaves the parent. */
     ~TreeNode() override;
 
     // ---- Children. Where nothing else is said, positions are not checked.
 
-    quint64 childCount() const { return m_children.size(); }
-    const std::vector<ChildNode *> &childNodes() const { return m_children; }
-    T child(qint64 position) const { return node(position)->data(); }
-    T operator[](qint64 position) const { return child(position); }
+    quint64 childCount() const { return m_children.size(); }                  ///< direct ones alone
+    const std::vector<ChildNode *> &childNodes() const { return m_children; } ///< in order; changes as they do
+    T child(qint64 position) const { return node(position)->data(); }         ///< payload of a direct child, from 0
+    T operator[](qint64 position) const { return child(position); }           ///< the same
+    /** The direct child itself, which this node goes on owning. */
     ChildNode *node(qint64 position) const { return m_children[static_cast<std::size_t>(position)]; }
-    /** Position of the first direct child with this payload, -1 if there is none. */
-    qint64 indexOf(const T &data) const;
+    qint64 indexOf(const T &data) const; ///< of the first direct child with this payload, -1 if there is none
     /** Whether a direct child has this payload. */
     virtual bool contains(const T &data) const { return indexOf(data) >= 0; }
 
@@ -71,10 +71,13 @@ public:
 
     /** First payload that matches, null if none does. */
     T findChild(const T &data, FindChildOption option = FindDirectChildren) const;
+    /** The same for a predicate. */
     T findChild_if(const Predicate &predicate, FindChildOption option = FindDirectChildren) const;
+    /** All payloads that match, in the order of the search. */
     std::vector<T> findChildren_if(const Predicate &predicate, FindChildOption option = FindDirectChildren) const;
     /** The same for nodes with a payload. */
     ChildNode *find_child_node_from_data(const T &data, FindChildOption option = FindDirectChildren) const;
+    /** All of them, in the order of the search. */
     std::vector<ChildNode *> find_childs_node_from_data(const T &data,
                                                         FindChildOption option = FindDirectChildren) const;
 
@@ -85,14 +88,16 @@ public:
 
     /** Inserts where findInsertPos says. @return that position, -1 if nothing was inserted */
     qint64 insertChild(const T &data) { return insertChild(nodeOf(data)); }
-    virtual qint64 insertChild(ChildNode *child);
+    virtual qint64 insertChild(ChildNode *child); ///< the same with a node
     /** Inserts at a position up to childCount(), which appends; false beyond. For one that is a child of this node
      *  already nothing is sent: it changes places with the child at that position, or goes to the end for childCount();
      *  false where it stands there already. */
     bool insertChild(std::size_t position, const T &data) { return insertChild(position, nodeOf(data)); }
-    virtual bool insertChild(std::size_t position, ChildNode *child);
+    virtual bool insertChild(std::size_t position, ChildNode *child); ///< the same; all insertion ends here
+    /** Inserts at the end, whatever findInsertPos says; false where the child stands there already. */
     bool appendChild(const T &data) { return appendChild(nodeOf(data)); }
-    bool appendChild(ChildNode *child) { return insertChild(m_children.size(), child); }
+    bool appendChild(ChildNode *child) { return insertChild(m_children.size(), child); } ///< the same with a node
+    /** Appends; nothing tells of a refusal. */
     TreeNode &operator<<(const T &data)
     {
         appendChild(data);
@@ -109,14 +114,12 @@ public:
     bool removeChild(const T &data, FindChildOption option);
     /** Deletes every node with this payload, and with it what stands under it. */
     void removeChildren(const T &data, FindChildOption option);
-    /** Deletes every child without events. */
-    void clearChildNodes();
+    void clearChildNodes(); ///< deletes every child without events
 
     // ---- Place in the tree
 
-    /** Topmost node; the node itself for a root. */
-    TreeNode *rootNode() const;
-    T root() const { return rootNode()->data(); }
+    TreeNode *rootNode() const;                   ///< topmost node; the node itself for a root
+    T root() const { return rootNode()->data(); } ///< its payload
     /** Goes to the end of another parent; null makes a root, which belongs to the caller. Nothing happens for the present
      *  parent, and for a place at or below the node itself. */
     void setParent(const T &parent);
@@ -145,7 +148,7 @@ protected:
         Event event(type);
         propagate_event(&event);
     }
-    void send_child_event(int type, const T &child);
+    void send_child_event(int type, const T &child); ///< the same with the child that the event is about
     /** Hands an event to this node and upwards, until a handler stops it. */
     void propagate_event(Event *event);
 

@@ -20,6 +20,6 @@ struct AxisGridHalf
 /** What an axis net consists of. Nothing sets the direction of gridV by itself: who fills it does. */
 struct AxisGrid_Sample
 {
-    AxisGridHalf gridU;
-    AxisGridHalf gridV;
+    AxisGridHalf gridU; ///< direction 0
+    AxisGridHalf gridV; ///< direction 1, once it is set
 };

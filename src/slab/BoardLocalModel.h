@@ -72,19 +72,19 @@ public:
 
     /** All elements. */
     std::vector<const Object *> objects() const;
-    std::vector<const Beam *> beams() const;
-    std::vector<const Wall *> walls() const;
-    std::vector<const Column *> columns() const;
-    std::vector<const Board *> boards() const;
-    std::vector<const BoardHole *> boardHoles() const;
-    std::vector<const Raft *> rafts() const;
-    std::vector<const ForcedBar *> forcedBars() const;
-    std::vector<const StraddleForcedBar *> straddleForcedBars() const;
-    std::vector<const NegativeForcedBar *> negativeForcedBars() const;
-    std::vector<const RaftMainForcedBar *> raftMainForcedBars() const;
-    std::vector<const RaftMainStraddleForcedBar *> raftMainStraddleForcedBars() const;
-    std::vector<const RaftNegativeForcedBar *> raftNegativeForcedBars() const;
-    std::vector<const AxisNet *> axisNet() const;
+    std::vector<const Beam *> beams() const;                                           ///< of floors and of foundations
+    std::vector<const Wall *> walls() const;                                           ///< those that slabs rest on
+    std::vector<const Column *> columns() const;                                       ///< whatever kind text gave them
+    std::vector<const Board *> boards() const;                                         ///< slabs, without rafts
+    std::vector<const BoardHole *> boardHoles() const;                                 ///< of slabs and of rafts
+    std::vector<const Raft *> rafts() const;                                           ///< raft foundations
+    std::vector<const ForcedBar *> forcedBars() const;                                 ///< each in one slab
+    std::vector<const StraddleForcedBar *> straddleForcedBars() const;                 ///< each across several slabs
+    std::vector<const NegativeForcedBar *> negativeForcedBars() const;                 ///< top bars of slabs
+    std::vector<const RaftMainForcedBar *> raftMainForcedBars() const;                 ///< each in one raft
+    std::vector<const RaftMainStraddleForcedBar *> raftMainStraddleForcedBars() const; ///< each across several rafts
+    std::vector<const RaftNegativeForcedBar *> raftNegativeForcedBars() const;         ///< top bars of rafts
+    std::vector<const AxisNet *> axisNet() const;                                      ///< a floor may have several
 
     /** Those of objects() whose type() has a bit in common with the mask, an OR of Object::Types. A column whose kind was
      *  overwritten by text is found under the kind that it got. */

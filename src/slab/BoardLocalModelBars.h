@@ -14,21 +14,21 @@
 class ORVCADMODELDATA_EXPORT ORVCADBoardLocalModel_Sample::AbstractForcedBar : public SectionObject
 {
 public:
-    AbstractForcedBar(AbstractForcedBar &&other);
+    AbstractForcedBar(AbstractForcedBar &&other); ///< takes fields, children and place of the other
     ~AbstractForcedBar() override;
 
     Shape shape() const override;
 
     vks::CVec2<double> direction; ///< in which the bars run
-    QString barInfo;
-    qint32 rowNumber = 0; ///< place in the group of bars that lie in the same slabs, from 0
-    qint32 leftHookLength = 0;
-    qint32 rightHookLength = 0;
-    bool refPointValid = false;
-    vks::CVec2<double> refPoint; ///< where the label refers to; counts only if refPointValid
+    QString barInfo;              ///< bar text, such as C8@200
+    qint32 rowNumber = 0;         ///< place in the group of bars that lie in the same slabs, from 0
+    qint32 leftHookLength = 0;    ///< hook at the left end, mm
+    qint32 rightHookLength = 0;   ///< hook at the right end, mm
+    bool refPointValid = false;   ///< whether the label refers to a point
+    vks::CVec2<double> refPoint;  ///< where the label refers to; counts only if refPointValid
 
 protected:
-    AbstractForcedBar(Types kind, cv::Object_AI *parent);
+    AbstractForcedBar(Types kind, cv::Object_AI *parent); ///< called by the classes of each kind
 
 private:
     void bindProperties() override;
@@ -38,8 +38,8 @@ private:
 class ORVCADMODELDATA_EXPORT ORVCADBoardLocalModel_Sample::ForcedBar final : public AbstractForcedBar
 {
 public:
-    explicit ForcedBar(cv::Object_AI *parent = nullptr);
-    ForcedBar(ForcedBar &&other);
+    explicit ForcedBar(cv::Object_AI *parent = nullptr); ///< owned by the parent, if there is one
+    ForcedBar(ForcedBar &&other);                        ///< takes fields, children and place of the other
     ~ForcedBar() override;
 
     Shape shape() const override;
@@ -52,16 +52,16 @@ public:
 class ORVCADMODELDATA_EXPORT ORVCADBoardLocalModel_Sample::StraddleForcedBar final : public AbstractForcedBar
 {
 public:
-    explicit StraddleForcedBar(cv::Object_AI *parent = nullptr);
-    StraddleForcedBar(StraddleForcedBar &&other);
+    explicit StraddleForcedBar(cv::Object_AI *parent = nullptr); ///< owned by the parent, if there is one
+    StraddleForcedBar(StraddleForcedBar &&other);                ///< takes fields, children and place of the other
     ~StraddleForcedBar() override;
 
     std::vector<vks::CRefPtr<vks::CPolygon>> supportPolys; ///< outlines of the slabs
-    qint32 labelPosition = 2;
-    double leftStretchLength = 0.0;
-    double rightStretchLength = 0.0;
-    QString distributeBarInfo;
-    QString saddleBarlineCount;
+    qint32 labelPosition = 2;                              ///< where the label stands; text without it reads 0
+    double leftStretchLength = 0.0;                        ///< stretch to the left, mm: the host's "LeftLabel"
+    double rightStretchLength = 0.0;                       ///< stretch to the right, mm: the host's "RightLabel"
+    QString distributeBarInfo;                             ///< bar text of the distribution bars
+    QString saddleBarlineCount;                            ///< number of distribution bars
 };
 
 /** Top bars of a slab, over a support.
@@ -69,23 +69,23 @@ public:
 class ORVCADMODELDATA_EXPORT ORVCADBoardLocalModel_Sample::NegativeForcedBar final : public LineObject
 {
 public:
-    explicit NegativeForcedBar(cv::Object_AI *parent = nullptr);
-    NegativeForcedBar(NegativeForcedBar &&other);
+    explicit NegativeForcedBar(cv::Object_AI *parent = nullptr); ///< owned by the parent, if there is one
+    NegativeForcedBar(NegativeForcedBar &&other);                ///< takes fields, children and place of the other
     ~NegativeForcedBar() override;
 
     Shape shape() const override;
 
-    QString barInfo;
-    QString distributeBarInfo;
-    QString saddleBarlineCount;
-    qint32 labelPosition = 2;
-    double leftStretchLength = 0.0;
-    double rightStretchLength = 0.0;
-    qint32 leftHookLength = 0;
-    qint32 rightHookLength = 0;
-    qint32 rowNumber = 0; ///< place in the group of bars on the same line, from 0
-    bool refPointValid = false;
-    vks::CVec2<double> refPoint; ///< where the label refers to; counts only if refPointValid
+    QString barInfo;                 ///< bar text, such as C8@200
+    QString distributeBarInfo;       ///< bar text of the distribution bars
+    QString saddleBarlineCount;      ///< number of distribution bars
+    qint32 labelPosition = 2;        ///< where the label stands; text without it reads 0
+    double leftStretchLength = 0.0;  ///< stretch to the left, mm: the host's "LeftLabel"
+    double rightStretchLength = 0.0; ///< stretch to the right, mm: the host's "RightLabel"
+    qint32 leftHookLength = 0;       ///< hook at the left end, mm
+    qint32 rightHookLength = 0;      ///< hook at the right end, mm
+    qint32 rowNumber = 0;            ///< place in the group of bars on the same line, from 0
+    bool refPointValid = false;      ///< whether the label refers to a point
+    vks::CVec2<double> refPoint;     ///< where the label refers to; counts only if refPointValid
 
 private:
     void bindProperties() override;
@@ -95,8 +95,8 @@ private:
 class ORVCADMODELDATA_EXPORT ORVCADBoardLocalModel_Sample::RaftMainForcedBar final : public AbstractForcedBar
 {
 public:
-    explicit RaftMainForcedBar(cv::Object_AI *parent = nullptr);
-    RaftMainForcedBar(RaftMainForcedBar &&other);
+    explicit RaftMainForcedBar(cv::Object_AI *parent = nullptr); ///< owned by the parent, if there is one
+    RaftMainForcedBar(RaftMainForcedBar &&other);                ///< takes fields, children and place of the other
     ~RaftMainForcedBar() override;
 
     Shape shape() const override;
@@ -109,13 +109,13 @@ public:
 class ORVCADMODELDATA_EXPORT ORVCADBoardLocalModel_Sample::RaftMainStraddleForcedBar final : public AbstractForcedBar
 {
 public:
-    explicit RaftMainStraddleForcedBar(cv::Object_AI *parent = nullptr);
-    RaftMainStraddleForcedBar(RaftMainStraddleForcedBar &&other);
+    explicit RaftMainStraddleForcedBar(cv::Object_AI *parent = nullptr); ///< owned by the parent, if there is one
+    RaftMainStraddleForcedBar(RaftMainStraddleForcedBar &&other); ///< takes fields, children and place of the other
     ~RaftMainStraddleForcedBar() override;
 
-    qint32 labelPosition = 2;
-    double leftStretchLength = 0.0;
-    double rightStretchLength = 0.0;
+    qint32 labelPosition = 2;        ///< where the label stands; text without it reads 0
+    double leftStretchLength = 0.0;  ///< stretch to the left, mm: the host's "LeftLabel"
+    double rightStretchLength = 0.0; ///< stretch to the right, mm: the host's "RightLabel"
 };
 
 /** Top bars of a raft.
@@ -123,21 +123,21 @@ public:
 class ORVCADMODELDATA_EXPORT ORVCADBoardLocalModel_Sample::RaftNegativeForcedBar final : public LineObject
 {
 public:
-    explicit RaftNegativeForcedBar(cv::Object_AI *parent = nullptr);
-    RaftNegativeForcedBar(RaftNegativeForcedBar &&other);
+    explicit RaftNegativeForcedBar(cv::Object_AI *parent = nullptr); ///< owned by the parent, if there is one
+    RaftNegativeForcedBar(RaftNegativeForcedBar &&other);            ///< takes fields, children and place of the other
     ~RaftNegativeForcedBar() override;
 
     Shape shape() const override;
 
-    QString barInfo;
-    qint32 labelPosition = 2;
-    double leftStretchLength = 0.0;
-    double rightStretchLength = 0.0;
-    qint32 leftHookLength = 0;
-    qint32 rightHookLength = 0;
-    qint32 rowNumber = 0; ///< place in the group of bars on the same line, from 0
-    bool refPointValid = false;
-    vks::CVec2<double> refPoint; ///< where the label refers to; counts only if refPointValid
+    QString barInfo;                 ///< bar text, such as C8@200
+    qint32 labelPosition = 2;        ///< where the label stands; text without it reads 0
+    double leftStretchLength = 0.0;  ///< stretch to the left, mm: the host's "LeftLabel"
+    double rightStretchLength = 0.0; ///< stretch to the right, mm: the host's "RightLabel"
+    qint32 leftHookLength = 0;       ///< hook at the left end, mm
+    qint32 rightHookLength = 0;      ///< hook at the right end, mm
+    qint32 rowNumber = 0;            ///< place in the group of bars on the same line, from 0
+    bool refPointValid = false;      ///< whether the label refers to a point
+    vks::CVec2<double> refPoint;     ///< where the label refers to; counts only if refPointValid
 
 private:
     void bindProperties() override;

@@ -49,6 +49,7 @@ public:
     };
     class Shape;
 
+    /** Takes name, fields, children and place; the properties are bound to the own fields. */
     Object(Object &&other);
     ~Object() override;
 
@@ -65,6 +66,7 @@ public:
     QUuid recongnizedID;   ///< identity in the local model, kept in text; null where none was given
 
 protected:
+    /** Of that kind; owned by the parent, if there is one. */
     Object(Types kind, cv::Object_AI *parent);
 
     /** Binds all properties of the element, those of its bases first; called when one is asked for. */
@@ -85,11 +87,14 @@ private:
 class ORVCADMODELDATA_EXPORT ORVCADBoardLocalModel_Sample::Object::Shape
 {
 public:
-    using BoxFunction = std::function<vks::CBox2<double>()>;
+    using BoxFunction = std::function<vks::CBox2<double>()>; ///< gives the box as it is then, mm
 
+    /** Neither the owner nor what the function reads is owned; both live longer. */
     Shape(const Object *owner, BoxFunction boxFunction);
 
+    /** The element that the box is of. */
     const Object *owner() const { return m_owner; }
+    /** As told; may be empty. */
     const BoxFunction &boxFunction() const { return m_box; }
     /** Calls the function; std::bad_function_call for an empty one. */
     vks::CBox2<double> box() const { return m_box(); }
@@ -104,17 +109,17 @@ private:
 class ORVCADMODELDATA_EXPORT ORVCADBoardLocalModel_Sample::LineObject : public Object
 {
 public:
-    LineObject(LineObject &&other);
+    LineObject(LineObject &&other); ///< takes fields, children and place of the other
     ~LineObject() override;
 
     Shape shape() const override;
 
-    vks::CRefPtr<vks::CCurve2d> line;
-    double startTopElev = 0.0; ///< as the host gives it; 0 for walls and bars, which never set it
-    double endTopElev = 0.0;
+    vks::CRefPtr<vks::CCurve2d> line; ///< centre curve
+    double startTopElev = 0.0;        ///< as the host gives it; 0 for walls and bars, which never set it
+    double endTopElev = 0.0;          ///< likewise
 
 protected:
-    LineObject(Types kind, cv::Object_AI *parent);
+    LineObject(Types kind, cv::Object_AI *parent); ///< called by the classes of each kind
 
     void bindProperties() override;
 };
@@ -123,15 +128,15 @@ protected:
 class ORVCADMODELDATA_EXPORT ORVCADBoardLocalModel_Sample::SectionObject : public Object
 {
 public:
-    SectionObject(SectionObject &&other);
+    SectionObject(SectionObject &&other); ///< takes fields, children and place of the other
     ~SectionObject() override;
 
     Shape shape() const override;
 
-    vks::CRefPtr<vks::CPolygon> surface;
+    vks::CRefPtr<vks::CPolygon> surface; ///< outline
 
 protected:
-    SectionObject(Types kind, cv::Object_AI *parent);
+    SectionObject(Types kind, cv::Object_AI *parent); ///< called by the classes of each kind
 };
 
 // ---- Supports
@@ -141,7 +146,7 @@ protected:
 class ORVCADMODELDATA_EXPORT ORVCADBoardLocalModel_Sample::Support : public LineObject
 {
 public:
-    Support(Support &&other);
+    Support(Support &&other); ///< takes fields, children and place of the other
     ~Support() override;
 
     double width = 0.0;          ///< of the whole section, mm
@@ -149,7 +154,7 @@ public:
     qint32 supportType = 0;      ///< only text reads and writes it
 
 protected:
-    Support(Types kind, cv::Object_AI *parent);
+    Support(Types kind, cv::Object_AI *parent); ///< called by the classes of each kind
 
 private:
     void bindProperties() override;
@@ -159,27 +164,29 @@ private:
 class ORVCADMODELDATA_EXPORT ORVCADBoardLocalModel_Sample::Beam final : public Support
 {
 public:
-    explicit Beam(cv::Object_AI *parent = nullptr);
-    Beam(Beam &&other);
+    explicit Beam(cv::Object_AI *parent = nullptr); ///< owned by the parent, if there is one
+    Beam(Beam &&other);                             ///< takes fields, children and place of the other
     ~Beam() override;
 };
 
+/** Its elevations are wallStartTopElev and wallEndTopElev, which text does not keep. */
 class ORVCADMODELDATA_EXPORT ORVCADBoardLocalModel_Sample::Wall final : public Support
 {
 public:
-    explicit Wall(cv::Object_AI *parent = nullptr);
-    Wall(Wall &&other);
+    explicit Wall(cv::Object_AI *parent = nullptr); ///< owned by the parent, if there is one
+    Wall(Wall &&other);                             ///< takes fields, children and place of the other
     ~Wall() override;
 
     double wallStartTopElev = 0.0; ///< as the host gives it
-    double wallEndTopElev = 0.0;
+    double wallEndTopElev = 0.0;   ///< likewise
 };
 
+/** Text that it is read from sets its kind to the number there, whatever that is (docs/formats/slab-model.md). */
 class ORVCADMODELDATA_EXPORT ORVCADBoardLocalModel_Sample::Column final : public SectionObject
 {
 public:
-    explicit Column(cv::Object_AI *parent = nullptr);
-    Column(Column &&other);
+    explicit Column(cv::Object_AI *parent = nullptr); ///< owned by the parent, if there is one
+    Column(Column &&other);                           ///< takes fields, children and place of the other
     ~Column() override;
 
     double topElev = 0.0; ///< as the host gives it
@@ -195,13 +202,13 @@ public:
     /** The host's kinds of slabs. The model only stores the number, so any may come. */
     enum Types : int {};
 
-    explicit Board(cv::Object_AI *parent = nullptr);
-    Board(Board &&other);
+    explicit Board(cv::Object_AI *parent = nullptr); ///< owned by the parent, if there is one
+    Board(Board &&other);                            ///< takes fields, children and place of the other
     ~Board() override;
 
-    double thickness = 0.0; ///< mm
-    double elev = 0.0;      ///< of its top, m
-    Types boardType = Types();
+    double thickness = 0.0;    ///< mm
+    double elev = 0.0;         ///< of its top, m
+    Types boardType = Types(); ///< written to text and never read
 
 private:
     void bindProperties() override;
@@ -212,14 +219,14 @@ private:
 class ORVCADMODELDATA_EXPORT ORVCADBoardLocalModel_Sample::BoardHole final : public SectionObject
 {
 public:
-    explicit BoardHole(cv::Object_AI *parent = nullptr);
-    BoardHole(BoardHole &&other);
+    explicit BoardHole(cv::Object_AI *parent = nullptr); ///< owned by the parent, if there is one
+    BoardHole(BoardHole &&other);                        ///< takes fields, children and place of the other
     ~BoardHole() override;
 
-    QString barInfo;
-    QString shortSpanReinforceBar;
-    QString longSpanReinforceBar;
-    QString obliqueReinforceBar;
+    QString barInfo;               ///< bar text of the edge; the host tells none
+    QString shortSpanReinforceBar; ///< bar text of those along the short span
+    QString longSpanReinforceBar;  ///< bar text of those along the long span
+    QString obliqueReinforceBar;   ///< bar text of the oblique ones
 
 private:
     void bindProperties() override;
@@ -230,8 +237,8 @@ private:
 class ORVCADMODELDATA_EXPORT ORVCADBoardLocalModel_Sample::Raft final : public SectionObject
 {
 public:
-    explicit Raft(cv::Object_AI *parent = nullptr);
-    Raft(Raft &&other);
+    explicit Raft(cv::Object_AI *parent = nullptr); ///< owned by the parent, if there is one
+    Raft(Raft &&other);                             ///< takes fields, children and place of the other
     ~Raft() override;
 
     double thickness = 0.0;  ///< mm
@@ -248,13 +255,13 @@ private:
 class ORVCADMODELDATA_EXPORT ORVCADBoardLocalModel_Sample::AxisNet final : public Object
 {
 public:
-    explicit AxisNet(cv::Object_AI *parent = nullptr);
-    AxisNet(AxisNet &&other);
+    explicit AxisNet(cv::Object_AI *parent = nullptr); ///< owned by the parent, if there is one
+    AxisNet(AxisNet &&other);                          ///< takes fields, children and place of the other
     ~AxisNet() override;
 
     Shape shape() const override;
 
-    vks::CRefPtr<vks::CPolygon> surface;
+    vks::CRefPtr<vks::CPolygon> surface;       ///< outline
     std::shared_ptr<AxisGrid_Sample> axisGrid; ///< null until the net is read
 };
 

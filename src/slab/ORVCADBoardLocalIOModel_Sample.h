@@ -30,10 +30,13 @@ public:
     ORVCADBoardLocalIOModel_Sample &operator=(ORVCADBoardLocalIOModel_Sample &&) = delete;
     ~ORVCADBoardLocalIOModel_Sample() override;
 
+    /** They belong to the model; none until the host or a document tells some. */
     const ORVCADBoardOptions_Sample &options() const;
     /** Of the project that the model was taken from. */
     QString orvFileName() const;
+    /** Empty until a floor is told. */
     QString currentRegionName() const;
+    /** Empty until a floor is told. */
     QString currentFloorName() const;
     /** Metres; NaN until a floor is told. */
     double currentFloorTopElev() const;

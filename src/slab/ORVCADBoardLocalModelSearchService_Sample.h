@@ -22,8 +22,8 @@ class ORVBoxTreeImpl;
 class ORVCADMODELDATA_EXPORT ORVCADBoardLocalModelSearchService_Sample
 {
 public:
-    using Model = ORVCADBoardLocalModel_Sample;
-    using Object = Model::Object;
+    using Model = ORVCADBoardLocalModel_Sample; ///< what is searched
+    using Object = Model::Object;               ///< what is found
 
     /** Takes up the elements of a model whose kind is in the mask; of them those without geometry are never found.
      *  @param model  null is as good as an empty one */

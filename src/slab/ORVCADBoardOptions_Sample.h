@@ -15,6 +15,7 @@ class ORVCADBoardLocalIOModelTestAccess;
 class ORVCADMODELDATA_EXPORT ORVCADBoardOptions_Sample
 {
 public:
+    /** Without options. */
     ORVCADBoardOptions_Sample();
     ORVCADBoardOptions_Sample(const ORVCADBoardOptions_Sample &) = delete;
     ORVCADBoardOptions_Sample &operator=(const ORVCADBoardOptions_Sample &) = delete;

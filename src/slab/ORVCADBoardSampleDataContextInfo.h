@@ -13,7 +13,9 @@ public:
     /** Floor and region as the base reads them; no kinds of supports. Null is allowed. */
     explicit ORVCADBoardSampleDataContextInfo(IHBXService *service);
 
+    /** None until they are set. */
     QSet<etCustomSupportEdoType> getSupportTypes() const;
+    /** In place of all that were set. */
     void setSupportTypes(const QSet<etCustomSupportEdoType> &supportTypes);
 
 private:

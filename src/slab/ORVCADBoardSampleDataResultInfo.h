@@ -12,9 +12,13 @@ public:
     /** Floor and region as the base reads them; no ids. Null is allowed. */
     explicit ORVCADBoardSampleDataResultInfo(IHBXService *service);
 
+    /** Of slabs; none until they are set. */
     std::vector<int> getSlabRecognizedIDs() const;
+    /** In place of all that were set; nothing looks whether they are of slabs. */
     void setSlabRecognizedIDs(const std::vector<int> &ids);
+    /** Of holes; none until they are set. */
     std::vector<int> getBoardHoleRecognizedIDs() const;
+    /** In place of all that were set; nothing looks whether they are of holes. */
     void setBoardHoleRecognizedIDs(const std::vector<int> &ids);
 
 private:

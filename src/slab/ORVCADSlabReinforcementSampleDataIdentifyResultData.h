@@ -12,6 +12,7 @@ public:
     /** Floor and region as the base reads them; no ids. Null is allowed. */
     explicit ORVCADSlabReinforcementSampleDataIdentifyResultData(IHBXService *service);
 
+    /** None until they are set. */
     std::vector<qint64> getAllBarRecognizedIDs() const;
     /** Replaces all ids; a list that is moved in is empty afterwards. */
     void setBarRecognizedIDs(std::vector<qint64> ids);

@@ -7,7 +7,8 @@ namespace vks {
 class CCurve2d;
 }
 
-/** Directions of slab bars, in the plan. Null and not finite geometry makes every answer false. */
+/** @file
+ *  Directions of slab bars, in the plan. Null and not finite geometry makes every answer false. */
 
 /** Whether two directions are the same within 10 degrees, either way round; 10 degrees are within. The zero vector has
  *  the direction of every vector. */

@@ -15,4 +15,5 @@ class IHBXService;
  *  was made stays. Between the brackets of batches.
  *  @return always false, also after complete success */
 ORVCADMODELDATA_EXPORT bool jsonBrickWall2HBX(IHBXService *service, const QJsonObject &reply);
+/** The same for force walls. */
 ORVCADMODELDATA_EXPORT bool jsonForceWall2HBX(IHBXService *service, const QJsonObject &reply);

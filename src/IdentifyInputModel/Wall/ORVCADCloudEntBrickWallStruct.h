@@ -10,12 +10,12 @@ struct ORVCADCloudEntBrickWallStruct
     std::wstring throughBar;    ///< bar text in the wall's through direction
     std::wstring transverseBar; ///< bar text across
     std::wstring material;      ///< a name or a number, as whoever filled it tells
-    std::wstring entName;
-    int elementType = 0; ///< the host's numbers
-    int elementSubType = 0;
-    int width = 0;    ///< thickness, mm
-    qint64 edoId = 0; ///< the element's id in the host
-    int typePropertyValue = 0;
-    std::wstring floorCode; ///< in replies only
-    std::wstring region;    ///< name; in replies only
+    std::wstring entName;       ///< name of the element
+    int elementType = 0;        ///< the host's numbers
+    int elementSubType = 0;     ///< likewise
+    int width = 0;              ///< thickness, mm
+    qint64 edoId = 0;           ///< the element's id in the host
+    int typePropertyValue = 0;  ///< the element's property "Type"
+    std::wstring floorCode;     ///< in replies only
+    std::wstring region;        ///< name; in replies only
 };

@@ -14,5 +14,5 @@ struct ORVCADCloudHBXModelLineEdoStruct
     qint64 edoId = 0;                      ///< the placed object's id in the host; -1 for axis lines
     std::wstring entName;                  ///< of its element
     int elementType = 0;                   ///< the host's numbers
-    int elementSubType = 0;
+    int elementSubType = 0;                ///< likewise
 };

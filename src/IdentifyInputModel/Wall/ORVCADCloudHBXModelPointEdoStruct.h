@@ -14,6 +14,6 @@ struct ORVCADCloudHBXModelPointEdoStruct
     int modelEdoType = 0;                  ///< its property "Type"
     std::wstring entName;                  ///< of its element
     int elementType = 0;                   ///< the host's numbers
-    int elementSubType = 0;
-    std::wstring SectionTypeID; ///< text of the section type; empty where the element has none
+    int elementSubType = 0;                ///< likewise
+    std::wstring SectionTypeID;            ///< text of the section type; empty where the element has none
 };

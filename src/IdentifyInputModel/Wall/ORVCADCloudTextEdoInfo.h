@@ -9,7 +9,7 @@
 /** One text of the drawing. */
 struct ORVCADCloudTextEdoInfo
 {
-    std::wstring text;
+    std::wstring text;                        ///< as it stands in the drawing
     std::vector<vks::CVec2<double>> anglePts; ///< its corners, mm
     int color = 0;                            ///< colour index
     int blockID = 0;                          ///< block that it belongs to

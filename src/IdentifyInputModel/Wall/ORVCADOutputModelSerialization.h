@@ -18,7 +18,9 @@ class ORVCADFileSerialization;
 class ORVCADMODELDATA_EXPORT ORVCADOutputModelSerialization
 {
 public:
+    /** Pieces by element. The map owns nothing: who has it deletes the elements. */
     using BrickWalls = std::map<ORVCADCloudEntBrickWallStruct *, std::list<IdentifyResultData>>;
+    /** The same for load-bearing walls. */
     using ForceWalls = std::map<ORVCADCloudEntForceWallStruct *, std::list<IdentifyResultData>>;
 
     /** The archive must not be null. */
@@ -27,12 +29,15 @@ public:
     ORVCADOutputModelSerialization(const ORVCADOutputModelSerialization &) = default;
     ORVCADOutputModelSerialization &operator=(const ORVCADOutputModelSerialization &) = default;
 
-    /** Elements that are equal in all that is written become one, with the pieces of all; a null element is left out. */
+    /** "BrickWallIdentifyData". Elements that are equal in all that is written become one, with the pieces of all; a
+     *  null element is left out. */
     void saveBrickWallIdentifyData(const BrickWalls &walls);
     /** Adds a new element, which belongs to the caller, for each in the document; the map has these in the order of
      *  their records. */
     void loadBrickWallIdentifyData(BrickWalls &walls);
+    /** The same under "ForceWallIdentifyData". */
     void saveForceWallIdentifyData(const ForceWalls &walls);
+    /** The same for those. */
     void loadForceWallIdentifyData(ForceWalls &walls);
 
 private:

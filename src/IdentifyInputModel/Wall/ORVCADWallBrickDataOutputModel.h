@@ -7,6 +7,7 @@ class ORVCADMODELDATA_EXPORT ORVCADWallBrickDataOutputModel
     : public wall::WallKindOutputModel<ORVCADCloudEntBrickWallStruct>
 {
 public:
+    /** Without walls. */
     ORVCADWallBrickDataOutputModel();
     ~ORVCADWallBrickDataOutputModel() override;
 

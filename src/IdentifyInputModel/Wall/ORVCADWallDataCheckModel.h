@@ -6,6 +6,7 @@
 class ORVCADMODELDATA_EXPORT ORVCADWallDataCheckModel
 {
 public:
+    /** Any number is one. */
     explicit ORVCADWallDataCheckModel(int number) : m_number(number) {}
     virtual ~ORVCADWallDataCheckModel();
     ORVCADWallDataCheckModel(const ORVCADWallDataCheckModel &) = default;

@@ -26,8 +26,8 @@ struct ORVCADCloudEntForceWallStruct;
 class ORVCADMODELDATA_EXPORT ORVCADWallEdoGenerator
 {
 public:
-    using DrawObjs = std::vector<IHBXElementDrawObj *>;
-    using Elements = std::vector<IHBXElement *>;
+    using DrawObjs = std::vector<IHBXElementDrawObj *>; ///< the host owns them
+    using Elements = std::vector<IHBXElement *>;        ///< the host owns them
 
     /** The model is not owned. */
     explicit ORVCADWallEdoGenerator(IHBXModel &model) : m_model(&model) {}
@@ -36,6 +36,7 @@ public:
      *  has in the host as its entName. What is made is appended to the vectors.
      *  @return false only without an output model */
     bool generateBrick(ORVCADWallBrickDataOutputModel *output, DrawObjs &drawObjs, Elements &elements);
+    /** The same for force walls, between the brackets of one batch. */
     bool generateForce(ORVCADWallForceDataOutputModel *output, DrawObjs &drawObjs, Elements &elements);
 
     /** Makes an element of the record's name, or of a unique one when any element on the floor has that name, with material,
@@ -43,6 +44,7 @@ public:
      *  @return null when the record's type is another one than 1003 (of force walls, 0), region or floor is unknown, or the
      *          host makes no element or refuses the name. An element whose name is refused stays in the host. */
     IHBXElement *createBrickElement(const ORVCADCloudEntBrickWallStruct &record, Elements &elements);
+    /** The same for force walls, whose bars are three. */
     IHBXElement *createForceElement(const ORVCADCloudEntForceWallStruct &record, Elements &elements);
     /** Places the pieces in list order: axis and the four elevations, of which an empty one is not written. */
     void createDrawObjs(IHBXElement &element, const std::list<IdentifyResultData> &pieces, DrawObjs &drawObjs);

@@ -8,11 +8,14 @@ class ORVCADMODELDATA_EXPORT ORVCADWallForceDataInputModel
     : public wall::WallKindInputModel<ORVCADCloudEntForceWallStruct>
 {
 public:
+    /** Empty but for the type. */
     explicit ORVCADWallForceDataInputModel(EORVCADIdentifyType type);
     ~ORVCADWallForceDataInputModel() override;
     ORVCADWallForceDataInputModel(const ORVCADWallForceDataInputModel &) = default;
     ORVCADWallForceDataInputModel &operator=(const ORVCADWallForceDataInputModel &) = default;
 
+    /** Elements, as the host tells them or a document has them. */
     std::list<ORVCADCloudEntForceWallStruct> getCadEntForceWallDataInfo() const { return m_walls; }
+    /** In place of all that were there. */
     void setCadEntForceWallDataInfo(std::list<ORVCADCloudEntForceWallStruct> walls) { m_walls = std::move(walls); }
 };

@@ -7,6 +7,7 @@ class ORVCADMODELDATA_EXPORT ORVCADWallForceDataOutputModel
     : public wall::WallKindOutputModel<ORVCADCloudEntForceWallStruct>
 {
 public:
+    /** Without walls. */
     ORVCADWallForceDataOutputModel();
     ~ORVCADWallForceDataOutputModel() override;
 

@@ -26,7 +26,7 @@ class DWGXBaseOptions;
 class ORVCADMODELDATA_EXPORT ORVCADWallInputModelConvertion
 {
 public:
-    using ModelLines = std::list<ORVCADCloudHBXModelLineEdoStruct>;
+    using ModelLines = std::list<ORVCADCloudHBXModelLineEdoStruct>; ///< placed walls or axis lines
 
     /** @param floorId  the host's; a floor that the model lacks has nothing on it
      *  @param options  may be null; with the model not owned, and both live longer
@@ -37,6 +37,7 @@ public:
     ORVCADWallInputModelConvertion(const ORVCADWallInputModelConvertion &) = default;
     ORVCADWallInputModelConvertion &operator=(const ORVCADWallInputModelConvertion &) = default;
 
+    /** As constructed; no getter looks at it. */
     EORVCADIdentifyType identifyType() const { return m_identifyType; }
 
     /** Brick wall elements, but for those whose "Type" is 255. The material is its name here, empty for a number that the
@@ -47,6 +48,7 @@ public:
 
     /** Placed walls, those of elements that are left out above, too. Type and sub-type stay 0. */
     void getCurFloorModelBrickLineEntDataInfo(ModelLines &lines) const;
+    /** The same for load-bearing walls. */
     void getCurFloorModelForceLineEntDataInfo(ModelLines &lines) const;
     /** Axes, first of grids and then single ones, curve by curve: width 1, id -1. */
     void getCurFloorModelAxisLineEntDataInfo(ModelLines &lines) const;

@@ -4,6 +4,7 @@
 
 #include <QJsonObject>
 
+/** What brick and load-bearing walls have in common. */
 namespace wall {
 
 /** What the input models of both kinds of walls are: the base model, the walls of one kind that the host has already,
@@ -25,20 +26,23 @@ public:
 
     /** The whole document; the text is replaced. */
     void saveToJson(std::wstring &text) const;
+    /** The same in XML. */
     void saveToXml(std::wstring &text) const;
     /** Inserts the document into the object as the member whose name is empty. Null does nothing. */
     void saveToJson(QJsonObject *json) const;
 
+    /** Reads floor and drawing, too, where the document has them. */
     void loadFromJson(const std::wstring &text);
     /** Reads floor and drawing, too, unlike the base's. Lists are not in what an XML document gives back. */
     void loadFromXml(const std::wstring &text);
 
 protected:
+    /** Empty but for the type. */
     explicit WallKindInputModel(EORVCADIdentifyType type);
     /** Only the key of this list. */
     void saveWalls(ORVCADInputModelSerialization &archive) const;
 
-    std::list<Wall> m_walls;
+    std::list<Wall> m_walls; ///< that the host has already, in the order of the document
 
 private:
     void saveAll(ORVCADInputModelSerialization &archive) const;

@@ -22,7 +22,7 @@ namespace wall {
 template <typename Wall> class ORVCADMODELDATA_EXPORT WallKindOutputModel : public ORVCADWallDataOutputModel
 {
 public:
-    using Walls = std::map<Wall *, std::list<IdentifyResultData>>;
+    using Walls = std::map<Wall *, std::list<IdentifyResultData>>; ///< pieces by element
 
     ~WallKindOutputModel() override;
 
@@ -30,6 +30,7 @@ public:
     void saveToJson(std::wstring &text) const;
     /** Inserts the document into the object under that key. Null does nothing. */
     void saveToJson(const QString &key, QJsonObject *json) const;
+    /** The whole document in XML; the text is replaced. */
     void saveToXml(std::wstring &text) const;
 
     /** Adds the walls of a document. A text that is none leaves the model as it is, and nothing tells so; what is missing
@@ -39,6 +40,7 @@ public:
     void loadFromXml(const std::wstring &text);
 
 protected:
+    /** Without walls. */
     WallKindOutputModel();
     /** Copies each entry into the map, in place of what it has for that element; its others stay. */
     void copyInto(Walls &walls) const;

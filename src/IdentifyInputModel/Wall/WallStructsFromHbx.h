@@ -10,7 +10,8 @@
 class IHBXElement;
 class IHBXElementDrawObj;
 
-/** Walls that stand in the host, in the form in which the identification tells of the ones it found. */
+/** @file
+ *  Walls that stand in the host, in the form in which the identification tells of the ones it found. */
 
 /** Everything but the material is told as a reply has it: the material stays a number. Bars are read from
  *  "VertDistributionBar" and "HoriDistributionBar", which replies are written to; a bar whose property the element lacks

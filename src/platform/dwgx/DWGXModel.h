@@ -7,6 +7,7 @@
 #include <unordered_set>
 #include <vector>
 
+/** The drawing model: what stands on a drawing, layer by layer. */
 namespace dwgx {
 
 /** A layer of a drawing with all that stands on it, in the order in which it was added. */

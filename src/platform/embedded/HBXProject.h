@@ -10,6 +10,7 @@
 
 class IHBXService;
 
+/** The embedded host (docs/embedded-host.md). */
 namespace hbx::embedded {
 
 class HBXModelStore; // the model in memory
@@ -17,10 +18,11 @@ class HBXModelStore; // the model in memory
 /** Why a file was refused: the file, the place in it, and the reason. Empty when all is well. */
 struct ORVCADPLATFORM_EXPORT ProjectError
 {
-    QString file;
-    QString place; ///< e.g. regions[0].floors[2].elements[14].drawObjects[0].shape.outline; may be empty
-    QString reason;
+    QString file;   ///< as the caller named it; the project's name where it has no file yet
+    QString place;  ///< e.g. regions[0].floors[2].elements[14].drawObjects[0].shape.outline; may be empty
+    QString reason; ///< in words, for people
 
+    /** Whether nothing was refused. */
     bool isEmpty() const { return reason.isEmpty(); }
     /** file, place and reason in one line. */
     QString text() const;
@@ -54,8 +56,11 @@ public:
     /** The exchange document, indented; reads back to the same building but for ids. */
     QByteArray toJson() const;
 
+    /** As its file, or whoever made it, tells. */
     QString name() const;
+    /** Where the building comes from, and its licence; may be empty. */
     QString source() const;
+    /** Of its file, as told to open() or saveAs(); empty until there is one. */
     QString path() const;
 
     /** The host; belongs to the project. */
@@ -67,6 +72,7 @@ public:
     bool setCurrent(const QString &regionName, const QString &floorName);
     /** Services that take no model serve the current project: the last one opened or made current. */
     void makeCurrent();
+    /** Null where none was made current, and once the current one is gone. */
     static HBXProject *current();
 
     /** The model behind the interfaces, for the services and stores of this folder. */

@@ -4,6 +4,7 @@
 
 namespace vks {
 
+/** Half a turn, rad. */
 constexpr double kPi = 3.14159265358979323846;
 /** A full turn, rad. */
 constexpr double kFullTurn = 2 * kPi;

@@ -8,6 +8,7 @@
 
 #include <string>
 
+/** The plane geometry kernel (docs/kernel.md): mm and rad, angles counter-clockwise. */
 namespace vks {
 
 /** Curve, loop or polygon in the plan, in millimetres. */

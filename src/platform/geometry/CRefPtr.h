@@ -65,6 +65,7 @@ template <typename Geometry> auto cloneOrNull(const Geometry *geometry)
     using Copy = decltype(geometry->Clone());
     return geometry ? geometry->Clone() : Copy();
 }
+/** The same of what a holder holds. */
 template <typename Geometry> auto cloneOrNull(const CRefPtr<Geometry> &geometry) { return cloneOrNull(geometry.get()); }
 
 } // namespace vks

@@ -73,6 +73,7 @@ template <typename T> struct CVec2
     bool IsFinite() const { return std::isfinite(x) && std::isfinite(y); }
 };
 
+/** Both terms times the factor. */
 template <typename T> constexpr CVec2<T> operator*(T factor, const CVec2<T> &vector) { return vector * factor; }
 
 } // namespace vks

@@ -3,6 +3,7 @@
 #include "ORVCADPlatformExport.h"
 #include "platform/geometry/CPolygon.h"
 
+/** Comparison of shapes. */
 namespace orvcadcommon {
 
 /** Whether a polygon is a pattern that was turned and moved, within 1 mm; a mirrored one is not.

@@ -6,7 +6,8 @@
 
 class IHBXElementDrawObj;
 
-/** Elevations of slabs and of the bars in them, mm above the building's zero. */
+/** @file
+ *  Elevations of slabs and of the bars in them, mm above the building's zero. */
 
 /** An elevation property of a slab, such as "TopElev"; 0.0 for null and for a name that it lacks. */
 ORVCADPLATFORM_EXPORT double getSlabElev(IHBXElementDrawObj *slab, const QString &property);

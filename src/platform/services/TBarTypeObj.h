@@ -22,4 +22,5 @@ private:
 /** The bars at a support of a beam. */
 using TBeamSupportBarInfos = TBarTypeObj;
 
+/** Bars of several kinds, in the order in which they were told. */
 using BarTypeObjList = std::vector<TBarTypeObj>;
