@@ -10,4 +10,9 @@ QString counted(int number, const QString &singular)
     return counted.arg(number).arg(singular);
 }
 
+QString countedInEnglish(int number, const QString &singular)
+{
+    return QStringLiteral("%1 %2%3").arg(QString::number(number), singular, QLatin1String(number == 1 ? "" : "s"));
+}
+
 } // namespace orvcad

@@ -2,6 +2,7 @@
 #include "cli/DifferenceReport.h"
 #include "cli/FloorLookup.h"
 #include "cli/HtmlPage.h"
+#include "cli/Message.h"
 #include "cli/PlanPicture.h"
 #include "cli/PlanSvg.h"
 #include "cli/ProjectFiles.h"
@@ -33,7 +34,7 @@ std::string formatOf(const Arguments &arguments)
 
 QString withoutText(int withoutGeometry)
 {
-    return withoutGeometry ? QStringLiteral("; %1 without geometry").arg(withoutGeometry) : QString();
+    return withoutGeometry ? Message::tr("; %1 without geometry").arg(withoutGeometry) : QString();
 }
 
 Summary drawSheet(const Arguments &arguments)
@@ -43,8 +44,8 @@ Summary drawSheet(const Arguments &arguments)
     const PlanSvg plan = drawPlan(*project->service()->model(), floor, project->name());
     const QByteArray picture = formatOf(arguments) == kPng ? pngOf(plan.document, arguments.width) : plan.document;
     return writeDocument(arguments, picture,
-                         {QStringLiteral("Drew %1 of %2 at 1:%3%4")
-                              .arg(counted(plan.drawn, QStringLiteral("placed object")), floor.name(),
+                         {Message::tr("Drew %1 of %2 at 1:%3%4")
+                              .arg(counted(plan.drawn, Message::tr("placed object")), floor.name(),
                                    QString::number(plan.scale), withoutText(plan.withoutGeometry)),
                           {{"drawn", plan.drawn}, {"withoutGeometry", plan.withoutGeometry}, {"scale", plan.scale}}});
 }
@@ -54,9 +55,9 @@ Summary drawPage(const Arguments &arguments)
     const auto project = openProject(Arguments::text(arguments.project));
     const HtmlPage page = htmlPageOf(*project, pickFloors(*project, arguments));
     return writeDocument(arguments, page.document,
-                         {QStringLiteral("Drew %1 on %2%3")
-                              .arg(counted(page.drawn, QStringLiteral("placed object")),
-                                   counted(page.floors, QStringLiteral("floor")), withoutText(page.withoutGeometry)),
+                         {Message::tr("Drew %1 on %2%3")
+                              .arg(counted(page.drawn, Message::tr("placed object")),
+                                   counted(page.floors, Message::tr("floor")), withoutText(page.withoutGeometry)),
                           {{"drawn", page.drawn}, {"withoutGeometry", page.withoutGeometry}, {"floors", page.floors}}});
 }
 
@@ -67,10 +68,9 @@ Summary drawDifference(const Arguments &arguments)
     const ProjectDifference difference = differenceBetween(*before, *after);
     const HtmlPage page = htmlPageOf(*before, *after, difference);
     return writeDocument(arguments, page.document,
-                         {QStringLiteral("Drew %1 on %2. ")
-                                  .arg(counted(page.drawn, QStringLiteral("placed object")),
-                                       counted(page.floors, QStringLiteral("floor"))) +
-                              DifferenceReport(difference).headline(),
+                         {Message::tr("Drew %1 on %2. %3")
+                              .arg(counted(page.drawn, Message::tr("placed object")),
+                                   counted(page.floors, Message::tr("floor")), DifferenceReport(difference).headline()),
                           {{"drawn", page.drawn},
                            {"withoutGeometry", page.withoutGeometry},
                            {"floors", page.floors},
@@ -91,26 +91,28 @@ void checkOptions(const Arguments &arguments, bool hasWidth)
     if (format != kHtml && arguments.floor.empty())
         throw CLI::RequiredError("--floor");
     if (hasWidth && format != kPng)
-        throw CLI::ValidationError("--width", "is for png pictures");
+        throw CLI::ValidationError("--width", Message::help("is for png pictures"));
     if (arguments.against.empty())
         return;
     if (format != kHtml)
-        throw CLI::ValidationError("--against", "is for html pages");
+        throw CLI::ValidationError("--against", Message::help("is for html pages"));
     if (!arguments.floor.empty() || !arguments.region.empty())
-        throw CLI::ValidationError("--against", "takes all floors, without --region and --floor");
+        throw CLI::ValidationError("--against", Message::help("takes all floors, without --region and --floor"));
 }
 
 void addPictureOptions(Verb &verb)
 {
     Arguments &arguments = verb.arguments();
     verb.app()
-        .add_option("--format", arguments.format, "svg, png or html; if absent, as the file's ending tells, else svg")
+        .add_option("--format", arguments.format,
+                    Message::help("svg, png or html; if absent, as the file's ending tells, else svg"))
         ->check(CLI::IsMember({kSvg, kPng, kHtml}));
     arguments.width = kUsualPixels;
-    CLI::Option *width = verb.app().add_option("--width", arguments.width, "Width of a png picture in pixels");
+    CLI::Option *width =
+        verb.app().add_option("--width", arguments.width, Message::help("Width of a png picture in pixels"));
     width->capture_default_str()->check(CLI::Range(kLeastPixels, kMostPixels));
     verb.app().add_option("--against", arguments.against,
-                          "Project file; the html page shows what became of PROJECT in it");
+                          Message::help("Project file; the html page shows what became of PROJECT in it"));
     verb.app().parse_complete_callback([&arguments, width] { checkOptions(arguments, width->count() > 0); });
 }
 
@@ -119,8 +121,9 @@ void addPictureOptions(Verb &verb)
 void addDrawCommand(CLI::App &app, Command &command)
 {
     Verb verb(app, command, "draw",
-              "Draw a floor plan as an SVG page or a PNG picture, or all floors as a page for a browser", draw);
-    verb.projects().anyFloors().output("File to write the picture to",
+              Message::help("Draw a floor plan as an SVG page or a PNG picture, or all floors as a page for a browser"),
+              draw);
+    verb.projects().anyFloors().output(Message::help("File to write the picture to"),
                                        [](const Arguments &arguments) { return '.' + formatOf(arguments); });
     addPictureOptions(verb);
 }

@@ -1,6 +1,7 @@
 #include "cli/Counted.h"
 #include "cli/DrawingFiles.h"
 #include "cli/FloorLookup.h"
+#include "cli/Message.h"
 #include "cli/ProjectFiles.h"
 #include "cli/Verb.h"
 #include "platform/dwgx/DWGXModel.h"
@@ -19,9 +20,8 @@ namespace {
 QString countsOf(const dwgx::DWGXModel &drawing)
 {
     return QStringLiteral("%1, %2, %3")
-        .arg(counted(static_cast<int>(drawing.layers().size()), QStringLiteral("layer")),
-             counted(drawing.lineCount(), QStringLiteral("line")),
-             counted(drawing.textCount(), QStringLiteral("text")));
+        .arg(counted(static_cast<int>(drawing.layers().size()), Message::tr("layer")),
+             counted(drawing.lineCount(), Message::tr("line")), counted(drawing.textCount(), Message::tr("text")));
 }
 
 QJsonObject drawingToJson(const dwgx::DWGXModel &drawing)
@@ -44,13 +44,13 @@ QString drawingText(const dwgx::DWGXModel &drawing)
     QStringList lines{QStringLiteral("%1: %2").arg(drawing.getTitle(), countsOf(drawing))};
     for (const dwgx::DWGXLayer &layer : drawing.layers())
         lines.append(QStringLiteral("  ") + layer.name.leftJustified(24) +
-                     QStringLiteral(" colour %1 %2 lines %3 texts")
+                     Message::tr(" colour %1 %2 lines %3 texts")
                          .arg(layer.color, 3)
                          .arg(layer.lines.size(), 6)
                          .arg(layer.texts.size(), 6));
     const vks::CBox2<double> box = drawing.box();
     if (box.IsValid())
-        lines.append(QStringLiteral("  extends over %1 x %2 m").arg(box.Width() / 1000).arg(box.Height() / 1000));
+        lines.append(Message::tr("  extends over %1 x %2 m").arg(box.Width() / 1000).arg(box.Height() / 1000));
     return lines.join('\n');
 }
 
@@ -66,7 +66,7 @@ Summary makeDrawing(const Arguments &arguments)
     writeDrawing(output, *drawing);
     QJsonObject json = drawingToJson(*drawing);
     json["output"] = output;
-    return {QStringLiteral("Drew %1 into %2: %3").arg(title, output, countsOf(*drawing)), json};
+    return {Message::tr("Drew %1 into %2: %3").arg(title, output, countsOf(*drawing)), json};
 }
 
 Summary showDrawing(const Arguments &arguments)
@@ -79,12 +79,13 @@ Summary showDrawing(const Arguments &arguments)
 
 void addDrawingCommands(CLI::App &app, Command &command)
 {
-    CLI::App &group = addGroup(app, "drawing", "Drawing files (.cadi2)");
-    Verb(group, command, "make", "Draw a floor as layers, lines and texts", makeDrawing)
+    CLI::App &group = addGroup(app, "drawing", Message::help("Drawing files (.cadi2)"));
+    Verb(group, command, "make", Message::help("Draw a floor as layers, lines and texts"), makeDrawing)
         .projects()
         .pickedFloor()
-        .output("Drawing file to make (.cadi2)", ".cadi2", Verb::NoOutput::WrongUsage);
-    Verb(group, command, "show", "What a drawing file holds", showDrawing).inputs("DRAWING", "Drawing file (.cadi2)");
+        .output(Message::help("Drawing file to make (.cadi2)"), ".cadi2", Verb::NoOutput::WrongUsage);
+    Verb(group, command, "show", Message::help("What a drawing file holds"), showDrawing)
+        .inputs("DRAWING", Message::help("Drawing file (.cadi2)"));
 }
 
 } // namespace orvcad

@@ -1,6 +1,7 @@
 #include "cli/DrawingSetInfo.h"
 
 #include "cli/Counted.h"
+#include "cli/Message.h"
 #include "cli/TextTable.h"
 #include "drawing/DrawingKeys.h"
 #include "platform/services/dwgxCommonUtil.h"
@@ -60,14 +61,17 @@ QStringList titled(const QString &title, const TextTable &table)
 } // namespace
 
 DrawingSetInfo::DrawingSetInfo(const QJsonObject &set)
-    : m_stages{{key::splitDrawing, "drawings split", "sub-drawing"},
-               {key::parseDrawing, "tables parsed", "table"},
-               {key::floorInfos, "floors taken", "floor"},
-               {key::matchFloorInfo, "floors matched", "mapping"},
-               {key::matchElementInfo, "element types matched", "mapping"},
-               {key::classifyLayer, "layers classified", "group"},
-               {key::reviseScale, "scales revised", "drawing"},
-               {key::locateDrawing, "drawings located", "drawing"}}
+    : m_stages{
+          {key::splitDrawing, QT_TRANSLATE_NOOP("orvcad", "drawings split"),
+           QT_TRANSLATE_NOOP("orvcad", "sub-drawing")},
+          {key::parseDrawing, QT_TRANSLATE_NOOP("orvcad", "tables parsed"), QT_TRANSLATE_NOOP("orvcad", "table")},
+          {key::floorInfos, QT_TRANSLATE_NOOP("orvcad", "floors taken"), QT_TRANSLATE_NOOP("orvcad", "floor")},
+          {key::matchFloorInfo, QT_TRANSLATE_NOOP("orvcad", "floors matched"), QT_TRANSLATE_NOOP("orvcad", "mapping")},
+          {key::matchElementInfo, QT_TRANSLATE_NOOP("orvcad", "element types matched"),
+           QT_TRANSLATE_NOOP("orvcad", "mapping")},
+          {key::classifyLayer, QT_TRANSLATE_NOOP("orvcad", "layers classified"), QT_TRANSLATE_NOOP("orvcad", "group")},
+          {key::reviseScale, QT_TRANSLATE_NOOP("orvcad", "scales revised"), QT_TRANSLATE_NOOP("orvcad", "drawing")},
+          {key::locateDrawing, QT_TRANSLATE_NOOP("orvcad", "drawings located"), QT_TRANSLATE_NOOP("orvcad", "drawing")}}
 {
     takeParts(set.value(key::splitDrawing).toObject());
     takeTables(set.value(key::parseDrawing).toObject());
@@ -244,51 +248,49 @@ QJsonObject DrawingSetInfo::toJson() const
 QString DrawingSetInfo::headline() const
 {
     const auto run = std::count_if(m_stages.begin(), m_stages.end(), [](const Stage &stage) { return stage.present; });
-    const QString area = m_areaName.isEmpty() ? QString() : QStringLiteral(" of %1").arg(m_areaName);
-    return QStringLiteral("Drawing set%1: %2 of %3 stages, %4, %5")
-        .arg(area)
-        .arg(run)
-        .arg(m_stages.size())
-        .arg(counted(static_cast<int>(m_drawings.list.size()), QStringLiteral("drawing")),
-             counted(static_cast<int>(m_floors.list.size()), QStringLiteral("floor")));
+    const QString set =
+        m_areaName.isEmpty() ? Message::tr("Drawing set") : Message::tr("Drawing set of %1").arg(m_areaName);
+    return Message::tr("%1: %2 of %3 stages, %4, %5")
+        .arg(set, QString::number(run), QString::number(m_stages.size()),
+             counted(static_cast<int>(m_drawings.list.size()), Message::tr("drawing")),
+             counted(static_cast<int>(m_floors.list.size()), Message::tr("floor")));
 }
 
 QStringList DrawingSetInfo::stageLines() const
 {
-    TextTable table({{"stage"}, {"key"}, {"holds"}});
+    TextTable table({{Message::tr("stage")}, {Message::tr("key")}, {Message::tr("holds")}});
     for (const Stage &stage : m_stages)
-        table.add(
-            {QString::fromLatin1(stage.title), stage.key,
-             stage.present ? counted(stage.entries, QString::fromLatin1(stage.entry)) : QStringLiteral("has not run")});
-    return titled(QStringLiteral("Stages"), table);
+        table.add({Message::tr(stage.title), stage.key,
+                   stage.present ? counted(stage.entries, Message::tr(stage.entry)) : Message::tr("has not run")});
+    return titled(Message::tr("Stages"), table);
 }
 
 QStringList DrawingSetInfo::floorLines() const
 {
-    TextTable table({{"floor"},
-                     {"code"},
-                     {"bottom m", Align::Right},
-                     {"height m", Align::Right},
-                     {"storeys", Align::Right},
-                     {"drawings"}});
+    TextTable table({{Message::tr("floor")},
+                     {Message::tr("code")},
+                     {Message::tr("bottom m"), Align::Right},
+                     {Message::tr("height m"), Align::Right},
+                     {Message::tr("storeys"), Align::Right},
+                     {Message::tr("drawings")}});
     for (const Floor &floor : m_floors.list)
         table.add({shown(floor.name), floor.record.value(key::code).toString(),
                    shownNumber(floor.record.value(key::bottomElev)), shownNumber(floor.record.value(key::height)),
                    shownNumber(floor.record.value(key::stdCount)), shownList(floor.drawings)});
-    return titled(QStringLiteral("Floors"), table);
+    return titled(Message::tr("Floors"), table);
 }
 
 QStringList DrawingSetInfo::drawingLines() const
 {
-    TextTable table({{"drawing"},
-                     {"cut from"},
-                     {"floors"},
-                     {"element types"},
-                     {"tables", Align::Right},
-                     {"layers", Align::Right},
-                     {"objects", Align::Right},
-                     {"scale", Align::Right},
-                     {"axis points", Align::Right}});
+    TextTable table({{Message::tr("drawing")},
+                     {Message::tr("cut from")},
+                     {Message::tr("floors")},
+                     {Message::tr("element types")},
+                     {Message::tr("tables"), Align::Right},
+                     {Message::tr("layers"), Align::Right},
+                     {Message::tr("objects"), Align::Right},
+                     {Message::tr("scale"), Align::Right},
+                     {Message::tr("axis points"), Align::Right}});
     for (const Drawing &drawing : m_drawings.list) {
         QStringList floors;
         for (const Place &place : drawing.places)
@@ -297,17 +299,20 @@ QStringList DrawingSetInfo::drawingLines() const
                    shownList(floors), shownList(drawing.types), shownCount(drawing.tables), shownCount(drawing.layers),
                    shownCount(drawing.objects), shownNumber(drawing.originScale), shownCount(drawing.crossings)});
     }
-    return titled(QStringLiteral("Drawings"), table);
+    return titled(Message::tr("Drawings"), table);
 }
 
 QStringList DrawingSetInfo::layerLines() const
 {
-    TextTable table(
-        {{"element type"}, {"drawings", Align::Right}, {"layers", Align::Right}, {"objects", Align::Right}, {"names"}});
+    TextTable table({{Message::tr("element type")},
+                     {Message::tr("drawings"), Align::Right},
+                     {Message::tr("layers"), Align::Right},
+                     {Message::tr("objects"), Align::Right},
+                     {Message::tr("names")}});
     for (const TypeLayers &type : m_types.list)
         table.add({shown(type.name), QString::number(type.drawings.size()), QString::number(type.layers),
                    QString::number(type.objects), shownList(type.layerNames)});
-    return titled(QStringLiteral("Layers by element type"), table);
+    return titled(Message::tr("Layers by element type"), table);
 }
 
 QString DrawingSetInfo::text() const

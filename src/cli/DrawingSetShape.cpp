@@ -2,6 +2,7 @@
 
 #include "cli/Command.h"
 #include "cli/Files.h"
+#include "cli/Message.h"
 #include "drawing/DrawingKeys.h"
 
 #include <algorithm>
@@ -99,7 +100,7 @@ bool hasNoStage(const QJsonObject &set)
 std::optional<JsonFault> drawingSetFault(const QJsonObject &set)
 {
     if (hasNoStage(set))
-        return JsonFault{QString(), QStringLiteral("no drawing-set file: none of its stages is there")};
+        return JsonFault{QString(), Message::tr("no drawing-set file: none of its stages is there")};
     return firstFault(set, kSet);
 }
 
@@ -107,7 +108,7 @@ std::vector<JsonFault> unreadInDrawingSet(const QJsonObject &set) { return unkno
 
 QJsonObject readDrawingSet(const QString &path)
 {
-    QJsonObject set = readJsonObject(path, QStringLiteral("drawing-set file"));
+    QJsonObject set = readJsonObject(path, Message::tr("drawing-set file"));
     if (const auto fault = drawingSetFault(set))
         throw CommandFailure(kBadInput, path, fault->place, fault->reason);
     return set;

@@ -4,6 +4,7 @@
 #include "cli/Files.h"
 #include "cli/FloorExchange.h"
 #include "cli/FloorWords.h"
+#include "cli/Message.h"
 #include "cli/TextTable.h"
 #include "cli/Verb.h"
 
@@ -35,16 +36,20 @@ struct FloorField
     QJsonValue (*value)(const Floor &);
 };
 const FloorField kFloorFields[] = {
-    {"id", "id", Align::Right, [](const Floor &floor) { return valueOf(floor.ID); }},
-    {"description", "floor", Align::Left, [](const Floor &floor) { return valueOf(floor.Description); }},
-    {"code", "code", Align::Left, [](const Floor &floor) { return valueOf(floor.Code); }},
-    {"height", "height", Align::Right, [](const Floor &floor) { return valueOf(floor.Height); }},
-    {"structuralElevation", "elevation", Align::Right,
+    {"id", QT_TRANSLATE_NOOP("orvcad", "id"), Align::Right, [](const Floor &floor) { return valueOf(floor.ID); }},
+    {"description", QT_TRANSLATE_NOOP("orvcad", "floor"), Align::Left,
+     [](const Floor &floor) { return valueOf(floor.Description); }},
+    {"code", QT_TRANSLATE_NOOP("orvcad", "code"), Align::Left, [](const Floor &floor) { return valueOf(floor.Code); }},
+    {"height", QT_TRANSLATE_NOOP("orvcad", "height"), Align::Right,
+     [](const Floor &floor) { return valueOf(floor.Height); }},
+    {"structuralElevation", QT_TRANSLATE_NOOP("orvcad", "elevation"), Align::Right,
      [](const Floor &floor) { return valueOf(floor.StructuralElevation); }},
-    {"standardCount", "storeys", Align::Right, [](const Floor &floor) { return valueOf(floor.StdFloorCount); }},
+    {"standardCount", QT_TRANSLATE_NOOP("orvcad", "storeys"), Align::Right,
+     [](const Floor &floor) { return valueOf(floor.StdFloorCount); }},
     {"regionID", nullptr, Align::Right, [](const Floor &floor) { return valueOf(floor.Region.ID); }},
-    {"region", "region", Align::Left, [](const Floor &floor) { return valueOf(floor.Region.Description); }},
-    {"settings", "settings", Align::Right,
+    {"region", QT_TRANSLATE_NOOP("orvcad", "region"), Align::Left,
+     [](const Floor &floor) { return valueOf(floor.Region.Description); }},
+    {"settings", QT_TRANSLATE_NOOP("orvcad", "settings"), Align::Right,
      [](const Floor &floor) { return QJsonValue(static_cast<int>(floor.ConcreteAnchorJoints.size())); }},
 };
 
@@ -65,7 +70,7 @@ QStringList floorLines(const std::vector<Floor> &floors)
     std::vector<TextTable::Column> columns;
     for (const FloorField &field : kFloorFields)
         if (field.heading)
-            columns.push_back({field.heading, field.align});
+            columns.push_back({Message::tr(field.heading), field.align});
     TextTable table(columns);
     for (const Floor &floor : floors) {
         QStringList cells;
@@ -84,7 +89,7 @@ Summary showDrawingSet(const Arguments &arguments)
     const std::vector<JsonFault> notRead = unreadInDrawingSet(set);
     QJsonObject json = info.toJson();
     json["notRead"] = faultsToJson(notRead);
-    const QStringList lines = QStringList(info.text()) + faultLines(QStringLiteral("not read"), notRead);
+    const QStringList lines = QStringList(info.text()) + faultLines(Message::tr("not read"), notRead);
     return {lines.join('\n'), json, notRead.empty() ? kDone : kLeftOut};
 }
 
@@ -94,12 +99,12 @@ Summary showFloorExchange(const Arguments &arguments)
     const QString output = Arguments::text(arguments.output);
     const bool onStdout = !output.isEmpty() && writeResult(output, exchange.written);
     const std::size_t differences = exchange.notKept.size() + exchange.notStable.size();
-    QStringList lines{QStringLiteral("Floor exchange of %1: %2")
-                          .arg(counted(static_cast<int>(exchange.floors.size()), QStringLiteral("floor")),
+    QStringList lines{Message::tr("Floor exchange of %1: %2")
+                          .arg(counted(static_cast<int>(exchange.floors.size()), Message::tr("floor")),
                                writtenAgainText(differences))};
     lines += floorLines(exchange.floors);
-    lines += faultLines(QStringLiteral("not kept"), exchange.notKept);
-    lines += faultLines(QStringLiteral("not stable"), exchange.notStable);
+    lines += faultLines(Message::tr("not kept"), exchange.notKept);
+    lines += faultLines(Message::tr("not stable"), exchange.notStable);
     return {lines.join('\n'),
             {{"floors", floorsToJson(exchange.floors)},
              {"same", differences == 0},
@@ -119,15 +124,17 @@ Summary showWords(const Arguments &arguments)
 
 void addDrawingsCommands(CLI::App &app, Command &command)
 {
-    CLI::App &group = addGroup(app, "drawings", "Sets of drawings and the names of floors on them");
-    Verb(group, command, "show", "What a drawing-set file holds: stages, floors, drawings, layers", showDrawingSet)
-        .inputs("SET", "Drawing-set file");
-    Verb(group, command, "floors", "Read a floor exchange, write it again and compare the two", showFloorExchange)
-        .inputs("FLOORS", "Floor exchange")
-        .output("File to write the document to as it is written again", ".floor-sdc.json",
+    CLI::App &group = addGroup(app, "drawings", Message::help("Sets of drawings and the names of floors on them"));
+    Verb(group, command, "show", Message::help("What a drawing-set file holds: stages, floors, drawings, layers"),
+         showDrawingSet)
+        .inputs("SET", Message::help("Drawing-set file"));
+    Verb(group, command, "floors", Message::help("Read a floor exchange, write it again and compare the two"),
+         showFloorExchange)
+        .inputs("FLOORS", Message::help("Floor exchange"))
+        .output(Message::help("File to write the document to as it is written again"), ".floor-sdc.json",
                 Verb::NoOutput::NothingIsWritten);
-    Verb(group, command, "words", "The ways in which drawings write a floor", showWords)
-        .input("FLOOR", "Number of a floor, or a word for one");
+    Verb(group, command, "words", Message::help("The ways in which drawings write a floor"), showWords)
+        .input("FLOOR", Message::help("Number of a floor, or a word for one"));
 }
 
 } // namespace orvcad

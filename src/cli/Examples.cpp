@@ -1,5 +1,7 @@
 #include "cli/Examples.h"
 
+#include "cli/Message.h"
+
 #include <CLI/CLI.hpp>
 
 namespace orvcad {
@@ -8,7 +10,7 @@ namespace {
 
 std::string footerOf(const std::vector<std::string> &typed)
 {
-    std::string footer = typed.size() == 1 ? "Example:" : "Examples:";
+    std::string footer = typed.size() == 1 ? Message::help("Example:") : Message::help("Examples:");
     for (const std::string &line : typed)
         footer += "\n  " + line;
     return footer;

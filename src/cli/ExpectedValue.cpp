@@ -1,5 +1,7 @@
 #include "cli/ExpectedValue.h"
 
+#include "cli/Message.h"
+
 #include <QVariant>
 
 #include <cmath>
@@ -51,9 +53,11 @@ bool fits(const QJsonValue &value, Expected kind)
 
 QString wordFor(Expected kind)
 {
-    constexpr const char *words[] = {"text", "a whole number of 32 bits", "a number", "true or false",
-                                     "a whole number of 64 bits"};
-    return QString::fromLatin1(words[static_cast<int>(kind)]);
+    constexpr const char *words[] = {
+        QT_TRANSLATE_NOOP("orvcad", "text"), QT_TRANSLATE_NOOP("orvcad", "a whole number of 32 bits"),
+        QT_TRANSLATE_NOOP("orvcad", "a number"), QT_TRANSLATE_NOOP("orvcad", "true or false"),
+        QT_TRANSLATE_NOOP("orvcad", "a whole number of 64 bits")};
+    return Message::tr(words[static_cast<int>(kind)]);
 }
 
 } // namespace orvcad

@@ -2,6 +2,7 @@
 
 #include "cli/Counted.h"
 #include "cli/Files.h"
+#include "cli/Message.h"
 #include "cli/Progress.h"
 
 #include <QFileInfo>
@@ -61,8 +62,8 @@ private:
     }
     QString countsText() const
     {
-        return QStringLiteral("%1: %2 done, %3 with something left out, %4 failed")
-            .arg(counted(m_files.size(), QStringLiteral("file")))
+        return Message::tr("%1: %2 done, %3 with something left out, %4 failed")
+            .arg(counted(m_files.size(), Message::tr("file")))
             .arg(m_counts[kDone])
             .arg(m_counts[kLeftOut])
             .arg(m_counts[kBadInput]);
@@ -92,7 +93,7 @@ void requireDifferentOutputs(const std::vector<Arguments> &runs, std::string Arg
     for (const Arguments &run : runs) {
         const QString output = Arguments::text(run.output);
         if (files.contains(output))
-            failOfUsage(QStringLiteral("%1 and %2 would both be written to %3")
+            failOfUsage(Message::tr("%1 and %2 would both be written to %3")
                             .arg(files[output], Arguments::text(run.*file), output));
         files[output] = Arguments::text(run.*file);
     }
@@ -107,7 +108,7 @@ void runOne(const Action &action, const Arguments &arguments, const QString &fil
             throw; // of the command, not of this file
         verdicts.add(file, failure);
     } catch (const std::bad_alloc &) {
-        verdicts.add(file, CommandFailure(kBadInput, file, {}, QStringLiteral("there is not enough memory")));
+        verdicts.add(file, CommandFailure(kBadInput, file, {}, Message::tr("there is not enough memory")));
     }
 }
 
@@ -116,12 +117,12 @@ void runOne(const Action &action, const Arguments &arguments, const QString &fil
 void FileBatch::requireDirectory(const Arguments &arguments) const
 {
     if (isOutputRequired && arguments.output.empty())
-        failOfUsage(QStringLiteral("--output is required for several files: a directory"));
+        failOfUsage(Message::tr("--output is required for several files: a directory"));
     if (arguments.output == "-")
-        failOfUsage(QStringLiteral("--output -: several files would run into each other"));
+        failOfUsage(Message::tr("--output -: several files would run into each other"));
     const QString output = Arguments::text(arguments.output);
     if (!output.isEmpty() && QFileInfo::exists(output) && !QFileInfo(output).isDir())
-        throw CommandFailure(kBadInput, output, {}, QStringLiteral("is no directory, as several files need"));
+        throw CommandFailure(kBadInput, output, {}, Message::tr("is no directory, as several files need"));
 }
 
 std::vector<Arguments> FileBatch::runs(const Arguments &arguments) const
@@ -148,7 +149,7 @@ Summary FileBatch::run(const Action &action, const Arguments &arguments) const
     if (!isMany())
         return action(all.front());
     Verdicts verdicts;
-    Progress progress(QStringLiteral("files"), static_cast<int>(all.size()));
+    Progress progress(Message::tr("files"), static_cast<int>(all.size()));
     for (const Arguments &one : all) {
         runOne(action, one, Arguments::text(one.*file), verdicts);
         progress.step();

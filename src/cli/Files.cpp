@@ -1,6 +1,7 @@
 #include "cli/Files.h"
 
 #include "cli/Command.h"
+#include "cli/Message.h"
 #include "platform/dwgx/StrictJson.h"
 
 #include <QDir>
@@ -28,7 +29,7 @@ QByteArray readFile(const QString &path)
 {
     QFile file(path);
     if (QFileInfo(path).isDir())
-        throw CommandFailure(kBadInput, path, {}, QStringLiteral("is a directory"));
+        throw CommandFailure(kBadInput, path, {}, Message::tr("is a directory"));
     if (!file.open(QIODevice::ReadOnly))
         throw CommandFailure(kBadInput, path, {}, file.errorString());
     QByteArray bytes = file.readAll();
@@ -49,7 +50,7 @@ QJsonDocument parseJson(const QByteArray &text, const QString &path, LargeNumber
     QJsonDocument document = QJsonDocument::fromJson(text, &error);
     if (error.error != QJsonParseError::NoError)
         throw CommandFailure(kBadInput, path, dwgx::lineAndColumn(text, error.offset),
-                             QStringLiteral("not JSON: ") + error.errorString());
+                             Message::tr("not JSON: %1").arg(error.errorString()));
     requireStrictJson(text, path, large);
     return document;
 }
@@ -58,7 +59,7 @@ QJsonDocument readJsonFile(const QString &path, LargeNumbers large)
 {
     const QByteArray bytes = readFile(path);
     if (bytes.trimmed().isEmpty())
-        throw CommandFailure(kBadInput, path, {}, QStringLiteral("the file is empty"));
+        throw CommandFailure(kBadInput, path, {}, Message::tr("the file is empty"));
     return parseJson(bytes, path, large);
 }
 
@@ -66,7 +67,7 @@ QJsonObject readJsonObject(const QString &path, const QString &what, LargeNumber
 {
     const QJsonDocument document = readJsonFile(path, large);
     if (!document.isObject())
-        throw CommandFailure(kBadInput, path, {}, QStringLiteral("no %1: its top is no object").arg(what));
+        throw CommandFailure(kBadInput, path, {}, Message::tr("no %1: its top is no object").arg(what));
     return document.object();
 }
 
@@ -76,8 +77,8 @@ void writeToStandardOutput(const QByteArray &bytes, const QString &standing)
     if (std::fwrite(bytes.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0)
         return;
     const QString reason = QString::fromLocal8Bit(std::strerror(errno));
-    throw CommandFailure(kBadInput, QStringLiteral("standard output"), {},
-                         QStringLiteral("cannot be written: ") + reason + standing);
+    throw CommandFailure(kBadInput, Message::tr("standard output"), {},
+                         Message::tr("cannot be written: %1").arg(reason) + standing);
 }
 
 PendingResult::PendingResult(const QString &path, const QByteArray &bytes)
@@ -112,7 +113,7 @@ void PendingResult::commit()
 
 void PendingResult::fail(const QFileDevice &file) const
 {
-    throw CommandFailure(kBadInput, m_path, {}, QStringLiteral("cannot be written: ") + file.errorString());
+    throw CommandFailure(kBadInput, m_path, {}, Message::tr("cannot be written: %1").arg(file.errorString()));
 }
 
 bool writeResult(const QString &path, const QByteArray &bytes)
@@ -130,7 +131,7 @@ bool writeResult(const QString &path, const QJsonObject &document)
 QString fileIn(const QString &directory, const QString &name)
 {
     if (!QDir().mkpath(directory))
-        throw CommandFailure(kBadInput, directory, {}, QStringLiteral("the directory cannot be made"));
+        throw CommandFailure(kBadInput, directory, {}, Message::tr("the directory cannot be made"));
     return QDir(directory).filePath(name);
 }
 

@@ -2,6 +2,7 @@
 
 #include "cli/Counted.h"
 #include "cli/Files.h"
+#include "cli/Message.h"
 #include "cli/ProjectInfo.h"
 #include "cli/TypeTitles.h"
 #include "platform/embedded/HBXProject.h"
@@ -44,7 +45,7 @@ void FloorCopy::noteNotCarried(const HBXProject &project, const IHBXFloor &floor
     const auto types = projectInfo(project).typesOn(m_from.region, floor.name());
     for (auto type = types.cbegin(); type != types.cend(); ++type)
         if (!carried.contains(type.key())) {
-            m_notCarriedTitles.append(counted(type->drawObjects, typeTitle(type.key())));
+            m_notCarriedTitles.append(counted(type->drawObjects, shownTypeTitle(type.key())));
             m_notCarried.append(typeToJson(type.key(), *type));
         }
 }
@@ -73,10 +74,10 @@ void FloorCopy::note(const Load &load, const CopyRoad::Outcome &outcome)
 
 QString FloorCopy::text() const
 {
-    QStringList lines{QStringLiteral("Copied %1 to %2").arg(m_from.text(), m_to.text())};
+    QStringList lines{Message::tr("Copied %1 to %2").arg(m_from.text(), m_to.text())};
     lines += m_lines;
     if (!m_notCarriedTitles.isEmpty())
-        lines.append(QStringLiteral("not carried: ") + m_notCarriedTitles.join(QStringLiteral(", ")));
+        lines.append(Message::tr("not carried: %1").arg(m_notCarriedTitles.join(QStringLiteral(", "))));
     return lines.join('\n');
 }
 

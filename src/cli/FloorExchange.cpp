@@ -3,6 +3,7 @@
 #include "cli/Command.h"
 #include "cli/Files.h"
 #include "cli/JsonDifference.h"
+#include "cli/Message.h"
 #include "drawing/DrawingKeys.h"
 
 #include <QJsonArray>
@@ -85,9 +86,9 @@ bool isKnown(const QStringList &keys)
 QString whyLost(const JsonDifference &lost)
 {
     if (!isKnown(lost.keys))
-        return QStringLiteral("is no key of this format");
-    return lost.keys.last() == key::concreteAnchorJoint ? QStringLiteral("is empty, so it is not written")
-                                                        : QStringLiteral("is no text, so the field has no value");
+        return Message::tr("is no key of this format");
+    return lost.keys.last() == key::concreteAnchorJoint ? Message::tr("is empty, so it is not written")
+                                                        : Message::tr("is no text, so the field has no value");
 }
 
 QString reasonOf(const JsonDifference &difference)
@@ -95,8 +96,8 @@ QString reasonOf(const JsonDifference &difference)
     if (difference.after.isUndefined())
         return whyLost(difference);
     if (difference.before.isUndefined())
-        return QStringLiteral("is written and was not there");
-    return QStringLiteral("is written as another value");
+        return Message::tr("is written and was not there");
+    return Message::tr("is written as another value");
 }
 
 /** An empty list of settings says as little as none. */
@@ -128,7 +129,7 @@ std::vector<ORVCADFloorSDCData::Floor> readFloors(const QJsonObject &document, c
     if (ok)
         return floors;
     const JsonFault fault = firstRefusal(document).value_or(
-        JsonFault{QStringLiteral("%1[%2]").arg(key::floorSdcData).arg(floors.size()), QStringLiteral("is refused")});
+        JsonFault{QStringLiteral("%1[%2]").arg(key::floorSdcData).arg(floors.size()), Message::tr("is refused")});
     throw CommandFailure(kBadInput, path, fault.place, fault.reason);
 }
 
@@ -137,13 +138,13 @@ std::vector<ORVCADFloorSDCData::Floor> readFloors(const QJsonObject &document, c
 std::optional<JsonFault> firstRefusal(const QJsonObject &document)
 {
     if (!document.contains(key::floorSdcData))
-        return JsonFault{QString(), QStringLiteral("no floor exchange: %1 is missing").arg(key::floorSdcData)};
+        return JsonFault{QString(), Message::tr("no floor exchange: %1 is missing").arg(key::floorSdcData)};
     return firstFault(document, kDocument);
 }
 
 FloorExchange readFloorExchange(const QString &path)
 {
-    const QJsonObject document = readJsonObject(path, QStringLiteral("floor exchange"));
+    const QJsonObject document = readJsonObject(path, Message::tr("floor exchange"));
     const ORVCADFloorSDCData format;
     FloorExchange exchange;
     exchange.floors = readFloors(document, path);

@@ -2,6 +2,7 @@
 
 #include "cli/Arguments.h"
 #include "cli/Command.h"
+#include "cli/Message.h"
 #include "platform/embedded/HBXProject.h"
 #include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXFloors.h"
@@ -22,7 +23,7 @@ IHBXRegions &regionsOf(const HBXProject &project) { return *project.service()->m
 
 QString quotedList(const QStringList &names)
 {
-    return names.isEmpty() ? QStringLiteral("none") : '"' + names.join(QStringLiteral("\", \"")) + '"';
+    return names.isEmpty() ? Message::tr("none") : '"' + names.join(QStringLiteral("\", \"")) + '"';
 }
 
 QString knownFloors(IHBXRegion &region)
@@ -43,7 +44,7 @@ void appendFloors(IHBXRegion &region, std::vector<IHBXFloor *> &floors)
 struct FloorKey
 {
     IHBXFloor *(IHBXFloors::*find)(const QString &);
-    QString word;
+    const char *word; ///< in English
 };
 
 IHBXFloor *floorIn(IHBXModel &model, const QString &regionName, const FloorKey &key, const QString &value,
@@ -52,9 +53,9 @@ IHBXFloor *floorIn(IHBXModel &model, const QString &regionName, const FloorKey &
     IHBXRegion *region = model.regions()->find(regionName);
     IHBXFloor *floor = region ? (region->floors()->*key.find)(value) : nullptr;
     if (!region)
-        reason = QStringLiteral("unknown region \"%1\"").arg(regionName);
+        reason = Message::tr("unknown region \"%1\"").arg(regionName);
     else if (!floor)
-        reason = QStringLiteral("unknown %1 \"%2\" in region \"%3\"").arg(key.word, value, regionName);
+        reason = Message::tr("unknown %1 \"%2\" in region \"%3\"").arg(Message::tr(key.word), value, regionName);
     return floor;
 }
 
@@ -73,10 +74,10 @@ IHBXRegion &requireRegion(const HBXProject &project, const QString &name)
     IHBXRegion *region =
         name.isEmpty() && regionsOf(project).count() == 1 ? regionsOf(project).at(0) : regionsOf(project).find(name);
     if (!region) {
-        const QString reason =
-            name.isEmpty() ? QStringLiteral("no --region is given") : QStringLiteral("no region \"%1\"").arg(name);
+        const QString known = quotedList(regionNames(project));
         throw CommandFailure(kBadInput, project.path(), {},
-                             reason + QStringLiteral("; known regions: ") + quotedList(regionNames(project)));
+                             name.isEmpty() ? Message::tr("no --region is given; known regions: %1").arg(known)
+                                            : Message::tr("no region \"%1\"; known regions: %2").arg(name, known));
     }
     return *region;
 }
@@ -87,10 +88,9 @@ IHBXFloor &requireFloor(const HBXProject &project, IHBXRegion &region, const QSt
     if (!floor)
         floor = region.floors()->findByCode(name);
     if (!floor)
-        throw CommandFailure(
-            kBadInput, project.path(), {},
-            QStringLiteral("no floor \"%1\" in region \"%2\"; known floors: ").arg(name, region.name()) +
-                knownFloors(region));
+        throw CommandFailure(kBadInput, project.path(), {},
+                             Message::tr("no floor \"%1\" in region \"%2\"; known floors: %3")
+                                 .arg(name, region.name(), knownFloors(region)));
     return *floor;
 }
 
@@ -129,12 +129,13 @@ QSet<qint64> idsOf(const std::vector<IHBXFloor *> &floors)
 
 IHBXFloor *floorOfNames(IHBXModel &model, const QString &regionName, const QString &floorName, QString &reason)
 {
-    return floorIn(model, regionName, {&IHBXFloors::find, QStringLiteral("floor")}, floorName, reason);
+    return floorIn(model, regionName, {&IHBXFloors::find, QT_TRANSLATE_NOOP("orvcad", "floor")}, floorName, reason);
 }
 
 IHBXFloor *floorOfCode(IHBXModel &model, const QString &regionName, const QString &floorCode, QString &reason)
 {
-    return floorIn(model, regionName, {&IHBXFloors::findByCode, QStringLiteral("floor code")}, floorCode, reason);
+    return floorIn(model, regionName, {&IHBXFloors::findByCode, QT_TRANSLATE_NOOP("orvcad", "floor code")}, floorCode,
+                   reason);
 }
 
 } // namespace orvcad

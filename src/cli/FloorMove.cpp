@@ -2,6 +2,7 @@
 
 #include "IdentifyInputModel/Wall/WallKeys.h"
 #include "beam/BeamKeys.h"
+#include "cli/Message.h"
 #include "doorwindow/DoorWindowKeys.h"
 #include "platform/embedded/HBXElevationText.h"
 #include "platform/host/IHBXFloor.h"
@@ -46,7 +47,7 @@ constexpr double kMicrometresPerMetre = 1e6;
 
 } // namespace
 
-QString FloorPlace::text() const { return QStringLiteral("%1 of %2").arg(name, region); }
+QString FloorPlace::text() const { return Message::tr("%1 of %2").arg(name, region); }
 
 QJsonObject FloorPlace::toJson() const { return {{"region", region}, {"floor", name}}; }
 

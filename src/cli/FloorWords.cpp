@@ -1,6 +1,7 @@
 #include "cli/FloorWords.h"
 
 #include "cli/Command.h"
+#include "cli/Message.h"
 #include "drawing/DWGXFloorWordFuns.h"
 
 #include <QJsonArray>
@@ -34,10 +35,10 @@ int checkedNumber(const QString &text)
 {
     const int number = text.toInt(); // 0 for one that does not fit
     if (DWGXFloorWordFuns::toFloorName(number).isEmpty())
-        throw CommandFailure(
-            kWrongUsage, QStringLiteral("FLOOR: no floor has the number %1; floors go from 1 to %2 and from -1 to -%2")
-                             .arg(text)
-                             .arg(kHighestNumber));
+        throw CommandFailure(kWrongUsage,
+                             Message::tr("FLOOR: no floor has the number %1; floors go from 1 to %2 and from -1 to -%2")
+                                 .arg(text)
+                                 .arg(kHighestNumber));
     return number;
 }
 
@@ -57,10 +58,10 @@ FloorWords floorWords(const QString &numberOrWord)
 QString FloorWords::text() const
 {
     if (number != 0)
-        return QStringLiteral("Floor %1: %2\n%3").arg(number).arg(name, names.join('\n'));
+        return Message::tr("Floor %1: %2\n%3").arg(number).arg(name, names.join('\n'));
     if (!otherWords.isEmpty())
-        return QStringLiteral("Top floor %1\n%2").arg(asked, otherWords.join('\n'));
-    return QStringLiteral("No floor is written \"%1\"").arg(asked);
+        return Message::tr("Top floor %1\n%2").arg(asked, otherWords.join('\n'));
+    return Message::tr("No floor is written \"%1\"").arg(asked);
 }
 
 QJsonObject FloorWords::toJson() const

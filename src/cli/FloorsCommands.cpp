@@ -1,6 +1,7 @@
 #include "cli/Counted.h"
 #include "cli/FloorLookup.h"
 #include "cli/FloorsDocument.h"
+#include "cli/Message.h"
 #include "cli/ProjectFiles.h"
 #include "cli/TextTable.h"
 #include "cli/Verb.h"
@@ -46,13 +47,13 @@ QString shown(ORVCADFloor *floor) { return floor ? floor->name() : QStringLitera
 QStringList floorLines(ORVCADFloors &floors)
 {
     constexpr auto right = TextTable::Align::Right;
-    TextTable table({{"no", right},
-                     {"floor"},
-                     {"bottom m", right},
-                     {"top m", right},
-                     {"storeys", right},
-                     {"upstairs"},
-                     {"downstairs"}});
+    TextTable table({{Message::tr("no"), right},
+                     {Message::tr("floor")},
+                     {Message::tr("bottom m"), right},
+                     {Message::tr("top m"), right},
+                     {Message::tr("storeys"), right},
+                     {Message::tr("upstairs")},
+                     {Message::tr("downstairs")}});
     int number = 0;
     for (ORVCADFloor *floor : qAsConst(floors.getFloors()))
         table.add({QString::number(++number), floor->name(), QString::number(floor->btmElev()),
@@ -63,9 +64,9 @@ QStringList floorLines(ORVCADFloors &floors)
 
 QString floorsText(ORVCADFloors &floors)
 {
-    QStringList lines{QStringLiteral("Area %1").arg(floors.getAreaName())};
+    QStringList lines{Message::tr("Area %1").arg(floors.getAreaName())};
     lines += floorLines(floors);
-    lines.append(QStringLiteral("base %1, first %2, highest %3, lowest %4")
+    lines.append(Message::tr("base %1, first %2, highest %3, lowest %4")
                      .arg(shown(floors.getBaseFloor()), shown(floors.getFirstFloor()), shown(floors.getHighestFloor()),
                           shown(floors.getLowestFloor())));
     return lines.join('\n');
@@ -75,10 +76,10 @@ Summary exportFloors(const Arguments &arguments)
 {
     const auto project = openProject(Arguments::text(arguments.project));
     const auto floors = floorsOfRegion(requireRegion(*project, Arguments::text(arguments.region)));
-    return writeDocument(arguments, floors->toJson(),
-                         {QStringLiteral("Wrote %1 of %2")
-                              .arg(counted(floors->getCount(), QStringLiteral("floor")), floors->getAreaName()),
-                          {{"areaName", floors->getAreaName()}, {"floors", floors->getCount()}}});
+    return writeDocument(
+        arguments, floors->toJson(),
+        {Message::tr("Wrote %1 of %2").arg(counted(floors->getCount(), Message::tr("floor")), floors->getAreaName()),
+         {{"areaName", floors->getAreaName()}, {"floors", floors->getCount()}}});
 }
 
 Summary showFloors(const Arguments &arguments)
@@ -88,7 +89,7 @@ Summary showFloors(const Arguments &arguments)
     QString text = floorsText(*document.floors);
     json["leftOut"] = QJsonArray::fromStringList(document.leftOut);
     for (const QString &place : document.leftOut)
-        text += QStringLiteral("\nleft out: ") + place;
+        text += u'\n' + Message::tr("left out: %1").arg(place);
     return {text, json, document.leftOut.isEmpty() ? kDone : kLeftOut};
 }
 
@@ -96,13 +97,14 @@ Summary showFloors(const Arguments &arguments)
 
 void addFloorsCommands(CLI::App &app, Command &command)
 {
-    CLI::App &group = addGroup(app, "floors", "Floors documents");
-    Verb(group, command, "export", "Write the floors of a region as a floors document", exportFloors)
+    CLI::App &group = addGroup(app, "floors", Message::help("Floors documents"));
+    Verb(group, command, "export", Message::help("Write the floors of a region as a floors document"), exportFloors)
         .projects()
         .region()
-        .output("File to write the document to", ".floors.json");
-    Verb(group, command, "show", "Read a floors document and print how its floors stand to each other", showFloors)
-        .inputs("FLOORS", "Floors document");
+        .output(Message::help("File to write the document to"), ".floors.json");
+    Verb(group, command, "show", Message::help("Read a floors document and print how its floors stand to each other"),
+         showFloors)
+        .inputs("FLOORS", Message::help("Floors document"));
 }
 
 } // namespace orvcad

@@ -3,6 +3,7 @@
 #include "cli/Command.h"
 #include "cli/ExpectedValue.h"
 #include "cli/Files.h"
+#include "cli/Message.h"
 #include "cli/UnreadKeys.h"
 #include "drawing/DrawingKeys.h"
 #include "drawing/ORVCADFloor.h"
@@ -31,9 +32,9 @@ std::unique_ptr<ORVCADFloor> floorOfHost(const IHBXFloor &source)
 QString reasonToSkip(const QJsonValue &member)
 {
     if (!member.isObject())
-        return QStringLiteral("is no object");
+        return Message::tr("is no object");
     const std::unique_ptr<ORVCADFloor> floor(ORVCADFloor::fromJson(member.toObject()));
-    return floor ? QString() : QStringLiteral("lacks one of Name, BottomElev, Height, StdCount, Remark");
+    return floor ? QString() : Message::tr("lacks one of Name, BottomElev, Height, StdCount, Remark");
 }
 
 constexpr KeyKind kFloorKeys[] = {{drawing::key::name, Expected::Text},
@@ -50,9 +51,9 @@ QStringList changedIn(const QJsonObject &floor)
     for (const KeyKind &expected : kFloorKeys) {
         known.append(expected.key);
         if (!fits(floor.value(expected.key), expected.kind))
-            changed.append(QStringLiteral("%1: is not %2, and reads as %3")
+            changed.append(Message::tr("%1: is not %2, and reads as %3")
                                .arg(expected.key, wordFor(expected.kind),
-                                    expected.kind == Expected::Text ? QStringLiteral("nothing") : QStringLiteral("0")));
+                                    expected.kind == Expected::Text ? Message::tr("nothing") : QStringLiteral("0")));
     }
     return changed + unreadIn(floor, known);
 }
@@ -62,7 +63,7 @@ QStringList changedAround(const QJsonObject &document)
 {
     QStringList changed;
     if (!document.value(drawing::key::areaName).isString())
-        changed.append(QStringLiteral("%1: is not text, and reads as nothing").arg(drawing::key::areaName));
+        changed.append(Message::tr("%1: is not text, and reads as nothing").arg(drawing::key::areaName));
     return changed + unreadIn(document, {drawing::key::areaName, drawing::key::floors});
 }
 
@@ -79,14 +80,14 @@ std::unique_ptr<ORVCADFloors> floorsOfRegion(IHBXRegion &region)
 
 FloorsDocument readFloorsDocument(const QString &path)
 {
-    const QJsonObject json = readJsonObject(path, QStringLiteral("floors document"));
+    const QJsonObject json = readJsonObject(path, Message::tr("floors document"));
     FloorsDocument document;
     document.floors.reset(ORVCADFloors::fromJson(json));
     if (!document.floors)
-        throw CommandFailure(kBadInput, path, {}, QStringLiteral("no floors document: AreaName or Floors is missing"));
+        throw CommandFailure(kBadInput, path, {}, Message::tr("no floors document: AreaName or Floors is missing"));
     const QJsonValue members = json[drawing::key::floors];
     if (!members.isArray())
-        throw CommandFailure(kBadInput, path, drawing::key::floors, QStringLiteral("is no array"));
+        throw CommandFailure(kBadInput, path, drawing::key::floors, Message::tr("is no array"));
     document.leftOut = changedAround(json);
     int index = 0;
     for (const QJsonValue &member : members.toArray()) {

@@ -1,5 +1,6 @@
 #include "cli/GeometryFormats.h"
 
+#include "cli/Message.h"
 #include "cli/NearestName.h"
 #include "encoding/GeometryFields.h"
 #include "encoding/GeometryTextReader.h"
@@ -16,16 +17,15 @@ QString whyNotWord(const QString &text, const QStringList &known)
     if (known.contains(word))
         return {};
     const QString meant = nearestName(word.toUpper(), known);
-    return meant.isEmpty() ? QStringLiteral("does not begin with %1").arg(known.join(QStringLiteral(" or ")))
-                           : QStringLiteral("begins with \"%1\": %2 is meant").arg(word.left(20), meant);
+    return meant.isEmpty() ? Message::tr("does not begin with %1").arg(known.join(Message::tr(" or ")))
+                           : Message::tr("begins with \"%1\": %2 is meant").arg(word.left(20), meant);
 }
 
 QString whyNotCurve(const QString &text)
 {
     GeometryTextReader::Curve curve;
-    return GeometryTextReader::reconstructCurve(text, curve)
-               ? QString()
-               : QStringLiteral("is no text of a curve in the short form");
+    return GeometryTextReader::reconstructCurve(text, curve) ? QString()
+                                                             : Message::tr("is no text of a curve in the short form");
 }
 
 QString whyNotOutlineText(const QString &text)
@@ -33,8 +33,8 @@ QString whyNotOutlineText(const QString &text)
     GeometryTextReader::Polygon polygon;
     if (GeometryTextReader::reconstructPoly(text, polygon))
         return {};
-    return polygon ? QStringLiteral("is an outline that crosses itself or has no area")
-                   : QStringLiteral("is no text of an outline in the short form");
+    return polygon ? Message::tr("is an outline that crosses itself or has no area")
+                   : Message::tr("is no text of an outline in the short form");
 }
 
 QString whyNotKernelCurve(const QString &text)
@@ -42,7 +42,7 @@ QString whyNotKernelCurve(const QString &text)
     QString reason = whyNotWord(text, {"LINESTRING", "CIRCULARSTRING"});
     if (!reason.isEmpty())
         return reason;
-    return encoding::KernelText::curve(text) ? QString() : QStringLiteral("is no well-known text of a line or an arc");
+    return encoding::KernelText::curve(text) ? QString() : Message::tr("is no well-known text of a line or an arc");
 }
 
 QString whyNotKernelOutline(const QString &text)

@@ -106,8 +106,9 @@ private:
     }
     QString about() const
     {
-        const QString what = QStringLiteral("%1, %2").arg(counted(m_page.floors, QStringLiteral("floor")),
-                                                          counted(m_page.drawn, QStringLiteral("placed object")));
+        const QString what =
+            QStringLiteral("%1, %2").arg(countedInEnglish(m_page.floors, QStringLiteral("floor")),
+                                         countedInEnglish(m_page.drawn, QStringLiteral("placed object")));
         return m_after.source().isEmpty() ? what : QStringLiteral("%1. %2").arg(what, m_after.source());
     }
 

@@ -1,6 +1,7 @@
 #include "cli/JsonFault.h"
 
 #include "cli/Counted.h"
+#include "cli/Message.h"
 
 #include <QJsonObject>
 
@@ -24,9 +25,9 @@ QStringList faultLines(const QString &about, const std::vector<JsonFault> &fault
 
 QString writtenAgainText(std::size_t differences)
 {
-    return differences == 0 ? QStringLiteral("written again, it is the same document")
-                            : QStringLiteral("written again, it differs at %1")
-                                  .arg(counted(static_cast<int>(differences), QStringLiteral("place")));
+    return differences == 0 ? Message::tr("written again, it is the same document")
+                            : Message::tr("written again, it differs at %1")
+                                  .arg(counted(static_cast<int>(differences), Message::tr("place")));
 }
 
 } // namespace orvcad

@@ -1,5 +1,7 @@
 #include "cli/JsonShape.h"
 
+#include "cli/Message.h"
+
 #include <QJsonArray>
 #include <QJsonObject>
 
@@ -57,22 +59,22 @@ bool isOfKind(const QJsonValue &value, Kind kind)
 
 /** What a value of a kind is not, in the order of the kinds. */
 constexpr const char *kReasons[] = {
-    "is no text",
+    QT_TRANSLATE_NOOP("orvcad", "is no text"),
     "",
-    "is no whole number",
-    "is no whole number from -2147483647 to 2147483647",
-    "is no number above -1.7976931348623157e+308",
-    "is neither a number nor null",
-    "is no object",
-    "is no object",
-    "is no array",
+    QT_TRANSLATE_NOOP("orvcad", "is no whole number"),
+    QT_TRANSLATE_NOOP("orvcad", "is no whole number from -2147483647 to 2147483647"),
+    QT_TRANSLATE_NOOP("orvcad", "is no number above -1.7976931348623157e+308"),
+    QT_TRANSLATE_NOOP("orvcad", "is neither a number nor null"),
+    QT_TRANSLATE_NOOP("orvcad", "is no object"),
+    QT_TRANSLATE_NOOP("orvcad", "is no object"),
+    QT_TRANSLATE_NOOP("orvcad", "is no array"),
 };
 
 QString reasonFor(const QJsonValue &value, Kind kind)
 {
     if (kind == Kind::Number && !value.isDouble())
-        return QStringLiteral("is no number");
-    return QString::fromLatin1(kReasons[static_cast<int>(kind)]);
+        return Message::tr("is no number");
+    return Message::tr(kReasons[static_cast<int>(kind)]);
 }
 
 Fault faultIn(const QJsonValue &value, const JsonShape &shape);
@@ -97,17 +99,17 @@ Fault faultOfMember(const QJsonObject &object, const JsonShape::Member &member)
         Fault fault = faultIn(*found, *member.shape);
         return fault ? below(step(member.key), fault) : fault;
     }
-    return member.missing == JsonShape::Missing::Taken ? Fault() : faultAt(member.key, QStringLiteral("is missing"));
+    return member.missing == JsonShape::Missing::Taken ? Fault() : faultAt(member.key, Message::tr("is missing"));
 }
 
 Fault faultOfKeys(const QJsonObject &object, const JsonShape &shape)
 {
     for (std::size_t i = 0; i < shape.memberCount; ++i)
         if (shape.members[i].missing == JsonShape::Missing::Refused && !object.contains(shape.members[i].key))
-            return faultAt(shape.members[i].key, QStringLiteral("is missing"));
+            return faultAt(shape.members[i].key, Message::tr("is missing"));
     for (auto member = object.begin(); member != object.end(); ++member)
         if (!shape.member(member.key()))
-            return faultAt(member.key(), QStringLiteral("is no member of this format"));
+            return faultAt(member.key(), Message::tr("is no member of this format"));
     return {};
 }
 
@@ -132,7 +134,7 @@ Fault faultOfMap(const QJsonObject &object, const JsonShape &shape)
 Fault faultOfList(const QJsonArray &list, const JsonShape &shape)
 {
     if (shape.length >= 0 && list.size() != shape.length)
-        return JsonFault{QString(), QStringLiteral("is no array of %1 entries").arg(shape.length)};
+        return JsonFault{QString(), Message::tr("is no array of %1 entries").arg(shape.length)};
     for (int i = 0; i < list.size(); ++i)
         if (const Fault fault = faultIn(list.at(i), *shape.element))
             return below(step(i), fault);
@@ -182,7 +184,7 @@ void addUnknown(const QJsonValue &value, const JsonShape &shape, const QString &
         const JsonShape::Member *known = shape.kind == Kind::Object ? shape.member(member.key()) : nullptr;
         const JsonShape *below = known ? known->shape : shape.element;
         if (shape.kind == Kind::Object && !known)
-            faults.push_back({place + step(member.key()), QStringLiteral("is no member of this format, and not read")});
+            faults.push_back({place + step(member.key()), Message::tr("is no member of this format, and not read")});
         else if (below)
             addUnknown(*member, *below, place + step(member.key()), faults);
     }

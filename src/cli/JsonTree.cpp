@@ -1,5 +1,6 @@
 #include "cli/JsonTree.h"
 
+#include "cli/Message.h"
 #include "cli/StrictJsonText.h"
 
 #include <rapidjson/error/en.h>
@@ -151,9 +152,9 @@ JsonTree::JsonTree(const QByteArray &text) : m_text(text)
     if (result.IsError())
         m_faults.push_back(
             {builder.innermost(), start + static_cast<int>(result.Offset()),
-             QStringLiteral("not JSON: ") + QString::fromLatin1(rapidjson::GetParseError_En(result.Code()))});
+             Message::tr("not JSON: %1").arg(QLatin1String(rapidjson::GetParseError_En(result.Code())))});
     else if (m_isBroken)
-        m_faults.push_back({0, end, QStringLiteral("not JSON: a character of code 0 stands behind the document.")});
+        m_faults.push_back({0, end, Message::tr("not JSON: a character of code 0 stands behind the document.")});
 }
 
 std::unique_ptr<JsonTree> JsonTree::over(const QByteArray &text)
@@ -206,7 +207,7 @@ void JsonTree::noteRepeated(Index object)
         m_nodes[static_cast<std::size_t>(members[i - 1])].isShadowed = true;
         --m_nodes[static_cast<std::size_t>(object)].count;
         m_faults.push_back({members[i], node(members[i]).keyOffset,
-                            QStringLiteral("stands twice in one object, and the last one would count")});
+                            Message::tr("stands twice in one object, and the last one would count")});
     }
 }
 

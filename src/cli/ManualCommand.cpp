@@ -1,6 +1,7 @@
 #include "cli/Counted.h"
 #include "cli/Files.h"
 #include "cli/ManualPages.h"
+#include "cli/Message.h"
 #include "cli/Verb.h"
 
 #include <CLI/CLI.hpp>
@@ -16,7 +17,7 @@ Summary writeManual(const CLI::App &app, const Arguments &arguments)
     for (const ManualPage &page : pages)
         writeResult(fileIn(directory, Arguments::text(page.name) + ".1"), QByteArray::fromStdString(page.text));
     const auto count = static_cast<int>(pages.size());
-    return {QStringLiteral("Wrote %1 into %2").arg(counted(count, QStringLiteral("manual page")), directory),
+    return {Message::tr("Wrote %1 into %2").arg(counted(count, Message::tr("manual page")), directory),
             {{"directory", directory}, {"pages", count}}};
 }
 
@@ -24,9 +25,9 @@ Summary writeManual(const CLI::App &app, const Arguments &arguments)
 
 void addManualCommand(CLI::App &app, Command &command)
 {
-    Verb verb(app, command, "manual", "Write the manual pages, for packagers",
+    Verb verb(app, command, "manual", Message::help("Write the manual pages, for packagers"),
               [&app](const Arguments &arguments) { return writeManual(app, arguments); });
-    verb.app().add_option("DIR", verb.arguments().output, "Directory for the pages")->required();
+    verb.app().add_option("DIR", verb.arguments().output, Message::help("Directory for the pages"))->required();
     verb.app().group(""); // not in the help
 }
 

@@ -1,6 +1,7 @@
 #include "cli/ManualPages.h"
 
 #include "cli/Examples.h"
+#include "cli/Message.h"
 
 #include <CLI/CLI.hpp>
 
@@ -14,19 +15,26 @@ namespace {
 struct Row
 {
     const char *term;
-    const char *text;
+    const char *text; ///< in English
 };
 
 const Row kExitCodes[] = {
-    {"0", "All that was asked is done, and all that was sent arrived as it was sent."},
-    {"1", "The arguments are wrong; nothing was done."},
-    {"2", "An input or a file cannot be used. No project file was changed, unless the message says so."},
-    {"3", "Done, but some members, parts or values were left out; with --strict nothing was saved."},
+    {"0", QT_TRANSLATE_NOOP("orvcad", "All that was asked is done, and all that was sent arrived as it was sent.")},
+    {"1", QT_TRANSLATE_NOOP("orvcad", "The arguments are wrong; nothing was done.")},
+    {"2", QT_TRANSLATE_NOOP(
+              "orvcad", "An input or a file cannot be used. No project file was changed, unless the message says so.")},
+    {"3", QT_TRANSLATE_NOOP("orvcad",
+                            "Done, but some members, parts or values were left out; with --strict nothing was saved.")},
 };
 
 const Row kVariables[] = {
-    {"NO_COLOR", "If set and not empty, messages have no colours."},
-    {"TERM", "If \"dumb\", there are neither colours nor a progress bar. Files and pipes never get either."},
+    {"LANGUAGE, LC_ALL, LC_MESSAGES, LANG",
+     QT_TRANSLATE_NOOP("orvcad", "The first of them that is set names the language of messages: English or Chinese. "
+                                 "Documents, and summaries under --json, are the same in both.")},
+    {"NO_COLOR", QT_TRANSLATE_NOOP("orvcad", "If set and not empty, messages have no colours.")},
+    {"TERM",
+     QT_TRANSLATE_NOOP("orvcad",
+                       "If \"dumb\", there are neither colours nor a progress bar. Files and pipes never get either.")},
 };
 
 /** A text that no character of gives a meaning to roff. */
@@ -45,6 +53,12 @@ std::string plain(const std::string &text)
     }
     const bool isRequest = !escaped.empty() && escaped.front() == '.';
     return isRequest ? "\\&" + escaped : escaped;
+}
+
+/** A line of the help as a sentence. */
+std::string sentence(const std::string &text)
+{
+    return plain(Message::tr("%1.").arg(QString::fromStdString(text)).toStdString());
 }
 
 std::string bold(const std::string &text) { return "\\fB" + plain(text) + "\\fR"; }
@@ -126,19 +140,24 @@ public:
     Page(const CLI::App &app, const std::string &version)
     {
         const std::string name = typedName(app);
-        m_text << ".TH " << upper(hyphened(name)) << " 1 \"\" \"" << plain(version) << "\" \"User Commands\"\n";
-        section("NAME");
+        m_text << ".TH " << upper(hyphened(name)) << " 1 \"\" \"" << plain(version) << "\" \""
+               << Message::help("User Commands") << "\"\n";
+        section(Message::help("NAME"));
         m_text << plain(hyphened(name)) << " \\- " << plain(app.get_description()) << '\n';
     }
 
-    void section(const char *title) { m_text << ".SH " << title << '\n'; }
+    void section(const std::string &title)
+    {
+        const char *quote = title.find(' ') == std::string::npos ? "" : "\"";
+        m_text << ".SH " << quote << title << quote << '\n';
+    }
     void line(const std::string &roff) { m_text << roff << '\n'; }
     void item(const std::string &term, const std::string &text) { m_text << ".TP\n" << term << '\n' << text << '\n'; }
-    template <std::size_t Count> void table(const char *title, const Row (&rows)[Count])
+    template <std::size_t Count> void table(const std::string &title, const Row (&rows)[Count])
     {
         section(title);
         for (const Row &row : rows)
-            item(bold(row.term), plain(row.text));
+            item(bold(row.term), plain(Message::help(row.text)));
     }
     void synopsis(const CLI::App &verb)
     {
@@ -151,13 +170,13 @@ public:
     void options(const CLI::App &verb)
     {
         for (const CLI::Option *option : verb.get_options())
-            item(term(*option), plain(option->get_description()) + '.');
+            item(term(*option), sentence(option->get_description()));
     }
     void examples(const std::vector<std::string> &typed)
     {
         if (typed.empty())
             return;
-        section("EXAMPLES");
+        section(Message::help("EXAMPLES"));
         line(".nf");
         for (const std::string &command : typed)
             line(plain(command));
@@ -172,16 +191,16 @@ private:
 ManualPage pageOfProgram(const CLI::App &app)
 {
     Page page(app, app.version());
-    page.section("SYNOPSIS");
+    page.section(Message::help("SYNOPSIS"));
     page.line(bold(app.get_name()) + ' ' + italic("COMMAND") + " [" + italic("ARGUMENT") + "]... [" + bold("--json") +
               "] [" + bold("--quiet") + ']');
-    page.section("COMMANDS");
+    page.section(Message::help("COMMANDS"));
     for (const CLI::App *group : shownBelow(app))
-        page.item(".BR " + plain(hyphened(typedName(*group))) + " (1)", plain(group->get_description()) + '.');
-    page.section("OPTIONS");
+        page.item(".BR " + plain(hyphened(typedName(*group))) + " (1)", sentence(group->get_description()));
+    page.section(Message::help("OPTIONS"));
     page.options(app);
-    page.table("\"EXIT STATUS\"", kExitCodes);
-    page.table("ENVIRONMENT", kVariables);
+    page.table(Message::help("EXIT STATUS"), kExitCodes);
+    page.table(Message::help("ENVIRONMENT"), kVariables);
     page.examples(examplesOf(""));
     return {app.get_name(), page.text()};
 }
@@ -190,21 +209,21 @@ ManualPage pageOfGroup(const CLI::App &app, const CLI::App &group)
 {
     Page page(group, app.version());
     const std::vector<const CLI::App *> verbs = verbsOf(group);
-    page.section("SYNOPSIS");
+    page.section(Message::help("SYNOPSIS"));
     for (const CLI::App *verb : verbs)
         page.synopsis(*verb);
-    page.section("DESCRIPTION");
+    page.section(Message::help("DESCRIPTION"));
     std::vector<std::string> typed;
     for (const CLI::App *verb : verbs) {
         page.line(".SS " + plain(typedName(*verb)));
-        page.line(plain(verb->get_description()) + '.');
+        page.line(sentence(verb->get_description()));
         page.options(*verb);
         for (const std::string &example : examplesOf(commandName(*verb)))
             typed.push_back(example);
     }
-    page.table("\"EXIT STATUS\"", kExitCodes);
+    page.table(Message::help("EXIT STATUS"), kExitCodes);
     page.examples(typed);
-    page.section("\"SEE ALSO\"");
+    page.section(Message::help("SEE ALSO"));
     page.line(".BR " + plain(app.get_name()) + " (1)");
     return {hyphened(typedName(group)), page.text()};
 }

@@ -16,7 +16,8 @@ struct ManualPage
     std::string text; ///< roff with the macros of man(7)
 };
 
-/** One page for the program and one for each group and each verb that stands alone, made of what the help tells. */
+/** One page for the program and one for each group and each verb that stands alone, made of what the help tells and in
+ *  its language. */
 std::vector<ManualPage> manualPages(const CLI::App &app);
 
 } // namespace orvcad

@@ -1,6 +1,7 @@
 #include "cli/MemberKinds.h"
 
 #include "cli/ExpectedValue.h"
+#include "cli/Message.h"
 #include "encoding/GeometryFields.h"
 #include "encoding/GeometryTextReader.h"
 #include "platform/embedded/ExchangeGeometry.h"
@@ -23,11 +24,11 @@ QString wrongKey(const QJsonObject &member, const QJsonObject &pattern, const QS
                  const QStringList &required)
 {
     const auto wrong = [](const QString &key, Expected kind) {
-        return QStringLiteral("%1 is not %2").arg(key, wordFor(kind));
+        return Message::tr("%1 is not %2").arg(key, wordFor(kind));
     };
     for (const QString &key : required)
         if (!member.contains(key))
-            return QStringLiteral("%1 is missing").arg(key);
+            return Message::tr("%1 is missing").arg(key);
     for (auto known = pattern.begin(); known != pattern.end(); ++known) {
         const auto value = member.find(known.key());
         if (value == member.end())
@@ -46,14 +47,14 @@ QString whyNotAxis(QLatin1String key, const QString &text)
     if (text.isEmpty())
         return {};
     if (!GeometryTextReader::reconstructCurve(text, axis))
-        return QStringLiteral("%1 is no curve").arg(key);
-    return axis->Length() > vks::g_DistEpsilon ? QString() : QStringLiteral("%1 has no length").arg(key);
+        return Message::tr("%1 is no curve").arg(key);
+    return axis->Length() > vks::g_DistEpsilon ? QString() : Message::tr("%1 has no length").arg(key);
 }
 
 QString whyNotOutline(QLatin1String key, const QString &text)
 {
     if (!encoding::KernelText::polygon(text))
-        return QStringLiteral("%1 is no outline").arg(key);
+        return Message::tr("%1 is no outline").arg(key);
     try {
         hbx::embedded::polygonFromJson(text, dwgx::JsonPlace());
         return {};

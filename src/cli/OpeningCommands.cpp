@@ -2,6 +2,7 @@
 #include "cli/Counted.h"
 #include "cli/Files.h"
 #include "cli/FloorLookup.h"
+#include "cli/Message.h"
 #include "cli/Openings.h"
 #include "cli/ProjectFiles.h"
 #include "cli/Verb.h"
@@ -21,11 +22,11 @@ Summary exportOpenings(const Arguments &arguments)
     OpeningCounts counts;
     const QJsonObject reply = openingReply(*project->service()->model(), floors, counts);
     return writeDocument(arguments, reply,
-                         {QStringLiteral("Wrote %1 and %2 (%3 in a wall) of %4")
-                              .arg(counted(counts.elements, QStringLiteral("element")),
-                                   counted(counts.placed, QStringLiteral("placed opening")))
+                         {Message::tr("Wrote %1 and %2 (%3 in a wall) of %4")
+                              .arg(counted(counts.elements, Message::tr("element")),
+                                   counted(counts.placed, Message::tr("placed opening")))
                               .arg(counts.attached)
-                              .arg(counted(floorCount, QStringLiteral("floor"))),
+                              .arg(counted(floorCount, Message::tr("floor"))),
                           {{"floors", floorCount},
                            {"elements", counts.elements},
                            {"placed", counts.placed},
@@ -50,25 +51,25 @@ Summary exportOptions(const Arguments &arguments)
     const int options = model.identifyOptions.size();
     return writeDocument(
         arguments, document,
-        {QStringLiteral("Wrote %1").arg(counted(options, QStringLiteral("option"))), {{"options", options}}});
+        {Message::tr("Wrote %1").arg(counted(options, Message::tr("option"))), {{"options", options}}});
 }
 
 } // namespace
 
 void addOpeningCommands(CLI::App &app, Command &command)
 {
-    CLI::App &group = addGroup(app, "opening", "Doors and windows");
-    Verb(group, command, "export", "Write doors and windows in the form of a reply", exportOpenings)
+    CLI::App &group = addGroup(app, "opening", Message::help("Doors and windows"));
+    Verb(group, command, "export", Message::help("Write doors and windows in the form of a reply"), exportOpenings)
         .projects()
         .anyFloors()
-        .output("File to write the reply to", ".openings.json");
-    Verb(group, command, "apply", "Write a reply into a project and save it", applyReply)
+        .output(Message::help("File to write the reply to"), ".openings.json");
+    Verb(group, command, "apply", Message::help("Write a reply into a project and save it"), applyReply)
         .project()
-        .input("REPLY", "Reply document")
-        .strict("reply");
-    Verb(group, command, "options", "Write the identify options of doors and windows", exportOptions)
+        .input("REPLY", Message::help("Reply document"))
+        .strict(Message::help("reply"));
+    Verb(group, command, "options", Message::help("Write the identify options of doors and windows"), exportOptions)
         .projects()
-        .output("File to write the options to", ".opening-options.json");
+        .output(Message::help("File to write the options to"), ".opening-options.json");
 }
 
 } // namespace orvcad

@@ -2,6 +2,7 @@
 
 #include "cli/Counted.h"
 #include "cli/FloorLookup.h"
+#include "cli/Message.h"
 #include "cli/Openings.h"
 #include "doorwindow/DoorWindowKeys.h"
 #include "platform/embedded/HBXProject.h"
@@ -42,12 +43,12 @@ QString wallOf(const IHBXElementDrawObj &opening)
 {
     IHBXElementDrawObj *wall = opening.parent();
     if (!wall)
-        return QStringLiteral("no wall");
+        return Message::tr("no wall");
     QString name;
     wall->element()->name(name);
     QList<IHBXElementDrawObj *> pieces;
     wall->element()->drawObjs(pieces, 0);
-    return QStringLiteral("wall %1, piece %2").arg(name, QString::number(pieces.indexOf(wall)));
+    return Message::tr("wall %1, piece %2").arg(name, QString::number(pieces.indexOf(wall)));
 }
 
 std::vector<IHBXElementDrawObj *> allOpenings(const HBXProject &project)
@@ -63,7 +64,7 @@ std::vector<IHBXElementDrawObj *> allOpenings(const HBXProject &project)
 QString nameOf(const IHBXElementDrawObj &opening)
 {
     QString name;
-    return QStringLiteral("%1 on %2").arg(opening.element()->name(name), opening.floor()->name());
+    return Message::tr("%1 on %2").arg(opening.element()->name(name), opening.floor()->name());
 }
 
 } // namespace
@@ -71,11 +72,11 @@ QString nameOf(const IHBXElementDrawObj &opening)
 QString OpeningComparison::text() const
 {
     return textOf(QStringLiteral("%1, %2; %3")
-                      .arg(counted(compared, QStringLiteral("opening")),
-                           sameDocument ? QStringLiteral("the payload written again is the same but for ids")
-                                        : QStringLiteral("the payload written again DIFFERS"),
-                           deviations.isEmpty() ? QStringLiteral("each in the wall it came from")
-                                                : counted(deviations.size(), QStringLiteral("deviation"))));
+                      .arg(counted(compared, Message::tr("opening")),
+                           sameDocument ? Message::tr("the payload written again is the same but for ids")
+                                        : Message::tr("the payload written again DIFFERS"),
+                           deviations.isEmpty() ? Message::tr("each in the wall it came from")
+                                                : counted(deviations.size(), Message::tr("deviation"))));
 }
 
 QJsonObject OpeningComparison::toJson() const
@@ -94,11 +95,11 @@ OpeningComparison compareOpenings(const HBXProject &expected, const HBXProject &
     comparison.sameDocument = membersWithoutIds(expected) == membersWithoutIds(found);
     if (before.size() != after.size())
         comparison.deviations.append(
-            QStringLiteral("%1 openings where there were %2").arg(after.size()).arg(before.size()));
+            Message::tr("%1 openings where there were %2").arg(after.size()).arg(before.size()));
     for (std::size_t i = 0; i < std::min(before.size(), after.size()); ++i)
         if (wallOf(*before[i]) != wallOf(*after[i]))
             comparison.deviations.append(
-                QStringLiteral("%1: in %2, was in %3").arg(nameOf(*before[i]), wallOf(*after[i]), wallOf(*before[i])));
+                Message::tr("%1: in %2, was in %3").arg(nameOf(*before[i]), wallOf(*after[i]), wallOf(*before[i])));
     return comparison;
 }
 

@@ -2,6 +2,7 @@
 
 #include "cli/ExpectedValue.h"
 #include "cli/FloorLookup.h"
+#include "cli/Message.h"
 #include "cli/OpeningTypes.h"
 #include "cli/UnreadKeys.h"
 #include "doorwindow/DoorWindowKeys.h"
@@ -39,9 +40,9 @@ template <std::size_t Count> QString wrongKeyOf(const QJsonObject &member, const
     for (const KeyKind &expected : keys) {
         const bool isThere = member.contains(expected.key);
         if (!isThere && expected.isRequired)
-            return QStringLiteral("%1 is missing").arg(expected.key);
+            return Message::tr("%1 is missing").arg(expected.key);
         if (isThere && !fits(member[expected.key], expected.kind))
-            return QStringLiteral("%1 is not %2").arg(expected.key, wordFor(expected.kind));
+            return Message::tr("%1 is not %2").arg(expected.key, wordFor(expected.kind));
     }
     return {};
 }
@@ -71,9 +72,9 @@ QString elementNameOf(const QJsonObject &member)
 
 QString OpeningReplyCheck::LeftOut::text() const
 {
-    return QStringLiteral("member %1%2 (%3): %4")
+    return Message::tr("member %1%2 (%3): %4")
         .arg(index)
-        .arg(place.mid(placeOf(index).size()), name.isEmpty() ? QStringLiteral("no name") : shortened(name), reason);
+        .arg(place.mid(placeOf(index).size()), name.isEmpty() ? Message::tr("no name") : shortened(name), reason);
 }
 
 QJsonObject OpeningReplyCheck::LeftOut::toJson() const
@@ -102,7 +103,7 @@ OpeningReplyCheck::OpeningReplyCheck(IHBXModel &model, const QJsonArray &members
     noteElementPlaces(members);
     for (int index = 0; index < members.size(); ++index) {
         const QJsonObject member = members[index].toObject();
-        const QString reason = members[index].isObject() ? whyNot(index, member) : QStringLiteral("is no object");
+        const QString reason = members[index].isObject() ? whyNot(index, member) : Message::tr("is no object");
         if (reason.isEmpty())
             take(index, member);
         else
@@ -150,19 +151,19 @@ QString OpeningReplyCheck::whyNotElement(const QJsonObject &member)
 {
     const QString name = member[key::name].toString();
     if (name.isEmpty())
-        return QStringLiteral("has no name");
+        return Message::tr("has no name");
     const int elementType = member[key::elementType].toInt();
     if (!isOpening(elementType))
-        return QStringLiteral("type %1 is no door or window (4, 5, 6, 7)").arg(elementType);
+        return Message::tr("type %1 is no door or window (4, 5, 6, 7)").arg(elementType);
     QString reason;
     IHBXFloor *floor = floorOf(member, reason);
     if (!floor)
         return reason;
     const PlacedName place(floor->id(), name);
     if (m_soundElements.contains(place))
-        return QStringLiteral("member %1 has that name on the floor already").arg(m_elementPlaces.value(place));
+        return Message::tr("member %1 has that name on the floor already").arg(m_elementPlaces.value(place));
     if (m_model.elements()->findElement(name, floor->id(), -1, true, 0))
-        return QStringLiteral("the floor has an element of that name already; it is kept as it is");
+        return Message::tr("the floor has an element of that name already; it is kept as it is");
     m_soundElements.insert(place);
     return {};
 }
@@ -179,14 +180,14 @@ QString OpeningReplyCheck::whyNotPlaced(int index, const QJsonObject &member) co
         return {};
     const IHBXElement *element = m_model.elements()->findElement(name, floor->id(), -1, true, 0);
     if (element)
-        return isOpening(element->type()) ? QString() : QStringLiteral("element \"%1\" is no door or window").arg(name);
+        return isOpening(element->type()) ? QString() : Message::tr("element \"%1\" is no door or window").arg(name);
     const int elementPlace = m_elementPlaces.value(place, -1);
     if (elementPlace > index)
-        return QStringLiteral("its element \"%1\" stands behind it, as member %2")
+        return Message::tr("its element \"%1\" stands behind it, as member %2")
             .arg(name, QString::number(elementPlace));
     if (elementPlace >= 0)
-        return QStringLiteral("its element \"%1\", member %2, was left out").arg(name, QString::number(elementPlace));
-    return QStringLiteral("the floor has no element \"%1\", and the reply makes none").arg(name);
+        return Message::tr("its element \"%1\", member %2, was left out").arg(name, QString::number(elementPlace));
+    return Message::tr("the floor has no element \"%1\", and the reply makes none").arg(name);
 }
 
 } // namespace orvcad

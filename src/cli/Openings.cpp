@@ -5,6 +5,7 @@
 #include "cli/Counted.h"
 #include "cli/ElementRemoval.h"
 #include "cli/FloorLookup.h"
+#include "cli/Message.h"
 #include "cli/OpeningTypes.h"
 #include "cli/Progress.h"
 #include "doorwindow/DoorWindowKeys.h"
@@ -57,9 +58,9 @@ public:
         const bool isMade = made + placed > 0;
         const QStringList refused = refusedSince(m_project, journalBefore);
         for (const QString &reason : refused)
-            leaveOut(index, member, QStringLiteral("a value was refused: ") + reason, false);
+            leaveOut(index, member, Message::tr("a value was refused: %1").arg(reason), false);
         if (!isMade)
-            leaveOut(index, member, QStringLiteral("the host did not make it"), true);
+            leaveOut(index, member, Message::tr("the host did not make it"), true);
     }
 
 private:
@@ -80,15 +81,15 @@ private:
 QString OpeningOutcome::text() const
 {
     const QString text =
-        QStringLiteral("%1 read: %2 made, %3 placed (%4 in a wall, %5 in none), %6")
-            .arg(counted(members, QStringLiteral("member")), counted(made.elements, QStringLiteral("element")),
-                 counted(made.placed, QStringLiteral("opening")))
+        Message::tr("%1 read: %2 made, %3 placed (%4 in a wall, %5 in none), %6")
+            .arg(counted(members, Message::tr("member")), counted(made.elements, Message::tr("element")),
+                 counted(made.placed, Message::tr("opening")))
             .arg(made.attached)
             .arg(made.placed - made.attached)
             .arg(leftOutCount(leftOut));
     QStringList lines;
     for (const auto &member : leftOut)
-        lines.append(QStringLiteral("left out: ") + member.text());
+        lines.append(Message::tr("left out: %1").arg(member.text()));
     return text + cutLines(lines);
 }
 
@@ -132,12 +133,11 @@ QJsonArray openingMembers(const QJsonObject &reply, const QString &file)
 {
     const QJsonValue openings = reply[key::reply];
     if (!openings.isObject())
-        throw CommandFailure(kBadInput, file, key::reply,
-                             QStringLiteral("no object of that key: no reply of openings"));
+        throw CommandFailure(kBadInput, file, key::reply, Message::tr("no object of that key: no reply of openings"));
     const QJsonValue members = openings.toObject()[key::elementsAndEdos];
     if (!members.isArray())
         throw CommandFailure(kBadInput, file, QStringLiteral("%1.%2").arg(key::reply, key::elementsAndEdos),
-                             QStringLiteral("is no array"));
+                             Message::tr("is no array"));
     return members.toArray();
 }
 
@@ -151,7 +151,7 @@ OpeningOutcome applyOpenings(HBXProject &project, const QJsonArray &members)
 
     const HBXBatch batch(model, "orvcad opening apply");
     OpeningWriter writer(project, outcome);
-    Progress progress(QStringLiteral("members"), check.sound().size());
+    Progress progress(Message::tr("members"), check.sound().size());
     for (int i = 0; i < check.sound().size(); ++i) {
         writer.write(check.soundPlaces()[static_cast<std::size_t>(i)], check.sound().at(i).toObject());
         progress.step();

@@ -1,5 +1,6 @@
 #include "cli/HtmlPage.h"
 
+#include "ForeignLanguage.h"
 #include "HouseFixture.h"
 #include "cli/FloorLookup.h"
 #include "cli/ProjectDifference.h"
@@ -39,6 +40,21 @@ TEST_F(HtmlPageTest, floorsStandByRegionFromTheLowestUp)
 TEST_F(HtmlPageTest, sameProjectGivesTheSamePage)
 {
     EXPECT_EQ(pageOf(sampleOf("made-building")).document, pageOf(sampleOf("made-building")).document);
+}
+
+TEST_F(HtmlPageTest, pageIsTheSameInEveryLanguage)
+{
+    const Project before = houseOf(wall("Q1", "LINESTRING(0 0, 5000 0)"));
+    const Project after = houseOf(wall("Q1", "LINESTRING(0 0, 4000 0)") + ',' + column("Z1", 0, 0));
+    const auto difference = [&] {
+        return orvcad::htmlPageOf(*before, *after, orvcad::differenceBetween(*before, *after)).document;
+    };
+    const QByteArray page = pageOf(before).document;
+    const QByteArray pageOfDifference = difference();
+
+    const ForeignLanguage foreign;
+    EXPECT_EQ(pageOf(before).document, page);
+    EXPECT_EQ(difference(), pageOfDifference);
 }
 
 TEST_F(HtmlPageTest, nothingIsFetchedAndNothingElseRuns)

@@ -43,10 +43,10 @@ endfunction()
 file(REMOVE_RECURSE ${WORK} ${PREFIX})
 string(REGEX MATCH "^[0-9]+" major ${VERSION})
 
-# The command, a page for it and each of its groups, the completion of three shells, and the schemas.
+# The command, a page for it and each of its groups in two languages, the completion of three shells, and the schemas.
 install_component(Command files)
 foreach(file IN LISTS files)
-    expect_matches(${file} "^bin/orvcad$|^share/(man/man1/orvcad(-[a-z]+)?\\.1|orvcad/schemas/[a-z0-9-]+\\.schema\\.json)$|\
+    expect_matches(${file} "^bin/orvcad$|^share/(man/(zh_CN/)?man1/orvcad(-[a-z]+)?\\.1|orvcad/schemas/[a-z0-9-]+\\.schema\\.json)$|\
 ^share/(bash-completion/completions/orvcad|zsh/site-functions/_orvcad|fish/vendor_completions\\.d/orvcad\\.fish)$")
 endforeach()
 expect_held(Command files
@@ -57,6 +57,12 @@ expect_held(Command files
     share/man/man1/orvcad-check.1
     share/orvcad/schemas/slab-model.schema.json
     share/zsh/site-functions/_orvcad)
+foreach(page IN LISTS files)
+    if(page MATCHES "^share/man/man1/")
+        string(REPLACE "man/man1" "man/zh_CN/man1" translated ${page})
+        expect_held(Command files ${translated})
+    endif()
+endforeach()
 expect_files(Runtime
     ${LIBDIR}/liborvcadmodeldata.so.${major}
     ${LIBDIR}/liborvcadmodeldata.so.${VERSION}
