@@ -1,6 +1,7 @@
 #include "cli/Applied.h"
 
 #include "cli/Counted.h"
+#include "cli/Message.h"
 #include "cli/ProjectFiles.h"
 #include "platform/embedded/HBXProject.h"
 #include "platform/host/HBXCheckError.h"
@@ -22,8 +23,7 @@ constexpr int kMostLetters = 60;
 
 QString LeftOut::text() const
 {
-    return QStringLiteral("%1 (%2): %3")
-        .arg(place, name.isEmpty() ? QStringLiteral("no name") : shortened(name), reason);
+    return QStringLiteral("%1 (%2): %3").arg(place, name.isEmpty() ? Message::tr("no name") : shortened(name), reason);
 }
 
 QJsonObject LeftOut::toJson() const
@@ -33,9 +33,9 @@ QJsonObject LeftOut::toJson() const
 
 QString leftOutCount(int whole, int parts)
 {
-    const QString members = QStringLiteral("%1 left out").arg(whole);
+    const QString members = Message::tr("%1 left out").arg(whole);
     return parts == 0 ? members
-                      : QStringLiteral("%1, and %2 of the rest").arg(members, counted(parts, QStringLiteral("part")));
+                      : Message::tr("%1, and %2 of the rest").arg(members, counted(parts, Message::tr("part")));
 }
 
 QJsonArray toJson(const std::vector<LeftOut> &leftOut)
@@ -57,7 +57,7 @@ QString cutLines(const QStringList &lines)
     for (const QString &line : lines.mid(0, kMostLines))
         text += QStringLiteral("\n  ") + line;
     if (lines.size() > kMostLines)
-        text += QStringLiteral("\n  … and %1 more; --json lists all").arg(lines.size() - kMostLines);
+        text += QStringLiteral("\n  ") + Message::tr("… and %1 more; --json lists all").arg(lines.size() - kMostLines);
     return text;
 }
 
@@ -65,7 +65,7 @@ QString leftOutLines(const std::vector<LeftOut> &leftOut)
 {
     QStringList lines;
     for (const LeftOut &member : leftOut)
-        lines.append(QStringLiteral("left out: ") + member.text());
+        lines.append(Message::tr("left out: %1").arg(member.text()));
     return cutLines(lines);
 }
 
@@ -94,8 +94,8 @@ int doubledSince(IHBXModel &model, int drawObjsBefore)
 QString doubledLine(int doubled)
 {
     return doubled == 0 ? QString()
-                        : QStringLiteral("\n%1 made where the same one stands already: was this applied before?")
-                              .arg(counted(doubled, QStringLiteral("object")));
+                        : '\n' + Message::tr("%1 made where the same one stands already: was this applied before?")
+                                     .arg(counted(doubled, Message::tr("object")));
 }
 
 Summary saveApplied(HBXProject &project, bool isComplete, bool isStrict, const QString &text, QJsonObject json)
@@ -105,7 +105,7 @@ Summary saveApplied(HBXProject &project, bool isComplete, bool isStrict, const Q
         saveProject(project);
     json["project"] = project.path();
     json["saved"] = isSaved;
-    return {isSaved ? text : text + QStringLiteral("\nNothing was saved (--strict)."), json,
+    return {isSaved ? text : text + '\n' + Message::tr("Nothing was saved (--strict)."), json,
             isComplete ? kDone : kLeftOut};
 }
 

@@ -1,5 +1,6 @@
 #include "cli/ArrivedValues.h"
 
+#include "cli/Message.h"
 #include "cli/ShownValue.h"
 #include "encoding/GeometryFields.h"
 #include "platform/services/HbxRelation.h"
@@ -68,7 +69,7 @@ void leaveOutChanged(const QJsonObject &sent, const QJsonObject &arrived, const 
     for (const QString &key : keys)
         if (sent.contains(key) && !isSameValue(sent[key], arrived[key]))
             leftOut.push_back({place + u'.' + key, name,
-                               QStringLiteral("%1 was sent, and %2 is what the host has")
+                               Message::tr("%1 was sent, and %2 is what the host has")
                                    .arg(shownValue(sent[key]), shownValue(arrived[key])),
                                false});
 }

@@ -6,6 +6,7 @@
 #include "cli/Counted.h"
 #include "cli/Files.h"
 #include "cli/FloorLookup.h"
+#include "cli/Message.h"
 #include "cli/ProjectFiles.h"
 #include "cli/TypeTitles.h"
 #include "cli/Verb.h"
@@ -17,8 +18,7 @@ namespace {
 
 QString textOfWritten(const QString &what, const std::vector<IHBXFloor *> &floors)
 {
-    return QStringLiteral("Wrote %1 of %2")
-        .arg(what, counted(static_cast<int>(floors.size()), QStringLiteral("floor")));
+    return Message::tr("Wrote %1 of %2").arg(what, counted(static_cast<int>(floors.size()), Message::tr("floor")));
 }
 
 Summary exportBeams(const Arguments &arguments)
@@ -43,7 +43,7 @@ Summary writeInput(const Arguments &arguments)
 {
     const auto project = openProject(Arguments::text(arguments.project));
     const BeamInput input(*project, pickFloor(*project, arguments));
-    return writeDocument(arguments, input.document(), {QStringLiteral("Wrote ") + input.text(), input.summary()});
+    return writeDocument(arguments, input.document(), {Message::tr("Wrote %1").arg(input.text()), input.summary()});
 }
 
 Summary showResult(const Arguments &arguments)
@@ -61,7 +61,7 @@ Summary exportSeats(const Arguments &arguments)
     QStringList parts;
     QJsonObject json{{"floors", static_cast<int>(floors.size())}};
     for (const SeatOutcome::Kind &kind : kinds) {
-        parts.append(counted(kind.placed, typeTitle(kind.type)));
+        parts.append(counted(kind.placed, shownTypeTitle(kind.type)));
         json[QString::number(kind.type)] = kind.placed;
     }
     return writeDocument(arguments, document, {textOfWritten(parts.join(QStringLiteral(", ")), floors), json});
@@ -80,7 +80,7 @@ void addExport(CLI::App &group, Command &command, const std::string &description
     Verb(group, command, "export", description, run)
         .projects()
         .anyFloors()
-        .output("File to write the document to", ending);
+        .output(Message::help("File to write the document to"), ending);
 }
 
 void addApply(CLI::App &group, Command &command, const std::string &description, const std::string &document,
@@ -88,27 +88,32 @@ void addApply(CLI::App &group, Command &command, const std::string &description,
 {
     Verb(group, command, "apply", description, run)
         .project()
-        .input(document, "Document to write into the project")
-        .strict("document");
+        .input(document, Message::help("Document to write into the project"))
+        .strict(Message::help("document"));
 }
 
 } // namespace
 
 void addBeamCommands(CLI::App &app, Command &command)
 {
-    CLI::App &group = addGroup(app, "beam", "Beams and what they rest on");
-    addExport(group, command, "Write the beams that are collected for recognition", ".beams.json", exportBeams);
-    addApply(group, command, "Write a reply into a project and save it", "REPLY", applyReply);
-    Verb(group, command, "identify-input", "Write what the recognition of beams is told of a floor", writeInput)
+    CLI::App &group = addGroup(app, "beam", Message::help("Beams and what they rest on"));
+    addExport(group, command, Message::help("Write the beams that are collected for recognition"), ".beams.json",
+              exportBeams);
+    addApply(group, command, Message::help("Write a reply into a project and save it"), "REPLY", applyReply);
+    Verb(group, command, "identify-input", Message::help("Write what the recognition of beams is told of a floor"),
+         writeInput)
         .projects()
         .pickedFloor()
-        .output("File to write the input to", ".beam-input.json");
-    Verb(group, command, "result", "Read a result document and print its labels and their seats", showResult)
-        .inputs("RESULT", "Result document");
+        .output(Message::help("File to write the input to"), ".beam-input.json");
+    Verb(group, command, "result", Message::help("Read a result document and print its labels and their seats"),
+         showResult)
+        .inputs("RESULT", Message::help("Result document"));
 
-    CLI::App &seats = addGroup(group, "seats", "Foundations, pile caps, piles and tie beams under beams");
-    addExport(seats, command, "Write the seats that can be made anew", ".seats.json", exportSeats);
-    addApply(seats, command, "Make the seats of a document in a project and save it", "SEATS", applySeatDocument);
+    CLI::App &seats =
+        addGroup(group, "seats", Message::help("Foundations, pile caps, piles and tie beams under beams"));
+    addExport(seats, command, Message::help("Write the seats that can be made anew"), ".seats.json", exportSeats);
+    addApply(seats, command, Message::help("Make the seats of a document in a project and save it"), "SEATS",
+             applySeatDocument);
 }
 
 } // namespace orvcad

@@ -5,6 +5,7 @@
 #include "cli/Beams.h"
 #include "cli/Counted.h"
 #include "cli/FloorLookup.h"
+#include "cli/Message.h"
 #include "platform/embedded/HBXProject.h"
 
 #include <QJsonArray>
@@ -23,10 +24,10 @@ QString nameOf(const QJsonValue &beam) { return beam[beam::key::elementInfo][bea
 
 QString BeamComparison::text() const
 {
-    return textOf(QStringLiteral("%1 of beams, %2")
-                      .arg(counted(compared, QStringLiteral("segment")),
-                           isSame() ? QStringLiteral("the payload written again is the same")
-                                    : QStringLiteral("the payload written again DIFFERS")));
+    return textOf(Message::tr("%1 of beams, %2")
+                      .arg(counted(compared, Message::tr("segment")),
+                           isSame() ? Message::tr("the payload written again is the same")
+                                    : Message::tr("the payload written again DIFFERS")));
 }
 
 BeamComparison compareBeams(HBXProject &expected, HBXProject &found, const QString &floor)

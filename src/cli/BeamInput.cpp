@@ -3,6 +3,7 @@
 #include "beam/BeamIdentifyInput.h"
 #include "beam/ORVCADBeamIdentifyInputModel.h"
 #include "cli/Counted.h"
+#include "cli/Message.h"
 #include "cli/TypeTitles.h"
 #include "platform/embedded/HBXProject.h"
 #include "platform/host/IHBXFloor.h"
@@ -81,12 +82,12 @@ QString BeamInput::text() const
     int seats = 0;
     for (auto kind = m_seats.cbegin(); kind != m_seats.cend(); ++kind) {
         seats += kind.value();
-        kinds.append(counted(kind.value(), typeTitle(kind.key())));
+        kinds.append(counted(kind.value(), shownTypeTitle(kind.key())));
     }
     const QString listed = kinds.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(kinds.join(QStringLiteral(", ")));
-    return QStringLiteral("%1%2, %3 and %4 of %5")
-        .arg(counted(seats, QStringLiteral("seat")), listed, counted(m_axisLines, QStringLiteral("axis line")),
-             counted(m_beamCodes, QStringLiteral("beam code")), m_floor);
+    return Message::tr("%1%2, %3 and %4 of %5")
+        .arg(counted(seats, Message::tr("seat")), listed, counted(m_axisLines, Message::tr("axis line")),
+             counted(m_beamCodes, Message::tr("beam code")), m_floor);
 }
 
 QJsonObject BeamInput::summary() const

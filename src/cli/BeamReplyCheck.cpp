@@ -5,6 +5,7 @@
 #include "cli/ExpectedValue.h"
 #include "cli/FloorLookup.h"
 #include "cli/MemberKinds.h"
+#include "cli/Message.h"
 #include "encoding/GeometryTextReader.h"
 
 #include <QJsonArray>
@@ -50,8 +51,8 @@ QString whyNotSize(const QJsonObject &element, QLatin1String key)
 {
     const QJsonValue size = element.value(key);
     if (!fits(size, Expected::Integer) || size.toInt() >= kSizeLimit)
-        return QStringLiteral("%1 is not a whole number of millimetres").arg(key);
-    return size.toInt() < 0 ? QStringLiteral("%1 is below 0").arg(key) : QString();
+        return Message::tr("%1 is not a whole number of millimetres").arg(key);
+    return size.toInt() < 0 ? Message::tr("%1 is below 0").arg(key) : QString();
 }
 
 QString whyNotSection(const QJsonObject &element)
@@ -63,13 +64,13 @@ QString whyNotSection(const QJsonObject &element)
     }
     const int subType = element.value(key::elementSubType).toInt();
     if (!mayHaveOutline(subTypeMade(element.value(key::elementType).toInt(), subType)))
-        return QStringLiteral("a beam of sub-type %1 has no outline, and %2 is one").arg(subType).arg(key::sectionPoly);
+        return Message::tr("a beam of sub-type %1 has no outline, and %2 is one").arg(subType).arg(key::sectionPoly);
     if (outline.contains(u';') && !outline.endsWith(u';'))
-        return QStringLiteral("%1 does not end in \";\", and its last corner would be lost").arg(key::sectionPoly);
+        return Message::tr("%1 does not end in \";\", and its last corner would be lost").arg(key::sectionPoly);
     GeometryTextReader::Polygon polygon;
     return GeometryTextReader::reconstructPoly(outline, polygon)
                ? QString()
-               : QStringLiteral("%1 is no outline").arg(key::sectionPoly);
+               : Message::tr("%1 is no outline").arg(key::sectionPoly);
 }
 
 QString whyNotType(qint64 elementType, const ReplyArray &array)
@@ -78,25 +79,24 @@ QString whyNotType(qint64 elementType, const ReplyArray &array)
         return {};
     for (const ReplyArray &other : beamArrays())
         if (other.elementType == elementType)
-            return QStringLiteral("a beam of type %1 belongs into \"%2\"").arg(elementType).arg(other.key);
-    return QStringLiteral("type %1 is no beam (15, 17, 47)").arg(elementType);
+            return Message::tr("a beam of type %1 belongs into \"%2\"").arg(elementType).arg(other.key);
+    return Message::tr("type %1 is no beam (15, 17, 47)").arg(elementType);
 }
 
 QString whyNotSegment(const QJsonValue &value)
 {
     const QJsonObject segment = value.toObject();
     if (!value.isObject())
-        return QStringLiteral("is no object");
+        return Message::tr("is no object");
     QString wrong = wrongKey(segment, segmentPattern(), kSegmentWhole, kSegmentRequired);
     if (wrong.isEmpty() && segment.value(key::lineWidth).toDouble() < 0)
-        wrong = QStringLiteral("%1 is below 0").arg(key::lineWidth);
+        wrong = Message::tr("%1 is below 0").arg(key::lineWidth);
     return wrong.isEmpty() ? whyNotAxis(key::wordLine, segment.value(key::wordLine).toString()) : wrong;
 }
 
 QString whyNotSpan(const QJsonValue &value)
 {
-    return value.isObject() ? wrongKey(value.toObject(), spanPattern(), kSpanWhole, {})
-                            : QStringLiteral("is no object");
+    return value.isObject() ? wrongKey(value.toObject(), spanPattern(), kSpanWhole, {}) : Message::tr("is no object");
 }
 
 /** What of a segment is written as something else; empty for nothing. */
@@ -105,7 +105,7 @@ QString changeOfSegment(const QJsonObject &segment)
     const double width = segment.value(key::lineWidth).toDouble();
     return std::round(width) == width && width < kWidthLimit
                ? QString()
-               : QStringLiteral("%1 %2 is written as a whole number of millimetres")
+               : Message::tr("%1 %2 is written as a whole number of millimetres")
                      .arg(key::lineWidth, QString::number(width));
 }
 
@@ -119,14 +119,14 @@ QString changeOfSpan(const QJsonObject &span)
     });
     return supports.isEmpty() || (areNumbers && numbers.size() == kSupportNumbers)
                ? QString()
-               : QStringLiteral("%1 is not four numbers, and is read as such").arg(key::spanA1A4);
+               : Message::tr("%1 is not four numbers, and is read as such").arg(key::spanA1A4);
 }
 
 /** The first reason that an entry of an array gives, with its place. */
 template <typename Check> QString whyNotEntries(const QJsonObject &chain, QLatin1String key, Check check)
 {
     if (chain.contains(key) && !chain.value(key).isArray())
-        return QStringLiteral("%1 is no array").arg(key);
+        return Message::tr("%1 is no array").arg(key);
     const QJsonArray entries = chain.value(key).toArray();
     for (int i = 0; i < entries.size(); ++i) {
         const QString reason = check(entries.at(i));
@@ -140,12 +140,12 @@ QString whyNotChain(const QJsonValue &value)
 {
     const QJsonObject chain = value.toObject();
     if (!value.isObject())
-        return QStringLiteral("is no object");
+        return Message::tr("is no object");
     QString reason = whyNotEntries(chain, key::segmentInfos, whyNotSegment);
     if (!reason.isEmpty())
         return reason;
     if (chain.value(key::segmentInfos).toArray().isEmpty())
-        return QStringLiteral("has no segment");
+        return Message::tr("has no segment");
     return whyNotEntries(chain, key::spanInfos, whyNotSpan);
 }
 
@@ -161,7 +161,7 @@ const std::vector<ReplyArray> &beamArrays()
 BeamReplyCheck::BeamReplyCheck(IHBXModel &model, const QJsonObject &reply, const QString &file) : ArrayReplyCheck(model)
 {
     lookThrough(
-        reply, file, beamArrays(), QStringLiteral("reply of beams"),
+        reply, file, beamArrays(), Message::tr("reply of beams"),
         [&](const ReplyArray &array, const QString &place, const QJsonValue &member) { look(place, member, array); });
 }
 
@@ -194,7 +194,7 @@ void BeamReplyCheck::noteNamesake(const QString &place, QJsonObject element)
     const auto before = m_elements.constFind(identity);
     if (before != m_elements.constEnd() && before->element != element)
         leaveOutPart(before->place, element.value(key::name).toString(),
-                     QStringLiteral("has the name of %1, whose values take the place of its own").arg(place));
+                     Message::tr("has the name of %1, whose values take the place of its own").arg(place));
     m_elements.insert(identity, {place, element});
 }
 
@@ -236,11 +236,11 @@ QString BeamReplyCheck::whyNot(const QJsonValue &value, const ReplyArray &array)
 {
     const QJsonObject member = value.toObject();
     if (!value.isObject())
-        return QStringLiteral("is no object");
+        return Message::tr("is no object");
     if (!member.value(key::elementInfo).isObject())
-        return QStringLiteral("%1 is no object").arg(key::elementInfo);
+        return Message::tr("%1 is no object").arg(key::elementInfo);
     if (member.contains(key::edoInfos) && !member.value(key::edoInfos).isArray())
-        return QStringLiteral("%1 is no array").arg(key::edoInfos);
+        return Message::tr("%1 is no array").arg(key::edoInfos);
     return whyNotElement(member.value(key::elementInfo).toObject(), array);
 }
 
@@ -253,7 +253,7 @@ QString BeamReplyCheck::whyNotElement(const QJsonObject &element, const ReplyArr
     if (!wrongType.isEmpty())
         return wrongType;
     if (element.value(key::name).toString().isEmpty())
-        return QStringLiteral("has no name");
+        return Message::tr("has no name");
     QString reason;
     floorOfNames(m_model, element.value(key::regionName).toString(), element.value(key::floorName).toString(), reason);
     return reason.isEmpty() ? whyNotSection(element) : reason;

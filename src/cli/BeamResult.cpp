@@ -6,6 +6,8 @@
 #include "cli/Counted.h"
 #include "cli/Files.h"
 #include "cli/JsonDifference.h"
+#include "cli/Message.h"
+#include "cli/TextTable.h"
 #include "cli/TypeTitles.h"
 #include "cli/UnreadKeys.h"
 
@@ -83,9 +85,9 @@ QString tableRow(const QStringList &texts, const QStringList &numbers)
     constexpr int kWidths[] = {20, 18, 12, 6};
     QString row;
     for (int i = 0; i < texts.size(); ++i)
-        row += texts[i].leftJustified(kWidths[i]) + QLatin1Char(' ');
+        row += TextTable::padded(texts[i], kWidths[i], TextTable::Align::Left) + QLatin1Char(' ');
     for (const QString &number : numbers)
-        row += number.rightJustified(9);
+        row += TextTable::padded(number, 9, TextTable::Align::Right);
     return row;
 }
 
@@ -94,7 +96,7 @@ QString tableRow(const BeamResult::Label &label)
     QStringList numbers;
     for (const int number : {label.runs, label.segments, label.drawObjects, label.found, label.lost})
         numbers.append(QString::number(number));
-    return tableRow({label.name.isEmpty() ? QStringLiteral("(no name)") : label.name, typeTitle(label.type),
+    return tableRow({label.name.isEmpty() ? Message::tr("(no name)") : label.name, shownTypeTitle(label.type),
                      label.section, label.spans},
                     numbers);
 }
@@ -116,12 +118,12 @@ QString howRead(const JsonDifference &difference, const QJsonObject &pattern)
 {
     if (difference.after.isUndefined())
         return difference.keys.size() == 1 ? whyUnread(difference.keys.last(), pattern.keys())
-                                           : QStringLiteral("is not read");
+                                           : Message::tr("is not read");
     if (difference.after.isArray())
-        return difference.before.isArray() ? QStringLiteral("is not read whole") : QStringLiteral("is no array");
+        return difference.before.isArray() ? Message::tr("is not read whole") : Message::tr("is no array");
     const QString read = difference.after.toVariant().toString();
-    return read.isEmpty() ? QStringLiteral("is not what is read here, and reads as nothing")
-                          : QStringLiteral("is not what is read here, and reads as %1").arg(read);
+    return read.isEmpty() ? Message::tr("is not what is read here, and reads as nothing")
+                          : Message::tr("is not what is read here, and reads as %1").arg(read);
 }
 
 /** What of a label is not read as it stands, with its places. */
@@ -138,7 +140,10 @@ QStringList changedIn(const QJsonObject &label, const QJsonObject &written, cons
 
 QString BeamResult::table() const
 {
-    QStringList lines{tableRow({"label", "type", "section", "spans"}, {"runs", "pieces", "seats", "to make", "lost"})};
+    QStringList lines{
+        tableRow({Message::tr("label"), Message::tr("type"), Message::tr("section"), Message::tr("spans")},
+                 {Message::tr("runs"), Message::tr("pieces"), Message::tr("seats"), Message::tr("to make"),
+                  Message::tr("lost")})};
     int seats = 0;
     int open = 0;
     for (const Label &label : labels) {
@@ -146,13 +151,13 @@ QString BeamResult::table() const
         seats += label.drawObjects + label.open();
         open += label.open();
     }
-    lines.append(QStringLiteral("%1, %2: %3 resolved, %4 not")
-                     .arg(counted(static_cast<int>(labels.size()), QStringLiteral("label")),
-                          counted(seats, QStringLiteral("seat")))
-                     .arg(seats - open)
-                     .arg(open));
+    lines.append(
+        Message::tr("%1, %2: %3 resolved, %4 not")
+            .arg(counted(static_cast<int>(labels.size()), Message::tr("label")), counted(seats, Message::tr("seat")))
+            .arg(seats - open)
+            .arg(open));
     for (const QString &place : leftOut)
-        lines.append(QStringLiteral("left out: ") + place);
+        lines.append(Message::tr("left out: %1").arg(place));
     return lines.join('\n');
 }
 
@@ -178,8 +183,8 @@ BeamResult readBeamResult(const QString &path)
     const QJsonValue labels = document.value(beam::key::labels);
     if (!labels.isArray())
         throw CommandFailure(kBadInput, path, beam::key::labels,
-                             labels.isUndefined() ? QStringLiteral("is missing: no result of beams")
-                                                  : QStringLiteral("is no array"));
+                             labels.isUndefined() ? Message::tr("is missing: no result of beams")
+                                                  : Message::tr("is no array"));
     BeamResult result;
     result.leftOut += unreadIn(document, {beam::key::labels});
     QJsonArray records;
@@ -188,7 +193,7 @@ BeamResult readBeamResult(const QString &path)
         const QJsonValue label = labels.toArray().at(i);
         const QString place = QStringLiteral("%1[%2]").arg(beam::key::labels).arg(i);
         if (!label.isObject()) {
-            result.leftOut.append(place + QStringLiteral(": is no object"));
+            result.leftOut.append(place + QStringLiteral(": ") + Message::tr("is no object"));
             continue;
         }
         records.append(label);

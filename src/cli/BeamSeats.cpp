@@ -6,6 +6,7 @@
 #include "cli/ArrivedValues.h"
 #include "cli/Counted.h"
 #include "cli/FloorLookup.h"
+#include "cli/Message.h"
 #include "cli/ReplyWriting.h"
 #include "cli/SeatReplyCheck.h"
 #include "cli/TypeTitles.h"
@@ -104,11 +105,11 @@ public:
         kind.placed += placed;
         const QStringList refused = refusedSince(m_project, journalBefore);
         for (const QString &reason : refused)
-            leaveOut(member, QStringLiteral("a value was refused: ") + reason, false);
+            leaveOut(member, Message::tr("a value was refused: %1").arg(reason), false);
         if (placed == 0)
-            leaveOut(member, QStringLiteral("the host placed nothing"), true);
+            leaveOut(member, Message::tr("the host placed nothing"), true);
         else if (!isMade && refused.isEmpty())
-            leaveOut(member, QStringLiteral("the host did not take it whole"), false);
+            leaveOut(member, Message::tr("the host did not take it whole"), false);
     }
 
     /** Tells what seats have become of each other: those of one element share its units and sizes. */
@@ -118,7 +119,7 @@ public:
         for (const auto &[id, member] : m_placed) {
             const auto seat = seats.find(id);
             if (seat == seats.end())
-                leaveOut(*member, QStringLiteral("the host tells no outline of it"), false);
+                leaveOut(*member, Message::tr("the host tells no outline of it"), false);
             else
                 leaveOutChanged(member->json, seat->second, askedKeys(member->seat->seatElementType), member->place,
                                 member->seat->EntName, m_outcome.leftOut);
@@ -162,9 +163,9 @@ private:
 
 QString SeatOutcome::Kind::text() const
 {
-    const QString below = units ? QStringLiteral(", %1 below").arg(counted(units, QStringLiteral("unit"))) : QString();
-    return QStringLiteral("%1: %2 made (%3 times reused)%4, %5 placed")
-        .arg(typeTitle(type), counted(elements, QStringLiteral("element")))
+    const QString below = units ? Message::tr(", %1 below").arg(counted(units, Message::tr("unit"))) : QString();
+    return Message::tr("%1: %2 made (%3 times reused)%4, %5 placed")
+        .arg(shownTypeTitle(type), counted(elements, Message::tr("element")))
         .arg(reused)
         .arg(below)
         .arg(placed);
@@ -178,7 +179,7 @@ QJsonObject SeatOutcome::Kind::toJson() const
 
 QString SeatOutcome::text() const
 {
-    QString text = QStringLiteral("%1 read, %2").arg(counted(members, QStringLiteral("seat")), leftOutCount(leftOut));
+    QString text = Message::tr("%1 read, %2").arg(counted(members, Message::tr("seat")), leftOutCount(leftOut));
     for (const Kind &kind : kinds)
         text += QStringLiteral("\n  ") + kind.text();
     return text + leftOutLines(leftOut) + doubledLine(doubled);

@@ -8,6 +8,7 @@
 #include "cli/Counted.h"
 #include "cli/ElementRemoval.h"
 #include "cli/FloorLookup.h"
+#include "cli/Message.h"
 #include "cli/ReplyWriting.h"
 #include "cli/TypeTitles.h"
 #include "platform/embedded/HBXModelStore.h"
@@ -77,17 +78,17 @@ QString stopReason(int result)
 {
     switch (result) {
     case Service::kSegmentsNotConsecutive:
-        return QStringLiteral("the numbers of its segments do not follow one another");
+        return Message::tr("the numbers of its segments do not follow one another");
     case Service::kNoDrawObj:
-        return QStringLiteral("the host made no draw object");
+        return Message::tr("the host made no draw object");
     case Service::kNoLineShape:
-        return QStringLiteral("the draw object is no line");
+        return Message::tr("the draw object is no line");
     case Service::kSizesNotWritten:
-        return QStringLiteral("the host took neither width nor offset");
+        return Message::tr("the host took neither width nor offset");
     case Service::kElevationsNotWritten:
-        return QStringLiteral("the host took neither elevation");
+        return Message::tr("the host took neither elevation");
     default:
-        return QStringLiteral("result %1").arg(result);
+        return Message::tr("result %1").arg(result);
     }
 }
 
@@ -118,11 +119,11 @@ public:
         else if (element)
             for (const int chain : member.chains)
                 leaveOutPart(chainPlace(beam, chain), beam.name,
-                             QStringLiteral("was not made, since the host did not take the element whole"));
+                             Message::tr("was not made, since the host did not take the element whole"));
         else
-            leaveOut(beam.place, beam.name, QStringLiteral("the host made no element"));
+            leaveOut(beam.place, beam.name, Message::tr("the host made no element"));
         for (const QString &reason : refusedSince(m_project, journalBefore))
-            leaveOutPart(beam.place, beam.name, QStringLiteral("a value was refused: ") + reason);
+            leaveOutPart(beam.place, beam.name, Message::tr("a value was refused: %1").arg(reason));
         if (element)
             m_outcome.beams.push_back(beam);
     }
@@ -142,11 +143,11 @@ private:
         beam.segments += made;
         if (result != Service::kDone) {
             ++beam.stopped;
-            leaveOutPart(chainPlace(beam, position), beam.name,
-                         QStringLiteral("stopped behind %1 of %2, which stay unlinked: %3")
-                             .arg(made)
-                             .arg(counted(static_cast<int>(chain.segments.size()), QStringLiteral("segment")),
-                                  stopReason(result)));
+            leaveOutPart(
+                chainPlace(beam, position), beam.name,
+                Message::tr("stopped behind %1 of %2, which stay unlinked: %3")
+                    .arg(made)
+                    .arg(counted(static_cast<int>(chain.segments.size()), Message::tr("segment")), stopReason(result)));
             return;
         }
         ++beam.chains;
@@ -184,9 +185,9 @@ const QSet<qint64> &beamTypes()
 
 QString BeamCounts::text() const
 {
-    return QStringLiteral("%1, %2 of %3, %4")
-        .arg(counted(elements, QStringLiteral("element")), counted(chains, QStringLiteral("chain")),
-             counted(segments, QStringLiteral("segment")), counted(spans, QStringLiteral("span")));
+    return Message::tr("%1, %2 of %3, %4")
+        .arg(counted(elements, Message::tr("element")), counted(chains, Message::tr("chain")),
+             counted(segments, Message::tr("segment")), counted(spans, Message::tr("span")));
 }
 
 QJsonObject BeamCounts::toJson() const
@@ -196,12 +197,11 @@ QJsonObject BeamCounts::toJson() const
 
 QString BeamOutcome::Beam::text() const
 {
-    const QString stops =
-        stopped ? QStringLiteral(", %1 stopped").arg(counted(stopped, QStringLiteral("chain"))) : QString();
-    return QStringLiteral("%1 (%2) on %3: %4, %5 of %6, %7%8")
-        .arg(name, typeTitle(type), floor, isReused ? QStringLiteral("reused") : QStringLiteral("made"),
-             counted(chains, QStringLiteral("chain")), counted(segments, QStringLiteral("segment")),
-             counted(spans, QStringLiteral("span")), stops);
+    const QString stops = stopped ? Message::tr(", %1 stopped").arg(counted(stopped, Message::tr("chain"))) : QString();
+    return Message::tr("%1 (%2) on %3: %4, %5 of %6, %7%8")
+        .arg(name, shownTypeTitle(type), floor, isReused ? Message::tr("reused") : Message::tr("made"),
+             counted(chains, Message::tr("chain")), counted(segments, Message::tr("segment")),
+             counted(spans, Message::tr("span")), stops);
 }
 
 QJsonObject BeamOutcome::Beam::toJson() const
@@ -236,9 +236,9 @@ BeamCounts BeamOutcome::made() const
 
 QString BeamOutcome::headline() const
 {
-    return QStringLiteral("%1 read: %2 made (and %3 reused), %4")
-        .arg(counted(members, QStringLiteral("beam")), made().text())
-        .arg(counted(reused(), QStringLiteral("element")), leftOutCount(leftOut));
+    return Message::tr("%1 read: %2 made (and %3 reused), %4")
+        .arg(counted(members, Message::tr("beam")), made().text())
+        .arg(counted(reused(), Message::tr("element")), leftOutCount(leftOut));
 }
 
 QString BeamOutcome::text() const

@@ -1,5 +1,6 @@
 #include "cli/Counted.h"
 #include "cli/DocumentCheck.h"
+#include "cli/Message.h"
 #include "cli/NearestName.h"
 #include "cli/Verb.h"
 
@@ -35,9 +36,9 @@ Asked askedFor(const Arguments &arguments)
     if (!meant.isEmpty())
         throw CommandFailure(
             kWrongUsage,
-            QStringLiteral("\"%1\" is neither a file nor a kind of document; \"%2\" is one").arg(first, meant));
+            Message::tr("\"%1\" is neither a file nor a kind of document; \"%2\" is one").arg(first, meant));
     if (asked.files.isEmpty())
-        throw CommandFailure(kWrongUsage, QStringLiteral("FILE is required"));
+        throw CommandFailure(kWrongUsage, Message::tr("FILE is required"));
     return asked;
 }
 
@@ -63,8 +64,8 @@ Summary check(const Arguments &arguments)
         losses += exitCodeOf(check) == kLeftOut ? 1 : 0;
     }
     if (asked.files.size() > 1)
-        lines.append(QStringLiteral("%1: %2 faulty, %3 not read whole")
-                         .arg(counted(asked.files.size(), QStringLiteral("file")))
+        lines.append(Message::tr("%1: %2 faulty, %3 not read whole")
+                         .arg(counted(asked.files.size(), Message::tr("file")))
                          .arg(faults)
                          .arg(losses));
     return {lines.join('\n'),
@@ -78,11 +79,13 @@ Summary check(const Arguments &arguments)
 
 void addCheckCommand(CLI::App &app, Command &command)
 {
-    Verb verb(app, command, "check", "Tell what is wrong in documents, before anything is done with them", check);
+    Verb verb(app, command, "check",
+              Message::help("Tell what is wrong in documents, before anything is done with them"), check);
     verb.app()
         .add_option("[KIND] FILE", verb.arguments().inputs,
-                    "Documents, with their kind in front where it cannot be told: " +
-                        documentKindNames().join(", ").toStdString())
+                    Message::tr("Documents, with their kind in front where it cannot be told: %1")
+                        .arg(documentKindNames().join(QStringLiteral(", ")))
+                        .toStdString())
         ->required();
 }
 

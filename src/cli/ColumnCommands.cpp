@@ -1,5 +1,6 @@
 #include "cli/ColumnDocumentCheck.h"
 #include "cli/Files.h"
+#include "cli/Message.h"
 #include "cli/Verb.h"
 
 #include <QJsonArray>
@@ -15,7 +16,7 @@ QStringList linesOf(const QString &file, const ColumnDocumentCheck &check)
     lines += faultLines(file, check.findings());
     lines += faultLines(file, check.writtenOtherwise());
     if (check.missingKeys() > 0)
-        lines.append(QStringLiteral("missing keys, read as 0, false or empty: %1").arg(check.missingKeys()));
+        lines.append(Message::tr("missing keys, read as 0, false or empty: %1").arg(check.missingKeys()));
     return lines << check.verdict();
 }
 
@@ -33,9 +34,9 @@ Summary summaryOf(const QString &file, const ColumnDocumentCheck &check)
 Summary checkRecord(const Arguments &arguments)
 {
     const QString file = Arguments::text(arguments.input);
-    const ColumnDocumentCheck check(readJsonObject(file, QStringLiteral("column record"), LargeNumbers::Taken));
+    const ColumnDocumentCheck check(readJsonObject(file, Message::tr("column record"), LargeNumbers::Taken));
     if (!check.isColumnRecord())
-        throw CommandFailure(kBadInput, file, {}, QStringLiteral("no column record: it has none of the keys of one"));
+        throw CommandFailure(kBadInput, file, {}, Message::tr("no column record: it has none of the keys of one"));
     return summaryOf(file, check);
 }
 
@@ -43,9 +44,10 @@ Summary checkRecord(const Arguments &arguments)
 
 void addColumnCommands(CLI::App &app, Command &command)
 {
-    CLI::App &group = addGroup(app, "column", "Column records");
-    Verb(group, command, "check", "Tell what a column record holds, and what is wrong with it", checkRecord)
-        .inputs("FILE", "Order to identify or check columns, or results");
+    CLI::App &group = addGroup(app, "column", Message::help("Column records"));
+    Verb(group, command, "check", Message::help("Tell what a column record holds, and what is wrong with it"),
+         checkRecord)
+        .inputs("FILE", Message::help("Order to identify or check columns, or results"));
 }
 
 } // namespace orvcad

@@ -2,6 +2,7 @@
 
 #include "cli/ColumnRecordLook.h"
 #include "cli/JsonDifference.h"
+#include "cli/Message.h"
 
 #include <QHash>
 #include <QMap>
@@ -149,10 +150,10 @@ QString howWritten(const JsonDifference &difference)
 {
     const QString written = difference.after.toVariant().toString();
     if (difference.after.isString())
-        return QStringLiteral("is written as \"%1\": geometry has one form and six digits").arg(written);
+        return Message::tr("is written as \"%1\": geometry has one form and six digits").arg(written);
     if (difference.before.isString())
-        return QStringLiteral("is written as the number %1").arg(written);
-    return QStringLiteral("is written as %1: a number has 53 bits")
+        return Message::tr("is written as the number %1").arg(written);
+    return Message::tr("is written as %1: a number has 53 bits")
         .arg(QString::number(difference.after.toDouble(), 'f', 0));
 }
 
@@ -185,12 +186,12 @@ template <typename Fields> constexpr Kind kindOf(const char *title)
 }
 
 constexpr Kind kKinds[] = {
-    kindOf<ResultModelFields>("results of identification"),
+    kindOf<ResultModelFields>(QT_TRANSLATE_NOOP("orvcad", "results of identification")),
     // Before the order to identify, which has all of its keys but one.
-    kindOf<CheckInputFields>("order to check"),
-    kindOf<IdentifyInputFields>("order to identify"),
-    kindOf<HoopBarFields>("hoop bar settings"),
-    kindOf<SemanticFields>("words of elevations"),
+    kindOf<CheckInputFields>(QT_TRANSLATE_NOOP("orvcad", "order to check")),
+    kindOf<IdentifyInputFields>(QT_TRANSLATE_NOOP("orvcad", "order to identify")),
+    kindOf<HoopBarFields>(QT_TRANSLATE_NOOP("orvcad", "hoop bar settings")),
+    kindOf<SemanticFields>(QT_TRANSLATE_NOOP("orvcad", "words of elevations")),
 };
 
 // What no table of fields tells.
@@ -205,7 +206,7 @@ void checkHoopBars(const QJsonObject &par, const JsonPlace &place, ColumnRecordL
         const qint64 id = lists.pictures[static_cast<std::size_t>(i)].id;
         if (first.contains(id))
             look.note(JsonPlace(list, i),
-                      QStringLiteral("has the id %1 of picture %2, and is left out").arg(id).arg(first[id]));
+                      Message::tr("has the id %1 of picture %2, and is left out").arg(id).arg(first[id]));
         else
             first.insert(id, i);
     }
@@ -224,8 +225,7 @@ void checkLimbs(const QJsonObject &document, const JsonPlace &place, ColumnRecor
             continue;
         const JsonPlace element(list, i);
         const JsonPlace bar(element, key::bar);
-        look.note(JsonPlace(bar, key::limb),
-                  QStringLiteral("\"%1\" has no picture in the hoop bar settings").arg(limbs));
+        look.note(JsonPlace(bar, key::limb), Message::tr("\"%1\" has no picture in the hoop bar settings").arg(limbs));
     }
 }
 
@@ -238,7 +238,7 @@ ColumnDocumentCheck::ColumnDocumentCheck(const QJsonObject &document)
     });
     if (best.knownKeys(document) == 0)
         return;
-    m_title = QString::fromLatin1(best.title);
+    m_title = Message::tr(best.title);
     Taken record = best.taken(document);
     const JsonPlace top;
     checkHoopBars(document, top, record.look);

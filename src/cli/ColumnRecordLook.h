@@ -2,6 +2,7 @@
 
 #include "cli/ExpectedValue.h"
 #include "cli/JsonFault.h"
+#include "cli/Message.h"
 #include "cli/UnreadKeys.h"
 #include "column/ColumnInputFields.h"
 #include "column/ColumnResultFields.h"
@@ -31,7 +32,7 @@ public:
     template <typename Table> void lookAtObject(const QJsonValue &value, const Table &table, const Place &place)
     {
         if (!value.isObject()) {
-            note(place, QStringLiteral("is no object"));
+            note(place, Message::tr("is no object"));
             return;
         }
         const QJsonObject object = value.toObject();
@@ -60,7 +61,7 @@ private:
     void expect(const QJsonValue &value, Expected kind, const Place &place)
     {
         if (!fits(value, kind))
-            note(place, QStringLiteral("is not ") + wordFor(kind));
+            note(place, Message::tr("is not %1").arg(wordFor(kind)));
     }
     void noteUnknown(const Place &place, const QString &key, const QStringList &known)
     {
@@ -88,7 +89,7 @@ private:
         if (!value.isString())
             expect(value, Expected::Text, place);
         else if (!value.toString().isEmpty() && !Reader::reconstructPoly(value.toString(), polygon))
-            note(place, polygon ? QStringLiteral("is no valid outline") : QStringLiteral("is no text of an outline"));
+            note(place, polygon ? Message::tr("is no valid outline") : Message::tr("is no text of an outline"));
     }
     void lookAt(Tag<column::AxisLineText>, const QJsonValue &value, const Place &place)
     {
@@ -96,7 +97,7 @@ private:
         if (!value.isString())
             expect(value, Expected::Text, place);
         else if (!Reader::reconstructCurve(value.toString(), curve))
-            note(place, QStringLiteral("is no text of a curve"));
+            note(place, Message::tr("is no text of a curve"));
     }
     void lookAt(Plain<vks::CVec2<double>>, const QJsonValue &value, const Place &place)
     {
@@ -104,7 +105,7 @@ private:
         if (!value.isString())
             expect(value, Expected::Text, place);
         else if (!encoding::readPoint(value.toString(), point))
-            note(place, QStringLiteral("is no text of a point"));
+            note(place, Message::tr("is no text of a point"));
     }
 
     template <typename Fields> void lookAt(Tag<encoding::Nested<Fields>>, const QJsonValue &value, const Place &place)
@@ -126,7 +127,7 @@ private:
     void lookAt(Tag<encoding::Appended<List, EntryKind>>, const QJsonValue &value, const Place &place)
     {
         if (!value.isArray())
-            note(place, QStringLiteral("is no array"));
+            note(place, Message::tr("is no array"));
         const QJsonArray array = value.toArray();
         int index = 0;
         for (const QJsonValue entry : array)

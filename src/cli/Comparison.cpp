@@ -1,5 +1,7 @@
 #include "cli/Comparison.h"
 
+#include "cli/Message.h"
+
 #include <QJsonArray>
 
 namespace orvcad {
@@ -11,7 +13,7 @@ QJsonObject Comparison::toJson() const
 
 QString Comparison::textOf(const QString &finding) const
 {
-    const QStringList lines{QStringLiteral("Compared with the original: ") + finding};
+    const QStringList lines{Message::tr("Compared with the original: %1").arg(finding)};
     return (lines + deviations).join(QStringLiteral("\n  "));
 }
 

@@ -1,4 +1,5 @@
 #include "cli/Completion.h"
+#include "cli/Message.h"
 #include "cli/Verb.h"
 
 #include <CLI/CLI.hpp>
@@ -26,9 +27,10 @@ Summary complete(const CLI::App &app, const std::vector<std::string> &words)
 
 void addCompleteCommand(CLI::App &app, Command &command)
 {
-    Verb verb(app, command, "complete", "Complete the last word of a line, for shells",
+    Verb verb(app, command, "complete", Message::help("Complete the last word of a line, for shells"),
               [&app](const Arguments &arguments) { return complete(app, arguments.words); });
-    verb.app().add_option("WORD", verb.arguments().words, "Words of the line behind the name of the program");
+    verb.app().add_option("WORD", verb.arguments().words,
+                          Message::help("Words of the line behind the name of the program"));
     verb.app().group(""); // not in the help
 }
 

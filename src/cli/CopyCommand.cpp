@@ -1,6 +1,7 @@
 #include "cli/CopyRoads.h"
 #include "cli/FloorCopy.h"
 #include "cli/FloorLookup.h"
+#include "cli/Message.h"
 #include "cli/ProjectFiles.h"
 #include "cli/Verb.h"
 #include "platform/host/IHBXFloor.h"
@@ -45,9 +46,9 @@ public:
     void finish() const
     {
         if (m_from.floor->empty())
-            throw CLI::ValidationError("--floor is required behind the first project");
+            throw CLI::ValidationError(Message::help("--floor is required behind the first project"));
         if (m_to.floor->empty())
-            throw CLI::ValidationError("--floor behind the second project or --to-floor is required");
+            throw CLI::ValidationError(Message::help("--floor behind the second project or --to-floor is required"));
     }
 
 private:
@@ -61,13 +62,16 @@ private:
     Place &behind(const std::string &option) const
     {
         if (!m_behind)
-            throw CLI::ValidationError(option + " stands before the project that it is of");
+            throw CLI::ValidationError(
+                Message::tr("%1 stands before the project that it is of").arg(Arguments::text(option)).toStdString());
         return *m_behind;
     }
     static void set(const std::string &option, std::string &place, const std::string &value)
     {
         if (!place.empty())
-            throw CLI::ValidationError(option + " names a second one: \"" + place + "\" and \"" + value + '"');
+            throw CLI::ValidationError(Message::tr("%1 names a second one: \"%2\" and \"%3\"")
+                                           .arg(Arguments::text(option), Arguments::text(place), Arguments::text(value))
+                                           .toStdString());
         place = value;
     }
 
@@ -109,7 +113,7 @@ Summary copyWithin(HBXProject &project, IHBXFloor &from, const Arguments &argume
     IHBXFloor &to = targetFloor(project, arguments);
     if (to.id() == from.id())
         throw CommandFailure(kBadInput, project.path(), {},
-                             QStringLiteral("floor \"%1\" would be copied onto itself").arg(from.name()));
+                             Message::tr("floor \"%1\" would be copied onto itself").arg(from.name()));
     FloorCopy copy(project, from, arguments.roads);
     return put(copy, project, to, arguments);
 }
@@ -128,7 +132,7 @@ Summary copyFloor(const Arguments &arguments)
 }
 
 /** An option that may be typed more than once, with one value each time. */
-void addRepeated(CLI::App &app, const char *name, const char *description)
+void addRepeated(CLI::App &app, const char *name, const std::string &description)
 {
     app.add_option(name, CLI::callback_t(), description)->type_name("TEXT")->take_all();
 }
@@ -137,30 +141,34 @@ void addRepeated(CLI::App &app, const char *name, const char *description)
 
 void addCopyCommand(CLI::App &app, Command &command)
 {
-    Verb verb(app, command, "copy", "Copy a floor to another one, of the same or another project", copyFloor);
+    Verb verb(app, command, "copy", Message::help("Copy a floor to another one, of the same or another project"),
+              copyFloor);
     Arguments &arguments = verb.arguments();
     arguments.roads = copyRoadWords();
     verb.app()
-        .add_option(kFrom, CLI::callback_t(), "Project file (.hbxdb) to copy from")
+        .add_option(kFrom, CLI::callback_t(), Message::help("Project file (.hbxdb) to copy from"))
         ->type_name("TEXT")
         ->required();
     verb.app()
-        .add_option(kTo, CLI::callback_t(), "Project file (.hbxdb) to copy to; FROM if absent")
+        .add_option(kTo, CLI::callback_t(), Message::help("Project file (.hbxdb) to copy to; FROM if absent"))
         ->type_name("TEXT");
-    addRepeated(verb.app(), kRegion, "Name of a region, behind its project; may be absent where there is only one");
-    addRepeated(verb.app(), kFloor, "Name or code of a floor, behind its project");
+    addRepeated(verb.app(), kRegion,
+                Message::help("Name of a region, behind its project; may be absent where there is only one"));
+    addRepeated(verb.app(), kFloor, Message::help("Name or code of a floor, behind its project"));
     verb.app()
-        .add_option(kToRegion, CLI::callback_t(), "Name of the region to copy to, wherever it stands")
-        ->type_name("TEXT");
-    verb.app()
-        .add_option(kToFloor, CLI::callback_t(), "Name or code of the floor to copy to, wherever it stands")
+        .add_option(kToRegion, CLI::callback_t(), Message::help("Name of the region to copy to, wherever it stands"))
         ->type_name("TEXT");
     verb.app()
-        .add_option("--roads", arguments.roads, "What is copied, with commas between; everything if absent")
+        .add_option(kToFloor, CLI::callback_t(),
+                    Message::help("Name or code of the floor to copy to, wherever it stands"))
+        ->type_name("TEXT");
+    verb.app()
+        .add_option("--roads", arguments.roads,
+                    Message::help("What is copied, with commas between; everything if absent"))
         ->delimiter(',')
         ->allow_extra_args(false)
         ->check(CLI::IsMember(arguments.roads));
-    verb.strict("copied floor");
+    verb.strict(Message::help("copied floor"));
     verb.app().parse_complete_callback([&app = verb.app(), &arguments] { readPlaces(app, arguments); });
 }
 

@@ -6,6 +6,7 @@
 #include "cli/FloorLookup.h"
 #include "cli/FloorsDocument.h"
 #include "cli/HtmlPage.h"
+#include "cli/Message.h"
 #include "cli/OpeningComparison.h"
 #include "cli/Openings.h"
 #include "cli/PlanSvg.h"
@@ -81,12 +82,12 @@ std::unique_ptr<HBXProject> importBuilding(Tour &tour, const QString &building, 
     writeResult(tour.path(jsonFile), json);
     auto project = projectOfBuilding(json, jsonFile);
     saveProjectAs(*project, tour.path(projectFile));
-    tour.say(QStringLiteral("Building: %1 (%2)").arg(project->name(), project->source()));
+    tour.say(Message::tr("Building: %1 (%2)").arg(project->name(), project->source()));
     tour.step(QStringLiteral("project import %1 -o %2").arg(jsonFile, projectFile), projectInfo(*project).counts());
     return project;
 }
 
-QString nameOf(ORVCADFloor *floor) { return floor ? floor->name() : QStringLiteral("none"); }
+QString nameOf(ORVCADFloor *floor) { return floor ? floor->name() : Message::tr("none"); }
 
 void writeAndReadFloors(Tour &tour, const HBXProject &project)
 {
@@ -95,8 +96,8 @@ void writeAndReadFloors(Tour &tour, const HBXProject &project)
     writeResult(path, written->toJson());
     const FloorsDocument read = readFloorsDocument(path);
     tour.step(QStringLiteral("floors export building.hbxdb -o floors.json && orvcad floors show floors.json"),
-              QStringLiteral("%1 of \"%2\": base %3, first %4, highest %5")
-                  .arg(counted(read.floors->getCount(), QStringLiteral("floor")), read.floors->getAreaName(),
+              Message::tr("%1 of \"%2\": base %3, first %4, highest %5")
+                  .arg(counted(read.floors->getCount(), Message::tr("floor")), read.floors->getAreaName(),
                        nameOf(read.floors->getBaseFloor()), nameOf(read.floors->getFirstFloor()),
                        nameOf(read.floors->getHighestFloor())));
 }
@@ -108,9 +109,9 @@ QJsonObject writePayload(Tour &tour, const HBXProject &project)
     const QByteArray json = QJsonDocument(reply).toJson();
     writeResult(tour.path(QStringLiteral("openings.json")), json);
     tour.step(QStringLiteral("opening export building.hbxdb -o openings.json"),
-              QStringLiteral("%1 and %2, %3 of them in a wall, %4 bytes")
-                  .arg(counted(counts.elements, QStringLiteral("element")),
-                       counted(counts.placed, QStringLiteral("placed opening")))
+              Message::tr("%1 and %2, %3 of them in a wall, %4 bytes")
+                  .arg(counted(counts.elements, Message::tr("element")),
+                       counted(counts.placed, Message::tr("placed opening")))
                   .arg(counts.attached)
                   .arg(json.size()));
     return reply;
@@ -145,7 +146,7 @@ void drawFloor(Tour &tour, const HBXProject &project, const QString &projectFile
     const PlanSvg plan = drawPlan(*project.service()->model(), floor, project.name());
     writeResult(tour.path(picture), plan.document);
     tour.step(QStringLiteral("draw %1 --floor \"%2\" -o %3").arg(projectFile, floorName, picture),
-              QStringLiteral("%1 at 1:%2").arg(counted(plan.drawn, QStringLiteral("placed object"))).arg(plan.scale));
+              Message::tr("%1 at 1:%2").arg(counted(plan.drawn, Message::tr("placed object"))).arg(plan.scale));
 }
 
 /** Pages for a browser: the building with what the replies made, and what they changed of the copy that had lost it. */
@@ -154,9 +155,9 @@ void drawPages(Tour &tour, const HBXProject &restored)
     const HtmlPage building = htmlPageOf(restored, pickFloors(restored, QString(), QString()));
     writeResult(tour.path(QStringLiteral("building.html")), building.document);
     tour.step(QStringLiteral("draw restored.hbxdb -o building.html"),
-              QStringLiteral("%1 on %2")
-                  .arg(counted(building.drawn, QStringLiteral("placed object")),
-                       counted(building.floors, QStringLiteral("floor"))));
+              Message::tr("%1 on %2")
+                  .arg(counted(building.drawn, Message::tr("placed object")),
+                       counted(building.floors, Message::tr("floor"))));
     const auto stripped = openProject(tour.path(kStripped));
     const ProjectDifference difference = differenceBetween(*stripped, restored);
     writeResult(tour.path(QStringLiteral("changes.html")), htmlPageOf(*stripped, restored, difference).document);
@@ -173,10 +174,10 @@ std::unique_ptr<HBXProject> stripCopy(Tour &tour, HBXProject &project, const QSt
     saveProjectAs(project, path);
     saveProjectAs(project, tour.path(kStripped));
     tour.say(
-        QStringLiteral("A copy, restored.hbxdb, loses all doors and windows (%1) and the beams (%2) and slabs (%3) of "
-                       "%4, with all that is placed.")
-            .arg(counted(openings, QStringLiteral("element")), counted(beams, QStringLiteral("element")),
-                 counted(slabs, QStringLiteral("element")), kDrawnFloor));
+        Message::tr("A copy, restored.hbxdb, loses all doors and windows (%1) and the beams (%2) and slabs (%3) of "
+                    "%4, with all that is placed.")
+            .arg(counted(openings, Message::tr("element")), counted(beams, Message::tr("element")),
+                 counted(slabs, Message::tr("element")), kDrawnFloor));
     return openProject(path);
 }
 
@@ -228,7 +229,7 @@ WallTour visitHall(Tour &tour, const QString &directory)
     WallTour walls(directory, kForceWalls);
     auto project = importBuilding(tour, kHall, kForceWalls.original);
     tour.step(walls.write(*project));
-    tour.say(QStringLiteral("A copy: ") + walls.strip(*project));
+    tour.say(Message::tr("A copy: %1").arg(walls.strip(*project)));
     saveProjectAs(*project, tour.path(kForceWalls.restored));
     project = openProject(tour.path(kForceWalls.restored));
     drawFloor(tour, *project, kForceWalls.restored, QStringLiteral("hall-before.svg"), kForceWalls.floor);
@@ -257,8 +258,8 @@ Summary conclude(Tour &tour, const QString &directory, const Outcomes &outcomes,
     RecordTour records(directory);
     tour.step(records.showDrawings());
     tour.step(records.checkColumns());
-    tour.say(QStringLiteral("Everything stands in %1; before.svg and after.svg, hall-before.svg and "
-                            "hall-after.svg are the pictures, building.html and changes.html the pages.")
+    tour.say(Message::tr("Everything stands in %1; before.svg and after.svg, hall-before.svg and "
+                         "hall-after.svg are the pictures, building.html and changes.html the pages.")
                  .arg(directory));
     const bool isSame = comparison.isSame() && beamComparison.isSame() && slabComparison.isSame() &&
                         brickWalls.isSame() && forceWalls.isSame() && records.isSame();
@@ -308,9 +309,12 @@ Summary runTour(const Arguments &arguments)
 
 void addDemoCommand(CLI::App &app, Command &command)
 {
-    Verb verb(app, command, "demo", "Take a real building through every road, into a directory", runTour);
+    Verb verb(app, command, "demo", Message::help("Take a real building through every road, into a directory"),
+              runTour);
     verb.arguments().output = "orvcad-demo";
-    verb.app().add_option("DIR", verb.arguments().output, "Directory for what the tour makes")->capture_default_str();
+    verb.app()
+        .add_option("DIR", verb.arguments().output, Message::help("Directory for what the tour makes"))
+        ->capture_default_str();
 }
 
 } // namespace orvcad

@@ -1,5 +1,6 @@
 #include "cli/DifferenceReport.h"
 #include "cli/Files.h"
+#include "cli/Message.h"
 #include "cli/ProjectFiles.h"
 #include "cli/Verb.h"
 
@@ -30,11 +31,12 @@ Summary compareProjects(const Arguments &arguments)
 
 void addDiffCommand(CLI::App &app, Command &command)
 {
-    Verb(app, command, "diff", "Tell what differs between two projects; exit code 3 where something does",
-         compareProjects)
+    Verb(app, command, "diff",
+         Message::help("Tell what differs between two projects; exit code 3 where something does"), compareProjects)
         .project()
-        .input("OTHER", "Project file that it is compared with")
-        .output("JSON file to write the difference to", ".difference.json", Verb::NoOutput::NothingIsWritten);
+        .input("OTHER", Message::help("Project file that it is compared with"))
+        .output(Message::help("JSON file to write the difference to"), ".difference.json",
+                Verb::NoOutput::NothingIsWritten);
 }
 
 } // namespace orvcad

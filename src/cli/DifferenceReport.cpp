@@ -1,6 +1,7 @@
 #include "cli/DifferenceReport.h"
 
 #include "cli/Counted.h"
+#include "cli/Message.h"
 #include "cli/ShownValue.h"
 #include "cli/TypeTitles.h"
 
@@ -29,13 +30,15 @@ const StateWords &wordsOf(State state) { return kStates[static_cast<std::size_t>
 /** "elements: 2 added, 1 changed"; nothing where all are the same. */
 QStringList countText(const QString &what, const ProjectDifference::Counts &counts)
 {
-    const std::pair<int, State> parts[] = {
-        {counts.added, State::Added}, {counts.gone, State::Gone}, {counts.changed, State::Changed}};
+    const std::pair<int, const char *> parts[] = {{counts.added, QT_TRANSLATE_NOOP("orvcad", "%1 added")},
+                                                  {counts.gone, QT_TRANSLATE_NOOP("orvcad", "%1 gone")},
+                                                  {counts.changed, QT_TRANSLATE_NOOP("orvcad", "%1 changed")}};
     QStringList words;
-    for (const auto &[number, state] : parts)
+    for (const auto &[number, told] : parts)
         if (number > 0)
-            words.append(QStringLiteral("%1 %2").arg(number).arg(DifferenceReport::wordFor(state)));
-    return words.isEmpty() ? QStringList() : QStringList(what + ": " + words.join(", "));
+            words.append(Message::tr(told).arg(number));
+    return words.isEmpty() ? QStringList()
+                           : QStringList(QStringLiteral("%1: %2").arg(what, words.join(QStringLiteral(", "))));
 }
 
 QJsonObject countsToJson(const ProjectDifference::Counts &counts)
@@ -99,7 +102,7 @@ public:
     }
     void addRegion(const ProjectDifference::Region &region)
     {
-        add(0, region.state, QStringLiteral("region ") + region.name);
+        add(0, region.state, Message::tr("region %1").arg(region.name));
         for (const ProjectDifference::Floor &floor : region.floors)
             addFloor(floor);
     }
@@ -112,17 +115,17 @@ private:
     }
     void addFloor(const ProjectDifference::Floor &floor)
     {
-        add(1, floor.state, QStringLiteral("floor ") + floor.name);
+        add(1, floor.state, Message::tr("floor %1").arg(floor.name));
         addChanges(2, floor.changes);
         for (const ProjectDifference::Element &element : floor.elements)
             addElement(element);
     }
     void addElement(const ProjectDifference::Element &element)
     {
-        add(2, element.state, QStringLiteral("%1 %2").arg(typeTitle(element.type), element.name));
+        add(2, element.state, QStringLiteral("%1 %2").arg(shownTypeTitle(element.type), element.name));
         addChanges(3, element.changes);
         for (const ProjectDifference::Object &object : element.objects) {
-            add(3, object.state, QStringLiteral("object %1").arg(object.idAfter ? object.idAfter : object.idBefore));
+            add(3, object.state, Message::tr("object %1").arg(object.idAfter ? object.idAfter : object.idBefore));
             addChanges(4, object.changes);
         }
     }
@@ -151,16 +154,15 @@ QJsonArray DifferenceReport::changesToJson(const Changes &changes)
 QString DifferenceReport::headline() const
 {
     if (m_difference.isSame())
-        return QStringLiteral("The same: %1 compared")
-            .arg(counted(m_difference.compared, QStringLiteral("placed object")));
-    QStringList parts = countText(QStringLiteral("floors"), m_difference.floorCounts) +
-                        countText(QStringLiteral("elements"), m_difference.elementCounts) +
-                        countText(QStringLiteral("placed objects"), m_difference.objectCounts);
+        return Message::tr("The same: %1 compared").arg(counted(m_difference.compared, Message::tr("placed object")));
+    QStringList parts = countText(Message::tr("floors"), m_difference.floorCounts) +
+                        countText(Message::tr("elements"), m_difference.elementCounts) +
+                        countText(Message::tr("placed objects"), m_difference.objectCounts);
     if (!m_difference.changes.empty())
-        parts.prepend(QStringLiteral("the project itself"));
-    return QStringLiteral("Different (matched by %1): ")
-               .arg(m_difference.isById ? QStringLiteral("id") : QStringLiteral("name and shape")) +
-           parts.join(QStringLiteral("; "));
+        parts.prepend(Message::tr("the project itself"));
+    const QString headline = m_difference.isById ? Message::tr("Different (matched by id): %1")
+                                                 : Message::tr("Different (matched by name and shape): %1");
+    return headline.arg(parts.join(QStringLiteral("; ")));
 }
 
 QString DifferenceReport::listing() const

@@ -3,6 +3,7 @@
 #include "cli/Command.h"
 #include "cli/Counted.h"
 #include "cli/Files.h"
+#include "cli/Message.h"
 #include "cli/SchemaCheck.h"
 #include "cli/ValueWords.h"
 #include "cli/WallXmlTree.h"
@@ -43,8 +44,8 @@ std::vector<CheckFinding> listsNotRead(const JsonTree &tree)
         finding.weight = Weight::Dropped;
         finding.rule = Rule::Reader;
         finding.node = section;
-        finding.message = QStringLiteral("is a list of %1, which are not read from XML")
-                              .arg(counted(tree.node(section).count, QStringLiteral("record")));
+        finding.message = Message::tr("is a list of %1, which are not read from XML")
+                              .arg(counted(tree.node(section).count, Message::tr("record")));
         findings.push_back(finding);
     }
     return findings;
@@ -111,7 +112,7 @@ void DocumentCheck::checkBytes(const QByteArray &bytes, const DocumentKind *kind
     if (bytes.startsWith(kArchiveMark))
         return checkArchive(bytes);
     if (bytes.trimmed().isEmpty())
-        return tellUnusable(QStringLiteral("the file is empty"));
+        return tellUnusable(Message::tr("the file is empty"));
     if (!isXml(bytes))
         return checkTree(JsonTree(bytes), bytes, kind);
     const auto tree = wallXmlTree(bytes);
@@ -123,7 +124,7 @@ void DocumentCheck::checkBytes(const QByteArray &bytes, const DocumentKind *kind
 void DocumentCheck::checkProject()
 {
     m_kind = QStringLiteral("hbxdb");
-    m_title = QStringLiteral("project file");
+    m_title = Message::tr("project file");
     hbx::embedded::ProjectError error;
     if (!hbx::embedded::HBXProject::open(m_file, error))
         tellUnusable(error.reason, error.place);
@@ -133,11 +134,10 @@ void DocumentCheck::checkArchive(const QByteArray & /*bytes*/)
 {
     const QTemporaryDir folder;
     if (!folder.isValid() || !HBCZipFile::extractFiles(m_file, folder.path()))
-        return tellUnusable(QStringLiteral("the archive cannot be unpacked"));
+        return tellUnusable(Message::tr("the archive cannot be unpacked"));
     const QStringList drawings = QDir(folder.path()).entryList({QStringLiteral("*.cadi2")}, QDir::Files, QDir::Name);
     if (drawings.size() != 1)
-        return tellUnusable(
-            QStringLiteral("the archive holds %1").arg(counted(drawings.size(), QStringLiteral("drawing"))));
+        return tellUnusable(Message::tr("the archive holds %1").arg(counted(drawings.size(), Message::tr("drawing"))));
     const QByteArray drawing = readFile(QDir(folder.path()).filePath(drawings.first()));
     checkTree(JsonTree(drawing), drawing, documentKind(QStringLiteral("cadi2")));
 }
@@ -145,7 +145,7 @@ void DocumentCheck::checkArchive(const QByteArray & /*bytes*/)
 void DocumentCheck::setKind(const DocumentKind &kind)
 {
     m_kind = QString::fromLatin1(kind.name);
-    m_title = QString::fromLatin1(kind.title);
+    m_title = Message::tr(kind.title);
 }
 
 void DocumentCheck::checkTree(const JsonTree &tree, const QByteArray &text, const DocumentKind *kind)
@@ -166,8 +166,8 @@ void DocumentCheck::checkTree(const JsonTree &tree, const QByteArray &text, cons
     }
     tell(tree, std::move(findings));
     if (!kind && !tree.isBroken())
-        return tellUnusable(QStringLiteral("the kind of document cannot be told from its keys; name one of: ") +
-                            documentKindNames().join(QStringLiteral(", ")));
+        return tellUnusable(Message::tr("the kind of document cannot be told from its keys; name one of: %1")
+                                .arg(documentKindNames().join(QStringLiteral(", "))));
     if (kind && kind->reading && count(Weight::Fault) == 0)
         tell(tree, kind->reading(tree, text));
 }
@@ -218,8 +218,8 @@ int DocumentCheck::count(Weight weight) const
 QString DocumentCheck::verdict() const
 {
     if (count(Weight::Fault) > 0)
-        return QStringLiteral("faulty");
-    return m_findings.empty() ? QStringLiteral("clean") : QStringLiteral("not read whole");
+        return Message::tr("faulty");
+    return m_findings.empty() ? Message::tr("clean") : Message::tr("not read whole");
 }
 
 QStringList DocumentCheck::lines() const
@@ -235,19 +235,19 @@ QStringList DocumentCheck::lines() const
     }
     QStringList verdicts{verdict()};
     if (const int faults = count(Weight::Fault))
-        verdicts.append(counted(faults, QStringLiteral("fault")));
+        verdicts.append(counted(faults, Message::tr("fault")));
     if (const int ignored = count(Weight::Ignored))
-        verdicts.append(QStringLiteral("%1 not read").arg(counted(ignored, QStringLiteral("value"))));
+        verdicts.append(Message::tr("%1 not read").arg(counted(ignored, Message::tr("value"))));
     if (const int dropped = count(Weight::Dropped))
-        verdicts.append(QStringLiteral("%1 left out").arg(counted(dropped, QStringLiteral("value"))));
+        verdicts.append(Message::tr("%1 left out").arg(counted(dropped, Message::tr("value"))));
     lines.append(QStringLiteral("%1: %2%3")
                      .arg(m_file, m_title.isEmpty() ? QString() : m_title + QStringLiteral(": "),
                           verdicts.join(QStringLiteral(", "))));
     QStringList defaults;
     for (const Default &one : m_defaults)
-        defaults.append(QStringLiteral("%1 (%2) as %3").arg(one.path).arg(one.count).arg(one.value));
+        defaults.append(Message::tr("%1 (%2) as %3").arg(one.path, QString::number(one.count), one.value));
     if (!defaults.isEmpty())
-        lines.append(QStringLiteral("%1: missing keys read as: %2")
+        lines.append(Message::tr("%1: missing keys read as: %2")
                          .arg(m_file, defaults.mid(0, kMostNames).join(QStringLiteral(", "))));
     return lines;
 }

@@ -1,6 +1,7 @@
 #include "cli/DocumentKinds.h"
 
 #include "cli/DocumentReading.h"
+#include "cli/Message.h"
 #include "cli/NearestName.h"
 #include "cli/SchemaCheck.h"
 
@@ -100,27 +101,27 @@ const JsonSchema &DocumentKind::schema() const
 const std::vector<DocumentKind> &documentKinds()
 {
     static const std::vector<DocumentKind> kinds{
-        {"beam-context", "context of the identification of beams"},
-        {"beam-identify-input", "order to identify beams"},
-        {"beam-result", "result of the identification of beams"},
-        {"beam-seats", "seats of beams"},
-        {"beam-spans", "spans of beams by draw object"},
-        {"beams", "beams for recognition"},
-        {"cadi2", "drawing file", readDrawingText},
-        {"columns", "columns for recognition", readColumns},
-        {"drawing-set", "drawing-set file"},
-        {"floor-sdc", "floor exchange"},
-        {"floors", "floors document"},
-        {"hbx-project", "building file", readBuilding},
-        {"id-map", "identities by draw object"},
-        {"layer-classification", "result of a classification of layers"},
-        {"layer-file", "layers from drawing analysis"},
-        {"opening-options", "options to identify openings"},
-        {"opening-reply", "reply of doors and windows"},
-        {"slab-io", "slab IO document"},
-        {"slab-model", "slab model document"},
-        {"wall-input", "order to identify walls"},
-        {"wall-reply", "reply of walls"},
+        {"beam-context", QT_TRANSLATE_NOOP("orvcad", "context of the identification of beams")},
+        {"beam-identify-input", QT_TRANSLATE_NOOP("orvcad", "order to identify beams")},
+        {"beam-result", QT_TRANSLATE_NOOP("orvcad", "result of the identification of beams")},
+        {"beam-seats", QT_TRANSLATE_NOOP("orvcad", "seats of beams")},
+        {"beam-spans", QT_TRANSLATE_NOOP("orvcad", "spans of beams by draw object")},
+        {"beams", QT_TRANSLATE_NOOP("orvcad", "beams for recognition")},
+        {"cadi2", QT_TRANSLATE_NOOP("orvcad", "drawing file"), readDrawingText},
+        {"columns", QT_TRANSLATE_NOOP("orvcad", "columns for recognition"), readColumns},
+        {"drawing-set", QT_TRANSLATE_NOOP("orvcad", "drawing-set file")},
+        {"floor-sdc", QT_TRANSLATE_NOOP("orvcad", "floor exchange")},
+        {"floors", QT_TRANSLATE_NOOP("orvcad", "floors document")},
+        {"hbx-project", QT_TRANSLATE_NOOP("orvcad", "building file"), readBuilding},
+        {"id-map", QT_TRANSLATE_NOOP("orvcad", "identities by draw object")},
+        {"layer-classification", QT_TRANSLATE_NOOP("orvcad", "result of a classification of layers")},
+        {"layer-file", QT_TRANSLATE_NOOP("orvcad", "layers from drawing analysis")},
+        {"opening-options", QT_TRANSLATE_NOOP("orvcad", "options to identify openings")},
+        {"opening-reply", QT_TRANSLATE_NOOP("orvcad", "reply of doors and windows")},
+        {"slab-io", QT_TRANSLATE_NOOP("orvcad", "slab IO document")},
+        {"slab-model", QT_TRANSLATE_NOOP("orvcad", "slab model document")},
+        {"wall-input", QT_TRANSLATE_NOOP("orvcad", "order to identify walls")},
+        {"wall-reply", QT_TRANSLATE_NOOP("orvcad", "reply of walls")},
     };
     return kinds;
 }

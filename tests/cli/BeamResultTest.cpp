@@ -48,6 +48,16 @@ TEST_F(BeamResultTest, labelWithoutANameIsToldAsSuchInTheTable)
     EXPECT_EQ(run({"beam", "result", "result.json", "--json"}).json()["labels"].toArray().at(0)["name"], "");
 }
 
+TEST_F(BeamResultTest, columnsStandBelowEachOtherBesideChineseNames)
+{
+    QJsonObject named = label();
+    named["strName"] = QStringLiteral("框架梁");
+    write("result.json", QJsonObject{{"elementInfoList", QJsonArray{named, label()}}});
+    const QByteArray table = run({"beam", "result", "result.json"}).out;
+    EXPECT_TRUE(table.contains("\n框架梁               beam               300*600 ")) << table.toStdString();
+    EXPECT_TRUE(table.contains("\nKL-1                 beam               300*600 ")) << table.toStdString();
+}
+
 TEST_F(BeamResultTest, labelThatIsNoRecordIsLeftOut)
 {
     write("result.json", QJsonObject{{"elementInfoList", QJsonArray{"KL-1", label()}}});

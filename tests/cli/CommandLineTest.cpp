@@ -1,5 +1,7 @@
 #include "cli/CommandLine.h"
 
+#include "ForeignMessages.h"
+
 #include <CLI/CLI.hpp>
 
 #include <gtest/gtest.h>
@@ -39,6 +41,29 @@ TEST(CommandLineTest, chosenVerbIsTheCommandAndFlagsMayStandAnywhere)
     EXPECT_TRUE(line.command());
     EXPECT_TRUE(line.isJson());
     EXPECT_TRUE(line.isQuiet());
+}
+
+TEST(CommandLineTest, wordsOfTheParserAreInTheLanguageOfTheUser)
+{
+    const ForeignMessages messages;
+    CommandLine line;
+    const std::string help = line.app().help() + line.app().get_subcommand("copy")->help();
+    for (const char *words :
+         {"文Usage: orvcad [文OPTIONS] 文SUBCOMMAND\n", "\n文Options:\n  -h,--help ", "\n文Subcommands:\n  demo ",
+          "\n文Positionals:\n  FROM TEXT 文REQUIRED ", " 文Print this help message and exit\n",
+          " 文Display program version information and exit\n"})
+        EXPECT_NE(help.find(words), std::string::npos) << words << "is missing in\n" << help;
+}
+
+TEST(CommandLineTest, descriptionsStandBelowEachOtherBesideWideCharacters)
+{
+    const ForeignMessages messages;
+    CommandLine line;
+    const std::string help = line.app().get_subcommand("copy")->help();
+    for (const char *row : {"\n  FROM TEXT 文REQUIRED        文Project file (.hbxdb) to copy from\n",
+                            "\n  TO TEXT                     文Project file (.hbxdb) to copy to; FROM if absent\n",
+                            ",slab} ...\n                              文What is copied, "})
+        EXPECT_NE(help.find(row), std::string::npos) << row << "is missing in\n" << help;
 }
 
 TEST(CommandLineTest, versionIsThatOfTheProject)

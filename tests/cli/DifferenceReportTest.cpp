@@ -1,5 +1,7 @@
 #include "cli/DifferenceReport.h"
 
+#include "ForeignMessages.h"
+
 #include <gtest/gtest.h>
 
 using orvcad::DifferenceReport;
@@ -79,6 +81,17 @@ TEST(DifferenceReportTest, jsonHasItsKeys)
               (QJsonObject{{"state", "added"}, {"idAfter", 12}, {"changes", QJsonArray()}}));
     EXPECT_EQ(door["drawObjects"].toArray()[1].toObject()["changes"],
               (QJsonArray{QJsonObject{{"place", "layer"}, {"after", 1}}}));
+}
+
+TEST(DifferenceReportTest, jsonIsTheSameInEveryLanguage)
+{
+    const ProjectDifference difference = someDifference();
+    const QJsonObject english = DifferenceReport(difference).json();
+    const ForeignMessages messages;
+    EXPECT_EQ(DifferenceReport(difference).json(), english);
+    EXPECT_EQ(DifferenceReport(difference).headline(),
+              QStringLiteral(
+                  "文Different (matched by id): 文elements: 文1 changed; 文placed objects: 文1 added, 文1 changed"));
 }
 
 } // namespace
