@@ -1,6 +1,6 @@
 #include "cli/HtmlPage.h"
 
-#include "ForeignLanguage.h"
+#include "ForeignMessages.h"
 #include "HouseFixture.h"
 #include "cli/FloorLookup.h"
 #include "cli/ProjectDifference.h"
@@ -52,7 +52,7 @@ TEST_F(HtmlPageTest, pageIsTheSameInEveryLanguage)
     const QByteArray page = pageOf(before).document;
     const QByteArray pageOfDifference = difference();
 
-    const ForeignLanguage foreign;
+    const ForeignMessages messages;
     EXPECT_EQ(pageOf(before).document, page);
     EXPECT_EQ(difference(), pageOfDifference);
 }

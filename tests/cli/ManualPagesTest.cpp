@@ -1,6 +1,6 @@
 #include "cli/ManualPages.h"
 
-#include "ForeignLanguage.h"
+#include "ForeignMessages.h"
 #include "cli/CommandLine.h"
 
 #include <CLI/CLI.hpp>
@@ -74,18 +74,18 @@ TEST_F(ManualPagesTest, whatMayBeAbsentStandsInBrackets)
 
 TEST(ManualPagesTextTest, headingsAndTextsAreInTheLanguageOfTheUser)
 {
-    const ForeignLanguage foreign;
+    const ForeignMessages messages;
     CLI::App app("About orvcad", "orvcad");
     app.add_subcommand("cut", "Cut it");
     const std::vector<ManualPage> pages = manualPages(app);
     for (const char *part :
-         {" \"<User Commands>\"\n.SH <NAME>\norvcad \\- About orvcad\n.SH <SYNOPSIS>\n", "\n.SH <COMMANDS>\n",
-          "\n.BR orvcad\\-cut (1)\n<Cut it.>\n", "\n.SH <OPTIONS>\n", "\n.SH \"<EXIT STATUS>\"\n.TP\n\\fB0\\fR\n<All ",
-          "\n.SH <ENVIRONMENT>\n.TP\n\\fBLANGUAGE, LC_ALL, LC_MESSAGES, LANG\\fR\n<The ",
-          "\n.SH <EXAMPLES>\n.nf\norvcad "})
+         {" \"文User Commands\"\n.SH 文NAME\norvcad \\- About orvcad\n.SH 文SYNOPSIS\n", "\n.SH 文COMMANDS\n",
+          "\n.BR orvcad\\-cut (1)\n文Cut it.\n", "\n.SH 文OPTIONS\n", "\n.SH \"文EXIT STATUS\"\n.TP\n\\fB0\\fR\n文All ",
+          "\n.SH 文ENVIRONMENT\n.TP\n\\fBLANGUAGE, LC_ALL, LC_MESSAGES, LANG\\fR\n文The ",
+          "\n.SH 文EXAMPLES\n.nf\norvcad "})
         EXPECT_NE(pages[0].text.find(part), std::string::npos) << part << "\nis missing in\n" << pages[0].text;
     for (const char *part :
-         {"\n.SH <DESCRIPTION>\n.SS orvcad cut\n<Cut it.>\n", "\n.SH \"<SEE ALSO>\"\n.BR orvcad (1)\n"})
+         {"\n.SH 文DESCRIPTION\n.SS orvcad cut\n文Cut it.\n", "\n.SH \"文SEE ALSO\"\n.BR orvcad (1)\n"})
         EXPECT_NE(pages[1].text.find(part), std::string::npos) << part << "\nis missing in\n" << pages[1].text;
 }
 
