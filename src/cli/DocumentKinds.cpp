@@ -2,6 +2,7 @@
 
 #include "cli/DocumentReading.h"
 #include "cli/NearestName.h"
+#include "cli/ReplyReading.h"
 #include "cli/SchemaCheck.h"
 
 #include <algorithm>
@@ -103,9 +104,9 @@ const std::vector<DocumentKind> &documentKinds()
         {"beam-context", "context of the identification of beams"},
         {"beam-identify-input", "order to identify beams"},
         {"beam-result", "result of the identification of beams"},
-        {"beam-seats", "seats of beams"},
+        {"beam-seats", "seats of beams", nullptr, readSeats},
         {"beam-spans", "spans of beams by draw object"},
-        {"beams", "beams for recognition"},
+        {"beams", "beams for recognition", nullptr, readBeams},
         {"cadi2", "drawing file", readDrawingText},
         {"columns", "columns for recognition", readColumns},
         {"drawing-set", "drawing-set file"},
@@ -116,11 +117,11 @@ const std::vector<DocumentKind> &documentKinds()
         {"layer-classification", "result of a classification of layers"},
         {"layer-file", "layers from drawing analysis"},
         {"opening-options", "options to identify openings"},
-        {"opening-reply", "reply of doors and windows"},
-        {"slab-io", "slab IO document"},
-        {"slab-model", "slab model document"},
+        {"opening-reply", "reply of doors and windows", nullptr, readOpenings},
+        {"slab-io", "slab IO document", nullptr, readSlabs},
+        {"slab-model", "slab model document", nullptr, readSlabs},
         {"wall-input", "order to identify walls"},
-        {"wall-reply", "reply of walls"},
+        {"wall-reply", "reply of walls", nullptr, readWalls},
     };
     return kinds;
 }
