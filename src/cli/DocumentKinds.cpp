@@ -12,7 +12,7 @@ namespace orvcad {
 
 namespace {
 
-/** Keys that the top of a document may have, by all forms that its schema has. */
+/** Keys that the top of a document may have, or the entries of a list, by all forms that its schema has. */
 struct TopKeys
 {
     QStringList names;
@@ -44,10 +44,20 @@ QString textOf(std::string_view text) { return QString::fromUtf8(text.data(), st
 /** So many tell what a document is; those of a map are alike. */
 constexpr int kMostKeys = 100;
 
-QStringList topKeysOf(const JsonTree &document)
+/** What tells the kind of a document: itself, or the first entry of a list. */
+JsonTree::Index tellingOf(const JsonTree &document)
+{
+    const bool isList = !document.isEmpty() && document.node(0).kind == JsonTree::Kind::List;
+    const JsonTree::Index telling = document.isEmpty() ? JsonTree::kNone : isList ? document.node(0).firstChild : 0;
+    const bool isRecord = telling != JsonTree::kNone && document.node(telling).kind == JsonTree::Kind::Object;
+    return isRecord ? telling : JsonTree::kNone;
+}
+
+/** @param record  what tells the kind */
+QStringList keysOf(const JsonTree &document, JsonTree::Index record)
 {
     QStringList keys;
-    for (auto member = document.node(0).firstChild; member != JsonTree::kNone && keys.size() < kMostKeys;
+    for (auto member = document.node(record).firstChild; member != JsonTree::kNone && keys.size() < kMostKeys;
          member = document.node(member).next)
         keys.append(textOf(document.node(member).key));
     return keys;
@@ -67,13 +77,15 @@ using Score = int (*)(const TopKeys &known, const QString &key);
 int scoreOfKnown(const TopKeys &known, const QString &key) { return known.has(key) ? 1 : 0; }
 int scoreOfNear(const TopKeys &known, const QString &key) { return nearestName(key, known.names).isEmpty() ? 0 : 1; }
 
-std::vector<const DocumentKind *> bestBy(Score score, const QStringList &keys)
+/** @param isList  whether the keys are those of an entry */
+std::vector<const DocumentKind *> bestBy(Score score, const QStringList &keys, bool isList)
 {
     std::vector<const DocumentKind *> best;
     int highest = 1;
     for (const DocumentKind &kind : documentKinds()) {
         TopKeys known;
-        addKeys(kind.schema(), known);
+        if (const JsonSchema *top = isList ? kind.schema().items : &kind.schema())
+            addKeys(*top, known);
         int reached = 0;
         for (const QString &key : keys)
             reached += score(known, key);
@@ -109,13 +121,21 @@ const std::vector<DocumentKind> &documentKinds()
         {"beams", "beams for recognition", nullptr, readBeams},
         {"cadi2", "drawing file", readDrawingText},
         {"columns", "columns for recognition", readColumns},
+        {"drawing-elements", "element types by drawing"},
+        {"drawing-floors", "drawings by floor"},
+        {"drawing-layers", "layers by drawing and element type"},
+        {"drawing-locations", "crossings of axes by drawing"},
+        {"drawing-parts", "parts of drawings"},
+        {"drawing-scales", "scales of drawings"},
         {"drawing-set", "drawing-set file"},
+        {"drawing-tables", "tables of drawings"},
         {"floor-sdc", "floor exchange"},
         {"floors", "floors document"},
         {"hbx-project", "building file", readBuilding},
         {"id-map", "identities by draw object"},
         {"layer-classification", "result of a classification of layers"},
         {"layer-file", "layers from drawing analysis"},
+        {"layer-group", "layers of one element type"},
         {"opening-options", "options to identify openings"},
         {"opening-reply", "reply of doors and windows", nullptr, readOpenings},
         {"slab-io", "slab IO document", nullptr, readSlabs},
@@ -144,14 +164,17 @@ QStringList documentKindNames()
 
 const DocumentKind *kindOfDocument(const JsonTree &document)
 {
-    if (document.isEmpty() || document.node(0).kind != JsonTree::Kind::Object)
+    const JsonTree::Index telling = tellingOf(document);
+    if (telling == JsonTree::kNone)
         return nullptr;
-    if (const DocumentKind *told = kindThatIsTold(document))
+    const bool isList = telling != 0;
+    const DocumentKind *told = isList ? nullptr : kindThatIsTold(document);
+    if (told)
         return told;
-    const QStringList keys = topKeysOf(document);
-    std::vector<const DocumentKind *> best = bestBy(scoreOfKnown, keys);
+    const QStringList keys = keysOf(document, telling);
+    std::vector<const DocumentKind *> best = bestBy(scoreOfKnown, keys, isList);
     if (best.empty())
-        best = bestBy(scoreOfNear, keys);
+        best = bestBy(scoreOfNear, keys, isList);
     if (best.size() < 2)
         return best.empty() ? nullptr : best.front();
     return *std::min_element(best.begin(), best.end(), [&](const DocumentKind *a, const DocumentKind *b) {

@@ -34,7 +34,8 @@ const std::vector<DocumentKind> &documentKinds();
 const DocumentKind *documentKind(const QString &name);
 QStringList documentKindNames();
 
-/** The kind that a document is by its keys, or is nearest to; null where none has any of them. */
+/** The kind that a document is by its keys, of a list by those of its first entry, or is nearest to; null where none has
+ *  any of them. */
 const DocumentKind *kindOfDocument(const JsonTree &document);
 
 } // namespace orvcad

@@ -9,7 +9,7 @@ GEOMETRY = re.compile(r"^(LINESTRING|CIRCULARSTRING|POLYGON|CURVEPOLYGON)\(|^-?[
                       r"-?[0-9.e+-]+(,-?[0-9.e+-]+)?;){3,}$")
 # Objects whose keys are names of the user's own.
 FREE = re.compile(r"^(/options|/drawing/ext|/ext|/CADOptions|/ORVCADWindoorDataInputModel/\d+|/Cad(Line|Text)EdoDataInfo/key_\d+"
-                  r"|/layers/\d+/(lines|texts)/\d+/ext|/parseDrawing/.*/(data|concrete)(/[^/]*)?)$")
+                  r"|/layers/\d+/(lines|texts)/\d+/ext|(/parseDrawing)?/table\d+/(data|concrete)(/[^/]*)?)$")
 
 
 class Fault:
