@@ -27,6 +27,7 @@ PAGES = {
     "schemas/opening-reply.schema.json": ["opening-reply"],
     "schemas/slab-io.schema.json": ["slab-model"],
     "schemas/slab-model.schema.json": ["slab-model"],
+    "schemas/summaries.schema.json": ["cli", "slab-model"],
     "schemas/wall-reply.schema.json": ["wall-documents"],
     "src/IdentifyInputModel/Wall/WallKeys.h": ["wall-documents"],
     "src/beam/BeamKeys.h": ["beams", "beam-identify"],
@@ -70,7 +71,7 @@ def keys_of(path, text):
 
 
 def is_explained(key, page):
-    number = r"\d+" if key.endswith(("_", "table")) else ""  # a prefix stands with a number behind it
+    number = r"\d+" if key.endswith("_") or key == "table" else ""  # a prefix stands with a number behind it
     return re.search(rf'["`]{re.escape(key)}{number}["`]', page) is not None
 
 
@@ -89,7 +90,8 @@ def sources_of(root):
 
 
 def problems_of(root):
-    pages = {path.stem: path.read_text(encoding="utf-8") for path in (root / "docs/formats").glob("*.md")}
+    paths = [root / "docs/cli.md", *(root / "docs/formats").glob("*.md")]
+    pages = {path.stem: path.read_text(encoding="utf-8") for path in paths}
     problems = [f"{path}: is not there" for path in PAGES if not (root / path).exists()]
     for path in sorted(sources_of(root)):
         its_pages = {name: pages[name] for name in PAGES.get(path, pages)}

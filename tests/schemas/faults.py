@@ -45,6 +45,18 @@ def text_of(document):
     return json.dumps(document, ensure_ascii=False, indent=1)
 
 
+SHORT = 2  # entries of a list that are kept: what is said of one is said of all
+
+
+def shortened(value, is_kept=lambda key: True):
+    """A document without the bulk of its lists, and of its objects the keys that are kept."""
+    if isinstance(value, list) and any(isinstance(entry, (dict, list)) for entry in value):
+        return [shortened(entry, is_kept) for entry in value[:SHORT]]
+    if isinstance(value, dict):
+        return {key: shortened(member, is_kept) for key, member in value.items() if is_kept(key)}
+    return value
+
+
 def general(path):
     """A place without the numbers of entries: what a schema says of one, it says of all."""
     return tuple("*" if isinstance(key, int) else re.sub(r"_\d+$", "_#", key) for key in path)
