@@ -72,6 +72,15 @@ std::vector<CheckFinding> textFindings(const JsonTree &tree)
     return findings;
 }
 
+/** What the reader of a kind says of a document, or of the members of one that have no fault. */
+std::vector<CheckFinding> readingOf(const DocumentKind &kind, const JsonTree &tree, const QByteArray &text,
+                                    const FaultyValues &faults)
+{
+    if (kind.memberReading)
+        return kind.memberReading(tree, text, faults);
+    return kind.reading && faults.isEmpty() ? kind.reading(tree, text) : std::vector<CheckFinding>();
+}
+
 bool isXml(const QByteArray &bytes) { return bytes.left(200).trimmed().startsWith('<'); }
 
 } // namespace
@@ -164,12 +173,16 @@ void DocumentCheck::checkTree(const JsonTree &tree, const QByteArray &text, cons
                 {tree.path(key.first, key.key).replace(number, QStringLiteral("[*]")), key.value, key.count});
         }
     }
+    const FaultyValues faults(tree, findings);
     tell(tree, std::move(findings));
     if (!kind && !tree.isBroken())
         return tellUnusable(Message::tr("the kind of document cannot be told from its keys; name one of: %1")
                                 .arg(documentKindNames().join(QStringLiteral(", "))));
-    if (kind && kind->reading && count(Weight::Fault) == 0)
-        tell(tree, kind->reading(tree, text));
+    if (kind && !tree.isBroken())
+        tell(tree, readingOf(*kind, tree, text, faults));
+    std::stable_sort(m_findings.begin(), m_findings.end(), [](const Told &a, const Told &b) {
+        return std::pair(a.position.line, a.position.column) < std::pair(b.position.line, b.position.column);
+    });
 }
 
 void DocumentCheck::tell(const JsonTree &tree, std::vector<CheckFinding> findings)

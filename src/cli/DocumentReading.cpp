@@ -8,10 +8,8 @@
 
 namespace orvcad {
 
-namespace {
-
-/** A finding of a reader, which tells places as messages do. */
-CheckFinding told(const JsonTree &document, CheckFinding::Weight weight, const QString &place, const QString &reason)
+CheckFinding findingOfReader(const JsonTree &document, CheckFinding::Weight weight, const QString &place,
+                             const QString &reason)
 {
     CheckFinding finding;
     finding.weight = weight;
@@ -25,14 +23,12 @@ CheckFinding told(const JsonTree &document, CheckFinding::Weight weight, const Q
     return finding;
 }
 
-} // namespace
-
 std::vector<CheckFinding> readBuilding(const JsonTree &document, const QByteArray &text)
 {
     hbx::embedded::ProjectError error;
     if (hbx::embedded::HBXProject::fromJson(text, QString(), error))
         return {};
-    return {told(document, CheckFinding::Weight::Fault, error.place, error.reason)};
+    return {findingOfReader(document, CheckFinding::Weight::Fault, error.place, error.reason)};
 }
 
 std::vector<CheckFinding> readDrawingText(const JsonTree &document, const QByteArray &text)
@@ -40,7 +36,7 @@ std::vector<CheckFinding> readDrawingText(const JsonTree &document, const QByteA
     dwgx::JsonRefusal refusal;
     if (dwgx::readCadi2(text, refusal))
         return {};
-    return {told(document, CheckFinding::Weight::Fault, refusal.place, refusal.reason)};
+    return {findingOfReader(document, CheckFinding::Weight::Fault, refusal.place, refusal.reason)};
 }
 
 std::vector<CheckFinding> readColumns(const JsonTree &document, const QByteArray &text)
@@ -48,7 +44,7 @@ std::vector<CheckFinding> readColumns(const JsonTree &document, const QByteArray
     std::vector<CheckFinding> findings;
     const ColumnDocumentCheck check(QJsonDocument::fromJson(text).object());
     for (const JsonFault &fault : check.findings())
-        findings.push_back(told(document, CheckFinding::Weight::Dropped, fault.place, fault.reason));
+        findings.push_back(findingOfReader(document, CheckFinding::Weight::Dropped, fault.place, fault.reason));
     return findings;
 }
 

@@ -8,6 +8,10 @@
 
 namespace orvcad {
 
+/** A finding of a reader, which tells places as messages do. */
+CheckFinding findingOfReader(const JsonTree &document, CheckFinding::Weight weight, const QString &place,
+                             const QString &reason);
+
 // What the readers of formats say of documents that are sound by their schema: what no schema can tell.
 
 /** Names that stand twice, references that lead nowhere: the first refusal of a building file. */

@@ -7,6 +7,8 @@
 #include <rapidjson/memorystream.h>
 #include <rapidjson/reader.h>
 
+#include <QRegularExpression>
+
 #include <algorithm>
 
 namespace orvcad {
@@ -17,6 +19,7 @@ using Index = JsonTree::Index;
 using Kind = JsonTree::Kind;
 
 constexpr char kByteOrderMark[] = "\xEF\xBB\xBF";
+constexpr int kMostSigns = 16; // "." and "[" in one key of a path
 
 QString textOf(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<int>(text.size())); }
 
@@ -244,27 +247,43 @@ QString JsonTree::path(Index index, const QString &key) const
     return path.startsWith(QLatin1Char('.')) ? path.mid(1) : path;
 }
 
+QString JsonTree::stepTo(Index child) const
+{
+    const Index holder = node(child).parent;
+    const QString step = pathStep(node(child), node(holder).kind == Kind::List);
+    return holder == 0 && step.startsWith(QLatin1Char('.')) ? step.mid(1) : step;
+}
+
+const JsonTree::Steps &JsonTree::stepsOf(Index holder) const
+{
+    const auto [place, isNew] = m_steps.try_emplace(holder);
+    Steps &steps = place->second;
+    for (Index child = isNew ? node(holder).firstChild : kNone; child != kNone; child = node(child).next)
+        if (const QString step = stepTo(child); !steps.contains(step))
+            steps.insert(step, child);
+    return steps;
+}
+
 JsonTree::Index JsonTree::find(const QString &path) const
 {
     if (isEmpty())
         return kNone;
+    static const QRegularExpression nextStep(QStringLiteral("[.[]"));
     Index index = 0;
-    QStringView rest(path);
-    const auto isNext = [&](Index child) {
-        const QString step = pathStep(node(child), node(index).kind == Kind::List);
-        const QStringView name =
-            index == 0 && step.startsWith(QLatin1Char('.')) ? QStringView(step).mid(1) : QStringView(step);
-        const bool isWhole =
-            rest.size() == name.size() || (rest.size() > name.size() && QStringView(u".[").contains(rest[name.size()]));
-        return rest.startsWith(name) && isWhole ? name.size() : 0;
-    };
-    while (!rest.isEmpty()) {
-        Index child = node(index).firstChild;
-        while (child != kNone && isNext(child) == 0)
-            child = node(child).next;
+    int from = 0;
+    while (from < path.size()) {
+        const Steps &steps = stepsOf(index);
+        Index child = kNone;
+        int end = from;
+        // A key may hold the signs between steps; one with many of them is not worth the search.
+        for (int tries = 0; child == kNone && end < path.size() && tries < kMostSigns; ++tries) {
+            const int next = path.indexOf(nextStep, end + 1);
+            end = next < 0 ? path.size() : next;
+            child = steps.value(path.mid(from, end - from), kNone);
+        }
         if (child == kNone)
             break;
-        rest = rest.mid(isNext(child));
+        from = end;
         index = child;
     }
     return index;

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <QByteArray>
+#include <QHash>
 #include <QString>
 
 #include <deque>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace orvcad {
@@ -77,15 +79,19 @@ public:
      *  @param key  of a member that the value lacks; null for the value itself */
     QString pointer(Index index, const QString &key = {}) const;
     QString path(Index index, const QString &key = {}) const;
-    /** The value at a path as messages tell it, or the innermost one on the way that there is. */
+    /** The value at a path as messages tell it, or the innermost one on the way that there is. A list or object of many
+     *  values is gone through once, however often it is on the way. */
     Index find(const QString &path) const;
     /** Cheap when offsets rise from call to call. */
     Position position(int offset) const;
 
 private:
     class Builder;
+    using Steps = QHash<QString, Index>; ///< children by what a path calls them
 
     void noteRepeated(Index object);
+    QString stepTo(Index child) const;
+    const Steps &stepsOf(Index holder) const;
 
     struct LineMark
     {
@@ -100,7 +106,8 @@ private:
     std::deque<std::string> m_decoded; // keys and texts that the text has otherwise
     std::vector<TextFault> m_faults;
     bool m_isBroken = false;
-    mutable LineMark m_mark; // of the position asked for last
+    mutable LineMark m_mark;                          // of the position asked for last
+    mutable std::unordered_map<Index, Steps> m_steps; // of values that were on the way to others
 };
 
 } // namespace orvcad

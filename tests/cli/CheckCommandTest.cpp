@@ -45,8 +45,15 @@ TEST_F(CheckCommandTest, whatTheCommandWritesIsClean)
     ASSERT_EQ(run(QStringList{"beam", "export", "house.hbxdb", "-o", "beams.json"}).exitCode, 0);
     ASSERT_EQ(
         run(QStringList{"slab", "export", "house.hbxdb", "--drawing", "d.cadi2", "-o", "io.json"} + floor).exitCode, 0);
-    const Result result = run({"check", "house.hbxdb", "d.cadi2", "beams.json", "io.json"});
+    ASSERT_EQ(run(QStringList{"opening", "export", "house.hbxdb", "-o", "openings.json"}).exitCode, 0);
+    const Result result = run({"check", "house.hbxdb", "d.cadi2", "io.json", "openings.json"});
     EXPECT_EQ(result.exitCode, 0) << result.out.toStdString();
+    // One beam of the sample has a width that no reply carries.
+    const QJsonObject beams = run({"check", "beams.json", "--json"}).json();
+    EXPECT_EQ(beams["files"][0]["dropped"].toArray().size(), 1);
+    EXPECT_EQ(beams["files"][0]["dropped"][0]["message"],
+              "LineWidth 250.5 is written as a whole number of millimetres");
+    EXPECT_TRUE(beams["files"][0]["ignored"].toArray().isEmpty());
 }
 
 } // namespace

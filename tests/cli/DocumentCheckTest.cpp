@@ -45,6 +45,20 @@ TEST_F(DocumentCheckTest, missingKeysAreToldWithWhatTheyReadAs)
               "f: missing keys read as: eDoorWin.ElementsAndEdos[*].nHeightFromFloor (1) as 0");
 }
 
+TEST_F(DocumentCheckTest, whatApplyingAReplyWouldLeaveOutStandsBetweenTheFaults)
+{
+    EXPECT_EQ(linesOf(R"({"eDoorWin": {"ElementsAndEdos": [
+{"elementName": "M1", "X": 1, "Y": 2, "nHeightFromFloor": 0, "floorName": "1", "regionName": "A", "width": 5},
+{"elementID": 1, "name": "M1", "nElementType": 4, "nSubElementType": 14, "nWidth": 900, "nHeight": 2100,
+ "nHeightFromFloor": 0, "floorName": "1", "regionName": "A"},
+{"elementName": "M1", "X": "1", "Y": 2, "nHeightFromFloor": 0, "floorName": "1", "regionName": "A"}]}})"),
+              "f:2:1: eDoorWin.ElementsAndEdos[0]: its element \"M1\" stands behind it, as member 1\n"
+              "f:2:99: eDoorWin.ElementsAndEdos[0].width: is no key of this object, and not read\n"
+              "f:5:28: eDoorWin.ElementsAndEdos[2].X: is the text \"1\"; a number is expected "
+              "(World position of the insertion point, mm)\n"
+              "f: reply of doors and windows: faulty, 1 fault, 1 value not read, 1 value left out");
+}
+
 TEST_F(DocumentCheckTest, whatIsNoDocumentIsToldAndNeverRead)
 {
     EXPECT_EQ(linesOf(" \n"), "f: the file is empty\nf: faulty, 1 fault");

@@ -52,6 +52,15 @@ TEST(JsonTreeTest, pathThatLeadsNowhereFindsTheInnermostValueOnTheWay)
     EXPECT_EQ(tree.find("x"), 0);
 }
 
+TEST(JsonTreeTest, keyMayHoldTheSignsBetweenSteps)
+{
+    const JsonTree tree(R"({"a": {"b.c[0]": {"d": 5}}, "x.y": [6]})");
+    EXPECT_EQ(at(tree, "a.b.c[0].d"), "1:24 a.b.c[0].d 5");
+    EXPECT_EQ(at(tree, "x.y[0]"), "1:37 x.y[0] 6");
+    const QByteArray many = QByteArray("a").repeated(3) + QByteArray(".").repeated(100000);
+    EXPECT_EQ(JsonTree("{\"" + many + "\": 1}").find(QString::fromLatin1(many)), 0);
+}
+
 TEST(JsonTreeTest, byteOrderMarkIsPassedOver)
 {
     const JsonTree tree("\xEF\xBB\xBF{\"a\": 5}");

@@ -13,13 +13,21 @@ PAGES = {
     "schemas/beams.schema.json": ["beams"],
     "schemas/cadi2.schema.json": ["cadi2"],
     "schemas/columns.schema.json": ["columns"],
+    "schemas/drawing-elements.schema.json": ["drawing-set"],
+    "schemas/drawing-floors.schema.json": ["drawing-set"],
+    "schemas/drawing-locations.schema.json": ["drawing-set"],
+    "schemas/drawing-parts.schema.json": ["drawing-set"],
+    "schemas/drawing-scales.schema.json": ["drawing-set"],
     "schemas/drawing-set.schema.json": ["drawing-set", "floors"],
+    "schemas/drawing-tables.schema.json": ["drawing-set"],
     "schemas/floor-sdc.schema.json": ["floor-sdc"],
     "schemas/floors.schema.json": ["floors"],
     "schemas/hbx-project.schema.json": ["hbx-project"],
+    "schemas/layer-group.schema.json": ["drawing-set"],
     "schemas/opening-reply.schema.json": ["opening-reply"],
     "schemas/slab-io.schema.json": ["slab-model"],
     "schemas/slab-model.schema.json": ["slab-model"],
+    "schemas/summaries.schema.json": ["cli", "slab-model"],
     "schemas/wall-reply.schema.json": ["wall-documents"],
     "src/IdentifyInputModel/Wall/WallKeys.h": ["wall-documents"],
     "src/beam/BeamKeys.h": ["beams", "beam-identify"],
@@ -63,7 +71,7 @@ def keys_of(path, text):
 
 
 def is_explained(key, page):
-    number = r"\d+" if key.endswith(("_", "table")) else ""  # a prefix stands with a number behind it
+    number = r"\d+" if key.endswith("_") or key == "table" else ""  # a prefix stands with a number behind it
     return re.search(rf'["`]{re.escape(key)}{number}["`]', page) is not None
 
 
@@ -82,7 +90,8 @@ def sources_of(root):
 
 
 def problems_of(root):
-    pages = {path.stem: path.read_text(encoding="utf-8") for path in (root / "docs/formats").glob("*.md")}
+    paths = [root / "docs/cli.md", *(root / "docs/formats").glob("*.md")]
+    pages = {path.stem: path.read_text(encoding="utf-8") for path in paths}
     problems = [f"{path}: is not there" for path in PAGES if not (root / path).exists()]
     for path in sorted(sources_of(root)):
         its_pages = {name: pages[name] for name in PAGES.get(path, pages)}

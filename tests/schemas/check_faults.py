@@ -12,17 +12,10 @@ import faults
 import samples
 from validators import validator_of
 
-SHORT = 2  # entries of a list that are kept: what is said of one is said of all
-
-
-def shortened(value):
-    """A document without the bulk of its lists, and of maps with numbered keys."""
-    if isinstance(value, list) and any(isinstance(entry, (dict, list)) for entry in value):
-        return [shortened(entry) for entry in value[:SHORT]]
-    if isinstance(value, dict):
-        return {key: shortened(member) for key, member in value.items()
-                if not key.rpartition("_")[2].isdigit() or int(key.rpartition("_")[2]) < SHORT}
-    return value
+def is_among_first(key):
+    """Of keys with a number behind them, those with a small one."""
+    number = key.rpartition("_")[2]
+    return not number.isdigit() or int(number) < faults.SHORT
 
 
 def one_floor(building):
@@ -36,7 +29,7 @@ def documents(program):
     with folder:
         found = list(samples.of_files())
         found += samples.of_building(command, samples.BUILDINGS / "made-building.json", 2)
-    short = [(kind, one_floor(document) if kind == "hbx-project" else shortened(document)) for kind, document in found]
+    short = [(kind, one_floor(document) if kind == "hbx-project" else faults.shortened(document, is_among_first)) for kind, document in found]
     return [(kind, document) for kind, document in short if document]
 
 

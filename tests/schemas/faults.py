@@ -9,7 +9,7 @@ GEOMETRY = re.compile(r"^(LINESTRING|CIRCULARSTRING|POLYGON|CURVEPOLYGON)\(|^-?[
                       r"-?[0-9.e+-]+(,-?[0-9.e+-]+)?;){3,}$")
 # Objects whose keys are names of the user's own.
 FREE = re.compile(r"^(/options|/drawing/ext|/ext|/CADOptions|/ORVCADWindoorDataInputModel/\d+|/Cad(Line|Text)EdoDataInfo/key_\d+"
-                  r"|/layers/\d+/(lines|texts)/\d+/ext|/parseDrawing/.*/(data|concrete)(/[^/]*)?)$")
+                  r"|/layers/\d+/(lines|texts)/\d+/ext|(/parseDrawing)?/table\d+/(data|concrete)(/[^/]*)?)$")
 
 
 class Fault:
@@ -43,6 +43,18 @@ def at(document, path):
 
 def text_of(document):
     return json.dumps(document, ensure_ascii=False, indent=1)
+
+
+SHORT = 2  # entries of a list that are kept: what is said of one is said of all
+
+
+def shortened(value, is_kept=lambda key: True):
+    """A document without the bulk of its lists, and of its objects the keys that are kept."""
+    if isinstance(value, list) and any(isinstance(entry, (dict, list)) for entry in value):
+        return [shortened(entry, is_kept) for entry in value[:SHORT]]
+    if isinstance(value, dict):
+        return {key: shortened(member, is_kept) for key, member in value.items() if is_kept(key)}
+    return value
 
 
 def general(path):

@@ -17,6 +17,10 @@ FILES = {
     "beam-result": ["tests/data/honesty/beam-result.json"],
     "slab-model": ["tests/data/slab/model.json"],
 }
+# Parts of a drawing set that are documents of their own.
+PARTS = {"splitDrawing": "drawing-parts", "parseDrawing": "drawing-tables", "matchFloorInfo": "drawing-floors",
+         "matchElementInfo": "drawing-elements", "classifyLayer": "drawing-layers", "reviseScale": "drawing-scales",
+         "locateDrawing": "drawing-locations"}
 LAYER_FILE = {"FileName": "S-02", "etBeam": [{"LayerName": "S-BEAM", "EdoIDList": [{"EdoID": 101}, {"EdoID": 102}]}]}
 CLASSIFICATION = {"LayerClassifyItems": [
     {"DrawingName": "S-02", "ElementType": 15, "ClassifiedJsonFilePath": "/project/S-02_etBeam.json"}]}
@@ -98,6 +102,10 @@ def of_files():
     for kind, names in FILES.items():
         for name in names:
             yield kind, read(ROOT / name)
+    for name in FILES["drawing-set"]:
+        drawing_set = read(ROOT / name)
+        yield from ((kind, drawing_set[key]) for key, kind in PARTS.items() if drawing_set[key])
+        yield from (("layer-group", group) for group in (drawing_set["classifyLayer"] or [])[:1])
     yield "layer-file", LAYER_FILE
     yield "layer-classification", CLASSIFICATION
     yield "beam-context", CONTEXT

@@ -38,3 +38,10 @@ def validator_of(path):
     schema = schemas[BASE + path.name]
     jsonschema.Draft202012Validator.check_schema(schema)
     return jsonschema.Draft202012Validator(schema, **references(schema, schemas))
+
+
+def validator_of_part(path, part):
+    """Of one of the "$defs" of the schema in a file."""
+    schemas = schemas_of(path.parent)
+    schema = {"$id": BASE + "part", "$ref": f"{BASE}{path.name}#/$defs/{part}"}
+    return jsonschema.Draft202012Validator(schema, **references(schema, schemas))
