@@ -3,24 +3,10 @@
 #include "cli/WideCharacters.h"
 
 #include <algorithm>
-#include <numeric>
 
 namespace orvcad {
 
 namespace {
-
-/** Terminals draw wide characters over two columns. */
-int widthOf(const QString &text)
-{
-    return std::accumulate(text.begin(), text.end(), 0,
-                           [](int sum, QChar character) { return sum + (isWide(character) ? 2 : 1); });
-}
-
-QString padded(const QString &text, int width, TextTable::Align align)
-{
-    const QString blanks(std::max(0, width - widthOf(text)), QLatin1Char(' '));
-    return align == TextTable::Align::Right ? blanks + text : text + blanks;
-}
 
 QString withoutBlanksAtTheEnd(QString line)
 {
@@ -39,6 +25,12 @@ QString printable(QString text)
 
 } // namespace
 
+QString TextTable::padded(const QString &text, int width, Align align)
+{
+    const QString blanks(std::max(0, width - shownWidth(text)), QLatin1Char(' '));
+    return align == Align::Right ? blanks + text : text + blanks;
+}
+
 void TextTable::add(const QStringList &cells)
 {
     QStringList row;
@@ -51,10 +43,10 @@ std::vector<int> TextTable::widths() const
 {
     std::vector<int> widths;
     for (const Column &column : m_columns)
-        widths.push_back(widthOf(column.heading));
+        widths.push_back(shownWidth(column.heading));
     for (const QStringList &row : m_rows)
         for (std::size_t i = 0; i < widths.size(); ++i)
-            widths[i] = std::max(widths[i], widthOf(row.at(static_cast<int>(i))));
+            widths[i] = std::max(widths[i], shownWidth(row.at(static_cast<int>(i))));
     return widths;
 }
 

@@ -28,6 +28,9 @@ public:
     /** The heading and the rows, without blanks at their ends. */
     QStringList lines() const;
 
+    /** A cell of a line that is no part of a table, with blanks up to its width; a wider one stays whole. */
+    static QString padded(const QString &text, int width, Align align);
+
 private:
     std::vector<int> widths() const;
 

@@ -20,6 +20,13 @@ TEST(TextTableTest, chineseCharactersCountTwice)
     EXPECT_EQ(table.lines(), (QStringList{"type    n", QStringLiteral("现浇板  1"), QStringLiteral("ＡＢ梁  2")}));
 }
 
+TEST(TextTableTest, cellsAloneArePaddedAlike)
+{
+    EXPECT_EQ(TextTable::padded(QStringLiteral("梁1"), 5, TextTable::Align::Left), QStringLiteral("梁1  "));
+    EXPECT_EQ(TextTable::padded(QStringLiteral("梁1"), 5, TextTable::Align::Right), QStringLiteral("  梁1"));
+    EXPECT_EQ(TextTable::padded(QStringLiteral("框架梁"), 5, TextTable::Align::Left), QStringLiteral("框架梁"));
+}
+
 TEST(TextTableTest, controlCharactersBecomeBlanks)
 {
     TextTable table({{"name"}, {"n"}});
