@@ -1,6 +1,7 @@
 #include "cli/PlanPicture.h"
 
 #include "cli/Command.h"
+#include "cli/Message.h"
 
 #include <QProcess>
 #include <QStandardPaths>
@@ -21,7 +22,7 @@ QByteArray pngOf(const QByteArray &svg, int width)
 {
     const QString program = QStandardPaths::findExecutable(kPainter);
     if (program.isEmpty())
-        fail(QStringLiteral("is not there, and it makes PNG pictures (package librsvg2-bin)"));
+        fail(Message::tr("is not there, and it makes PNG pictures (package librsvg2-bin)"));
     QProcess painter;
     painter.start(program, {QStringLiteral("--format=png"), QStringLiteral("--width=%1").arg(width),
                             QStringLiteral("--keep-aspect-ratio"), QStringLiteral("--background-color=white")});
@@ -30,9 +31,9 @@ QByteArray pngOf(const QByteArray &svg, int width)
     painter.waitForFinished(kForever);
     if (painter.error() == QProcess::FailedToStart || painter.exitStatus() != QProcess::NormalExit ||
         painter.exitCode() != 0)
-        fail(QStringLiteral("has failed: ") +
-             QString::fromLocal8Bit(painter.readAllStandardError() + ' ' + painter.errorString().toLocal8Bit())
-                 .trimmed());
+        fail(Message::tr("has failed: %1")
+                 .arg(QString::fromLocal8Bit(painter.readAllStandardError() + ' ' + painter.errorString().toLocal8Bit())
+                          .trimmed()));
     return painter.readAllStandardOutput();
 }
 

@@ -1,6 +1,8 @@
 #include "cli/ProjectInfo.h"
 
 #include "cli/Counted.h"
+#include "cli/Message.h"
+#include "cli/TextTable.h"
 #include "cli/TypeTitles.h"
 #include "platform/embedded/HBXProject.h"
 #include "platform/host/IHBXDrawObjs.h"
@@ -83,13 +85,15 @@ QJsonObject floorToJson(const ProjectInfo::Floor &floor)
 
 void appendFloorLines(const ProjectInfo::Floor &floor, QStringList &lines)
 {
-    lines.append(QStringLiteral("  %1 (code %2): bottom %3 m, height %4 m")
+    lines.append(Message::tr("  %1 (code %2): bottom %3 m, height %4 m")
                      .arg(floor.name, floor.code, QString::number(floor.bottomElev), QString::number(floor.height)));
     for (auto type = floor.types.cbegin(); type != floor.types.cend(); ++type)
-        lines.append(QStringLiteral("    %1 %2 elements %3 placed")
-                         .arg(QStringLiteral("%1 (%2)").arg(typeTitle(type.key())).arg(type.key()), -26)
-                         .arg(type->elements, 5)
-                         .arg(type->drawObjects, 6));
+        lines.append(
+            Message::tr("    %1 %2 elements %3 placed")
+                .arg(TextTable::padded(QStringLiteral("%1 (%2)").arg(shownTypeTitle(type.key())).arg(type.key()), 26,
+                                       TextTable::Align::Left))
+                .arg(type->elements, 5)
+                .arg(type->drawObjects, 6));
 }
 
 } // namespace
@@ -126,9 +130,9 @@ QMap<qint64, ProjectInfo::TypeCount> ProjectInfo::typesOn(const QString &region,
 QString ProjectInfo::counts() const
 {
     const TypeCount sum = total();
-    return QStringList{counted(static_cast<int>(regions.size()), QStringLiteral("region")),
-                       counted(floorCount(), QStringLiteral("floor")), counted(sum.elements, QStringLiteral("element")),
-                       counted(sum.drawObjects, QStringLiteral("placed object"))}
+    return QStringList{counted(static_cast<int>(regions.size()), Message::tr("region")),
+                       counted(floorCount(), Message::tr("floor")), counted(sum.elements, Message::tr("element")),
+                       counted(sum.drawObjects, Message::tr("placed object"))}
         .join(QStringLiteral(", "));
 }
 
@@ -136,9 +140,9 @@ QString ProjectInfo::table() const
 {
     QStringList lines{QStringLiteral("%1: %2").arg(name, counts())};
     if (!source.isEmpty())
-        lines.append(QStringLiteral("Source: ") + source);
+        lines.append(Message::tr("Source: %1").arg(source));
     for (const Region &region : regions) {
-        lines.append(QStringLiteral("Region %1").arg(region.name));
+        lines.append(Message::tr("Region %1").arg(region.name));
         for (const Floor &floor : region.floors)
             appendFloorLines(floor, lines);
     }

@@ -21,7 +21,7 @@ using TakeMember = std::function<void(const ReplyArray &array, const QString &pl
 /** Gives the members of a reply with their places, such as Beam[3], array by array as these are listed. Throws
  *  CommandFailure naming file and place when the reply has none of the arrays, or something else in place of one.
  *  @param arrays  two or more
- *  @param what    what such a document is: "reply of beams" */
+ *  @param what    what people call such a document: "reply of beams" */
 void forEachMember(const QJsonObject &reply, const QString &file, const std::vector<ReplyArray> &arrays,
                    const QString &what, const TakeMember &take);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/Applied.h"
+#include "cli/Message.h"
 #include "cli/Progress.h"
 #include "platform/embedded/HBXProject.h"
 #include "platform/host/HBXBatch.h"
@@ -26,7 +27,7 @@ Outcome writeSound(hbx::embedded::HBXProject &project, const Check &check, const
     const int drawObjsBefore = model.drawObjects()->count();
     const HBXBatch batch(model, batchKey);
     Writer writer(project, outcome);
-    Progress progress(QStringLiteral("members"), static_cast<int>(check.sound().size()));
+    Progress progress(Message::tr("members"), static_cast<int>(check.sound().size()));
     for (const auto &member : check.sound()) {
         writer.write(member);
         progress.step();

@@ -1,5 +1,6 @@
 #include "cli/SchemaCheck.h"
 
+#include "cli/Message.h"
 #include "cli/NearestName.h"
 #include "cli/SchemaRules.h"
 #include "cli/ValueWords.h"
@@ -164,9 +165,9 @@ void Walk::fault(Index value, Rule rule, const QString &is, const QString &expec
     finding.meant = meant;
     if (!m_isTrial) {
         const QString meaning = meaningOf(m_now);
-        const QString wanted = !meant.isEmpty()     ? QStringLiteral("\"%1\" is meant").arg(meant)
+        const QString wanted = !meant.isEmpty()     ? Message::tr("\"%1\" is meant").arg(meant)
                                : expected.isEmpty() ? QString()
-                                                    : expected + QStringLiteral(" is expected");
+                                                    : Message::tr("%1 is expected").arg(expected);
         finding.message = wanted.isEmpty() ? is : is + QStringLiteral("; ") + wanted;
         if (!meaning.isEmpty())
             finding.message += QStringLiteral(" (%1)").arg(meaning);
@@ -197,11 +198,11 @@ void Walk::apply(Index value, const JsonSchema &schema, Applied &applied)
     if (schema.types != 0 && !isOfType(m_document, value, schema.types)) {
         applied.isMistyped = true;
         const QString expected = wordsForTypes(schema.types);
-        fault(value, Rule::Type, QStringLiteral("is ") + wordsFor(m_document, value), expected);
+        fault(value, Rule::Type, Message::tr("is %1").arg(wordsFor(m_document, value)), expected);
         return;
     }
     if (schema.isNever)
-        fault(value, Rule::Form, QStringLiteral("is more than the form has"), {});
+        fault(value, Rule::Form, Message::tr("is more than the form has"), {});
     applied.schemas.push_back(&schema);
     if (schema.reference)
         apply(value, *schema.reference, applied);
@@ -215,7 +216,7 @@ void Walk::apply(Index value, const JsonSchema &schema, Applied &applied)
     if (schema.condition)
         applyCondition(value, schema, applied);
     if (schema.negated && faultsBy(value, *schema.negated) == 0)
-        fault(value, Rule::Value, QStringLiteral("is ") + wordsFor(m_document, value), QStringLiteral("another value"));
+        fault(value, Rule::Value, Message::tr("is %1").arg(wordsFor(m_document, value)), Message::tr("another value"));
 }
 
 /** Parts that always apply, and of cases the one that the object tells, or the one that fits it instead. */
@@ -242,7 +243,7 @@ void Walk::applyCases(Index value, const JsonSchema &schema, Applied &applied)
                                       [&](const JsonSchema::Case &one) { return faultsBy(value, *one.schema) == 0; });
     if (fitting != schema.cases.end()) {
         if (chosen)
-            fault(at, Rule::Value, QStringLiteral("is \"%1\", but the other keys are those of another").arg(told), {},
+            fault(at, Rule::Value, Message::tr("is \"%1\", but the other keys are those of another").arg(told), {},
                   fitting->value);
         return apply(value, *fitting->schema, applied);
     }
@@ -276,10 +277,10 @@ void Walk::applyNearest(Index value, const Schemas &branches, bool isOneOnly, Ap
     }
     if (fitting == 0 && types != 0 && !isOfType(m_document, value, types)) {
         applied.isMistyped = true;
-        return fault(value, Rule::Type, QStringLiteral("is ") + wordsFor(m_document, value), wordsForTypes(types));
+        return fault(value, Rule::Type, Message::tr("is %1").arg(wordsFor(m_document, value)), wordsForTypes(types));
     }
     if (isOneOnly && fitting > 1)
-        fault(value, Rule::Form, QStringLiteral("has the keys of more than one form"), {});
+        fault(value, Rule::Form, Message::tr("has the keys of more than one form"), {});
     apply(value, *nearest, applied);
 }
 
@@ -426,15 +427,15 @@ void Walk::tellUnknown(const UnknownKey &key, const QString &meant, bool isMissi
     finding.weight = key.isForbidden || isMissing ? Weight::Fault : Weight::Ignored;
     finding.offset = m_document.node(key.member).keyOffset;
     finding.meant = meant;
-    finding.message = QStringLiteral("is no key of this object");
+    finding.message = Message::tr("is no key of this object");
     if (finding.weight == Weight::Ignored) {
-        finding.message += QStringLiteral(", and not read");
+        finding.message += Message::tr(", and not read");
         ++m_ignored;
     }
     if (!meant.isEmpty())
-        finding.message += QStringLiteral("; \"%1\" is meant").arg(meant);
+        finding.message += Message::tr("; \"%1\" is meant").arg(meant);
     if (isMissing)
-        finding.message += QStringLiteral(", which is missing");
+        finding.message += Message::tr(", which is missing");
     m_found.findings.push_back(std::move(finding));
 }
 
@@ -445,10 +446,9 @@ void Walk::tellMissing(Index object, const QStringList &names, const Applied &ap
     finding.node = object;
     finding.missingKey = names.first();
     finding.rule = Rule::Missing;
-    finding.message = QStringLiteral("is missing");
+    finding.message = Message::tr("is missing");
     if (names.size() > 1)
-        finding.message +=
-            QStringLiteral(", or \"%1\" in its place").arg(names.mid(1).join(QStringLiteral("\" or \"")));
+        finding.message += Message::tr(", or \"%1\" in its place").arg(names.mid(1).join(Message::tr("\" or \"")));
     Schemas schemas;
     for (const JsonSchema *schema : applied.schemas)
         if (const auto found = schema->properties.find(names.first().toStdString()); found != schema->properties.end())

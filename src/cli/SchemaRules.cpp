@@ -1,6 +1,7 @@
 #include "cli/SchemaRules.h"
 
 #include "cli/GeometryFormats.h"
+#include "cli/Message.h"
 #include "cli/NearestName.h"
 #include "cli/ValueWords.h"
 
@@ -49,7 +50,7 @@ Broken brokenByValue(const JsonTree &document, Index value, const JsonSchema &sc
         return {};
     if (words == InWords::No)
         return BrokenRule{Rule::Value, {}, {}, {}};
-    return BrokenRule{Rule::Value, QStringLiteral("is ") + wordsFor(document, value), wordsForValues(schema.allowed),
+    return BrokenRule{Rule::Value, Message::tr("is %1").arg(wordsFor(document, value)), wordsForValues(schema.allowed),
                       nearestAllowed(document.node(value), schema.allowed)};
 }
 
@@ -57,11 +58,11 @@ QString wordsForRange(const JsonSchema &schema)
 {
     const auto text = [](double limit) { return QString::number(limit, 'g', 17); };
     if (schema.exclusiveMinimum)
-        return QStringLiteral("a number above ") + text(*schema.exclusiveMinimum);
+        return Message::tr("a number above %1").arg(text(*schema.exclusiveMinimum));
     if (schema.minimum && schema.maximum)
-        return QStringLiteral("a number from %1 to %2").arg(text(*schema.minimum), text(*schema.maximum));
-    return schema.minimum ? QStringLiteral("a number from %1 up").arg(text(*schema.minimum))
-                          : QStringLiteral("a number up to ") + text(schema.maximum.value_or(0));
+        return Message::tr("a number from %1 to %2").arg(text(*schema.minimum), text(*schema.maximum));
+    return schema.minimum ? Message::tr("a number from %1 up").arg(text(*schema.minimum))
+                          : Message::tr("a number up to %1").arg(text(schema.maximum.value_or(0)));
 }
 
 Broken brokenByNumber(const JsonTree &document, Index value, const JsonSchema &schema)
@@ -71,7 +72,7 @@ Broken brokenByNumber(const JsonTree &document, Index value, const JsonSchema &s
         (schema.minimum && number < *schema.minimum) || (schema.exclusiveMinimum && number <= *schema.exclusiveMinimum);
     if (!isBelow && !(schema.maximum && number > *schema.maximum))
         return {};
-    return BrokenRule{Rule::Range, QStringLiteral("is ") + shortText(document, value), wordsForRange(schema), {}};
+    return BrokenRule{Rule::Range, Message::tr("is %1").arg(shortText(document, value)), wordsForRange(schema), {}};
 }
 
 Broken brokenByText(const JsonTree &document, Index value, const JsonSchema &schema, InWords words)
@@ -80,27 +81,28 @@ Broken brokenByText(const JsonTree &document, Index value, const JsonSchema &sch
         return {};
     const QString text = textOf(document.node(value));
     if (schema.minLength && text.size() < *schema.minLength)
-        return BrokenRule{Rule::Size, QStringLiteral("is an empty text"), QStringLiteral("one that is not"), {}};
+        return BrokenRule{Rule::Size, Message::tr("is an empty text"), Message::tr("one that is not"), {}};
     // An expression that gives up on a text of great length has said nothing.
     const QRegularExpressionMatch match = schema.pattern ? schema.pattern->match(text) : QRegularExpressionMatch();
     const bool isOfPattern = !schema.pattern || match.hasMatch() || !match.isValid();
     const QString why = words == InWords::Yes ? whyNotFormat(schema.format, text) : QString();
     if (isOfPattern && why.isEmpty())
         return {};
-    const QString is = QStringLiteral("is ") + wordsFor(document, value);
+    const QString shown = wordsFor(document, value);
     if (why.isEmpty())
-        return BrokenRule{Rule::Pattern, is, QStringLiteral("another form"), {}};
-    return BrokenRule{isOfPattern ? Rule::Geometry : Rule::Pattern, is + QStringLiteral(", which ") + why, {}, {}};
+        return BrokenRule{Rule::Pattern, Message::tr("is %1").arg(shown), Message::tr("another form"), {}};
+    return BrokenRule{
+        isOfPattern ? Rule::Geometry : Rule::Pattern, Message::tr("is %1, which %2").arg(shown, why), {}, {}};
 }
 
-Broken brokenByCount(int count, Count least, Count most, const char *thing)
+Broken brokenByCount(int count, Count least, Count most, const char *things)
 {
     if ((!least || count >= *least) && (!most || count <= *most))
         return {};
     const QString expected = least && most && *least == *most ? QString::number(*least)
-                             : least && count < *least        ? QStringLiteral("at least %1").arg(*least)
-                                                              : QStringLiteral("at most %1").arg(most.value_or(0));
-    return BrokenRule{Rule::Size, QStringLiteral("has %1 %2").arg(count).arg(QLatin1String(thing)), expected, {}};
+                             : least && count < *least        ? Message::tr("at least %1").arg(*least)
+                                                              : Message::tr("at most %1").arg(most.value_or(0));
+    return BrokenRule{Rule::Size, Message::tr("has %1 %2").arg(count).arg(Message::tr(things)), expected, {}};
 }
 
 } // namespace
@@ -116,9 +118,10 @@ Broken brokenRule(const JsonTree &document, Index value, const JsonSchema &schem
     case Kind::Text:
         return brokenByText(document, value, schema, words);
     case Kind::List:
-        return brokenByCount(node.count, schema.minItems, schema.maxItems, "entries");
+        return brokenByCount(node.count, schema.minItems, schema.maxItems, QT_TRANSLATE_NOOP("orvcad", "entries"));
     case Kind::Object:
-        return brokenByCount(node.count, schema.minProperties, schema.maxProperties, "keys");
+        return brokenByCount(node.count, schema.minProperties, schema.maxProperties,
+                             QT_TRANSLATE_NOOP("orvcad", "keys"));
     case Kind::Null:
     case Kind::Truth:
         break;

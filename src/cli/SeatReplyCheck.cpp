@@ -4,6 +4,7 @@
 #include "beam/BeamKeys.h"
 #include "cli/FloorLookup.h"
 #include "cli/MemberKinds.h"
+#include "cli/Message.h"
 #include "cli/TypeTitles.h"
 #include "platform/geometry/KernelTolerance.h"
 
@@ -30,9 +31,9 @@ QString whyNotPlace(const Seat &seat, const QJsonObject &member)
     if (seat.seatElementType != type::tieBeam)
         return whyNotOutline(key::worldPoly, member.value(key::worldPoly).toString());
     if (!seat.ipCenterLine)
-        return QStringLiteral("%1 is no curve").arg(key::centerLine);
+        return Message::tr("%1 is no curve").arg(key::centerLine);
     return seat.ipCenterLine->Length() > vks::g_DistEpsilon ? QString()
-                                                            : QStringLiteral("%1 has no length").arg(key::centerLine);
+                                                            : Message::tr("%1 has no length").arg(key::centerLine);
 }
 
 /** Sizes of what is made of them. */
@@ -40,7 +41,7 @@ QString whyNotSize(const QJsonObject &member)
 {
     for (const QLatin1String size : {key::sectionWidth, key::sectinoHeight, key::height})
         if (member.value(size).toInt() < 0)
-            return QStringLiteral("%1 is below 0").arg(size);
+            return Message::tr("%1 is below 0").arg(size);
     return {};
 }
 
@@ -48,7 +49,7 @@ QString whyNotType(int elementType, const ReplyArray &array)
 {
     return elementType == array.elementType
                ? QString()
-               : QStringLiteral("type %1 is no %2").arg(elementType).arg(typeTitle(array.elementType));
+               : Message::tr("type %1 is no %2").arg(elementType).arg(shownTypeTitle(array.elementType));
 }
 
 } // namespace
@@ -65,7 +66,7 @@ const std::vector<ReplyArray> &seatArrays()
 SeatReplyCheck::SeatReplyCheck(IHBXModel &model, const QJsonObject &reply, const QString &file) : ArrayReplyCheck(model)
 {
     lookThrough(
-        reply, file, seatArrays(), QStringLiteral("document of seats"),
+        reply, file, seatArrays(), Message::tr("document of seats"),
         [&](const ReplyArray &array, const QString &place, const QJsonValue &member) { look(place, member, array); });
 }
 
@@ -85,12 +86,12 @@ QString SeatReplyCheck::whyNot(const QJsonValue &value, const ReplyArray &array)
 {
     const QJsonObject member = value.toObject();
     if (!value.isObject())
-        return QStringLiteral("is no object");
+        return Message::tr("is no object");
     QString reason = wrongKey(member, pattern(), kSeatWhole, kSeatRequired);
     if (reason.isEmpty())
         reason = whyNotType(member.value(key::elementType).toInt(), array);
     if (reason.isEmpty() && member.value(key::entName).toString().isEmpty())
-        reason = QStringLiteral("has no name");
+        reason = Message::tr("has no name");
     if (reason.isEmpty())
         floorOfNames(m_model, member.value(key::regionName).toString(), member.value(key::floorName).toString(),
                      reason);

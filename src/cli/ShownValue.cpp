@@ -1,6 +1,7 @@
 #include "cli/ShownValue.h"
 
 #include "cli/Applied.h"
+#include "cli/Message.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -10,7 +11,7 @@ namespace orvcad {
 QString shownValue(const QJsonValue &value)
 {
     if (value.isUndefined())
-        return QStringLiteral("nothing");
+        return Message::tr("nothing");
     const QByteArray json = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
     return shortened(QString::fromUtf8(json.mid(1, json.size() - 2)));
 }

@@ -2,6 +2,7 @@
 
 #include "ModelSerialization/ORVCADBoardLocalModelPersistenceService_Sample.h"
 #include "cli/Counted.h"
+#include "cli/Message.h"
 #include "platform/services/HBXElementTypes.h"
 #include "slab/ORVCADBoardLocalModel_Sample.h"
 #include "slab/SlabKeys.h"
@@ -73,31 +74,41 @@ const std::vector<SlabArray> &slabArrays()
     static const std::vector<SlabArray> arrays{
         {key::boards,
          Persistence::Boards,
-         "slab",
+         QT_TRANSLATE_NOOP("orvcad", "slab"),
          type::slab,
          outline,
          {key::surface, key::thickness, key::elev},
          {key::id}},
         {key::rafts,
          Persistence::Rafts,
-         "raft",
+         QT_TRANSLATE_NOOP("orvcad", "raft"),
          type::raft,
          outline,
          {key::surface, key::thickness, key::topElev, key::bottomElev},
          {key::id}},
-        {key::boardHoles, Persistence::Boards, "slab opening", type::slabHole, outline, {key::surface}, {key::id}},
-        areaBars(key::forcedBars, Persistence::BoardBars, "slab bar", type::slabBar, key::forcedType),
-        lineBars(key::negativeForcedBars, Persistence::BoardBars, "slab negative bar", type::slabNegativeBar),
-        areaBars(key::straddleForcedBars, Persistence::BoardBars, "straddling slab bar", type::slabBar,
-                 key::labelPosition),
-        areaBars(key::raftMainForcedBars, Persistence::RaftBars, "raft bar", type::raftBar, key::forcedType),
-        areaBars(key::raftStraddleMainForcedBars, Persistence::RaftBars, "straddling raft bar", type::raftBar,
-                 key::labelPosition),
-        lineBars(key::raftNegativeForcedBars, Persistence::RaftBars, "raft negative bar", type::raftNegativeBar),
-        {key::columns, Persistence::Supports, "column"},
-        {key::beams, Persistence::Supports, "beam"},
-        {key::walls, Persistence::Supports, "wall"},
-        {key::axisGrids, Persistence::AxisNets, "axis grid"},
+        {key::boardHoles,
+         Persistence::Boards,
+         QT_TRANSLATE_NOOP("orvcad", "slab opening"),
+         type::slabHole,
+         outline,
+         {key::surface},
+         {key::id}},
+        areaBars(key::forcedBars, Persistence::BoardBars, QT_TRANSLATE_NOOP("orvcad", "slab bar"), type::slabBar,
+                 key::forcedType),
+        lineBars(key::negativeForcedBars, Persistence::BoardBars, QT_TRANSLATE_NOOP("orvcad", "slab negative bar"),
+                 type::slabNegativeBar),
+        areaBars(key::straddleForcedBars, Persistence::BoardBars, QT_TRANSLATE_NOOP("orvcad", "straddling slab bar"),
+                 type::slabBar, key::labelPosition),
+        areaBars(key::raftMainForcedBars, Persistence::RaftBars, QT_TRANSLATE_NOOP("orvcad", "raft bar"), type::raftBar,
+                 key::forcedType),
+        areaBars(key::raftStraddleMainForcedBars, Persistence::RaftBars,
+                 QT_TRANSLATE_NOOP("orvcad", "straddling raft bar"), type::raftBar, key::labelPosition),
+        lineBars(key::raftNegativeForcedBars, Persistence::RaftBars, QT_TRANSLATE_NOOP("orvcad", "raft negative bar"),
+                 type::raftNegativeBar),
+        {key::columns, Persistence::Supports, QT_TRANSLATE_NOOP("orvcad", "column")},
+        {key::beams, Persistence::Supports, QT_TRANSLATE_NOOP("orvcad", "beam")},
+        {key::walls, Persistence::Supports, QT_TRANSLATE_NOOP("orvcad", "wall")},
+        {key::axisGrids, Persistence::AxisNets, QT_TRANSLATE_NOOP("orvcad", "axis grid")},
     };
     return arrays;
 }
@@ -107,8 +118,8 @@ QString slabCountsText(const QJsonObject &model)
     QStringList parts;
     for (const SlabArray &array : slabArrays())
         if (const int count = model.value(array.key).toArray().size())
-            parts.append(counted(count, QString::fromLatin1(array.title)));
-    return parts.isEmpty() ? QStringLiteral("nothing") : parts.join(QStringLiteral(", "));
+            parts.append(counted(count, Message::tr(array.title)));
+    return parts.isEmpty() ? Message::tr("nothing") : parts.join(QStringLiteral(", "));
 }
 
 QJsonObject slabCounts(const QJsonObject &model)

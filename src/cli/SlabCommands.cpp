@@ -1,6 +1,7 @@
 #include "cli/Applied.h"
 #include "cli/Files.h"
 #include "cli/FloorLookup.h"
+#include "cli/Message.h"
 #include "cli/ProjectFiles.h"
 #include "cli/SlabArrays.h"
 #include "cli/SlabExport.h"
@@ -32,9 +33,9 @@ Summary exportSlabs(const Arguments &arguments)
     if (!drawing.isEmpty())
         json["drawing"] = drawing;
     return writeDocument(arguments, document,
-                         {QStringLiteral("Wrote %1 of %2%3")
+                         {Message::tr("Wrote %1 of %2%3")
                               .arg(slabCountsText(model), floor.name(),
-                                   drawing.isEmpty() ? QString() : QStringLiteral(", with the drawing ") + drawing),
+                                   drawing.isEmpty() ? QString() : Message::tr(", with the drawing %1").arg(drawing)),
                           json});
 }
 
@@ -68,35 +69,36 @@ Summary applyReply(const Arguments &arguments)
 
 void addExport(CLI::App &group, Command &command)
 {
-    Verb verb(group, command, "export", "Write what recognition gets of a floor's slabs", exportSlabs);
+    Verb verb(group, command, "export", Message::help("Write what recognition gets of a floor's slabs"), exportSlabs);
     verb.arguments().parts = SlabParts::kEverything;
     verb.projects().pickedFloor();
     CLI::Option *parts = verb.app().add_option(
         "--parts", verb.arguments().parts,
-        "Sum of what is written: 2 supports, 4 slabs and holes, 8 bars of slabs, 32 rafts, 64 bars "
-        "of rafts, 128 axis grids; everything if absent");
+        Message::help("Sum of what is written: 2 supports, 4 slabs and holes, 8 bars of slabs, 32 rafts, 64 bars "
+                      "of rafts, 128 axis grids; everything if absent"));
     verb.app()
-        .add_option("--drawing", verb.arguments().drawing, "Drawing to write along (.cadi2), with options and floor")
+        .add_option("--drawing", verb.arguments().drawing,
+                    Message::help("Drawing to write along (.cadi2), with options and floor"))
         ->excludes(parts);
-    verb.output("File to write the payload to", ".slabs.json");
+    verb.output(Message::help("File to write the payload to"), ".slabs.json");
 }
 
 void addApply(CLI::App &group, Command &command)
 {
-    Verb verb(group, command, "apply", "Write a reply into a floor and save the project", applyReply);
-    verb.project().pickedFloor().input("REPLY", "Reply document");
+    Verb verb(group, command, "apply", Message::help("Write a reply into a floor and save the project"), applyReply);
+    verb.project().pickedFloor().input("REPLY", Message::help("Reply document"));
     verb.app().add_flag("--as-new", verb.arguments().asNew,
-                        "Take everything in the document as new, so that an export is a reply");
+                        Message::help("Take everything in the document as new, so that an export is a reply"));
     verb.app().add_option("--ids", verb.arguments().ids,
-                          "File to write the ids of what was made to, with the reply's identities");
-    verb.strict("reply");
+                          Message::help("File to write the ids of what was made to, with the reply's identities"));
+    verb.strict(Message::help("reply"));
 }
 
 } // namespace
 
 void addSlabCommands(CLI::App &app, Command &command)
 {
-    CLI::App &group = addGroup(app, "slab", "Slabs, rafts, their holes and bars");
+    CLI::App &group = addGroup(app, "slab", Message::help("Slabs, rafts, their holes and bars"));
     addExport(group, command);
     addApply(group, command);
 }

@@ -2,6 +2,7 @@
 
 #include "ModelSerialization/ORVCADBoardLocalModelTransformHBXService_Sample.h"
 #include "cli/Counted.h"
+#include "cli/Message.h"
 #include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXRegion.h"
 #include "platform/services/HbxRelation.h"
@@ -33,22 +34,31 @@ struct Piece
     vks::CRefPtr<vks::CCurve2d> line = nullptr;
 };
 
+/** "slab B-h120" */
+QString titled(const char *noun, const QString &name) { return QStringLiteral("%1 %2").arg(Message::tr(noun), name); }
+
 QString numberText(double number) { return QString::number(slab::truncated(number)); }
 
 Piece pieceOf(const Local::Board &slab)
 {
-    return {QStringLiteral("slab ") + slab.name, {numberText(slab.thickness)}, {slab.elev}, slab.surface};
+    return {titled(QT_TRANSLATE_NOOP("orvcad", "slab"), slab.name),
+            {numberText(slab.thickness)},
+            {slab.elev},
+            slab.surface};
 }
 
 Piece pieceOf(const Local::Raft &raft)
 {
-    return {QStringLiteral("raft ") + raft.name,
+    return {titled(QT_TRANSLATE_NOOP("orvcad", "raft"), raft.name),
             {numberText(raft.thickness)},
             {raft.topElev, raft.bottomElev},
             raft.surface};
 }
 
-Piece pieceOf(const Local::BoardHole &hole) { return {QStringLiteral("hole ") + hole.name, {}, {}, hole.surface}; }
+Piece pieceOf(const Local::BoardHole &hole)
+{
+    return {titled(QT_TRANSLATE_NOOP("orvcad", "hole"), hole.name), {}, {}, hole.surface};
+}
 
 /** The two ways in which bars of an area run are one. */
 QString directionText(const vks::CVec2<double> &direction)
@@ -60,14 +70,14 @@ QString directionText(const vks::CVec2<double> &direction)
 
 template <typename Bar> Piece mainPiece(const Bar &bar, const char *title)
 {
-    return {QLatin1String(title) + bar.name,
+    return {titled(title, bar.name),
             {bar.barInfo, directionText(bar.direction), QString::number(bar.forcedType),
              QString::number(bar.leftHookLength)},
             {},
             bar.surface};
 }
-Piece pieceOf(const Local::ForcedBar &bar) { return mainPiece(bar, "slab bar "); }
-Piece pieceOf(const Local::RaftMainForcedBar &bar) { return mainPiece(bar, "raft bar "); }
+Piece pieceOf(const Local::ForcedBar &bar) { return mainPiece(bar, QT_TRANSLATE_NOOP("orvcad", "slab bar")); }
+Piece pieceOf(const Local::RaftMainForcedBar &bar) { return mainPiece(bar, QT_TRANSLATE_NOOP("orvcad", "raft bar")); }
 
 template <typename Bar> QStringList labelsOf(const Bar &bar)
 {
@@ -78,19 +88,22 @@ template <typename Bar> QStringList labelsOf(const Bar &bar)
 template <typename Bar> Piece straddlePiece(const Bar &bar, const char *title)
 {
     const QStringList own{directionText(bar.direction), QString::number(bar.rightHookLength)};
-    return {QLatin1String(title) + bar.name, labelsOf(bar) + own, {}, bar.surface};
+    return {titled(title, bar.name), labelsOf(bar) + own, {}, bar.surface};
 }
 Piece pieceOf(const Local::StraddleForcedBar &bar)
 {
-    Piece piece = straddlePiece(bar, "straddling slab bar ");
+    Piece piece = straddlePiece(bar, QT_TRANSLATE_NOOP("orvcad", "straddling slab bar"));
     piece.values += {bar.distributeBarInfo, bar.saddleBarlineCount};
     return piece;
 }
-Piece pieceOf(const Local::RaftMainStraddleForcedBar &bar) { return straddlePiece(bar, "straddling raft bar "); }
+Piece pieceOf(const Local::RaftMainStraddleForcedBar &bar)
+{
+    return straddlePiece(bar, QT_TRANSLATE_NOOP("orvcad", "straddling raft bar"));
+}
 
 Piece pieceOf(const Local::NegativeForcedBar &bar)
 {
-    return {QStringLiteral("slab negative bar ") + bar.name,
+    return {titled(QT_TRANSLATE_NOOP("orvcad", "slab negative bar"), bar.name),
             labelsOf(bar) + QStringList{bar.distributeBarInfo, bar.saddleBarlineCount},
             {},
             nullptr,
@@ -98,7 +111,7 @@ Piece pieceOf(const Local::NegativeForcedBar &bar)
 }
 Piece pieceOf(const Local::RaftNegativeForcedBar &bar)
 {
-    return {QStringLiteral("raft negative bar ") + bar.name, labelsOf(bar), {}, nullptr, bar.line};
+    return {titled(QT_TRANSLATE_NOOP("orvcad", "raft negative bar"), bar.name), labelsOf(bar), {}, nullptr, bar.line};
 }
 
 template <typename Element> void append(const std::vector<const Element *> &elements, std::vector<Piece> &pieces)
@@ -163,8 +176,8 @@ QString describe(const Piece &piece)
     const vks::CBox2<double> box = piece.outline ? piece.outline->Box()
                                    : piece.line  ? piece.line->Box()
                                                  : vks::CBox2<double>();
-    values.append(box.IsValid() ? QStringLiteral("around %1, %2").arg(box.Center().x).arg(box.Center().y)
-                                : QStringLiteral("nowhere"));
+    values.append(box.IsValid() ? Message::tr("around %1, %2").arg(box.Center().x).arg(box.Center().y)
+                                : Message::tr("nowhere"));
     return QStringLiteral("%1 (%2)").arg(piece.title, values.join(QStringLiteral(", ")));
 }
 
@@ -172,10 +185,10 @@ QString describe(const Piece &piece)
 
 QString SlabComparison::text() const
 {
-    return textOf(QStringLiteral("%1 of slabs, %2")
-                      .arg(counted(compared, QStringLiteral("member")),
-                           isSame() ? QStringLiteral("nothing lost, added or moved")
-                                    : counted(deviations.size(), QStringLiteral("deviation"))));
+    return textOf(Message::tr("%1 of slabs, %2")
+                      .arg(counted(compared, Message::tr("member")),
+                           isSame() ? Message::tr("nothing lost, added or moved")
+                                    : counted(deviations.size(), Message::tr("deviation"))));
 }
 
 SlabComparison compareSlabs(IHBXModel &expectedModel, const IHBXFloor &expected, IHBXModel &foundModel,
@@ -189,12 +202,12 @@ SlabComparison compareSlabs(IHBXModel &expectedModel, const IHBXFloor &expected,
         const auto same =
             std::find_if(after.begin(), after.end(), [&piece](const Piece &other) { return isSame(piece, other); });
         if (same == after.end())
-            comparison.deviations.append(QStringLiteral("lost: ") + describe(piece));
+            comparison.deviations.append(Message::tr("lost: %1").arg(describe(piece)));
         else
             after.erase(same);
     }
     for (const Piece &piece : after)
-        comparison.deviations.append(QStringLiteral("added: ") + describe(piece));
+        comparison.deviations.append(Message::tr("added: %1").arg(describe(piece)));
     return comparison;
 }
 

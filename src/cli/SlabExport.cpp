@@ -5,6 +5,7 @@
 #include "ModelSerialization/ORVCADBoardLocalModelTransformHBXService_Sample.h"
 #include "cli/Command.h"
 #include "cli/Files.h"
+#include "cli/Message.h"
 #include "platform/embedded/HBXProject.h"
 #include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXRegion.h"
@@ -47,9 +48,8 @@ SlabParts::SlabParts(int number) : m_number(number)
     if (number > kGreatest || number < 0 || !has(kAllElements | Parts::AxisNets))
         throw CommandFailure(
             kWrongUsage,
-            QStringLiteral(
-                "--parts %1 names no part; parts: 2 supports, 4 slabs and holes, 8 bars of slabs, 32 rafts, 64 "
-                "bars of rafts, 128 axis grids, or a sum of them")
+            Message::tr("--parts %1 names no part; parts: 2 supports, 4 slabs and holes, 8 bars of slabs, 32 rafts, 64 "
+                        "bars of rafts, 128 axis grids, or a sum of them")
                 .arg(number));
 }
 
@@ -73,11 +73,11 @@ QJsonObject slabIoDocument(const HBXProject &project, const IHBXFloor &floor, co
     readFile(drawingPath); // tells of a missing file in its own words
     ORVCADBoardLocalIOModel_Sample model;
     if (!Transform::hbx2local(project.service()->model(), floor.region()->name(), floor.name(), drawingPath, &model))
-        throw CommandFailure(kBadInput, drawingPath, {}, QStringLiteral("is no drawing that can be read"));
+        throw CommandFailure(kBadInput, drawingPath, {}, Message::tr("is no drawing that can be read"));
     QJsonObject document = ORVCADBoardLocalIOModelPersistenceService_Sample::model2json(&model, Parts::Everything);
     if (document.isEmpty())
         throw CommandFailure(kBadInput, drawingPath, {},
-                             QStringLiteral("the drawing cannot be packed below the temporary folder"));
+                             Message::tr("the drawing cannot be packed below the temporary folder"));
     return document;
 }
 

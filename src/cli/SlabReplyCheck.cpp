@@ -2,6 +2,7 @@
 
 #include "cli/ExpectedValue.h"
 #include "cli/MemberKinds.h"
+#include "cli/Message.h"
 #include "cli/UnreadKeys.h"
 #include "encoding/GeometryFields.h"
 #include "platform/geometry/KernelTolerance.h"
@@ -24,11 +25,11 @@ constexpr double kFarthestLabel = 1e9;      // mm: beyond it coordinates lose wh
 QString whyNotGeometry(const SlabArray &array, const QString &text)
 {
     if (array.geometry == SlabArray::Geometry::Outline)
-        return encoding::KernelText::polygon(text) ? QString() : QStringLiteral("surface is no outline");
+        return encoding::KernelText::polygon(text) ? QString() : Message::tr("surface is no outline");
     const auto line = encoding::KernelText::curve(text);
     if (!line)
-        return QStringLiteral("line is no curve");
-    return line->Length() > vks::g_DistEpsilon ? QString() : QStringLiteral("line has no length");
+        return Message::tr("line is no curve");
+    return line->Length() > vks::g_DistEpsilon ? QString() : Message::tr("line has no length");
 }
 
 /** What keeps a bar from being drawn: along its direction, or to both sides of its line, through the point of its label. */
@@ -39,13 +40,13 @@ QString whyNotDrawn(const SlabArray &array, const QJsonObject &member)
         return {};
     if (array.geometry == SlabArray::Geometry::Line) {
         if (number(key::leftStretchLength) + number(key::rightStretchLength) <= vks::g_DistEpsilon)
-            return QStringLiteral("it stretches to neither side of its line");
+            return Message::tr("it stretches to neither side of its line");
     } else if (std::hypot(number(key::directionX), number(key::directionY)) <= kShortestDirection) {
-        return QStringLiteral("its direction has no length");
+        return Message::tr("its direction has no length");
     }
     for (const QLatin1String key : {key::refPointX, key::refPointY})
         if (std::fabs(number(key)) > kFarthestLabel)
-            return QStringLiteral("%1 lies beyond %2 m").arg(key, QString::number(kFarthestLabel / 1000, 'f', 0));
+            return Message::tr("%1 lies beyond %2 m").arg(key, QString::number(kFarthestLabel / 1000, 'f', 0));
     return {};
 }
 
@@ -53,7 +54,7 @@ QString whyNot(const SlabArray &array, const QJsonValue &value, const QJsonObjec
 {
     const QJsonObject member = value.toObject();
     if (!value.isObject())
-        return QStringLiteral("is no object");
+        return Message::tr("is no object");
     QString wrong = wrongKey(member, pattern, array.whole, array.required);
     if (wrong.isEmpty())
         wrong = whyNotGeometry(array, member.value(array.geometryKey()).toString());
@@ -73,12 +74,12 @@ QJsonObject slabModelOf(const QJsonObject &document, const QString &file)
     if (!document.contains(key::model)) {
         if (!hasAnyArray(document))
             throw CommandFailure(kBadInput, file, {},
-                                 QStringLiteral("has neither \"model\" nor an array of slabs, rafts, holes or bars: no "
-                                                "reply of slabs"));
+                                 Message::tr("has neither \"model\" nor an array of slabs, rafts, holes or bars: no "
+                                             "reply of slabs"));
         return document;
     }
     if (!document.value(key::model).isObject())
-        throw CommandFailure(kBadInput, file, key::model, QStringLiteral("is no object"));
+        throw CommandFailure(kBadInput, file, key::model, Message::tr("is no object"));
     return document.value(key::model).toObject();
 }
 
@@ -97,7 +98,7 @@ void SlabReplyCheck::look(const SlabArray &array, const QJsonValue &value)
 {
     const QJsonArray members = value.toArray();
     if (!value.isArray())
-        m_leftOut.push_back({array.key, {}, QStringLiteral("is no array"), false});
+        m_leftOut.push_back({array.key, {}, Message::tr("is no array"), false});
     if (!array.isMade()) {
         m_passedOver += members.size();
         return;
@@ -127,7 +128,7 @@ void SlabReplyCheck::look(const SlabArray &array, int index, const QJsonValue &v
     leaveOutUnread(member, array.keys(), place, name, m_leftOut);
     const QString identity = member.value(key::recongnizedID).toString();
     if (!identity.isEmpty() && QUuid(identity).isNull())
-        m_leftOut.push_back({place + u'.' + key::recongnizedID, name, QStringLiteral("is no identity"), false});
+        m_leftOut.push_back({place + u'.' + key::recongnizedID, name, Message::tr("is no identity"), false});
     take(array, place, member);
 }
 

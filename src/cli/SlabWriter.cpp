@@ -2,6 +2,7 @@
 
 #include "ModelSerialization/ORVCADBoardLocalModelPersistenceService_Sample.h"
 #include "ModelSerialization/ORVCADBoardLocalModelTransformHBXService_Sample.h"
+#include "cli/Message.h"
 #include "platform/dwgx/DWGXBaseBoxTree.h"
 #include "platform/embedded/HBXProject.h"
 #include "platform/host/IHBXElementDrawObj.h"
@@ -64,7 +65,7 @@ QString refusal(const HBXProject &project, std::size_t entries)
     const auto &journal = project.journal().entries();
     for (std::size_t i = entries; i < journal.size(); ++i)
         if (journal[i].kind == JournalEntry::kCheckRefused || journal[i].kind == JournalEntry::kWriteThrew)
-            return QStringLiteral("the host refused it: ") + journal[i].reason;
+            return Message::tr("the host refused it: %1").arg(journal[i].reason);
     return {};
 }
 
@@ -73,13 +74,13 @@ QString unasked(const Member &member)
 {
     const qint64 type = member.array->type;
     if (type == hbx::type::slabHole)
-        return QStringLiteral("no slab and no raft of the floor holds its middle");
+        return Message::tr("no slab and no raft of the floor holds its middle");
     const QString barInfo = member.json.value(slab::key::barInfo).toString();
     if (member.array->required.contains(slab::key::barInfo) && !ValidateBarInfo(kSlabBarInfo, barInfo.toUpper()))
-        return QStringLiteral("bar_info \"%1\" tells no bars").arg(shortened(barInfo));
+        return Message::tr("bar_info \"%1\" tells no bars").arg(shortened(barInfo));
     if (member.array->geometry == SlabArray::Geometry::Line)
-        return QStringLiteral("it lies over another negative bar at the level of its slab");
-    return QStringLiteral("the host made no draw object");
+        return Message::tr("it lies over another negative bar at the level of its slab");
+    return Message::tr("the host made no draw object");
 }
 
 } // namespace

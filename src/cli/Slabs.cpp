@@ -3,6 +3,7 @@
 #include "ModelSerialization/ORVCADBoardLocalModelPersistenceService_Sample.h"
 #include "cli/Counted.h"
 #include "cli/ElementRemoval.h"
+#include "cli/Message.h"
 #include "cli/SlabReplyCheck.h"
 #include "cli/SlabWriter.h"
 #include "platform/embedded/HBXProject.h"
@@ -58,7 +59,7 @@ SlabOutcome outcomeOf(const SlabReplyCheck &check, const SlabWriter &writer)
     outcome.leftOut = check.leftOut();
     outcome.leftOut.insert(outcome.leftOut.end(), writer.leftOut().begin(), writer.leftOut().end());
     for (const SlabReplyCheck::Count &count : check.counts()) {
-        SlabOutcome::Array array{count.array->key, QString::fromLatin1(count.array->title), count.members};
+        SlabOutcome::Array array{count.array->key, Message::tr(count.array->title), count.members};
         array.made = writer.madeOf(*count.array);
         array.known = count.known;
         array.leftOut = array.members - array.made - array.known;
@@ -71,7 +72,7 @@ SlabOutcome outcomeOf(const SlabReplyCheck &check, const SlabWriter &writer)
 
 QString SlabOutcome::Array::text() const
 {
-    return QStringLiteral("%1: %2 made, %3 in the host already, %4 left out")
+    return Message::tr("%1: %2 made, %3 in the host already, %4 left out")
         .arg(counted(members, title))
         .arg(made)
         .arg(known)
@@ -93,10 +94,10 @@ int SlabOutcome::sum(int Array::*number) const
 
 QString SlabOutcome::headline() const
 {
-    return QStringLiteral("%1 read: %2 made in %3, %4 in the host already, %5")
-        .arg(counted(sum(&Array::members), QStringLiteral("member")))
+    return Message::tr("%1 read: %2 made in %3, %4 in the host already, %5")
+        .arg(counted(sum(&Array::members), Message::tr("member")))
         .arg(sum(&Array::made))
-        .arg(counted(elementsMade, QStringLiteral("new element")))
+        .arg(counted(elementsMade, Message::tr("new element")))
         .arg(sum(&Array::known))
         .arg(leftOutCount(leftOut));
 }
@@ -108,11 +109,11 @@ QString SlabOutcome::text() const
         if (array.members > 0)
             lines.append(array.text());
     if (passedOver > 0)
-        lines.append(QStringLiteral("passed over: %1 of supports and axis grids, which no reply makes")
-                         .arg(counted(passedOver, QStringLiteral("member"))));
+        lines.append(Message::tr("passed over: %1 of supports and axis grids, which no reply makes")
+                         .arg(counted(passedOver, Message::tr("member"))));
     if (repeated > 0)
-        lines.append(QStringLiteral("%1 with the identity of one before: the id map names both alike")
-                         .arg(counted(repeated, QStringLiteral("member"))));
+        lines.append(Message::tr("%1 with the identity of one before: the id map names both alike")
+                         .arg(counted(repeated, Message::tr("member"))));
     return headline() + cutLines(lines) + leftOutLines(leftOut) + doubledLine(doubled);
 }
 

@@ -1,5 +1,6 @@
 #include "cli/StrictJsonText.h"
 
+#include "cli/Message.h"
 #include "platform/dwgx/StrictJson.h"
 
 #include <rapidjson/error/en.h>
@@ -19,6 +20,24 @@ constexpr char kByteOrderMark[] = "\xEF\xBB\xBF";
 
 /** 2^53: below it every whole number is a double. */
 constexpr double kWholeToHere = 9007199254740992.0;
+
+/** What the reader says of a text, listed for its translation. */
+[[maybe_unused]] constexpr const char *kFaultsOfReader[] = {
+    QT_TRANSLATE_NOOP("orvcad", "The document is empty."),
+    QT_TRANSLATE_NOOP("orvcad", "The document root must not be followed by other values."),
+    QT_TRANSLATE_NOOP("orvcad", "Invalid value."),
+    QT_TRANSLATE_NOOP("orvcad", "Missing a name for object member."),
+    QT_TRANSLATE_NOOP("orvcad", "Missing a colon after a name of object member."),
+    QT_TRANSLATE_NOOP("orvcad", "Missing a comma or '}' after an object member."),
+    QT_TRANSLATE_NOOP("orvcad", "Missing a comma or ']' after an array element."),
+    QT_TRANSLATE_NOOP("orvcad", "Incorrect hex digit after \\u escape in string."),
+    QT_TRANSLATE_NOOP("orvcad", "The surrogate pair in string is invalid."),
+    QT_TRANSLATE_NOOP("orvcad", "Invalid escape character in string."),
+    QT_TRANSLATE_NOOP("orvcad", "Missing a closing quotation mark in string."),
+    QT_TRANSLATE_NOOP("orvcad", "Invalid encoding in string."),
+    QT_TRANSLATE_NOOP("orvcad", "Miss fraction part in number."),
+    QT_TRANSLATE_NOOP("orvcad", "Miss exponent in number."),
+};
 
 bool isWhole(const std::string &number) { return number.find_first_of(".eE") == std::string::npos; }
 
@@ -52,7 +71,7 @@ public:
     {
         const std::string name(text, length);
         return m_names.back().insert(name).second ||
-               refuse(QStringLiteral("\"%1\" stands twice in one object").arg(QString::fromStdString(name)));
+               refuse(Message::tr("\"%1\" stands twice in one object").arg(QString::fromStdString(name)));
     }
 
     bool EndObject(rapidjson::SizeType /*count*/)
@@ -81,10 +100,10 @@ QString whyNumberIsLost(const std::string &number, LargeNumbers large)
 {
     const double value = QByteArray::fromStdString(number).toDouble();
     if (!std::isfinite(value))
-        return QStringLiteral("the number %1 is too large").arg(QString::fromStdString(number));
+        return Message::tr("the number %1 is too large").arg(QString::fromStdString(number));
     if (large == LargeNumbers::Taken || !isWhole(number) || survives(number, value))
         return {};
-    return QStringLiteral("the number %1 would be read as %2")
+    return Message::tr("the number %1 would be read as %2")
         .arg(QString::fromStdString(number), QString::number(value, 'f', 0));
 }
 
@@ -102,7 +121,7 @@ std::optional<JsonFault> firstTextFault(const QByteArray &text, LargeNumbers lar
     const bool isOurs = result.Code() == rapidjson::kParseErrorTermination;
     const QString reason =
         isOurs ? look.reason()
-               : QStringLiteral("not JSON: ") + QString::fromLatin1(rapidjson::GetParseError_En(result.Code()));
+               : Message::tr("not JSON: %1").arg(Message::tr(rapidjson::GetParseError_En(result.Code())));
     return JsonFault{dwgx::lineAndColumn(text, start + static_cast<int>(result.Offset())), reason};
 }
 

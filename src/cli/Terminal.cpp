@@ -1,5 +1,7 @@
 #include "cli/Terminal.h"
 
+#include "cli/Message.h"
+
 #include <QRegularExpression>
 
 #include <unistd.h>
@@ -8,13 +10,15 @@ namespace orvcad {
 
 namespace {
 
-/** What stands at the beginning of a line, and the code of its colour. */
+/** A line, of which the words before its place are painted, and the code of their colour. */
 struct Paint
 {
-    const char *words;
+    const char *line;
     const char *code;
 };
-constexpr Paint kPaints[] = {{"orvcad:", "31"}, {"left out:", "33"}, {"not carried:", "33"}};
+constexpr Paint kPaints[] = {{"orvcad: %1", "31"}, // is so in every language
+                             {QT_TRANSLATE_NOOP("orvcad", "left out: %1"), "33"},
+                             {QT_TRANSLATE_NOOP("orvcad", "not carried: %1"), "33"}};
 
 } // namespace
 
@@ -32,9 +36,10 @@ QString painted(const QString &text, int stream)
         return text;
     QString colourful = text;
     for (const Paint &paint : kPaints) {
-        const QRegularExpression words(QStringLiteral("^( *)(%1)").arg(QLatin1String(paint.words)),
+        const QString words = Message::tr(paint.line).section(QStringLiteral("%1"), 0, 0).trimmed();
+        const QRegularExpression begin(QStringLiteral("^( *)(%1)").arg(QRegularExpression::escape(words)),
                                        QRegularExpression::MultilineOption);
-        colourful.replace(words, QStringLiteral("\\1\033[%1m\\2\033[0m").arg(QLatin1String(paint.code)));
+        colourful.replace(begin, QStringLiteral("\\1\033[%1m\\2\033[0m").arg(QLatin1String(paint.code)));
     }
     return colourful;
 }

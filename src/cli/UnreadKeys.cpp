@@ -1,14 +1,15 @@
 #include "cli/UnreadKeys.h"
 
+#include "cli/Message.h"
 #include "cli/NearestName.h"
 
 namespace orvcad {
 
 QString whyUnread(const QString &key, const QStringList &known)
 {
-    const QString reason = QStringLiteral("is no key of this record, and not read");
+    const QString reason = Message::tr("is no key of this record, and not read");
     const QString meant = nearestName(key, known);
-    return meant.isEmpty() ? reason : QStringLiteral("%1: %2 is one").arg(reason, meant);
+    return meant.isEmpty() ? reason : Message::tr("%1: %2 is one").arg(reason, meant);
 }
 
 QStringList unreadIn(const QJsonObject &record, const QStringList &known)

@@ -1,5 +1,7 @@
 #include "cli/ValueWords.h"
 
+#include "cli/Message.h"
+
 #include <QStringList>
 
 namespace orvcad {
@@ -17,10 +19,13 @@ struct TypeWord
     const char *word;
 };
 constexpr TypeWord kTypeWords[] = {
-    {JsonSchema::Text, "a text"},     {JsonSchema::Integer, "a whole number"},
-    {JsonSchema::Number, "a number"}, {JsonSchema::Truth, "true or false"},
-    {JsonSchema::List, "a list"},     {JsonSchema::Object, "an object"},
-    {JsonSchema::Null, "null"},
+    {JsonSchema::Text, QT_TRANSLATE_NOOP("orvcad", "a text")},
+    {JsonSchema::Integer, QT_TRANSLATE_NOOP("orvcad", "a whole number")},
+    {JsonSchema::Number, QT_TRANSLATE_NOOP("orvcad", "a number")},
+    {JsonSchema::Truth, QT_TRANSLATE_NOOP("orvcad", "true or false")},
+    {JsonSchema::List, QT_TRANSLATE_NOOP("orvcad", "a list")},
+    {JsonSchema::Object, QT_TRANSLATE_NOOP("orvcad", "an object")},
+    {JsonSchema::Null, "null"}, // is itself in every language
 };
 
 QString listed(QStringList words)
@@ -28,7 +33,7 @@ QString listed(QStringList words)
     if (words.size() < 2)
         return words.join(QString());
     const QString last = words.takeLast();
-    return words.join(QStringLiteral(", ")) + QStringLiteral(" or ") + last;
+    return Message::tr("%1 or %2").arg(words.join(QStringLiteral(", ")), last);
 }
 
 QString wordFor(const QJsonValue &value)
@@ -54,13 +59,13 @@ QString wordsFor(const JsonTree &document, JsonTree::Index value)
     QString text = shortText(document, value);
     switch (document.node(value).kind) {
     case Kind::Text:
-        return text.isEmpty() ? QStringLiteral("an empty text") : QStringLiteral("the text \"%1\"").arg(text);
+        return text.isEmpty() ? Message::tr("an empty text") : Message::tr("the text \"%1\"").arg(text);
     case Kind::Number:
-        return QStringLiteral("the number ") + text;
+        return Message::tr("the number %1").arg(text);
     case Kind::List:
-        return QStringLiteral("a list");
+        return Message::tr("a list");
     case Kind::Object:
-        return QStringLiteral("an object");
+        return Message::tr("an object");
     case Kind::Truth:
     case Kind::Null:
         break;
@@ -73,7 +78,7 @@ QString wordsForTypes(unsigned types)
     QStringList words;
     for (const TypeWord &one : kTypeWords)
         if (types & one.type)
-            words.append(QString::fromLatin1(one.word));
+            words.append(Message::tr(one.word));
     return listed(words);
 }
 

@@ -1,5 +1,6 @@
 #include "cli/Verb.h"
 
+#include "cli/Message.h"
 #include "cli/WallKind.h"
 
 #include <CLI/CLI.hpp>
@@ -8,7 +9,7 @@ namespace orvcad {
 
 namespace {
 constexpr char kProject[] = "PROJECT";
-constexpr char kProjectFile[] = "Project file (.hbxdb)";
+constexpr char kProjectFile[] = QT_TRANSLATE_NOOP("orvcad", "Project file (.hbxdb)");
 } // namespace
 
 Verb::Verb(CLI::App &group, Command &command, const std::string &name, const std::string &description,
@@ -23,22 +24,24 @@ Verb::Verb(CLI::App &group, Command &command, const std::string &name, const std
 
 Verb &Verb::project()
 {
-    m_app->add_option(kProject, m_arguments->project, kProjectFile)->required();
+    m_app->add_option(kProject, m_arguments->project, Message::help(kProjectFile))->required();
     return *this;
 }
 
-Verb &Verb::projects() { return files(kProject, kProjectFile, &Arguments::project); }
+Verb &Verb::projects() { return files(kProject, Message::help(kProjectFile), &Arguments::project); }
 
 Verb &Verb::files(const std::string &name, const std::string &description, std::string Arguments::*file)
 {
     m_batch->file = file;
-    m_app->add_option(name, m_batch->files, description + ", or several")->required()->type_name("TEXT");
+    const QString several = Message::tr("%1, or several").arg(QString::fromStdString(description));
+    m_app->add_option(name, m_batch->files, several.toStdString())->required()->type_name("TEXT");
     return *this;
 }
 
 Verb &Verb::region()
 {
-    m_app->add_option("--region", m_arguments->region, "Name of the region; may be absent where there is only one");
+    m_app->add_option("--region", m_arguments->region,
+                      Message::help("Name of the region; may be absent where there is only one"));
     return *this;
 }
 
@@ -52,7 +55,7 @@ Verb &Verb::pickedFloor()
 Verb &Verb::anyFloors()
 {
     region();
-    m_app->add_option("--floor", m_arguments->floor, "Name or code of the floor");
+    m_app->add_option("--floor", m_arguments->floor, Message::help("Name or code of the floor"));
     return *this;
 }
 
@@ -61,7 +64,7 @@ Verb &Verb::wallKind()
     std::vector<std::string> words;
     for (const WallKind &kind : wallKinds())
         words.emplace_back(kind.word);
-    m_app->add_option("--kind", m_arguments->kind, "Kind of walls: brick or force")
+    m_app->add_option("--kind", m_arguments->kind, Message::help("Kind of walls: brick or force"))
         ->required()
         ->check(CLI::IsMember(words));
     return *this;
@@ -86,8 +89,9 @@ Verb &Verb::output(const std::string &description, const std::string &ending, No
 
 Verb &Verb::output(const std::string &description, FileBatch::Ending ending, NoOutput none)
 {
-    const std::string without = none == NoOutput::StandardOutput ? "; standard output if absent" : "";
-    const std::string many = m_batch->file ? "; the directory for several" : "";
+    const std::string without =
+        none == NoOutput::StandardOutput ? Message::help("; standard output if absent") : std::string();
+    const std::string many = m_batch->file ? Message::help("; the directory for several") : std::string();
     m_app->add_option("-o,--output", m_arguments->output, description + without + many)
         ->required(none == NoOutput::WrongUsage);
     m_batch->ending = std::move(ending);
@@ -97,7 +101,8 @@ Verb &Verb::output(const std::string &description, FileBatch::Ending ending, NoO
 
 Verb &Verb::strict(const std::string &document)
 {
-    m_app->add_flag("--strict", m_arguments->strict, "Save nothing when a member of the " + document + " is left out");
+    const QString strict = Message::tr("Save nothing when a member of the %1 is left out");
+    m_app->add_flag("--strict", m_arguments->strict, strict.arg(QString::fromStdString(document)).toStdString());
     return *this;
 }
 

@@ -37,7 +37,7 @@ public:
     /** The same with an ending that other arguments tell. */
     Verb &output(const std::string &description, FileBatch::Ending ending, NoOutput none = NoOutput::StandardOutput);
     /** --strict, of a verb that writes a document into a project.
-     *  @param document  what it is called: "reply" */
+     *  @param document  what people call it: "reply" */
     Verb &strict(const std::string &document);
 
     /** For arguments that a single verb takes. */

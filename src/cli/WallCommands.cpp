@@ -2,6 +2,7 @@
 #include "cli/DrawingFiles.h"
 #include "cli/Files.h"
 #include "cli/FloorLookup.h"
+#include "cli/Message.h"
 #include "cli/ProjectFiles.h"
 #include "cli/Verb.h"
 #include "cli/WallInput.h"
@@ -34,7 +35,7 @@ Summary exportWalls(const Arguments &arguments)
 {
     const WallKind &kind = wallKindOf(Arguments::text(arguments.kind));
     if (!kind.isBrick() && arguments.format == kCloud)
-        throw CommandFailure(kWrongUsage, QStringLiteral("there is no cloud document of force walls"));
+        throw CommandFailure(kWrongUsage, Message::tr("there is no cloud document of force walls"));
     const auto project = openProject(Arguments::text(arguments.project));
     WallInput input(*project, pickFloor(*project, arguments), kind);
     const QString drawing = Arguments::text(arguments.drawing);
@@ -45,11 +46,11 @@ Summary exportWalls(const Arguments &arguments)
     const QStringList warnings = arguments.format == kXml ? input.unreadable(document) : QStringList();
     QStringList lines;
     for (const QString &warning : warnings)
-        lines.append(QStringLiteral("will not parse again: ") + warning);
+        lines.append(Message::tr("will not parse again: %1").arg(warning));
     QJsonObject json = input.summary();
     json["format"] = Arguments::text(arguments.format);
     json["warnings"] = QJsonArray::fromStringList(warnings);
-    return writeDocument(arguments, document, {QStringLiteral("Wrote ") + input.text() + cutLines(lines), json});
+    return writeDocument(arguments, document, {Message::tr("Wrote %1").arg(input.text()) + cutLines(lines), json});
 }
 
 Summary writeReply(const Arguments &arguments)
@@ -58,7 +59,7 @@ Summary writeReply(const Arguments &arguments)
     const WallReply reply(*project, wallKindOf(Arguments::text(arguments.kind)), pickFloors(*project, arguments));
     return writeDocument(
         arguments, reply.document(),
-        {QStringLiteral("Wrote ") + reply.text(), reply.toJson(), reply.leftOut().empty() ? kDone : kLeftOut});
+        {Message::tr("Wrote %1").arg(reply.text()), reply.toJson(), reply.leftOut().empty() ? kDone : kLeftOut});
 }
 
 Summary applyReply(const Arguments &arguments)
@@ -78,35 +79,37 @@ std::string endingOfReply(const Arguments &arguments) { return '.' + arguments.k
 
 void addExport(CLI::App &group, Command &command)
 {
-    Verb verb(group, command, "export", "Write what the recognition of walls is told of a floor", exportWalls);
+    Verb verb(group, command, "export", Message::help("Write what the recognition of walls is told of a floor"),
+              exportWalls);
     verb.arguments().format = kJson;
     verb.projects().wallKind();
     verb.app()
-        .add_option("--format", verb.arguments().format, "Form of the document: json, xml or cloud (brick only)")
+        .add_option("--format", verb.arguments().format,
+                    Message::help("Form of the document: json, xml or cloud (brick only)"))
         ->check(CLI::IsMember({kJson, kXml, kCloud}))
         ->capture_default_str();
     verb.pickedFloor();
     verb.app().add_option("--drawing", verb.arguments().drawing,
-                          "Drawing of the floor (.cadi2), whose lines and texts are added");
-    verb.output("File to write the document to", endingOfInput);
+                          Message::help("Drawing of the floor (.cadi2), whose lines and texts are added"));
+    verb.output(Message::help("File to write the document to"), endingOfInput);
 }
 
 } // namespace
 
 void addWallCommands(CLI::App &app, Command &command)
 {
-    CLI::App &group = addGroup(app, "wall", "Brick walls and load-bearing concrete walls");
+    CLI::App &group = addGroup(app, "wall", Message::help("Brick walls and load-bearing concrete walls"));
     addExport(group, command);
-    Verb(group, command, "reply", "Write walls in the form of a reply", writeReply)
+    Verb(group, command, "reply", Message::help("Write walls in the form of a reply"), writeReply)
         .projects()
         .wallKind()
         .anyFloors()
-        .output("File to write the reply to", endingOfReply);
-    Verb(group, command, "apply", "Write a reply into a project and save it", applyReply)
+        .output(Message::help("File to write the reply to"), endingOfReply);
+    Verb(group, command, "apply", Message::help("Write a reply into a project and save it"), applyReply)
         .project()
         .wallKind()
-        .input("REPLY", "Reply document")
-        .strict("reply");
+        .input("REPLY", Message::help("Reply document"))
+        .strict(Message::help("reply"));
 }
 
 } // namespace orvcad

@@ -3,6 +3,7 @@
 #include "IdentifyInputModel/Wall/WallKeys.h"
 #include "cli/Counted.h"
 #include "cli/FloorLookup.h"
+#include "cli/Message.h"
 #include "cli/WallReply.h"
 #include "platform/embedded/HBXProject.h"
 
@@ -26,7 +27,7 @@ Walls wallsOf(const WallReply &reply, const WallKind &kind)
         QJsonObject element = map[wallElementKey(i)].toObject();
         element.remove(wall::key::edoId);
         const auto text = [&element](QLatin1String key) { return element[key].toString(); };
-        const QString name = QStringLiteral("%1 on floor %2 of %3")
+        const QString name = Message::tr("%1 on floor %2 of %3")
                                  .arg(text(wall::key::entName), text(wall::key::floorCode), text(wall::key::region));
         walls[name] = {element, map[wallPiecesKey(i)]};
     }
@@ -37,10 +38,10 @@ Walls wallsOf(const WallReply &reply, const WallKind &kind)
 
 QString WallComparison::text() const
 {
-    return textOf(QStringLiteral("%1 of %2 walls, %3")
-                      .arg(counted(compared, QStringLiteral("piece")), kind,
-                           isSame() ? QStringLiteral("the reply written again is the same but for ids")
-                                    : QStringLiteral("the reply written again DIFFERS")));
+    return textOf(Message::tr("%1 of %2, %3")
+                      .arg(counted(compared, Message::tr("piece")), walls,
+                           isSame() ? Message::tr("the reply written again is the same but for ids")
+                                    : Message::tr("the reply written again DIFFERS")));
 }
 
 QJsonObject WallComparison::toJson() const
@@ -57,6 +58,7 @@ WallComparison compareWalls(const HBXProject &expected, const HBXProject &found,
     const WallReply after(found, kind, pickFloors(found, QString(), floor));
     WallComparison comparison;
     comparison.kind = QString::fromLatin1(kind.word);
+    comparison.walls = Message::tr(kind.titles);
     comparison.compared = before.pieces();
     const Walls wanted = wallsOf(before, kind);
     Walls there = wallsOf(after, kind);
@@ -64,7 +66,7 @@ WallComparison compareWalls(const HBXProject &expected, const HBXProject &found,
         if (there.take(wall.key()) != *wall)
             comparison.deviations.append(wall.key());
     for (auto wall = there.begin(); wall != there.end(); ++wall)
-        comparison.deviations.append(wall.key() + QStringLiteral(", which the original lacks"));
+        comparison.deviations.append(Message::tr("%1, which the original lacks").arg(wall.key()));
     return comparison;
 }
 

@@ -14,7 +14,8 @@ struct WallKind;
  *  reply is another one, but for ids. Their pieces are what is counted. */
 struct WallComparison : Comparison
 {
-    QString kind; ///< word of the kind
+    QString kind;  ///< word of the kind
+    QString walls; ///< "brick walls", as people call them
 
     QString text() const;
     /** "kind", too. */

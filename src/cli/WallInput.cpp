@@ -2,6 +2,7 @@
 
 #include "IdentifyInputModel/Wall/ORVCADWallInputModelConvertion.h"
 #include "cli/Counted.h"
+#include "cli/Message.h"
 #include "cli/WallKind.h"
 #include "encoding/ORVCADXmlFileSerialization.h"
 #include "platform/dwgx/DWGXModel.h"
@@ -208,26 +209,25 @@ QStringList WallInput::unreadable(const QByteArray &xml) const
     QStringList reasons;
     for (const QString &layer : m_layers)
         if (!layerReadsBack(layer))
-            reasons.append(QStringLiteral("layer \"%1\" is no name in XML").arg(layer));
+            reasons.append(Message::tr("layer \"%1\" is no name in XML").arg(layer));
     for (const auto &[layer, text] : m_texts)
         if (!textReadsBack(text))
             reasons.append(
-                QStringLiteral("text \"%1\" on layer \"%2\" is no name in XML behind its \"/\"").arg(text, layer));
+                Message::tr("text \"%1\" on layer \"%2\" is no name in XML behind its \"/\"").arg(text, layer));
     if (reasons.isEmpty())
-        reasons.append(QStringLiteral("a name of the floor is no name in XML behind its \"/\""));
+        reasons.append(Message::tr("a name of the floor is no name in XML behind its \"/\""));
     return reasons;
 }
 
 QString WallInput::text() const
 {
-    const QString walls = counted(m_counts.walls, QLatin1String(m_kind.word) + QStringLiteral(" wall element"));
-    return QStringLiteral("%1, %2, %3, %4 and %5 of %6; %7 with %8 and %9")
-        .arg(walls, counted(m_counts.brickLines, QStringLiteral("placed brick wall")),
-             counted(m_counts.forceLines, QStringLiteral("placed force wall")),
-             counted(m_counts.axisLines, QStringLiteral("axis line")),
-             counted(m_counts.columns, QStringLiteral("column")), m_floorName,
-             counted(m_counts.layers, QStringLiteral("layer")), counted(m_counts.lines, QStringLiteral("line")),
-             counted(m_counts.texts, QStringLiteral("text")));
+    const QString walls = counted(m_counts.walls, Message::tr("%1 element").arg(Message::tr(m_kind.title)));
+    return Message::tr("%1, %2, %3, %4 and %5 of %6; %7 with %8 and %9")
+        .arg(walls, counted(m_counts.brickLines, Message::tr("placed brick wall")),
+             counted(m_counts.forceLines, Message::tr("placed force wall")),
+             counted(m_counts.axisLines, Message::tr("axis line")), counted(m_counts.columns, Message::tr("column")),
+             m_floorName, counted(m_counts.layers, Message::tr("layer")), counted(m_counts.lines, Message::tr("line")),
+             counted(m_counts.texts, Message::tr("text")));
 }
 
 QJsonObject WallInput::summary() const

@@ -27,10 +27,13 @@ int wallCount(const QJsonObject &map) { return map.size() / 2; }
 
 const std::vector<WallKind> &wallKinds()
 {
-    static const std::vector<WallKind> kinds{{"brick", EORVCADIdentifyType(1), hbx::type::brickWall,
-                                              wall::reply::brickWalls, wall::document::brickReply, jsonBrickWall2HBX},
-                                             {"force", EORVCADIdentifyType(2), hbx::type::forceWall,
-                                              wall::reply::forceWalls, wall::document::forceReply, jsonForceWall2HBX}};
+    static const std::vector<WallKind> kinds{
+        {"brick", QT_TRANSLATE_NOOP("orvcad", "brick wall"), QT_TRANSLATE_NOOP("orvcad", "brick walls"),
+         EORVCADIdentifyType(1), hbx::type::brickWall, wall::reply::brickWalls, wall::document::brickReply,
+         jsonBrickWall2HBX},
+        {"force", QT_TRANSLATE_NOOP("orvcad", "force wall"), QT_TRANSLATE_NOOP("orvcad", "force walls"),
+         EORVCADIdentifyType(2), hbx::type::forceWall, wall::reply::forceWalls, wall::document::forceReply,
+         jsonForceWall2HBX}};
     return kinds;
 }
 

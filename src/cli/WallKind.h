@@ -15,7 +15,9 @@ namespace orvcad {
 /** What tells the kinds of walls apart. */
 struct WallKind
 {
-    const char *word;                 ///< of --kind, and what people call it
+    const char *word;                 ///< of --kind
+    const char *title;                ///< of one such wall, for messages: "brick wall"
+    const char *titles;               ///< of several
     EORVCADIdentifyType identifyType; ///< in what the recognition of such walls is told
     qint64 elementType;               ///< of the host
     QLatin1String reply;              ///< key above the document of a reply

@@ -6,6 +6,7 @@
 #include "IdentifyInputModel/Wall/WallStructsFromHbx.h"
 #include "cli/Counted.h"
 #include "cli/FloorLookup.h"
+#include "cli/Message.h"
 #include "cli/WallReplyCheck.h"
 #include "platform/embedded/HBXProject.h"
 #include "platform/host/IHBXElement.h"
@@ -56,7 +57,7 @@ template <typename Record> QJsonObject textsOf(const Record &record)
     return texts;
 }
 
-QString placeOf(const IHBXElement &element) { return QStringLiteral("floor ") + element.floor()->name(); }
+QString placeOf(const IHBXElement &element) { return Message::tr("floor %1").arg(element.floor()->name()); }
 
 /** The pieces of an element of that name, in the host's order; those that are none are left out. */
 std::list<IdentifyResultData> piecesOf(IHBXElement &element, double width, std::wstring &name,
@@ -71,7 +72,7 @@ std::list<IdentifyResultData> piecesOf(IHBXElement &element, double width, std::
             pieces.push_back(std::move(piece));
         else
             leftOut.push_back({placeOf(element), QString::fromStdWString(name),
-                               QStringLiteral("draw object %1 is no solid along a line").arg(object->id())});
+                               Message::tr("draw object %1 is no solid along a line").arg(object->id())});
     }
     return pieces;
 }
@@ -125,10 +126,10 @@ template <typename Output, typename Record> void WallReply::add(Output &output, 
 QString WallReply::headline() const
 {
     const QString bare =
-        m_withoutPieces ? QStringLiteral(" (%1 more of which none is placed)").arg(m_withoutPieces) : QString();
-    return QStringLiteral("%1%2 in %3 of %4")
-        .arg(counted(m_elements, QString::fromLatin1(m_kind.word) + QStringLiteral(" wall")), bare,
-             counted(m_pieces, QStringLiteral("piece")), counted(m_floors, QStringLiteral("floor")));
+        m_withoutPieces ? Message::tr(" (%1 more of which none is placed)").arg(m_withoutPieces) : QString();
+    return Message::tr("%1%2 in %3 of %4")
+        .arg(counted(m_elements, Message::tr(m_kind.title)), bare, counted(m_pieces, Message::tr("piece")),
+             counted(m_floors, Message::tr("floor")));
 }
 
 QString WallReply::text() const { return headline() + leftOutLines(m_leftOut); }

@@ -3,6 +3,7 @@
 #include "IdentifyInputModel/Wall/WallKeys.h"
 #include "cli/FloorLookup.h"
 #include "cli/MemberKinds.h"
+#include "cli/Message.h"
 #include "cli/UnreadKeys.h"
 
 #include <QJsonDocument>
@@ -62,11 +63,11 @@ QString whyNotValue(const QJsonValue &value, const KeyRule &rule)
 {
     const QString text = value.toString();
     if (!value.isString())
-        return QStringLiteral("%1 is not text").arg(rule.key);
+        return Message::tr("%1 is not text").arg(rule.key);
     if (rule.use == Use::Name && text.contains(separator()))
-        return QStringLiteral("%1 holds \"/\" or \":\", which cuts it").arg(rule.key);
+        return Message::tr("%1 holds \"/\" or \":\", which cuts it").arg(rule.key);
     const bool isNumber = rule.use == Use::Whole || (rule.use == Use::WholeOrEmpty && !text.isEmpty());
-    return isNumber && !isWholeText(text) ? QStringLiteral("%1 is not the text of a whole number").arg(rule.key)
+    return isNumber && !isWholeText(text) ? Message::tr("%1 is not the text of a whole number").arg(rule.key)
                                           : QString();
 }
 
@@ -99,7 +100,7 @@ template <std::size_t Count> QString whyNotRecord(const QJsonObject &record, con
     for (const KeyRule &rule : rules) {
         const bool isThere = record.contains(rule.key);
         if (!isThere && rule.isRequired)
-            return QStringLiteral("%1 is missing").arg(rule.key);
+            return Message::tr("%1 is missing").arg(rule.key);
         QString reason = isThere ? whyNotValue(record.value(rule.key), rule) : QString();
         if (!reason.isEmpty())
             return reason;
@@ -120,7 +121,7 @@ template <std::size_t Count> QJsonObject used(const QJsonObject &record, const K
 QString whyNotPiece(const QJsonValue &value)
 {
     if (!value.isObject())
-        return QStringLiteral("is no object");
+        return Message::tr("is no object");
     const QJsonObject piece = value.toObject();
     QString reason = whyNotRecord(piece, kPieceKeys);
     return reason.isEmpty() ? whyNotAxis(key::pieceLine, piece.value(key::pieceLine).toString()) : reason;
@@ -132,7 +133,7 @@ QJsonObject objectIn(const QJsonObject &object, const QString &key, const QStrin
 {
     if (!object.value(key).isObject())
         throw CommandFailure(kBadInput, file, place,
-                             QStringLiteral("no object of that key: no reply of %1 walls").arg(kind.word));
+                             Message::tr("no object of that key: no reply of %1").arg(Message::tr(kind.titles)));
     return object.value(key).toObject();
 }
 
@@ -152,8 +153,7 @@ QStringList cutBars(const QJsonObject &element)
     for (const KeyRule &rule : kElementKeys) {
         const QString text = element.value(rule.key).toString();
         if (rule.use == Use::Bars && text.contains(separator()))
-            cuts.append(
-                QStringLiteral("%1 \"%2\" is cut to \"%3\"").arg(rule.key, text, text.section(separator(), 0, 0)));
+            cuts.append(Message::tr("%1 \"%2\" is cut to \"%3\"").arg(rule.key, text, text.section(separator(), 0, 0)));
     }
     return cuts;
 }
@@ -187,7 +187,7 @@ void WallReplyCheck::look(const QJsonObject &map, int number)
     // By its record, as the reader compares them: the one that is read later replaces the other.
     const QByteArray record = QJsonDocument(element.toObject()).toJson(QJsonDocument::Compact);
     if (reason.isEmpty() && m_places.contains(record))
-        reason = QStringLiteral("is the same element as %1").arg(m_places.value(record));
+        reason = Message::tr("is the same element as %1").arg(m_places.value(record));
     if (!reason.isEmpty())
         return leaveOut(member.place, name, reason);
     m_places.insert(record, member.place);
@@ -222,31 +222,30 @@ void WallReplyCheck::lookForUnread(const QJsonObject &map)
         read << wallElementKey(number) << wallPiecesKey(number);
     for (const QString &key : map.keys())
         if (!read.contains(key))
-            leaveOutPart(
-                m_kind.document + QLatin1Char('.') + key, {},
-                QStringLiteral("is not read: half of the %1 keys are entries, counted from 0").arg(map.size()));
+            leaveOutPart(m_kind.document + QLatin1Char('.') + key, {},
+                         Message::tr("is not read: half of the %1 keys are entries, counted from 0").arg(map.size()));
 }
 
 QString WallReplyCheck::whyNot(const QJsonValue &element, const QJsonValue &pieces) const
 {
     if (!element.isObject())
-        return element.isUndefined() ? QStringLiteral("is missing") : QStringLiteral("is no object");
+        return element.isUndefined() ? Message::tr("is missing") : Message::tr("is no object");
     if (!pieces.isArray())
-        return QStringLiteral("its pieces are no array");
+        return Message::tr("its pieces are no array");
     const QJsonObject record = element.toObject();
     QString reason = whyNotRecord(record, kElementKeys);
     if (!reason.isEmpty())
         return reason;
     const auto text = [&record](QLatin1String key) { return record.value(key).toString(); };
     if (text(key::elementType).toInt() != m_kind.elementType)
-        return QStringLiteral("type %1 is no %2 wall (%3)")
-            .arg(text(key::elementType), QString::fromLatin1(m_kind.word))
+        return Message::tr("type %1 is no %2 (%3)")
+            .arg(text(key::elementType), Message::tr(m_kind.title))
             .arg(m_kind.elementType);
     if (text(key::entName).isEmpty())
-        return QStringLiteral("has no name");
+        return Message::tr("has no name");
     const int width = text(key::width).toInt();
     if (width <= 0 && width != kNoWidth)
-        return QStringLiteral("width is not above 0");
+        return Message::tr("width is not above 0");
     floorOfCode(m_model, text(key::region), text(key::floorCode), reason);
     return reason;
 }

@@ -3,6 +3,7 @@
 #include "cli/Counted.h"
 #include "cli/Files.h"
 #include "cli/FloorLookup.h"
+#include "cli/Message.h"
 #include "cli/ProjectFiles.h"
 #include "cli/WallReply.h"
 #include "platform/embedded/HBXProject.h"
@@ -31,8 +32,8 @@ TourStep WallTour::write(HBXProject &project)
 QString WallTour::strip(HBXProject &project) const
 {
     const int elements = removeWalls(project, m_kind, *pickFloors(project, QString(), m_stop.floor).front());
-    return QStringLiteral("%1 loses the %2 walls of %3 (%4), with all that is placed.")
-        .arg(m_stop.restored, m_stop.kind, m_stop.floor, counted(elements, QStringLiteral("element")));
+    return Message::tr("%1 loses the %2 of %3 (%4), with all that is placed.")
+        .arg(m_stop.restored, Message::tr(m_kind.titles), m_stop.floor, counted(elements, Message::tr("element")));
 }
 
 TourStep WallTour::apply(HBXProject &project)

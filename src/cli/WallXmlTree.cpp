@@ -1,6 +1,7 @@
 #include "cli/WallXmlTree.h"
 
 #include "IdentifyInputModel/Wall/WallKeys.h"
+#include "cli/Message.h"
 #include "encoding/XmlSafety.h"
 
 #include <QStringList>
@@ -44,7 +45,7 @@ public:
             m_xml.readNext();
         if (m_xml.hasError())
             m_tree->addFault({top, bytesTo(static_cast<int>(m_xml.characterOffset())),
-                              QStringLiteral("not XML: ") + m_xml.errorString()});
+                              Message::tr("not XML: %1").arg(m_xml.errorString())});
         return std::move(m_tree);
     }
 
@@ -144,7 +145,7 @@ std::unique_ptr<JsonTree> wallXmlTree(const QByteArray &bytes)
     auto refused = JsonTree::over(text.toUtf8());
     refused->add(Kind::Object, JsonTree::kNone, 0);
     refused->addFault({0, 0,
-                       QStringLiteral("has a document type declaration or more than %1 levels, and is not parsed")
+                       Message::tr("has a document type declaration or more than %1 levels, and is not parsed")
                            .arg(encoding::kMostXmlLevels)});
     return refused;
 }

@@ -3,6 +3,7 @@
 #include "IdentifyInputModel/Wall/WallKeys.h"
 #include "cli/Counted.h"
 #include "cli/ElementRemoval.h"
+#include "cli/Message.h"
 #include "cli/Progress.h"
 #include "cli/WallReplyCheck.h"
 #include "platform/embedded/HBXProject.h"
@@ -52,7 +53,7 @@ public:
         if (m_model.elements()->count() > elementsBefore)
             noteWall(member, *m_model.elements()->at(elementsBefore), drawObjsBefore);
         else
-            leaveOut(member, member.place, QStringLiteral("the host made no element"), true);
+            leaveOut(member, member.place, Message::tr("the host made no element"), true);
     }
 
 private:
@@ -74,7 +75,7 @@ private:
             if (entries[i].kind == JournalEntry::kWriteThrew) {
                 const auto piece = places.find(entries[i].objectId);
                 leaveOut(member, piece == places.end() ? member.place : piece->second,
-                         QStringLiteral("a value was refused: ") + entries[i].reason, false);
+                         Message::tr("a value was refused: %1").arg(entries[i].reason), false);
             }
     }
     void noteWall(const WallReplyCheck::Member &member, const IHBXElement &element, int drawObjsBefore)
@@ -86,16 +87,16 @@ private:
         wall.floor = member.text(wall::key::floorCode);
         if (wall.name != wall.wanted)
             leaveOut(member, member.place + u'.' + wall::key::entName,
-                     QStringLiteral("the floor has that name already: made as \"%1\"").arg(wall.name), false);
+                     Message::tr("the floor has that name already: made as \"%1\"").arg(wall.name), false);
         wall.placed = m_model.drawObjects()->count() - drawObjsBefore;
         wall.leftOut = member.leftOut + member.pieces.size() - wall.placed;
         wall.doubled = doubledSince(m_model, drawObjsBefore);
         m_outcome.walls.push_back(wall);
         if (wall.placed < member.pieces.size())
             leaveOut(member, member.place,
-                     QStringLiteral("the host made %1 of its %2")
+                     Message::tr("the host made %1 of its %2")
                          .arg(wall.placed)
-                         .arg(counted(member.pieces.size(), QStringLiteral("piece"))),
+                         .arg(counted(member.pieces.size(), Message::tr("piece"))),
                      false);
     }
     void leaveOut(const WallReplyCheck::Member &member, const QString &place, const QString &reason, bool isWhole)
@@ -113,10 +114,10 @@ private:
 
 QString WallOutcome::Wall::text() const
 {
-    const QString made = name == wanted ? QStringLiteral("made") : QStringLiteral("made as %1").arg(name);
-    const QString left = leftOut ? QStringLiteral(", %1 left out").arg(leftOut) : QString();
-    return QStringLiteral("%1 on floor %2: %3, %4 placed%5")
-        .arg(wanted, floor, made, counted(placed, QStringLiteral("piece")), left);
+    const QString made = name == wanted ? Message::tr("made") : Message::tr("made as %1").arg(name);
+    const QString left = leftOut ? Message::tr(", %1 left out").arg(leftOut) : QString();
+    return Message::tr("%1 on floor %2: %3, %4 placed%5")
+        .arg(wanted, floor, made, counted(placed, Message::tr("piece")), left);
 }
 
 QJsonObject WallOutcome::Wall::toJson() const
@@ -143,11 +144,10 @@ int WallOutcome::doubled() const
 
 QString WallOutcome::headline() const
 {
-    return QStringLiteral("%1 read: %2 made (%3 under another name), %4 placed, %5")
-        .arg(counted(members, kind + QStringLiteral(" wall")),
-             counted(static_cast<int>(walls.size()), QStringLiteral("element")))
+    return Message::tr("%1 read: %2 made (%3 under another name), %4 placed, %5")
+        .arg(counted(members, title), counted(static_cast<int>(walls.size()), Message::tr("element")))
         .arg(renamed())
-        .arg(counted(placed(), QStringLiteral("piece")), leftOutCount(leftOut));
+        .arg(counted(placed(), Message::tr("piece")), leftOutCount(leftOut));
 }
 
 QString WallOutcome::text() const
@@ -179,11 +179,12 @@ WallOutcome applyWalls(HBXProject &project, const WallKind &kind, const QJsonObj
     const WallReplyCheck check(model, kind, reply, file);
     WallOutcome outcome;
     outcome.kind = QString::fromLatin1(kind.word);
+    outcome.title = Message::tr(kind.title);
     outcome.members = check.memberCount();
     outcome.leftOut = check.leftOut();
     const HBXBatch batch(model, "orvcad wall apply");
     WallWriter writer(project, kind, outcome);
-    Progress progress(QStringLiteral("walls"), static_cast<int>(check.sound().size()));
+    Progress progress(Message::tr("walls"), static_cast<int>(check.sound().size()));
     for (const WallReplyCheck::Member &member : check.sound()) {
         writer.write(member);
         progress.step();

@@ -33,7 +33,8 @@ struct WallOutcome
         QJsonObject toJson() const;
     };
 
-    QString kind; ///< "brick" or "force"
+    QString kind;  ///< "brick" or "force"
+    QString title; ///< of one wall: "brick wall", as people call it
     int members = 0;
     std::vector<Wall> walls; ///< that were made
     std::vector<LeftOut> leftOut;

@@ -4,6 +4,7 @@
 #include "cli/Message.h"
 #include "cli/Progress.h"
 #include "cli/Terminal.h"
+#include "cli/UsageFault.h"
 
 #include <CLI/CLI.hpp>
 
@@ -75,16 +76,9 @@ int run(const orvcad::Command &command, const Flags &flags)
     }
 }
 
-/** What was wrong with the arguments; names the first one that nothing took. */
-std::string usageProblem(const CLI::App &app, const CLI::Error &error)
+int tellWrongUsage(const CLI::App &app, const CLI::ParseError &error, bool asJson)
 {
-    const std::vector<std::string> notTaken = app.remaining(true);
-    return notTaken.empty() ? error.what() : '"' + notTaken.front() + "\" is not understood here";
-}
-
-int tellWrongUsage(const CLI::App &app, const CLI::Error &error, bool asJson)
-{
-    const orvcad::CommandFailure failure(orvcad::kWrongUsage, QString::fromStdString(usageProblem(app, error)));
+    const orvcad::CommandFailure failure(orvcad::kWrongUsage, orvcad::UsageFault(app, error).message());
     if (asJson)
         printError(indented(failure.toJson()));
     else

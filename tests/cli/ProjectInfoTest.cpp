@@ -1,5 +1,6 @@
 #include "cli/ProjectInfo.h"
 
+#include "ForeignMessages.h"
 #include "platform/embedded/HBXProject.h"
 
 #include <QJsonArray>
@@ -46,6 +47,17 @@ TEST(ProjectInfoTest, countsOfAFloorAreFoundByItsNames)
               (QJsonObject{{"type", 15}, {"title", "beam"}, {"elements", 1}, {"drawObjects", 20}}));
     EXPECT_TRUE(info.typesOn("East", "Level 1").isEmpty());
     EXPECT_TRUE(info.typesOn("West", "Level 2").isEmpty());
+}
+
+TEST(ProjectInfoTest, numbersStandBelowOneAnotherBehindWideTitles)
+{
+    const ForeignMessages foreign;
+    ProjectInfo::Floor floor;
+    floor.types[15] = {1, 20};
+    ProjectInfo info;
+    info.regions = {{"R", {floor}}};
+    EXPECT_EQ(info.table().split('\n').last(),
+              QStringLiteral("文    文beam (15)                    1 elements     20 placed"));
 }
 
 TEST(ProjectInfoTest, placeholdersInNamesAreLeftAlone)

@@ -15,6 +15,13 @@ protected:
                                         {QStringLiteral(ORVCAD_PROGRAM), "project", "info", "nowhere.hbxdb"},
                                         {{"TERM", terminal}, {"NO_COLOR", noColor}});
     }
+    /** What the reply at hand shows there, in a language. */
+    QByteArray shownOfReply(const std::string &language) const
+    {
+        return clitest::shownOnTerminal(
+            path(".").toStdString(), {QStringLiteral(ORVCAD_PROGRAM), "opening", "apply", "house.hbxdb", "reply.json"},
+            {{"TERM", "xterm"}, {"NO_COLOR", ""}, {"LANGUAGE", language}});
+    }
 };
 
 TEST_F(TerminalTest, errorsAreRedOnATerminal)
@@ -42,10 +49,8 @@ TEST_F(TerminalTest, whatWasLeftOutIsYellowOnATerminal)
 {
     importSmallHouse();
     writeReply({1});
-    const QByteArray shown = clitest::shownOnTerminal(
-        path(".").toStdString(), {QStringLiteral(ORVCAD_PROGRAM), "opening", "apply", "house.hbxdb", "reply.json"},
-        {{"TERM", "xterm"}, {"NO_COLOR", ""}});
-    EXPECT_TRUE(shown.contains("\n  \033[33mleft out:\033[0m ")) << shown.toStdString();
+    EXPECT_TRUE(shownOfReply("en").contains("\n  \033[33mleft out:\033[0m "));
+    EXPECT_TRUE(shownOfReply("zh").contains("\n  \033[33m"));
 }
 
 TEST_F(TerminalTest, streamThatIsNoTerminalShowsNothing)

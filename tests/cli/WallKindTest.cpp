@@ -15,6 +15,8 @@ TEST(WallKindTest, kindsAreBrickAndForceWithTheirNumbersAndKeys)
     ASSERT_EQ(wallKinds().size(), 2U);
     const WallKind &brick = wallKinds()[0];
     EXPECT_STREQ(brick.word, "brick");
+    EXPECT_STREQ(brick.title, "brick wall");
+    EXPECT_STREQ(brick.titles, "brick walls");
     EXPECT_TRUE(brick.isBrick());
     EXPECT_EQ(brick.identifyType, 1);
     EXPECT_EQ(brick.elementType, 1003);
@@ -22,6 +24,8 @@ TEST(WallKindTest, kindsAreBrickAndForceWithTheirNumbersAndKeys)
     EXPECT_EQ(brick.document, "BrickWallIdentifyData");
     const WallKind &force = wallKinds()[1];
     EXPECT_STREQ(force.word, "force");
+    EXPECT_STREQ(force.title, "force wall");
+    EXPECT_STREQ(force.titles, "force walls");
     EXPECT_FALSE(force.isBrick());
     EXPECT_EQ(force.identifyType, 2);
     EXPECT_EQ(force.elementType, 0);
