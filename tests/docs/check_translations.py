@@ -13,13 +13,14 @@ TRANSLATIONS = "src/cli/translations/orvcad_zh.ts"
 SOURCES = ["src/cli", "src/platform/dwgx", "src/platform/embedded"]
 PLACE = re.compile(r"%(?:\d+|n)")
 IDEOGRAPH = re.compile("[\u3400-\u9fff]")
-# A name in capitals, an option or a word between quotes is the same in every language.
+# A name in capitals, an option or a word between quotes is the same in every language; "of" may be a comma elsewhere.
 SAME_EVERYWHERE = re.compile(r'"[^"]*"|--?[a-z][a-z-]*|\b[A-Z]+\d?\b')
 
 
 def taken_up(lupdate, root, translations):
     """Brings a file of translations up to the messages of the sources."""
-    subprocess.run([lupdate, "-silent", "-no-obsolete", "-locations", "none", "-tr-function-alias", "tr+=help",
+    subprocess.run([lupdate, "-silent", "-no-obsolete", "-locations", "none", "-extensions", "cpp,h",
+                    "-I", str(root / "src"), "-tr-function-alias", "tr+=help",
                     *[str(root / source) for source in SOURCES], "-ts", str(translations)], check=True)
 
 
@@ -43,7 +44,7 @@ def fault_of(message, translation):
         return "has other places than its translation"
     if frame_of(message) != frame_of(translation):
         return "has other blanks or line breaks around it than its translation"
-    if re.search("[A-Za-z]", SAME_EVERYWHERE.sub("", message)) and not IDEOGRAPH.search(translation):
+    if re.search("[A-Za-z]{3}", SAME_EVERYWHERE.sub("", message)) and not IDEOGRAPH.search(translation):
         return "is not translated"
     return ""
 

@@ -18,6 +18,9 @@ class Translations(unittest.TestCase):
     def test_messageOfNamesAndSignsMayStayAsItIs(self):
         self.assertEqual(fault_of('%1: "beams" (--strict, JSON)', '%1: "beams" (--strict, JSON)'), "")
 
+    def test_messageOfPlacesMayDoWithoutItsShortWords(self):
+        self.assertEqual(fault_of("%1 of %2", "%2, %1"), "")
+
     def test_eachPlaceStandsInTheTranslationAsOftenAsInTheMessage(self):
         fault = "has other places than its translation"
         self.assertEqual(fault_of("%1 of %2", "%1 个"), fault)

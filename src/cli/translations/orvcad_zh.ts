@@ -2,7 +2,534 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
-    <name>Message</name>
+    <name>host</name>
+    <message>
+        <source>there is no such file</source>
+        <translation>没有这个文件</translation>
+    </message>
+    <message>
+        <source>is larger than %1 bytes</source>
+        <translation>大于 %1 字节</translation>
+    </message>
+    <message>
+        <source>there is no drawing to read into</source>
+        <translation>没有可读入的图纸</translation>
+    </message>
+    <message>
+        <source>there is no drawing to write</source>
+        <translation>没有可写出的图纸</translation>
+    </message>
+    <message>
+        <source>is not finite</source>
+        <translation>不是有限数</translation>
+    </message>
+    <message>
+        <source>is no file</source>
+        <translation>不是文件</translation>
+    </message>
+    <message>
+        <source>is not JSON: %1 at byte %2</source>
+        <translation>不是 JSON: %1, 位于第 %2 字节</translation>
+    </message>
+    <message>
+        <source>is not an object</source>
+        <translation>不是对象</translation>
+    </message>
+    <message>
+        <source>is not &quot;cadi2&quot;</source>
+        <translation>不是 &quot;cadi2&quot;</translation>
+    </message>
+    <message>
+        <source>is newer than %1</source>
+        <translation>比 %1 新</translation>
+    </message>
+    <message>
+        <source>is not %1</source>
+        <translation>不是 %1</translation>
+    </message>
+    <message>
+        <source>has no text under &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; 下没有文字</translation>
+    </message>
+    <message>
+        <source>is out of range</source>
+        <translation>超出范围</translation>
+    </message>
+    <message>
+        <source>is not the text of a line or an arc</source>
+        <translation>不是直线或圆弧的文字</translation>
+    </message>
+    <message>
+        <source>is empty or not finite</source>
+        <translation>为空或不是有限数</translation>
+    </message>
+    <message>
+        <source>stands twice in the drawing</source>
+        <translation>在图纸中出现两次</translation>
+    </message>
+    <message>
+        <source>is not above 0</source>
+        <translation>不大于 0</translation>
+    </message>
+    <message>
+        <source>is empty or stands twice in the drawing</source>
+        <translation>为空或在图纸中出现两次</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>第 %1 行, 第 %2 列</translation>
+    </message>
+    <message>
+        <source>has the unknown member &quot;%1&quot;</source>
+        <translation>有未知成员 &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>has no &quot;%1&quot;</source>
+        <translation>没有 &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>is not a text</source>
+        <translation>不是文字</translation>
+    </message>
+    <message>
+        <source>is not a number</source>
+        <translation>不是数值</translation>
+    </message>
+    <message>
+        <source>is not an integer from %1 to %2</source>
+        <translation>不是 %1 到 %2 的整数</translation>
+    </message>
+    <message>
+        <source>is not an array</source>
+        <translation>不是数组</translation>
+    </message>
+    <message>
+        <source>is not an array of %1 numbers</source>
+        <translation>不是 %1 个数值的数组</translation>
+    </message>
+    <message>
+        <source>closes the chain to a ring</source>
+        <translation>使梁链闭合成环</translation>
+    </message>
+    <message>
+        <source>was never given out</source>
+        <translation>从未分配过</translation>
+    </message>
+    <message>
+        <source>stands twice in the project</source>
+        <translation>在项目中出现两次</translation>
+    </message>
+    <message>
+        <source>names nothing that fits</source>
+        <translation>所指的对象不存在或不合适</translation>
+    </message>
+    <message>
+        <source>is no property of the object: &quot;%1&quot;</source>
+        <translation>不是该对象的属性: &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>is no %1</source>
+        <translation>不是%1</translation>
+    </message>
+    <message>
+        <source>stands twice: &quot;%1&quot;</source>
+        <translation>出现两次: &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>belongs to nothing that is in the file</source>
+        <translation>不属于文件中的任何对象</translation>
+    </message>
+    <message>
+        <source>is no type that the host knows</source>
+        <translation>不是宿主认识的类型</translation>
+    </message>
+    <message>
+        <source>is no position</source>
+        <translation>不是位置</translation>
+    </message>
+    <message>
+        <source>is a unit&apos;s, which stands in the units of its owner</source>
+        <translation>是单元的类型, 应写在所属构件的 units 中</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; stands twice on the floor for type %2</source>
+        <translation>类型 %2 的 &quot;%1&quot; 在该楼层出现两次</translation>
+    </message>
+    <message>
+        <source>is no unit&apos;s</source>
+        <translation>不是单元的类型</translation>
+    </message>
+    <message>
+        <source>is not empty: a unit&apos;s are children of its owner&apos;s</source>
+        <translation>不为空: 单元的图元是所属构件图元的子级</translation>
+    </message>
+    <message>
+        <source>is not [type, element name, position]</source>
+        <translation>不是 [类型, 构件名称, 位置]</translation>
+    </message>
+    <message>
+        <source>is no position in the owner&apos;s units</source>
+        <translation>不是所属构件 units 中的位置</translation>
+    </message>
+    <message>
+        <source>has two children of one object</source>
+        <translation>同一对象有两个子级</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; stands twice in the file</source>
+        <translation>&quot;%1&quot; 在文件中出现两次</translation>
+    </message>
+    <message>
+        <source>belongs to beams only</source>
+        <translation>只属于梁</translation>
+    </message>
+    <message>
+        <source>is no position in the element&apos;s drawObjects</source>
+        <translation>不是该构件 drawObjects 中的位置</translation>
+    </message>
+    <message>
+        <source>names an object that is another one&apos;s next, too</source>
+        <translation>所指的图元已是另一图元的 next</translation>
+    </message>
+    <message>
+        <source>belongs to the head of the chain</source>
+        <translation>属于梁链的首段</translation>
+    </message>
+    <message>
+        <source>belongs to doors, windows and holes only</source>
+        <translation>只属于门, 窗和洞口</translation>
+    </message>
+    <message>
+        <source>names no draw object of &quot;%1&quot;</source>
+        <translation>所指的不是 &quot;%1&quot; 的图元</translation>
+    </message>
+    <message>
+        <source>has an empty ring</source>
+        <translation>有空的环</translation>
+    </message>
+    <message>
+        <source>has an open ring</source>
+        <translation>有未闭合的环</translation>
+    </message>
+    <message>
+        <source>has an edge of no length</source>
+        <translation>有长度为零的边</translation>
+    </message>
+    <message>
+        <source>crosses itself</source>
+        <translation>自相交</translation>
+    </message>
+    <message>
+        <source>has no area</source>
+        <translation>没有面积</translation>
+    </message>
+    <message>
+        <source>has a hole that is not inside or meets another</source>
+        <translation>有不在内部或与其他孔相接的孔</translation>
+    </message>
+    <message>
+        <source>is not the text of a polygon</source>
+        <translation>不是多边形的文字</translation>
+    </message>
+    <message>
+        <source>is not a valid polygon</source>
+        <translation>不是有效的多边形</translation>
+    </message>
+    <message>
+        <source>is not the text of a curve</source>
+        <translation>不是曲线的文字</translation>
+    </message>
+    <message>
+        <source>has no length</source>
+        <translation>没有长度</translation>
+    </message>
+    <message>
+        <source>is not an array of 2 numbers</source>
+        <translation>不是 2 个数值的数组</translation>
+    </message>
+    <message>
+        <source>is empty</source>
+        <translation>为空</translation>
+    </message>
+    <message>
+        <source>is neither true nor false</source>
+        <translation>既不是 true 也不是 false</translation>
+    </message>
+    <message>
+        <source>is not an integer of 32 bits</source>
+        <translation>不是 32 位整数</translation>
+    </message>
+    <message>
+        <source>is neither a text nor a number</source>
+        <translation>既不是文字也不是数值</translation>
+    </message>
+    <message>
+        <source>is not the text of an elevation</source>
+        <translation>不是标高的文字</translation>
+    </message>
+    <message>
+        <source>is neither the key of a draw object nor -1</source>
+        <translation>既不是图元的键也不是 -1</translation>
+    </message>
+    <message>
+        <source>has the unknown property &quot;%1&quot;</source>
+        <translation>有未知属性 &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>has the property &quot;%1&quot; under two names</source>
+        <translation>属性 &quot;%1&quot; 以两个名称出现</translation>
+    </message>
+    <message>
+        <source>names the unknown draw object &quot;%1&quot;</source>
+        <translation>所指的图元 &quot;%1&quot; 不存在</translation>
+    </message>
+    <message>
+        <source>is below 0</source>
+        <translation>小于 0</translation>
+    </message>
+    <message>
+        <source>is not an array of 4 lists</source>
+        <translation>不是 4 个列表的数组</translation>
+    </message>
+    <message>
+        <source>has no &quot;kind&quot;</source>
+        <translation>没有 &quot;kind&quot;</translation>
+    </message>
+    <message>
+        <source>is none of face, line, point, section, face2d, line2d, grid</source>
+        <translation>不是 face, line, point, section, face2d, line2d, grid 之一</translation>
+    </message>
+    <message>
+        <source>names no wall</source>
+        <translation>所指的不是墙</translation>
+    </message>
+    <message>
+        <source>names no slab or raft</source>
+        <translation>所指的不是板或筏板</translation>
+    </message>
+    <message>
+        <source>The outline of the draw object has no edges.</source>
+        <translation>图元的轮廓没有边。</translation>
+    </message>
+    <message>
+        <source>The outline of the draw object is open.</source>
+        <translation>图元的轮廓未闭合。</translation>
+    </message>
+    <message>
+        <source>The outline of the draw object has an edge of no length.</source>
+        <translation>图元的轮廓有长度为零的边。</translation>
+    </message>
+    <message>
+        <source>The outline of the draw object has no area.</source>
+        <translation>图元的轮廓没有面积。</translation>
+    </message>
+    <message>
+        <source>The outline of the draw object crosses or overlaps itself.</source>
+        <translation>图元的轮廓自相交或重叠。</translation>
+    </message>
+    <message>
+        <source>A hole in the outline of the draw object is not inside it.</source>
+        <translation>图元轮廓中的孔不在其内部。</translation>
+    </message>
+    <message>
+        <source>The outline of the draw object is invalid.</source>
+        <translation>图元的轮廓无效。</translation>
+    </message>
+    <message>
+        <source>The curve of the draw object has no length.</source>
+        <translation>图元的曲线没有长度。</translation>
+    </message>
+    <message>
+        <source>There is no draw object of this building to check.</source>
+        <translation>没有可检查的本建筑图元。</translation>
+    </message>
+    <message>
+        <source>The draw object stands on no floor.</source>
+        <translation>图元不在任何楼层上。</translation>
+    </message>
+    <message>
+        <source>The draw object has no geometry.</source>
+        <translation>图元没有几何。</translation>
+    </message>
+    <message>
+        <source>The draw object is the same as draw object %1 of &quot;%2&quot;.</source>
+        <translation>该图元与 &quot;%2&quot; 的图元 %1 相同。</translation>
+    </message>
+    <message>
+        <source>is being written by another program</source>
+        <translation>正在被其他程序写入</translation>
+    </message>
+    <message>
+        <source>cannot be written: %1</source>
+        <translation>无法写入: %1</translation>
+    </message>
+    <message>
+        <source>is damaged: %1</source>
+        <translation>已损坏: %1</translation>
+    </message>
+    <message>
+        <source>does not exist</source>
+        <translation>不存在</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>无法读取: %1</translation>
+    </message>
+    <message>
+        <source>holds a save that was interrupted and cannot be undone: %1</source>
+        <translation>含有中断的保存且无法撤销: %1</translation>
+    </message>
+    <message>
+        <source>would name an object that is gone</source>
+        <translation>将指向已不存在的对象</translation>
+    </message>
+    <message>
+        <source>is a directory</source>
+        <translation>是目录</translation>
+    </message>
+    <message>
+        <source>was changed by another program since it was opened</source>
+        <translation>打开后已被其他程序修改</translation>
+    </message>
+    <message>
+        <source>is no type that the host knows: %1</source>
+        <translation>不是宿主认识的类型: %1</translation>
+    </message>
+    <message>
+        <source>is not the text of its geometry</source>
+        <translation>不是其几何的文字</translation>
+    </message>
+    <message>
+        <source>is missing</source>
+        <translation>缺失</translation>
+    </message>
+    <message>
+        <source>is no kind of shape</source>
+        <translation>不是形状的种类</translation>
+    </message>
+    <message>
+        <source>is no group of axes</source>
+        <translation>不是轴线组</translation>
+    </message>
+    <message>
+        <source>has no axis in front of it</source>
+        <translation>前面没有轴线</translation>
+    </message>
+    <message>
+        <source>is no JSON object</source>
+        <translation>不是 JSON 对象</translation>
+    </message>
+    <message>
+        <source>has no row</source>
+        <translation>没有数据行</translation>
+    </message>
+    <message>
+        <source>has no shape</source>
+        <translation>没有形状</translation>
+    </message>
+    <message>
+        <source>has the foreign %1 %2</source>
+        <translation>含有外来的 %1 %2</translation>
+    </message>
+    <message>
+        <source>has the table %1 in another form</source>
+        <translation>表 %1 的形式不同</translation>
+    </message>
+    <message>
+        <source>is no project file</source>
+        <translation>不是项目文件</translation>
+    </message>
+    <message>
+        <source>is damaged: it ends in its header</source>
+        <translation>已损坏: 文件在文件头内结束</translation>
+    </message>
+    <message>
+        <source>is an SQLite file, but no project file</source>
+        <translation>是 SQLite 文件, 但不是项目文件</translation>
+    </message>
+    <message>
+        <source>is of form %1, newer than the form %2 that this program reads</source>
+        <translation>格式为 %1, 比本程序可读的格式 %2 新</translation>
+    </message>
+    <message>
+        <source>is of form %1, older than the form %2 that this program reads</source>
+        <translation>格式为 %1, 比本程序可读的格式 %2 旧</translation>
+    </message>
+    <message>
+        <source>is in a journal mode that project files do not use</source>
+        <translation>处于项目文件不使用的日志模式</translation>
+    </message>
+    <message>
+        <source>lacks tables of a project file</source>
+        <translation>缺少项目文件的表</translation>
+    </message>
+    <message>
+        <source>An element cannot have an empty name.</source>
+        <translation>构件名称不能为空。</translation>
+    </message>
+    <message>
+        <source>The floor has another element of the name &quot;%1&quot;.</source>
+        <translation>该楼层已有名为 &quot;%1&quot; 的构件。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; stands twice in the project</source>
+        <translation>&quot;%1&quot; 在项目中出现两次</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; stands twice in the region</source>
+        <translation>&quot;%1&quot; 在区域中出现两次</translation>
+    </message>
+    <message>
+        <source>is not JSON: %1</source>
+        <translation>不是 JSON: %1</translation>
+    </message>
+    <message>
+        <source>is not &quot;hbx-project&quot;</source>
+        <translation>不是 &quot;hbx-project&quot;</translation>
+    </message>
+    <message>
+        <source>%1 stands twice in the file</source>
+        <translation>%1 在文件中出现两次</translation>
+    </message>
+    <message>
+        <source>has no file yet</source>
+        <translation>还没有文件</translation>
+    </message>
+    <message>
+        <source>The property &quot;%1&quot; is of the kind %2 and cannot take &quot;%3&quot;.</source>
+        <translation>属性 &quot;%1&quot; 的类型是%2, 不能取 &quot;%3&quot;。</translation>
+    </message>
+    <message>
+        <source>whole number</source>
+        <translation>整数</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>数值</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>elevation</source>
+        <translation>标高</translation>
+    </message>
+    <message>
+        <source>point</source>
+        <translation>点</translation>
+    </message>
+    <message>
+        <source>curve</source>
+        <translation>曲线</translation>
+    </message>
+    <message>
+        <source>polygon</source>
+        <translation>多边形</translation>
+    </message>
+</context>
+<context>
+    <name>orvcad</name>
     <message>
         <source>no name</source>
         <translation>无名称</translation>
@@ -125,7 +652,7 @@
     </message>
     <message>
         <source>%1%2, %3 and %4 of %5</source>
-        <translation>%5 的 %1%2, %3 和 %4</translation>
+        <translation>%5 的 %1%2, %3, %4</translation>
     </message>
     <message>
         <source>seat</source>
@@ -152,16 +679,16 @@
         <translation>子类型 %1 的梁没有轮廓, 而 %2 是轮廓</translation>
     </message>
     <message>
-        <source>%1 does not end in ";", and its last corner would be lost</source>
-        <translation>%1 不以 ";" 结尾, 其最后一个角点会丢失</translation>
+        <source>%1 does not end in &quot;;&quot;, and its last corner would be lost</source>
+        <translation>%1 不以 &quot;;&quot; 结尾, 其最后一个角点会丢失</translation>
     </message>
     <message>
         <source>%1 is no outline</source>
         <translation>%1 不是轮廓</translation>
     </message>
     <message>
-        <source>a beam of type %1 belongs into "%2"</source>
-        <translation>类型 %1 的梁应在 "%2" 中</translation>
+        <source>a beam of type %1 belongs into &quot;%2&quot;</source>
+        <translation>类型 %1 的梁应在 &quot;%2&quot; 中</translation>
     </message>
     <message>
         <source>type %1 is no beam (15, 17, 47)</source>
@@ -380,8 +907,8 @@
         <translation>已读取 %1, %2</translation>
     </message>
     <message>
-        <source>"%1" is neither a file nor a kind of document; "%2" is one</source>
-        <translation>"%1" 既不是文件也不是文档类型; "%2" 是文档类型</translation>
+        <source>&quot;%1&quot; is neither a file nor a kind of document; &quot;%2&quot; is one</source>
+        <translation>&quot;%1&quot; 既不是文件也不是文档类型; &quot;%2&quot; 是文档类型</translation>
     </message>
     <message>
         <source>FILE is required</source>
@@ -428,8 +955,8 @@
         <translation>柱的识别任务, 校核任务或结果</translation>
     </message>
     <message>
-        <source>is written as "%1": geometry has one form and six digits</source>
-        <translation>写为 "%1": 几何只有一种形式, 六位数字</translation>
+        <source>is written as &quot;%1&quot;: geometry has one form and six digits</source>
+        <translation>写为 &quot;%1&quot;: 几何只有一种形式, 六位数字</translation>
     </message>
     <message>
         <source>is written as the number %1</source>
@@ -440,16 +967,36 @@
         <translation>写为 %1: 数值只有 53 位</translation>
     </message>
     <message>
+        <source>results of identification</source>
+        <translation>识别结果</translation>
+    </message>
+    <message>
+        <source>order to check</source>
+        <translation>校核任务</translation>
+    </message>
+    <message>
+        <source>order to identify</source>
+        <translation>识别任务</translation>
+    </message>
+    <message>
+        <source>hoop bar settings</source>
+        <translation>箍筋设置</translation>
+    </message>
+    <message>
+        <source>words of elevations</source>
+        <translation>标高用语</translation>
+    </message>
+    <message>
         <source>has the id %1 of picture %2, and is left out</source>
         <translation>与图片 %2 的标识 %1 相同, 略去</translation>
     </message>
     <message>
-        <source>"%1" has no picture in the hoop bar settings</source>
-        <translation>"%1" 在箍筋设置中没有图片</translation>
+        <source>&quot;%1&quot; has no picture in the hoop bar settings</source>
+        <translation>&quot;%1&quot; 在箍筋设置中没有图片</translation>
     </message>
     <message>
         <source>is not %1</source>
-        <translation>不是 %1</translation>
+        <translation>不是%1</translation>
     </message>
     <message>
         <source>is no valid outline</source>
@@ -466,6 +1013,34 @@
     <message>
         <source>is no text of a point</source>
         <translation>不是点的文字</translation>
+    </message>
+    <message>
+        <source>Usage</source>
+        <translation>用法</translation>
+    </message>
+    <message>
+        <source>OPTIONS</source>
+        <translation>选项</translation>
+    </message>
+    <message>
+        <source>SUBCOMMAND</source>
+        <translation>子命令</translation>
+    </message>
+    <message>
+        <source>REQUIRED</source>
+        <translation>必填</translation>
+    </message>
+    <message>
+        <source>Positionals</source>
+        <translation>参数</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>选项</translation>
+    </message>
+    <message>
+        <source>Excludes</source>
+        <translation>互斥</translation>
     </message>
     <message>
         <source>Moves buildings between a host model, recognition payloads and replies.</source>
@@ -516,12 +1091,12 @@
         <translation>%1 写在了所属项目之前</translation>
     </message>
     <message>
-        <source>%1 names a second one: "%2" and "%3"</source>
-        <translation>%1 重复指定: "%2" 和 "%3"</translation>
+        <source>%1 names a second one: &quot;%2&quot; and &quot;%3&quot;</source>
+        <translation>%1 重复指定: &quot;%2&quot; 和 &quot;%3&quot;</translation>
     </message>
     <message>
-        <source>floor "%1" would be copied onto itself</source>
-        <translation>楼层 "%1" 会复制到自身</translation>
+        <source>floor &quot;%1&quot; would be copied onto itself</source>
+        <translation>楼层 &quot;%1&quot; 会复制到自身</translation>
     </message>
     <message>
         <source>Copy a floor to another one, of the same or another project</source>
@@ -576,8 +1151,8 @@
         <translation>无</translation>
     </message>
     <message>
-        <source>%1 of "%2": base %3, first %4, highest %5</source>
-        <translation>"%2" 的 %1: 基础层 %3, 首层 %4, 顶层 %5</translation>
+        <source>%1 of &quot;%2&quot;: base %3, first %4, highest %5</source>
+        <translation>&quot;%2&quot; 的 %1: 基础层 %3, 首层 %4, 最高层 %5</translation>
     </message>
     <message>
         <source>%1 and %2, %3 of them in a wall, %4 bytes</source>
@@ -630,6 +1205,18 @@
     <message>
         <source>JSON file to write the difference to</source>
         <translation>差异写入的 JSON 文件</translation>
+    </message>
+    <message>
+        <source>%1 added</source>
+        <translation>新增 %1</translation>
+    </message>
+    <message>
+        <source>%1 gone</source>
+        <translation>删除 %1</translation>
+    </message>
+    <message>
+        <source>%1 changed</source>
+        <translation>修改 %1</translation>
     </message>
     <message>
         <source>region %1</source>
@@ -736,6 +1323,122 @@
         <translation>%1: 缺失的键读作: %2</translation>
     </message>
     <message>
+        <source>context of the identification of beams</source>
+        <translation>梁识别的上下文</translation>
+    </message>
+    <message>
+        <source>order to identify beams</source>
+        <translation>梁的识别任务</translation>
+    </message>
+    <message>
+        <source>result of the identification of beams</source>
+        <translation>梁的识别结果</translation>
+    </message>
+    <message>
+        <source>seats of beams</source>
+        <translation>梁的支座</translation>
+    </message>
+    <message>
+        <source>spans of beams by draw object</source>
+        <translation>按图元列出的梁跨</translation>
+    </message>
+    <message>
+        <source>beams for recognition</source>
+        <translation>待识别的梁</translation>
+    </message>
+    <message>
+        <source>drawing file</source>
+        <translation>图纸文件</translation>
+    </message>
+    <message>
+        <source>columns for recognition</source>
+        <translation>待识别的柱</translation>
+    </message>
+    <message>
+        <source>element types by drawing</source>
+        <translation>按图纸列出的构件类型</translation>
+    </message>
+    <message>
+        <source>drawings by floor</source>
+        <translation>按楼层列出的图纸</translation>
+    </message>
+    <message>
+        <source>layers by drawing and element type</source>
+        <translation>按图纸和构件类型列出的图层</translation>
+    </message>
+    <message>
+        <source>crossings of axes by drawing</source>
+        <translation>按图纸列出的轴线交点</translation>
+    </message>
+    <message>
+        <source>parts of drawings</source>
+        <translation>图纸的子图</translation>
+    </message>
+    <message>
+        <source>scales of drawings</source>
+        <translation>图纸的比例</translation>
+    </message>
+    <message>
+        <source>drawing-set file</source>
+        <translation>图纸集文件</translation>
+    </message>
+    <message>
+        <source>tables of drawings</source>
+        <translation>图纸的表格</translation>
+    </message>
+    <message>
+        <source>floor exchange</source>
+        <translation>楼层交换文档</translation>
+    </message>
+    <message>
+        <source>floors document</source>
+        <translation>楼层文档</translation>
+    </message>
+    <message>
+        <source>building file</source>
+        <translation>建筑文件</translation>
+    </message>
+    <message>
+        <source>identities by draw object</source>
+        <translation>按图元列出的标识</translation>
+    </message>
+    <message>
+        <source>result of a classification of layers</source>
+        <translation>图层分类结果</translation>
+    </message>
+    <message>
+        <source>layers from drawing analysis</source>
+        <translation>图纸分析得到的图层</translation>
+    </message>
+    <message>
+        <source>layers of one element type</source>
+        <translation>一种构件类型的图层</translation>
+    </message>
+    <message>
+        <source>options to identify openings</source>
+        <translation>洞口的识别选项</translation>
+    </message>
+    <message>
+        <source>reply of doors and windows</source>
+        <translation>门窗的回复</translation>
+    </message>
+    <message>
+        <source>slab IO document</source>
+        <translation>板 IO 文档</translation>
+    </message>
+    <message>
+        <source>slab model document</source>
+        <translation>板模型文档</translation>
+    </message>
+    <message>
+        <source>order to identify walls</source>
+        <translation>墙的识别任务</translation>
+    </message>
+    <message>
+        <source>reply of walls</source>
+        <translation>墙的回复</translation>
+    </message>
+    <message>
         <source>; %1 without geometry</source>
         <translation>; %1 个没有几何图形</translation>
     </message>
@@ -764,7 +1467,7 @@
         <translation>针对所有楼层, 不能与 --region 和 --floor 同用</translation>
     </message>
     <message>
-        <source>svg, png or html; if absent, as the file's ending tells, else svg</source>
+        <source>svg, png or html; if absent, as the file&apos;s ending tells, else svg</source>
         <translation>svg、png 或 html; 不给出时按文件后缀, 否则为 svg</translation>
     </message>
     <message>
@@ -828,6 +1531,34 @@
         <translation>图纸文件 (.cadi2)</translation>
     </message>
     <message>
+        <source>id</source>
+        <translation>标识</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <translation>编码</translation>
+    </message>
+    <message>
+        <source>height</source>
+        <translation>层高</translation>
+    </message>
+    <message>
+        <source>elevation</source>
+        <translation>标高</translation>
+    </message>
+    <message>
+        <source>storeys</source>
+        <translation>层数</translation>
+    </message>
+    <message>
+        <source>region</source>
+        <translation>区域</translation>
+    </message>
+    <message>
+        <source>settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
         <source>not read</source>
         <translation>未读取</translation>
     </message>
@@ -876,6 +1607,54 @@
         <translation>楼层编号, 或楼层的写法</translation>
     </message>
     <message>
+        <source>drawings split</source>
+        <translation>图纸拆分</translation>
+    </message>
+    <message>
+        <source>sub-drawing</source>
+        <translation>子图</translation>
+    </message>
+    <message>
+        <source>tables parsed</source>
+        <translation>表格解析</translation>
+    </message>
+    <message>
+        <source>table</source>
+        <translation>表格</translation>
+    </message>
+    <message>
+        <source>floors taken</source>
+        <translation>楼层提取</translation>
+    </message>
+    <message>
+        <source>floors matched</source>
+        <translation>楼层匹配</translation>
+    </message>
+    <message>
+        <source>mapping</source>
+        <translation>对应关系</translation>
+    </message>
+    <message>
+        <source>element types matched</source>
+        <translation>构件类型匹配</translation>
+    </message>
+    <message>
+        <source>layers classified</source>
+        <translation>图层分类</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>组</translation>
+    </message>
+    <message>
+        <source>scales revised</source>
+        <translation>比例修正</translation>
+    </message>
+    <message>
+        <source>drawings located</source>
+        <translation>图纸定位</translation>
+    </message>
+    <message>
         <source>Drawing set</source>
         <translation>图纸集</translation>
     </message>
@@ -908,20 +1687,12 @@
         <translation>阶段</translation>
     </message>
     <message>
-        <source>code</source>
-        <translation>编码</translation>
-    </message>
-    <message>
         <source>bottom m</source>
         <translation>底标高 m</translation>
     </message>
     <message>
         <source>height m</source>
         <translation>层高 m</translation>
-    </message>
-    <message>
-        <source>storeys</source>
-        <translation>层数</translation>
     </message>
     <message>
         <source>drawings</source>
@@ -980,16 +1751,28 @@
         <translation>不是图纸集文件: 没有任何一个阶段</translation>
     </message>
     <message>
-        <source>drawing-set file</source>
-        <translation>图纸集文件</translation>
-    </message>
-    <message>
         <source>Example:</source>
         <translation>示例:</translation>
     </message>
     <message>
         <source>Examples:</source>
         <translation>示例:</translation>
+    </message>
+    <message>
+        <source>a whole number of 32 bits</source>
+        <translation>整数 (32 位)</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>数值</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>布尔值</translation>
+    </message>
+    <message>
+        <source>a whole number of 64 bits</source>
+        <translation>整数 (64 位)</translation>
     </message>
     <message>
         <source>%1: %2 done, %3 with something left out, %4 failed</source>
@@ -1080,28 +1863,28 @@
         <translation>不是楼层交换文档: 缺少 %1</translation>
     </message>
     <message>
-        <source>floor exchange</source>
-        <translation>楼层交换文档</translation>
+        <source>unknown region &quot;%1&quot;</source>
+        <translation>未知区域 &quot;%1&quot;</translation>
     </message>
     <message>
-        <source>unknown region "%1"</source>
-        <translation>未知区域 "%1"</translation>
-    </message>
-    <message>
-        <source>unknown %1 "%2" in region "%3"</source>
-        <translation>区域 "%3" 中没有%1 "%2"</translation>
+        <source>unknown %1 &quot;%2&quot; in region &quot;%3&quot;</source>
+        <translation>区域 &quot;%3&quot; 中没有%1 &quot;%2&quot;</translation>
     </message>
     <message>
         <source>no --region is given; known regions: %1</source>
         <translation>未给出 --region; 已有区域: %1</translation>
     </message>
     <message>
-        <source>no region "%1"; known regions: %2</source>
-        <translation>没有区域 "%1"; 已有区域: %2</translation>
+        <source>no region &quot;%1&quot;; known regions: %2</source>
+        <translation>没有区域 &quot;%1&quot;; 已有区域: %2</translation>
     </message>
     <message>
-        <source>no floor "%1" in region "%2"; known floors: %3</source>
-        <translation>区域 "%2" 中没有楼层 "%1"; 已有楼层: %3</translation>
+        <source>no floor &quot;%1&quot; in region &quot;%2&quot;; known floors: %3</source>
+        <translation>区域 &quot;%2&quot; 中没有楼层 &quot;%1&quot;; 已有楼层: %3</translation>
+    </message>
+    <message>
+        <source>floor code</source>
+        <translation>楼层编码</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -1164,10 +1947,6 @@
         <translation>%1: 不是文字, 读作无</translation>
     </message>
     <message>
-        <source>floors document</source>
-        <translation>楼层文档</translation>
-    </message>
-    <message>
         <source>no floors document: AreaName or Floors is missing</source>
         <translation>不是楼层文档: 缺少 AreaName 或 Floors</translation>
     </message>
@@ -1188,8 +1967,8 @@
 %2</translation>
     </message>
     <message>
-        <source>No floor is written "%1"</source>
-        <translation>没有写作 "%1" 的楼层</translation>
+        <source>No floor is written &quot;%1&quot;</source>
+        <translation>没有写作 &quot;%1&quot; 的楼层</translation>
     </message>
     <message>
         <source>does not begin with %1</source>
@@ -1200,8 +1979,8 @@
         <translation> 或 </translation>
     </message>
     <message>
-        <source>begins with "%1": %2 is meant</source>
-        <translation>以 "%1" 开头: 应为 %2</translation>
+        <source>begins with &quot;%1&quot;: %2 is meant</source>
+        <translation>以 &quot;%1&quot; 开头: 应为 %2</translation>
     </message>
     <message>
         <source>is no text of a curve in the short form</source>
@@ -1232,6 +2011,26 @@
         <translation>位置</translation>
     </message>
     <message>
+        <source>is no text</source>
+        <translation>不是文字</translation>
+    </message>
+    <message>
+        <source>is no whole number</source>
+        <translation>不是整数</translation>
+    </message>
+    <message>
+        <source>is no whole number from -2147483647 to 2147483647</source>
+        <translation>不是 -2147483647 到 2147483647 的整数</translation>
+    </message>
+    <message>
+        <source>is no number above -1.7976931348623157e+308</source>
+        <translation>不是大于 -1.7976931348623157e+308 的数值</translation>
+    </message>
+    <message>
+        <source>is neither a number nor null</source>
+        <translation>既不是数值也不是 null</translation>
+    </message>
+    <message>
         <source>is no number</source>
         <translation>不是数值</translation>
     </message>
@@ -1260,6 +2059,14 @@
         <translation>在同一对象中出现两次, 只有最后一个有效</translation>
     </message>
     <message>
+        <source>; the project is saved all the same</source>
+        <translation>; 项目仍已保存</translation>
+    </message>
+    <message>
+        <source>; %1 is written all the same</source>
+        <translation>; %1 仍已写出</translation>
+    </message>
+    <message>
         <source>Wrote %1 into %2</source>
         <translation>已将 %1写入 %2</translation>
     </message>
@@ -1274,6 +2081,34 @@
     <message>
         <source>Directory for the pages</source>
         <translation>手册页的目录</translation>
+    </message>
+    <message>
+        <source>All that was asked is done, and all that was sent arrived as it was sent.</source>
+        <translation>要求的都已完成, 传递的数据都原样到达。</translation>
+    </message>
+    <message>
+        <source>The arguments are wrong; nothing was done.</source>
+        <translation>参数错误; 未做任何操作。</translation>
+    </message>
+    <message>
+        <source>An input or a file cannot be used. No project file was changed, unless the message says so.</source>
+        <translation>输入或文件无法使用。除非消息中另有说明, 没有改动任何项目文件。</translation>
+    </message>
+    <message>
+        <source>Done, but some members, parts or values were left out; with --strict nothing was saved.</source>
+        <translation>已完成, 但略去了一些成员、部分或值; 使用 --strict 时什么都没有保存。</translation>
+    </message>
+    <message>
+        <source>The first of them that is set names the language of messages: English or Chinese. Documents, and summaries under --json, are the same in both.</source>
+        <translation>其中第一个已设置的变量决定消息的语言: 英文或中文。文档和 --json 的摘要在两种语言下相同。</translation>
+    </message>
+    <message>
+        <source>If set and not empty, messages have no colours.</source>
+        <translation>设置且不为空时, 消息不带颜色。</translation>
+    </message>
+    <message>
+        <source>If &quot;dumb&quot;, there are neither colours nor a progress bar. Files and pipes never get either.</source>
+        <translation>为 &quot;dumb&quot; 时, 既没有颜色也没有进度条。写入文件和管道时始终没有。</translation>
     </message>
     <message>
         <source>%1.</source>
@@ -1298,10 +2133,6 @@
     <message>
         <source>COMMANDS</source>
         <translation>命令</translation>
-    </message>
-    <message>
-        <source>OPTIONS</source>
-        <translation>选项</translation>
     </message>
     <message>
         <source>EXIT STATUS</source>
@@ -1420,20 +2251,20 @@
         <translation>该楼层已有同名构件; 保持原样</translation>
     </message>
     <message>
-        <source>element "%1" is no door or window</source>
-        <translation>构件 "%1" 不是门或窗</translation>
+        <source>element &quot;%1&quot; is no door or window</source>
+        <translation>构件 &quot;%1&quot; 不是门或窗</translation>
     </message>
     <message>
-        <source>its element "%1" stands behind it, as member %2</source>
-        <translation>其构件 "%1" 在它之后, 是成员 %2</translation>
+        <source>its element &quot;%1&quot; stands behind it, as member %2</source>
+        <translation>其构件 &quot;%1&quot; 在它之后, 是成员 %2</translation>
     </message>
     <message>
-        <source>its element "%1", member %2, was left out</source>
-        <translation>其构件 "%1" (成员 %2) 已略去</translation>
+        <source>its element &quot;%1&quot;, member %2, was left out</source>
+        <translation>其构件 &quot;%1&quot; (成员 %2) 已略去</translation>
     </message>
     <message>
-        <source>the floor has no element "%1", and the reply makes none</source>
-        <translation>该楼层没有构件 "%1", 回复中也未新建</translation>
+        <source>the floor has no element &quot;%1&quot;, and the reply makes none</source>
+        <translation>该楼层没有构件 &quot;%1&quot;, 回复中也未新建</translation>
     </message>
     <message>
         <source>the host did not make it</source>
@@ -1455,905 +2286,449 @@
         <source>members</source>
         <translation>成员</translation>
     </message>
-</context>
-<context>
-    <name>Reason</name>
     <message>
-        <source>there is no such file</source>
-        <translation>没有这个文件</translation>
+        <source>is not there, and it makes PNG pictures (package librsvg2-bin)</source>
+        <translation>未安装, 而 PNG 图片由它生成 (软件包 librsvg2-bin)</translation>
     </message>
     <message>
-        <source>is larger than %1 bytes</source>
-        <translation>大于 %1 字节</translation>
+        <source>has failed: %1</source>
+        <translation>运行失败: %1</translation>
     </message>
     <message>
-        <source>there is no drawing to read into</source>
-        <translation>没有可读入的图纸</translation>
+        <source>Imported %1 into %2: %3</source>
+        <translation>已将 %1 导入 %2: %3</translation>
     </message>
     <message>
-        <source>there is no drawing to write</source>
-        <translation>没有可写出的图纸</translation>
+        <source>Exported %1: %2</source>
+        <translation>已导出 %1: %2</translation>
     </message>
     <message>
-        <source>is not finite</source>
-        <translation>不是有限数</translation>
+        <source>Project files of the embedded host</source>
+        <translation>内嵌宿主的项目文件</translation>
     </message>
     <message>
-        <source>is no file</source>
-        <translation>不是文件</translation>
+        <source>Make a project file from a building (hbx-project JSON)</source>
+        <translation>由建筑 (hbx-project JSON) 生成项目文件</translation>
     </message>
     <message>
-        <source>is not JSON: %1 at byte %2</source>
-        <translation>不是 JSON: %1, 位于第 %2 字节</translation>
+        <source>Building as hbx-project JSON</source>
+        <translation>hbx-project JSON 格式的建筑</translation>
     </message>
     <message>
-        <source>is not an object</source>
-        <translation>不是对象</translation>
+        <source>Project file to make (.hbxdb)</source>
+        <translation>要生成的项目文件 (.hbxdb)</translation>
     </message>
     <message>
-        <source>is not "cadi2"</source>
-        <translation>不是 "cadi2"</translation>
+        <source>Write a project as hbx-project JSON</source>
+        <translation>将项目写成 hbx-project JSON</translation>
     </message>
     <message>
-        <source>is newer than %1</source>
-        <translation>比 %1 新</translation>
+        <source>File to write the building to</source>
+        <translation>建筑写入的文件</translation>
     </message>
     <message>
-        <source>is not %1</source>
-        <translation>不是 %1</translation>
+        <source>What is in a project: per region and floor the counts by type</source>
+        <translation>项目的内容: 按区域和楼层列出各类型的数量</translation>
     </message>
     <message>
-        <source>has no text under "%1"</source>
-        <translation>"%1" 下没有文字</translation>
+        <source>  %1 (code %2): bottom %3 m, height %4 m</source>
+        <translation>  %1 (编码 %2): 底标高 %3 m, 层高 %4 m</translation>
     </message>
     <message>
-        <source>is out of range</source>
-        <translation>超出范围</translation>
+        <source>    %1 %2 elements %3 placed</source>
+        <translation>    %1 %2 个构件 %3 个已布置</translation>
     </message>
     <message>
-        <source>is not the text of a line or an arc</source>
-        <translation>不是直线或圆弧的文字</translation>
+        <source>Source: %1</source>
+        <translation>来源: %1</translation>
     </message>
     <message>
-        <source>is empty or not finite</source>
-        <translation>为空或不是有限数</translation>
+        <source>Region %1</source>
+        <translation>区域 %1</translation>
     </message>
     <message>
-        <source>stands twice in the drawing</source>
-        <translation>在图纸中出现两次</translation>
+        <source>%1 and %2</source>
+        <translation>%1 和 %2</translation>
     </message>
     <message>
-        <source>is not above 0</source>
-        <translation>不大于 0</translation>
+        <source>has none of the keys %1: no %2</source>
+        <translation>没有 %1 中的任何一个键: 不是%2</translation>
     </message>
     <message>
-        <source>is empty or stands twice in the drawing</source>
-        <translation>为空或在图纸中出现两次</translation>
+        <source>&quot;%1&quot; is meant</source>
+        <translation>应为 &quot;%1&quot;</translation>
     </message>
     <message>
-        <source>line %1, column %2</source>
-        <translation>第 %1 行, 第 %2 列</translation>
+        <source>%1 is expected</source>
+        <translation>应为 %1</translation>
     </message>
     <message>
-        <source>has the unknown member "%1"</source>
-        <translation>有未知成员 "%1"</translation>
+        <source>is %1</source>
+        <translation>是 %1</translation>
     </message>
     <message>
-        <source>has no "%1"</source>
-        <translation>没有 "%1"</translation>
+        <source>is more than the form has</source>
+        <translation>超出格式的规定</translation>
     </message>
     <message>
-        <source>is not a text</source>
-        <translation>不是文字</translation>
+        <source>another value</source>
+        <translation>其他值</translation>
     </message>
     <message>
-        <source>is not a number</source>
-        <translation>不是数值</translation>
+        <source>is &quot;%1&quot;, but the other keys are those of another</source>
+        <translation>是 &quot;%1&quot;, 但其余的键属于另一种</translation>
     </message>
     <message>
-        <source>is not an integer from %1 to %2</source>
-        <translation>不是 %1 到 %2 的整数</translation>
+        <source>has the keys of more than one form</source>
+        <translation>具有不止一种格式的键</translation>
     </message>
     <message>
-        <source>is not an array</source>
-        <translation>不是数组</translation>
+        <source>is no key of this object</source>
+        <translation>不是此对象的键</translation>
     </message>
     <message>
-        <source>is not an array of %1 numbers</source>
-        <translation>不是 %1 个数值的数组</translation>
+        <source>, and not read</source>
+        <translation>, 不会被读取</translation>
     </message>
-</context>
-<context>
-    <name>dwgx::Reason</name>
     <message>
-        <source>was never given out</source>
-        <translation>从未分配过</translation>
+        <source>; &quot;%1&quot; is meant</source>
+        <translation>; 应为 &quot;%1&quot;</translation>
     </message>
     <message>
-        <source>stands twice in the project</source>
-        <translation>在项目中出现两次</translation>
+        <source>, which is missing</source>
+        <translation>, 而它缺失</translation>
     </message>
     <message>
-        <source>names nothing that fits</source>
-        <translation>所指的对象不存在或不合适</translation>
+        <source>, or &quot;%1&quot; in its place</source>
+        <translation>, 或以 &quot;%1&quot; 代替</translation>
     </message>
     <message>
-        <source>is no property of the object: "%1"</source>
-        <translation>不是该对象的属性: "%1"</translation>
+        <source>&quot; or &quot;</source>
+        <translation>&quot; 或 &quot;</translation>
     </message>
     <message>
-        <source>is no %1</source>
-        <translation>不是%1</translation>
+        <source>a number above %1</source>
+        <translation>大于 %1 的数值</translation>
     </message>
     <message>
-        <source>stands twice: "%1"</source>
-        <translation>出现两次: "%1"</translation>
+        <source>a number from %1 to %2</source>
+        <translation>%1 到 %2 的数值</translation>
     </message>
     <message>
-        <source>is out of range</source>
-        <translation>超出范围</translation>
+        <source>a number from %1 up</source>
+        <translation>不小于 %1 的数值</translation>
     </message>
     <message>
-        <source>is not finite</source>
-        <translation>不是有限数</translation>
+        <source>a number up to %1</source>
+        <translation>不大于 %1 的数值</translation>
     </message>
     <message>
-        <source>belongs to nothing that is in the file</source>
-        <translation>不属于文件中的任何对象</translation>
+        <source>is an empty text</source>
+        <translation>是空文字</translation>
     </message>
     <message>
-        <source>is no type that the host knows</source>
-        <translation>不是宿主认识的类型</translation>
+        <source>one that is not</source>
+        <translation>非空文字</translation>
     </message>
     <message>
-        <source>is no position</source>
-        <translation>不是位置</translation>
+        <source>another form</source>
+        <translation>其他形式</translation>
     </message>
     <message>
-        <source>is a unit's, which stands in the units of its owner</source>
-        <translation>是单元的类型, 应写在所属构件的 units 中</translation>
+        <source>is %1, which %2</source>
+        <translation>是 %1, 它%2</translation>
     </message>
     <message>
-        <source>"%1" stands twice on the floor for type %2</source>
-        <translation>类型 %2 的 "%1" 在该楼层出现两次</translation>
+        <source>at least %1</source>
+        <translation>至少 %1 个</translation>
     </message>
     <message>
-        <source>is no unit's</source>
-        <translation>不是单元的类型</translation>
+        <source>at most %1</source>
+        <translation>至多 %1 个</translation>
     </message>
     <message>
-        <source>is not empty: a unit's are children of its owner's</source>
-        <translation>不为空: 单元的图元是所属构件图元的子级</translation>
+        <source>has %1 %2</source>
+        <translation>有 %1 个%2</translation>
     </message>
     <message>
-        <source>is not [type, element name, position]</source>
-        <translation>不是 [类型, 构件名称, 位置]</translation>
+        <source>entries</source>
+        <translation>条目</translation>
     </message>
     <message>
-        <source>is no position in the owner's units</source>
-        <translation>不是所属构件 units 中的位置</translation>
+        <source>keys</source>
+        <translation>键</translation>
     </message>
     <message>
-        <source>has two children of one object</source>
-        <translation>同一对象有两个子级</translation>
+        <source>type %1 is no %2</source>
+        <translation>类型 %1 不是%2</translation>
     </message>
     <message>
-        <source>"%1" stands twice in the file</source>
-        <translation>"%1" 在文件中出现两次</translation>
+        <source>document of seats</source>
+        <translation>支座文档</translation>
     </message>
     <message>
-        <source>belongs to beams only</source>
-        <translation>只属于梁</translation>
+        <source>slab</source>
+        <translation>板</translation>
     </message>
     <message>
-        <source>is no position in the element's drawObjects</source>
-        <translation>不是该构件 drawObjects 中的位置</translation>
+        <source>raft</source>
+        <translation>筏板</translation>
     </message>
     <message>
-        <source>names an object that is another one's next, too</source>
-        <translation>所指的图元已是另一图元的 next</translation>
+        <source>slab opening</source>
+        <translation>板洞</translation>
     </message>
     <message>
-        <source>belongs to the head of the chain</source>
-        <translation>属于梁链的首段</translation>
+        <source>slab bar</source>
+        <translation>板钢筋</translation>
     </message>
     <message>
-        <source>belongs to doors, windows and holes only</source>
-        <translation>只属于门, 窗和洞口</translation>
+        <source>slab negative bar</source>
+        <translation>板负筋</translation>
     </message>
     <message>
-        <source>names no draw object of "%1"</source>
-        <translation>所指的不是 "%1" 的图元</translation>
+        <source>straddling slab bar</source>
+        <translation>跨板钢筋</translation>
     </message>
     <message>
-        <source>is not a valid polygon</source>
-        <translation>不是有效的多边形</translation>
+        <source>raft bar</source>
+        <translation>筏板钢筋</translation>
     </message>
     <message>
-        <source>has no length</source>
-        <translation>没有长度</translation>
+        <source>straddling raft bar</source>
+        <translation>跨筏板钢筋</translation>
     </message>
     <message>
-        <source>is not an array of 2 numbers</source>
-        <translation>不是 2 个数值的数组</translation>
+        <source>raft negative bar</source>
+        <translation>筏板负筋</translation>
     </message>
     <message>
-        <source>is empty</source>
-        <translation>为空</translation>
+        <source>column</source>
+        <translation>柱</translation>
     </message>
     <message>
-        <source>is neither true nor false</source>
-        <translation>既不是 true 也不是 false</translation>
+        <source>wall</source>
+        <translation>墙</translation>
     </message>
     <message>
-        <source>is not an integer of 32 bits</source>
-        <translation>不是 32 位整数</translation>
+        <source>axis grid</source>
+        <translation>轴网</translation>
     </message>
     <message>
-        <source>is not a number</source>
-        <translation>不是数值</translation>
+        <source>Wrote %1 of %2%3</source>
+        <translation>已写出 %2 的 %1%3</translation>
     </message>
     <message>
-        <source>is neither a text nor a number</source>
-        <translation>既不是文字也不是数值</translation>
+        <source>, with the drawing %1</source>
+        <translation>, 附图纸 %1</translation>
     </message>
     <message>
-        <source>is not the text of an elevation</source>
-        <translation>不是标高的文字</translation>
+        <source>Write what recognition gets of a floor&apos;s slabs</source>
+        <translation>写出识别所需的楼层板数据</translation>
     </message>
     <message>
-        <source>is neither the key of a draw object nor -1</source>
-        <translation>既不是图元的键也不是 -1</translation>
+        <source>Sum of what is written: 2 supports, 4 slabs and holes, 8 bars of slabs, 32 rafts, 64 bars of rafts, 128 axis grids; everything if absent</source>
+        <translation>写出内容之和: 2 支座, 4 板和板洞, 8 板钢筋, 32 筏板, 64 筏板钢筋, 128 轴网; 缺省为全部</translation>
     </message>
     <message>
-        <source>is not a text</source>
-        <translation>不是文字</translation>
+        <source>Drawing to write along (.cadi2), with options and floor</source>
+        <translation>一并写出的图纸 (.cadi2), 附选项和楼层</translation>
     </message>
     <message>
-        <source>has the unknown property "%1"</source>
-        <translation>有未知属性 "%1"</translation>
+        <source>File to write the payload to</source>
+        <translation>识别数据写入的文件</translation>
     </message>
     <message>
-        <source>has the property "%1" under two names</source>
-        <translation>属性 "%1" 以两个名称出现</translation>
+        <source>Write a reply into a floor and save the project</source>
+        <translation>将回复写入楼层并保存项目</translation>
     </message>
     <message>
-        <source>names the unknown draw object "%1"</source>
-        <translation>所指的图元 "%1" 不存在</translation>
+        <source>Take everything in the document as new, so that an export is a reply</source>
+        <translation>将文档中的全部内容视为新建, 使导出的文档可作回复</translation>
     </message>
     <message>
-        <source>is not an object</source>
-        <translation>不是对象</translation>
+        <source>File to write the ids of what was made to, with the reply&apos;s identities</source>
+        <translation>写入新建图元 id 及其在回复中标识的文件</translation>
     </message>
     <message>
-        <source>is below 0</source>
-        <translation>小于 0</translation>
+        <source>Slabs, rafts, their holes and bars</source>
+        <translation>板, 筏板及其板洞和钢筋</translation>
     </message>
     <message>
-        <source>is not the text of a curve</source>
-        <translation>不是曲线的文字</translation>
+        <source>hole</source>
+        <translation>板洞</translation>
     </message>
     <message>
-        <source>is not an array of 4 lists</source>
-        <translation>不是 4 个列表的数组</translation>
+        <source>around %1, %2</source>
+        <translation>在 %1, %2 附近</translation>
     </message>
     <message>
-        <source>is not an array</source>
-        <translation>不是数组</translation>
+        <source>nowhere</source>
+        <translation>无位置</translation>
     </message>
     <message>
-        <source>has no "kind"</source>
-        <translation>没有 "kind"</translation>
+        <source>%1 of slabs, %2</source>
+        <translation>板的 %1, %2</translation>
     </message>
     <message>
-        <source>is none of face, line, point, section, face2d, line2d, grid</source>
-        <translation>不是 face, line, point, section, face2d, line2d, grid 之一</translation>
+        <source>nothing lost, added or moved</source>
+        <translation>无丢失, 增加或移动</translation>
     </message>
     <message>
-        <source>has the unknown member "%1"</source>
-        <translation>有未知成员 "%1"</translation>
+        <source>lost: %1</source>
+        <translation>丢失: %1</translation>
     </message>
     <message>
-        <source>The curve of the draw object has no length.</source>
-        <translation>图元的曲线没有长度。</translation>
+        <source>added: %1</source>
+        <translation>增加: %1</translation>
     </message>
     <message>
-        <source>There is no draw object of this building to check.</source>
-        <translation>没有可检查的本建筑图元。</translation>
+        <source>--parts %1 names no part; parts: 2 supports, 4 slabs and holes, 8 bars of slabs, 32 rafts, 64 bars of rafts, 128 axis grids, or a sum of them</source>
+        <translation>--parts %1 不表示任何部分; 各部分: 2 支座, 4 板和板洞, 8 板钢筋, 32 筏板, 64 筏板钢筋, 128 轴网, 或其和</translation>
     </message>
     <message>
-        <source>The draw object stands on no floor.</source>
-        <translation>图元不在任何楼层上。</translation>
+        <source>is no drawing that can be read</source>
+        <translation>不是可读取的图纸</translation>
     </message>
     <message>
-        <source>The draw object has no geometry.</source>
-        <translation>图元没有几何。</translation>
+        <source>the drawing cannot be packed below the temporary folder</source>
+        <translation>图纸无法在临时目录下打包</translation>
     </message>
     <message>
-        <source>The draw object is the same as draw object %1 of "%2".</source>
-        <translation>该图元与 "%2" 的图元 %1 相同。</translation>
+        <source>surface is no outline</source>
+        <translation>surface 不是轮廓</translation>
     </message>
     <message>
-        <source>does not exist</source>
-        <translation>不存在</translation>
+        <source>line is no curve</source>
+        <translation>line 不是曲线</translation>
     </message>
     <message>
-        <source>is no file</source>
-        <translation>不是文件</translation>
+        <source>line has no length</source>
+        <translation>line 长度为零</translation>
     </message>
     <message>
-        <source>cannot be read: %1</source>
-        <translation>无法读取: %1</translation>
+        <source>it stretches to neither side of its line</source>
+        <translation>它未伸出其线的任何一侧</translation>
     </message>
     <message>
-        <source>holds a save that was interrupted and cannot be undone: %1</source>
-        <translation>含有中断的保存且无法撤销: %1</translation>
+        <source>its direction has no length</source>
+        <translation>它的方向长度为零</translation>
     </message>
     <message>
-        <source>would name an object that is gone</source>
-        <translation>将指向已不存在的对象</translation>
+        <source>%1 lies beyond %2 m</source>
+        <translation>%1 超出 %2 m</translation>
     </message>
     <message>
-        <source>is a directory</source>
-        <translation>是目录</translation>
+        <source>has neither &quot;model&quot; nor an array of slabs, rafts, holes or bars: no reply of slabs</source>
+        <translation>既没有 &quot;model&quot;, 也没有板, 筏板, 板洞或钢筋的数组: 不是板的回复</translation>
     </message>
     <message>
-        <source>was changed by another program since it was opened</source>
-        <translation>打开后已被其他程序修改</translation>
+        <source>is no identity</source>
+        <translation>不是标识</translation>
     </message>
     <message>
-        <source>is no type that the host knows: %1</source>
-        <translation>不是宿主认识的类型: %1</translation>
+        <source>%1: %2 made, %3 in the host already, %4 left out</source>
+        <translation>%1: 新建 %2 个, 宿主中已有 %3 个, 略去 %4 个</translation>
     </message>
     <message>
-        <source>is not the text of its geometry</source>
-        <translation>不是其几何的文字</translation>
+        <source>%1 read: %2 made in %3, %4 in the host already, %5</source>
+        <translation>已读取 %1: 新建 %2 个 (%3), 宿主中已有 %4 个, %5</translation>
     </message>
     <message>
-        <source>is missing</source>
-        <translation>缺失</translation>
+        <source>new element</source>
+        <translation>新构件</translation>
     </message>
     <message>
-        <source>is no kind of shape</source>
-        <translation>不是形状的种类</translation>
+        <source>passed over: %1 of supports and axis grids, which no reply makes</source>
+        <translation>跳过: %1 (支座和轴网), 回复不新建它们</translation>
     </message>
     <message>
-        <source>is no group of axes</source>
-        <translation>不是轴线组</translation>
+        <source>%1 with the identity of one before: the id map names both alike</source>
+        <translation>%1与之前的标识相同: id 映射对两者给出同一标识</translation>
     </message>
     <message>
-        <source>has no axis in front of it</source>
-        <translation>前面没有轴线</translation>
+        <source>the host refused it: %1</source>
+        <translation>宿主拒绝: %1</translation>
     </message>
     <message>
-        <source>is no JSON object</source>
-        <translation>不是 JSON 对象</translation>
+        <source>no slab and no raft of the floor holds its middle</source>
+        <translation>楼层中没有板或筏板包含它的中心</translation>
     </message>
     <message>
-        <source>has no row</source>
-        <translation>没有数据行</translation>
+        <source>bar_info &quot;%1&quot; tells no bars</source>
+        <translation>bar_info &quot;%1&quot; 未表示钢筋</translation>
     </message>
     <message>
-        <source>has no shape</source>
-        <translation>没有形状</translation>
+        <source>it lies over another negative bar at the level of its slab</source>
+        <translation>它与同一板标高处的另一负筋重叠</translation>
     </message>
     <message>
-        <source>has the foreign %1 %2</source>
-        <translation>含有外来的 %1 %2</translation>
+        <source>The document is empty.</source>
+        <translation>文档为空。</translation>
     </message>
     <message>
-        <source>has the table %1 in another form</source>
-        <translation>表 %1 的形式不同</translation>
+        <source>The document root must not be followed by other values.</source>
+        <translation>文档的根之后不能有其他值。</translation>
     </message>
     <message>
-        <source>is no project file</source>
-        <translation>不是项目文件</translation>
+        <source>Invalid value.</source>
+        <translation>无效的值。</translation>
     </message>
     <message>
-        <source>is damaged: it ends in its header</source>
-        <translation>已损坏: 文件在文件头内结束</translation>
+        <source>Missing a name for object member.</source>
+        <translation>对象成员缺少名称。</translation>
     </message>
     <message>
-        <source>is an SQLite file, but no project file</source>
-        <translation>是 SQLite 文件, 但不是项目文件</translation>
+        <source>Missing a colon after a name of object member.</source>
+        <translation>对象成员的名称后缺少冒号。</translation>
     </message>
     <message>
-        <source>is of form %1, newer than the form %2 that this program reads</source>
-        <translation>格式为 %1, 比本程序可读的格式 %2 新</translation>
+        <source>Missing a comma or &apos;}&apos; after an object member.</source>
+        <translation>对象成员后缺少逗号或 &apos;}&apos;。</translation>
     </message>
     <message>
-        <source>is of form %1, older than the form %2 that this program reads</source>
-        <translation>格式为 %1, 比本程序可读的格式 %2 旧</translation>
+        <source>Missing a comma or &apos;]&apos; after an array element.</source>
+        <translation>数组元素后缺少逗号或 &apos;]&apos;。</translation>
     </message>
     <message>
-        <source>is in a journal mode that project files do not use</source>
-        <translation>处于项目文件不使用的日志模式</translation>
+        <source>Incorrect hex digit after \u escape in string.</source>
+        <translation>字符串中 \u 转义后的十六进制数字不正确。</translation>
     </message>
     <message>
-        <source>lacks tables of a project file</source>
-        <translation>缺少项目文件的表</translation>
+        <source>The surrogate pair in string is invalid.</source>
+        <translation>字符串中的代理对无效。</translation>
     </message>
     <message>
-        <source>An element cannot have an empty name.</source>
-        <translation>构件名称不能为空。</translation>
+        <source>Invalid escape character in string.</source>
+        <translation>字符串中的转义字符无效。</translation>
     </message>
     <message>
-        <source>The floor has another element of the name "%1".</source>
-        <translation>该楼层已有名为 "%1" 的构件。</translation>
+        <source>Missing a closing quotation mark in string.</source>
+        <translation>字符串缺少结束引号。</translation>
     </message>
     <message>
-        <source>is not JSON: %1</source>
-        <translation>不是 JSON: %1</translation>
+        <source>Invalid encoding in string.</source>
+        <translation>字符串的编码无效。</translation>
     </message>
     <message>
-        <source>is not "hbx-project"</source>
-        <translation>不是 "hbx-project"</translation>
+        <source>Miss fraction part in number.</source>
+        <translation>数值缺少小数部分。</translation>
     </message>
     <message>
-        <source>is newer than %1</source>
-        <translation>比 %1 新</translation>
+        <source>Miss exponent in number.</source>
+        <translation>数值缺少指数。</translation>
     </message>
     <message>
-        <source>is not %1</source>
-        <translation>不是 %1</translation>
+        <source>&quot;%1&quot; stands twice in one object</source>
+        <translation>&quot;%1&quot; 在同一对象中出现两次</translation>
     </message>
     <message>
-        <source>%1 stands twice in the file</source>
-        <translation>%1 在文件中出现两次</translation>
+        <source>the number %1 is too large</source>
+        <translation>数值 %1 过大</translation>
     </message>
     <message>
-        <source>has no file yet</source>
-        <translation>还没有文件</translation>
-    </message>
-    <message>
-        <source>The property "%1" is of the kind %2 and cannot take "%3".</source>
-        <translation>属性 "%1" 的类型是%2, 不能取 "%3"。</translation>
-    </message>
-</context>
-<context>
-    <name>host</name>
-    <message>
-        <source>closes the chain to a ring</source>
-        <translation>使梁链闭合成环</translation>
-    </message>
-    <message>
-        <source>has an empty ring</source>
-        <translation>有空的环</translation>
-    </message>
-    <message>
-        <source>has an open ring</source>
-        <translation>有未闭合的环</translation>
-    </message>
-    <message>
-        <source>has an edge of no length</source>
-        <translation>有长度为零的边</translation>
-    </message>
-    <message>
-        <source>crosses itself</source>
-        <translation>自相交</translation>
-    </message>
-    <message>
-        <source>has no area</source>
-        <translation>没有面积</translation>
-    </message>
-    <message>
-        <source>has a hole that is not inside or meets another</source>
-        <translation>有不在内部或与其他孔相接的孔</translation>
-    </message>
-    <message>
-        <source>is not the text of a polygon</source>
-        <translation>不是多边形的文字</translation>
-    </message>
-    <message>
-        <source>is not the text of a curve</source>
-        <translation>不是曲线的文字</translation>
-    </message>
-    <message>
-        <source>is not an integer of 32 bits</source>
-        <translation>不是 32 位整数</translation>
-    </message>
-    <message>
-        <source>is not a number</source>
-        <translation>不是数值</translation>
-    </message>
-    <message>
-        <source>is not a text</source>
-        <translation>不是文字</translation>
-    </message>
-    <message>
-        <source>names no wall</source>
-        <translation>所指的不是墙</translation>
-    </message>
-    <message>
-        <source>names no slab or raft</source>
-        <translation>所指的不是板或筏板</translation>
-    </message>
-    <message>
-        <source>The outline of the draw object has no edges.</source>
-        <translation>图元的轮廓没有边。</translation>
-    </message>
-    <message>
-        <source>The outline of the draw object is open.</source>
-        <translation>图元的轮廓未闭合。</translation>
-    </message>
-    <message>
-        <source>The outline of the draw object has an edge of no length.</source>
-        <translation>图元的轮廓有长度为零的边。</translation>
-    </message>
-    <message>
-        <source>The outline of the draw object has no area.</source>
-        <translation>图元的轮廓没有面积。</translation>
-    </message>
-    <message>
-        <source>The outline of the draw object crosses or overlaps itself.</source>
-        <translation>图元的轮廓自相交或重叠。</translation>
-    </message>
-    <message>
-        <source>A hole in the outline of the draw object is not inside it.</source>
-        <translation>图元轮廓中的孔不在其内部。</translation>
-    </message>
-    <message>
-        <source>The outline of the draw object is invalid.</source>
-        <translation>图元的轮廓无效。</translation>
-    </message>
-    <message>
-        <source>is being written by another program</source>
-        <translation>正在被其他程序写入</translation>
-    </message>
-    <message>
-        <source>cannot be written: %1</source>
-        <translation>无法写入: %1</translation>
-    </message>
-    <message>
-        <source>is damaged: %1</source>
-        <translation>已损坏: %1</translation>
-    </message>
-    <message>
-        <source>"%1" stands twice in the project</source>
-        <translation>"%1" 在项目中出现两次</translation>
-    </message>
-    <message>
-        <source>"%1" stands twice in the region</source>
-        <translation>"%1" 在区域中出现两次</translation>
-    </message>
-    <message>
-        <source>whole number</source>
-        <translation>整数</translation>
-    </message>
-    <message>
-        <source>number</source>
-        <translation>数值</translation>
-    </message>
-    <message>
-        <source>text</source>
-        <translation>文字</translation>
-    </message>
-    <message>
-        <source>elevation</source>
-        <translation>标高</translation>
-    </message>
-    <message>
-        <source>point</source>
-        <translation>点</translation>
-    </message>
-    <message>
-        <source>curve</source>
-        <translation>曲线</translation>
-    </message>
-    <message>
-        <source>polygon</source>
-        <translation>多边形</translation>
-    </message>
-</context>
-<context>
-    <name>orvcad</name>
-    <message>
-        <source>results of identification</source>
-        <translation>识别结果</translation>
-    </message>
-    <message>
-        <source>order to check</source>
-        <translation>校核任务</translation>
-    </message>
-    <message>
-        <source>order to identify</source>
-        <translation>识别任务</translation>
-    </message>
-    <message>
-        <source>hoop bar settings</source>
-        <translation>箍筋设置</translation>
-    </message>
-    <message>
-        <source>words of elevations</source>
-        <translation>标高用语</translation>
-    </message>
-    <message>
-        <source>Usage</source>
-        <translation>用法</translation>
-    </message>
-    <message>
-        <source>OPTIONS</source>
-        <translation>选项</translation>
-    </message>
-    <message>
-        <source>SUBCOMMAND</source>
-        <translation>子命令</translation>
-    </message>
-    <message>
-        <source>REQUIRED</source>
-        <translation>必填</translation>
-    </message>
-    <message>
-        <source>Positionals</source>
-        <translation>参数</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <translation>选项</translation>
-    </message>
-    <message>
-        <source>Excludes</source>
-        <translation>互斥</translation>
-    </message>
-    <message>
-        <source>%1 added</source>
-        <translation>新增 %1</translation>
-    </message>
-    <message>
-        <source>%1 gone</source>
-        <translation>删除 %1</translation>
-    </message>
-    <message>
-        <source>%1 changed</source>
-        <translation>修改 %1</translation>
-    </message>
-    <message>
-        <source>context of the identification of beams</source>
-        <translation>梁识别的上下文</translation>
-    </message>
-    <message>
-        <source>order to identify beams</source>
-        <translation>梁的识别任务</translation>
-    </message>
-    <message>
-        <source>result of the identification of beams</source>
-        <translation>梁的识别结果</translation>
-    </message>
-    <message>
-        <source>seats of beams</source>
-        <translation>梁的支座</translation>
-    </message>
-    <message>
-        <source>spans of beams by draw object</source>
-        <translation>按图元列出的梁跨</translation>
-    </message>
-    <message>
-        <source>beams for recognition</source>
-        <translation>待识别的梁</translation>
-    </message>
-    <message>
-        <source>drawing file</source>
-        <translation>图纸文件</translation>
-    </message>
-    <message>
-        <source>columns for recognition</source>
-        <translation>待识别的柱</translation>
-    </message>
-    <message>
-        <source>drawing-set file</source>
-        <translation>图纸集文件</translation>
-    </message>
-    <message>
-        <source>floor exchange</source>
-        <translation>楼层交换文档</translation>
-    </message>
-    <message>
-        <source>floors document</source>
-        <translation>楼层文档</translation>
-    </message>
-    <message>
-        <source>building file</source>
-        <translation>建筑文件</translation>
-    </message>
-    <message>
-        <source>identities by draw object</source>
-        <translation>按图元列出的标识</translation>
-    </message>
-    <message>
-        <source>result of a classification of layers</source>
-        <translation>图层分类结果</translation>
-    </message>
-    <message>
-        <source>layers from drawing analysis</source>
-        <translation>图纸分析得到的图层</translation>
-    </message>
-    <message>
-        <source>options to identify openings</source>
-        <translation>洞口的识别选项</translation>
-    </message>
-    <message>
-        <source>reply of doors and windows</source>
-        <translation>门窗的回复</translation>
-    </message>
-    <message>
-        <source>slab IO document</source>
-        <translation>板 IO 文档</translation>
-    </message>
-    <message>
-        <source>slab model document</source>
-        <translation>板模型文档</translation>
-    </message>
-    <message>
-        <source>order to identify walls</source>
-        <translation>墙的识别任务</translation>
-    </message>
-    <message>
-        <source>reply of walls</source>
-        <translation>墙的回复</translation>
-    </message>
-    <message>
-        <source>id</source>
-        <translation>标识</translation>
-    </message>
-    <message>
-        <source>floor</source>
-        <translation>楼层</translation>
-    </message>
-    <message>
-        <source>code</source>
-        <translation>编码</translation>
-    </message>
-    <message>
-        <source>height</source>
-        <translation>层高</translation>
-    </message>
-    <message>
-        <source>elevation</source>
-        <translation>标高</translation>
-    </message>
-    <message>
-        <source>storeys</source>
-        <translation>层数</translation>
-    </message>
-    <message>
-        <source>region</source>
-        <translation>区域</translation>
-    </message>
-    <message>
-        <source>settings</source>
-        <translation>设置</translation>
-    </message>
-    <message>
-        <source>drawings split</source>
-        <translation>图纸拆分</translation>
-    </message>
-    <message>
-        <source>sub-drawing</source>
-        <translation>子图</translation>
-    </message>
-    <message>
-        <source>tables parsed</source>
-        <translation>表格解析</translation>
-    </message>
-    <message>
-        <source>table</source>
-        <translation>表格</translation>
-    </message>
-    <message>
-        <source>floors taken</source>
-        <translation>楼层提取</translation>
-    </message>
-    <message>
-        <source>floors matched</source>
-        <translation>楼层匹配</translation>
-    </message>
-    <message>
-        <source>mapping</source>
-        <translation>对应关系</translation>
-    </message>
-    <message>
-        <source>element types matched</source>
-        <translation>构件类型匹配</translation>
-    </message>
-    <message>
-        <source>layers classified</source>
-        <translation>图层分类</translation>
-    </message>
-    <message>
-        <source>group</source>
-        <translation>组</translation>
-    </message>
-    <message>
-        <source>scales revised</source>
-        <translation>比例修正</translation>
-    </message>
-    <message>
-        <source>drawing</source>
-        <translation>图纸</translation>
-    </message>
-    <message>
-        <source>drawings located</source>
-        <translation>图纸定位</translation>
-    </message>
-    <message>
-        <source>text</source>
-        <translation>文字</translation>
-    </message>
-    <message>
-        <source>a whole number of 32 bits</source>
-        <translation>整数 (32 位)</translation>
-    </message>
-    <message>
-        <source>a number</source>
-        <translation>数值</translation>
-    </message>
-    <message>
-        <source>true or false</source>
-        <translation>布尔值</translation>
-    </message>
-    <message>
-        <source>a whole number of 64 bits</source>
-        <translation>整数 (64 位)</translation>
-    </message>
-    <message>
-        <source>floor code</source>
-        <translation>楼层编码</translation>
-    </message>
-    <message>
-        <source>is no text</source>
-        <translation>不是文字</translation>
-    </message>
-    <message>
-        <source>is no whole number</source>
-        <translation>不是整数</translation>
-    </message>
-    <message>
-        <source>is no whole number from -2147483647 to 2147483647</source>
-        <translation>不是 -2147483647 到 2147483647 的整数</translation>
-    </message>
-    <message>
-        <source>is no number above -1.7976931348623157e+308</source>
-        <translation>不是大于 -1.7976931348623157e+308 的数值</translation>
-    </message>
-    <message>
-        <source>is neither a number nor null</source>
-        <translation>既不是数值也不是 null</translation>
-    </message>
-    <message>
-        <source>is no object</source>
-        <translation>不是对象</translation>
-    </message>
-    <message>
-        <source>is no array</source>
-        <translation>不是数组</translation>
-    </message>
-    <message>
-        <source>All that was asked is done, and all that was sent arrived as it was sent.</source>
-        <translation>要求的都已完成, 传递的数据都原样到达。</translation>
-    </message>
-    <message>
-        <source>The arguments are wrong; nothing was done.</source>
-        <translation>参数错误; 未做任何操作。</translation>
-    </message>
-    <message>
-        <source>An input or a file cannot be used. No project file was changed, unless the message says so.</source>
-        <translation>输入或文件无法使用。除非消息中另有说明, 没有改动任何项目文件。</translation>
-    </message>
-    <message>
-        <source>Done, but some members, parts or values were left out; with --strict nothing was saved.</source>
-        <translation>已完成, 但略去了一些成员、部分或值; 使用 --strict 时什么都没有保存。</translation>
-    </message>
-    <message>
-        <source>The first of them that is set names the language of messages: English or Chinese. Documents, and summaries under --json, are the same in both.</source>
-        <translation>其中第一个已设置的变量决定消息的语言: 英文或中文。文档和 --json 的摘要在两种语言下相同。</translation>
-    </message>
-    <message>
-        <source>If set and not empty, messages have no colours.</source>
-        <translation>设置且不为空时, 消息不带颜色。</translation>
-    </message>
-    <message>
-        <source>If "dumb", there are neither colours nor a progress bar. Files and pipes never get either.</source>
-        <translation>为 "dumb" 时, 既没有颜色也没有进度条。写入文件和管道时始终没有。</translation>
+        <source>the number %1 would be read as %2</source>
+        <translation>数值 %1 会被读成 %2</translation>
     </message>
     <message>
         <source>concrete wall</source>
@@ -2380,10 +2755,6 @@
         <translation>墙洞</translation>
     </message>
     <message>
-        <source>beam</source>
-        <translation>梁</translation>
-    </message>
-    <message>
         <source>link beam</source>
         <translation>连梁</translation>
     </message>
@@ -2392,44 +2763,12 @@
         <translation>拉梁</translation>
     </message>
     <message>
-        <source>slab</source>
-        <translation>板</translation>
-    </message>
-    <message>
-        <source>slab bar</source>
-        <translation>板钢筋</translation>
-    </message>
-    <message>
-        <source>slab negative bar</source>
-        <translation>板负筋</translation>
-    </message>
-    <message>
-        <source>slab opening</source>
-        <translation>板洞</translation>
-    </message>
-    <message>
-        <source>column</source>
-        <translation>柱</translation>
-    </message>
-    <message>
         <source>tie column</source>
         <translation>构造柱</translation>
     </message>
     <message>
         <source>foundation beam</source>
         <translation>基础梁</translation>
-    </message>
-    <message>
-        <source>raft</source>
-        <translation>筏板</translation>
-    </message>
-    <message>
-        <source>raft bar</source>
-        <translation>筏板钢筋</translation>
-    </message>
-    <message>
-        <source>raft negative bar</source>
-        <translation>筏板负筋</translation>
     </message>
     <message>
         <source>isolated footing</source>
@@ -2442,14 +2781,6 @@
     <message>
         <source>pile</source>
         <translation>桩</translation>
-    </message>
-    <message>
-        <source>axis grid</source>
-        <translation>轴网</translation>
-    </message>
-    <message>
-        <source>axis line</source>
-        <translation>轴线</translation>
     </message>
     <message>
         <source>footing unit</source>
@@ -2476,19 +2807,296 @@
         <translation>砌体墙</translation>
     </message>
     <message>
-        <source>type</source>
-        <translation>类型</translation>
-    </message>
-</context>
-<context>
-    <name>orvcad::Message</name>
-    <message>
-        <source>; the project is saved all the same</source>
-        <translation>; 项目仍已保存</translation>
+        <source>is no key of this record, and not read</source>
+        <translation>不是此记录的键, 不会被读取</translation>
     </message>
     <message>
-        <source>; %1 is written all the same</source>
-        <translation>; %1 仍已写出</translation>
+        <source>%1: %2 is one</source>
+        <translation>%1: 可用的键是 %2</translation>
+    </message>
+    <message>
+        <source>A subcommand is required</source>
+        <translation>缺少子命令</translation>
+    </message>
+    <message>
+        <source>%1 is required</source>
+        <translation>缺少 %1</translation>
+    </message>
+    <message>
+        <source>%1 excludes %2</source>
+        <translation>%1 与 %2 不能同时使用</translation>
+    </message>
+    <message>
+        <source>%1: %2 not in {%3}</source>
+        <translation>%1: %2 不在 {%3} 中</translation>
+    </message>
+    <message>
+        <source>%1: Value %2 not in range %3 to %4</source>
+        <translation>%1: 值 %2 不在 %3 到 %4 的范围内</translation>
+    </message>
+    <message>
+        <source>%1: %2 required %3 missing</source>
+        <translation>%1: 缺少 %2 个值 (%3)</translation>
+    </message>
+    <message>
+        <source>%1: At Most %2 required but received %3</source>
+        <translation>%1: 至多 %2 个, 给出了 %3 个</translation>
+    </message>
+    <message>
+        <source>Could not convert: %1 = %2</source>
+        <translation>无法转换: %1 = %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not understood here</source>
+        <translation>此处无法理解 &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>a whole number</source>
+        <translation>整数</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>数组</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>对象</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 或 %2</translation>
+    </message>
+    <message>
+        <source>an empty text</source>
+        <translation>空文字</translation>
+    </message>
+    <message>
+        <source>the text &quot;%1&quot;</source>
+        <translation>文字 &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>the number %1</source>
+        <translation>数值 %1</translation>
+    </message>
+    <message>
+        <source>Project file (.hbxdb)</source>
+        <translation>项目文件 (.hbxdb)</translation>
+    </message>
+    <message>
+        <source>%1, or several</source>
+        <translation>%1, 可多个</translation>
+    </message>
+    <message>
+        <source>Name of the region; may be absent where there is only one</source>
+        <translation>区域名称; 只有一个时可省略</translation>
+    </message>
+    <message>
+        <source>Name or code of the floor</source>
+        <translation>楼层的名称或编码</translation>
+    </message>
+    <message>
+        <source>Kind of walls: brick or force</source>
+        <translation>墙的种类: brick (砌体墙) 或 force (混凝土墙)</translation>
+    </message>
+    <message>
+        <source>; standard output if absent</source>
+        <translation>; 缺省为标准输出</translation>
+    </message>
+    <message>
+        <source>; the directory for several</source>
+        <translation>; 多个时为目录</translation>
+    </message>
+    <message>
+        <source>Save nothing when a member of the %1 is left out</source>
+        <translation>%1有成员被略去时不保存</translation>
+    </message>
+    <message>
+        <source>there is no cloud document of force walls</source>
+        <translation>混凝土墙没有云端文档</translation>
+    </message>
+    <message>
+        <source>will not parse again: %1</source>
+        <translation>无法再次解析: %1</translation>
+    </message>
+    <message>
+        <source>Write what the recognition of walls is told of a floor</source>
+        <translation>写出识别墙所需的楼层数据</translation>
+    </message>
+    <message>
+        <source>Form of the document: json, xml or cloud (brick only)</source>
+        <translation>文档的格式: json, xml 或 cloud (仅 brick)</translation>
+    </message>
+    <message>
+        <source>Drawing of the floor (.cadi2), whose lines and texts are added</source>
+        <translation>楼层的图纸 (.cadi2), 加入其中的线和文字</translation>
+    </message>
+    <message>
+        <source>Brick walls and load-bearing concrete walls</source>
+        <translation>砌体墙和承重混凝土墙</translation>
+    </message>
+    <message>
+        <source>Write walls in the form of a reply</source>
+        <translation>以回复的形式写出墙</translation>
+    </message>
+    <message>
+        <source>%1 on floor %2 of %3</source>
+        <translation>%3 楼层 %2 的 %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2, %3</source>
+        <translation>%2的 %1, %3</translation>
+    </message>
+    <message>
+        <source>piece</source>
+        <translation>段</translation>
+    </message>
+    <message>
+        <source>the reply written again is the same but for ids</source>
+        <translation>再次写出的回复除 id 外相同</translation>
+    </message>
+    <message>
+        <source>the reply written again DIFFERS</source>
+        <translation>再次写出的回复不同</translation>
+    </message>
+    <message>
+        <source>%1, which the original lacks</source>
+        <translation>%1, 原项目中没有</translation>
+    </message>
+    <message>
+        <source>layer &quot;%1&quot; is no name in XML</source>
+        <translation>图层 &quot;%1&quot; 不是 XML 名称</translation>
+    </message>
+    <message>
+        <source>text &quot;%1&quot; on layer &quot;%2&quot; is no name in XML behind its &quot;/&quot;</source>
+        <translation>图层 &quot;%2&quot; 上的文字 &quot;%1&quot; 在 &quot;/&quot; 之后不是 XML 名称</translation>
+    </message>
+    <message>
+        <source>a name of the floor is no name in XML behind its &quot;/&quot;</source>
+        <translation>楼层中有名称在 &quot;/&quot; 之后不是 XML 名称</translation>
+    </message>
+    <message>
+        <source>%1 element</source>
+        <translation>%1构件</translation>
+    </message>
+    <message>
+        <source>%1, %2, %3, %4 and %5 of %6; %7 with %8 and %9</source>
+        <translation>%6 的 %1, %2, %3, %4 和 %5; %7, 含 %8 和 %9</translation>
+    </message>
+    <message>
+        <source>placed brick wall</source>
+        <translation>已布置砌体墙</translation>
+    </message>
+    <message>
+        <source>placed force wall</source>
+        <translation>已布置混凝土墙</translation>
+    </message>
+    <message>
+        <source>brick walls</source>
+        <translation>砌体墙</translation>
+    </message>
+    <message>
+        <source>force wall</source>
+        <translation>混凝土墙</translation>
+    </message>
+    <message>
+        <source>force walls</source>
+        <translation>混凝土墙</translation>
+    </message>
+    <message>
+        <source>draw object %1 is no solid along a line</source>
+        <translation>图元 %1 不是沿线的实体</translation>
+    </message>
+    <message>
+        <source> (%1 more of which none is placed)</source>
+        <translation> (另有 %1 个未布置)</translation>
+    </message>
+    <message>
+        <source>%1%2 in %3 of %4</source>
+        <translation>%4的 %1%2, 共 %3</translation>
+    </message>
+    <message>
+        <source>%1 is not text</source>
+        <translation>%1 不是文字</translation>
+    </message>
+    <message>
+        <source>%1 holds &quot;/&quot; or &quot;:&quot;, which cuts it</source>
+        <translation>%1 含有 &quot;/&quot; 或 &quot;:&quot;, 会被截断</translation>
+    </message>
+    <message>
+        <source>%1 is not the text of a whole number</source>
+        <translation>%1 不是整数的文字</translation>
+    </message>
+    <message>
+        <source>no object of that key: no reply of %1</source>
+        <translation>没有该键的对象: 不是%1的回复</translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; is cut to &quot;%3&quot;</source>
+        <translation>%1 &quot;%2&quot; 被截断为 &quot;%3&quot;</translation>
+    </message>
+    <message>
+        <source>is the same element as %1</source>
+        <translation>与 %1 是同一构件</translation>
+    </message>
+    <message>
+        <source>is not read: half of the %1 keys are entries, counted from 0</source>
+        <translation>不会被读取: %1 个键的一半是条目, 从 0 数起</translation>
+    </message>
+    <message>
+        <source>its pieces are no array</source>
+        <translation>它的段不是数组</translation>
+    </message>
+    <message>
+        <source>type %1 is no %2 (%3)</source>
+        <translation>类型 %1 不是%2 (%3)</translation>
+    </message>
+    <message>
+        <source>width is not above 0</source>
+        <translation>width 不大于 0</translation>
+    </message>
+    <message>
+        <source>the floor has that name already: made as &quot;%1&quot;</source>
+        <translation>楼层中已有该名称: 新建为 &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>the host made %1 of its %2</source>
+        <translation>宿主新建了它的 %2中的 %1 个</translation>
+    </message>
+    <message>
+        <source>made as %1</source>
+        <translation>新建为 %1</translation>
+    </message>
+    <message>
+        <source>, %1 left out</source>
+        <translation>, 略去 %1 个</translation>
+    </message>
+    <message>
+        <source>%1 on floor %2: %3, %4 placed%5</source>
+        <translation>楼层 %2 的 %1: %3, 已布置 %4%5</translation>
+    </message>
+    <message>
+        <source>%1 read: %2 made (%3 under another name), %4 placed, %5</source>
+        <translation>已读取 %1: 新建 %2 (其中 %3 个改名), 已布置 %4, %5</translation>
+    </message>
+    <message>
+        <source>walls</source>
+        <translation>墙</translation>
+    </message>
+    <message>
+        <source>%1 loses the %2 of %3 (%4), with all that is placed.</source>
+        <translation>%1 去掉 %3 的%2 (%4) 及其全部已布置图元。</translation>
+    </message>
+    <message>
+        <source>not XML: %1</source>
+        <translation>不是 XML: %1</translation>
+    </message>
+    <message>
+        <source>has a document type declaration or more than %1 levels, and is not parsed</source>
+        <translation>含有文档类型声明或超过 %1 层, 不予解析</translation>
     </message>
 </context>
 </TS>
