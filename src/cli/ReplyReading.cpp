@@ -14,6 +14,7 @@
 #include "platform/host/IHBXService.h"
 #include "slab/SlabKeys.h"
 
+#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QSet>
@@ -86,6 +87,25 @@ bool hasGaps(const QJsonObject &map)
     return map.size() % 2 != 0;
 }
 
+/** Walls of a name that one before has on its floor. The host has each name once. */
+std::vector<LeftOut> namesakesIn(const WallReplyCheck &check)
+{
+    std::vector<LeftOut> namesakes;
+    QHash<QStringList, QString> places; // by region, floor and name
+    for (const WallReplyCheck::Member &member : check.sound()) {
+        const QString name = member.text(wall::key::entName);
+        const QStringList identity{member.text(wall::key::region), member.text(wall::key::floorCode), name};
+        const auto before = places.constFind(identity);
+        if (before == places.constEnd())
+            places.insert(identity, member.place);
+        else
+            namesakes.push_back(
+                {member.place + QLatin1Char('.') + wall::key::entName, name,
+                 QStringLiteral("is the name of %1, too: the wall is made under another one").arg(*before), false});
+    }
+    return namesakes;
+}
+
 Findings readWallsOf(const WallKind &kind, const QJsonObject &reply, const JsonTree &document,
                      const FaultyValues &faults)
 {
@@ -99,7 +119,10 @@ Findings readWallsOf(const WallKind &kind, const QJsonObject &reply, const JsonT
                           textIn(element.toObject(), wall::key::floorCode));
     const auto project = building.project();
     const WallReplyCheck check(*project->service()->model(), kind, reply, QString());
-    return findingsOf(check.leftOut(), above, document, faults);
+    Findings findings = findingsOf(check.leftOut(), above, document, faults);
+    const Findings renamed = findingsOf(namesakesIn(check), above, document, faults);
+    findings.insert(findings.end(), renamed.begin(), renamed.end());
+    return findings;
 }
 
 /** Of a reply in arrays by type.

@@ -87,6 +87,18 @@ TEST(ReplyReadingTest, wallThatIsEqualToOneBeforeIsLeftOut)
     EXPECT_EQ(walls(faulty), "");
 }
 
+TEST(ReplyReadingTest, wallOfANameThatOneBeforeHasIsMadeUnderAnotherOne)
+{
+    const QJsonObject map{{"key_0", walltest::element("Q1")},
+                          {"value_0", QJsonArray()},
+                          {"key_1", with(walltest::element("Q1"), "width", "240")},
+                          {"value_1", QJsonArray()},
+                          {"key_2", with(walltest::element("Q1"), "floorCode", "2")},
+                          {"value_2", QJsonArray()}};
+    EXPECT_EQ(walls(map), "eBrickWall.ElementsAndEdos.BrickWallIdentifyData.key_1.entName: "
+                          "is the name of BrickWallIdentifyData.key_0, too: the wall is made under another one");
+}
+
 TEST(ReplyReadingTest, wallsWithAGapInTheirNumbersAreToldUnlessAKeyIsMisspelt)
 {
     const QJsonObject map{
