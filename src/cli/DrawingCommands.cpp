@@ -3,6 +3,7 @@
 #include "cli/FloorLookup.h"
 #include "cli/Message.h"
 #include "cli/ProjectFiles.h"
+#include "cli/TextTable.h"
 #include "cli/Verb.h"
 #include "platform/dwgx/DWGXModel.h"
 #include "platform/embedded/HBXFloorDrawing.h"
@@ -43,7 +44,7 @@ QString drawingText(const dwgx::DWGXModel &drawing)
 {
     QStringList lines{QStringLiteral("%1: %2").arg(drawing.getTitle(), countsOf(drawing))};
     for (const dwgx::DWGXLayer &layer : drawing.layers())
-        lines.append(QStringLiteral("  ") + layer.name.leftJustified(24) +
+        lines.append(QStringLiteral("  ") + TextTable::padded(layer.name, 24, TextTable::Align::Left) +
                      Message::tr(" colour %1 %2 lines %3 texts")
                          .arg(layer.color, 3)
                          .arg(layer.lines.size(), 6)

@@ -153,9 +153,8 @@ JsonTree::JsonTree(const QByteArray &text) : m_text(text)
     const int end = start + static_cast<int>(stream.Tell());
     m_isBroken = result.IsError() || end < m_text.size();
     if (result.IsError())
-        m_faults.push_back(
-            {builder.innermost(), start + static_cast<int>(result.Offset()),
-             Message::tr("not JSON: %1").arg(QLatin1String(rapidjson::GetParseError_En(result.Code())))});
+        m_faults.push_back({builder.innermost(), start + static_cast<int>(result.Offset()),
+                            Message::tr("not JSON: %1").arg(Message::tr(rapidjson::GetParseError_En(result.Code())))});
     else if (m_isBroken)
         m_faults.push_back({0, end, Message::tr("not JSON: a character of code 0 stands behind the document.")});
 }

@@ -5,6 +5,7 @@
 #include "cli/BeamReplyCheck.h"
 #include "cli/DocumentReading.h"
 #include "cli/ImpliedBuilding.h"
+#include "cli/Message.h"
 #include "cli/OpeningReplyCheck.h"
 #include "cli/SeatReplyCheck.h"
 #include "cli/SlabReplyCheck.h"
@@ -99,9 +100,9 @@ std::vector<LeftOut> namesakesIn(const WallReplyCheck &check)
         if (before == places.constEnd())
             places.insert(identity, member.place);
         else
-            namesakes.push_back(
-                {member.place + QLatin1Char('.') + wall::key::entName, name,
-                 QStringLiteral("is the name of %1, too: the wall is made under another one").arg(*before), false});
+            namesakes.push_back({member.place + QLatin1Char('.') + wall::key::entName, name,
+                                 Message::tr("is the name of %1, too: the wall is made under another one").arg(*before),
+                                 false});
     }
     return namesakes;
 }

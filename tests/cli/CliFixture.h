@@ -170,14 +170,6 @@ protected:
     void writeReply(const QJsonArray &members) const { write("reply.json", openingtest::replyOf(members)); }
 
 private:
-    /** That of the user, with English messages. */
-    static QProcessEnvironment environment()
-    {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("LANGUAGE", "en");
-        return environment;
-    }
-
     QTemporaryDir m_directory;
-    QProcessEnvironment m_environment = environment();
+    QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();
 };

@@ -6,7 +6,11 @@
 
 #include <CLI/CLI.hpp>
 
+#include <QDirIterator>
 #include <QFileInfo>
+#include <QRegularExpression>
+
+#include <map>
 
 using namespace orvcad;
 
@@ -41,6 +45,33 @@ protected:
         start(process, QStringLiteral("/bin/sh"), {"-c", line});
         return resultOf(process);
     }
+    using Files = std::map<QString, QString>;
+    /** Each export gives slabs new ones. */
+    static QString withoutIdentities(QString text)
+    {
+        return text.remove(QRegularExpression("[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}"));
+    }
+    /** What stands in the directory when the examples are typed, by name; of projects what an export tells. */
+    Files filesOfExamples() const
+    {
+        for (const Example &example : examples())
+            EXPECT_EQ(typed(example.typed).exitCode, example.exitCode) << example.typed;
+        Files files;
+        const QDir directory(path("."));
+        QDirIterator found(directory.path(), QDir::Files, QDirIterator::Subdirectories);
+        while (found.hasNext()) {
+            const QString name = directory.relativeFilePath(found.next());
+            const QString text(name.endsWith(".hbxdb") ? run({"project", "export", name}).out : read(name));
+            files[name] = withoutIdentities(text);
+        }
+        return files;
+    }
+    void startAgain()
+    {
+        QDir directory(path("."));
+        ASSERT_TRUE(directory.removeRecursively() && directory.mkpath("."));
+        SetUp();
+    }
 };
 
 TEST_F(ExamplesTest, eachExampleDoesWhatItSaysWhenTypedAsItStands)
@@ -53,6 +84,19 @@ TEST_F(ExamplesTest, eachExampleDoesWhatItSaysWhenTypedAsItStands)
     for (const char *made :
          {"tour/after.svg", "building.hbxdb", "exported/site.json", "slab-ids.json", "plans/site.svg"})
         EXPECT_TRUE(exists(made)) << made;
+}
+
+TEST_F(ExamplesTest, filesAreTheSameInEveryLanguage)
+{
+    const Files inEnglish = filesOfExamples();
+    startAgain();
+    setVariable("LC_ALL", "C.UTF-8");
+    setVariable("LANGUAGE", "zh_CN");
+    const Files inChinese = filesOfExamples();
+    EXPECT_GT(inEnglish.size(), 40U);
+    EXPECT_EQ(inChinese.size(), inEnglish.size());
+    for (const auto &[name, content] : inEnglish)
+        EXPECT_TRUE(inChinese.count(name) == 1 && inChinese.at(name) == content) << name.toStdString();
 }
 
 void expectExamples(const CLI::App &app)

@@ -56,6 +56,7 @@ TEST_F(ManualCommandTest, manReadsEachChinesePageWithoutAWarning)
     setVariable("LC_ALL", "C.UTF-8");
     setVariable("LANGUAGE", "zh_CN");
     expectShown();
+    EXPECT_TRUE(read("pages/orvcad.1").contains(u8"\n.SH 退出状态\n"));
 }
 
 } // namespace

@@ -17,10 +17,12 @@ void printMessage(QtMsgType, const QMessageLogContext &, const QString &text)
     std::fflush(stdout);
 }
 
-/** Nothing a test sees may depend on the machine: C conventions (with UTF-8 file names), UTC, one order of hashes. */
+/** Nothing a test sees may depend on the machine: C conventions (with UTF-8 file names), English, UTC, one order of
+ *  hashes. */
 void pinSurroundings()
 {
     qputenv("LC_ALL", "C.UTF-8");
+    qputenv("LANGUAGE", "en");
     qputenv("TZ", "UTC");
     qputenv("QT_HASH_SEED", "0");
     qSetGlobalQHashSeed(0);

@@ -3098,5 +3098,9 @@
         <source>has a document type declaration or more than %1 levels, and is not parsed</source>
         <translation>含有文档类型声明或超过 %1 层, 不予解析</translation>
     </message>
+    <message>
+        <source>is the name of %1, too: the wall is made under another one</source>
+        <translation>也是 %1 的名称: 该墙将以另一名称新建</translation>
+    </message>
 </context>
 </TS>
