@@ -167,11 +167,8 @@ void DocumentCheck::checkTree(const JsonTree &tree, const QByteArray &text, cons
     if (kind && !tree.isBroken()) {
         SchemaFindings found = schemaFindings(tree, kind->schema());
         findings.insert(findings.end(), found.findings.begin(), found.findings.end());
-        for (const DefaultedKey &key : found.defaulted) {
-            static const QRegularExpression number(QStringLiteral("\\[[0-9]+\\]"));
-            m_defaults.push_back(
-                {tree.path(key.first, key.key).replace(number, QStringLiteral("[*]")), key.value, key.count});
-        }
+        for (const DefaultedKey &key : found.defaulted)
+            addDefault(tree, key);
     }
     const FaultyValues faults(tree, findings);
     tell(tree, std::move(findings));
@@ -183,6 +180,19 @@ void DocumentCheck::checkTree(const JsonTree &tree, const QByteArray &text, cons
     std::stable_sort(m_findings.begin(), m_findings.end(), [](const Told &a, const Told &b) {
         return std::pair(a.position.line, a.position.column) < std::pair(b.position.line, b.position.column);
     });
+}
+
+void DocumentCheck::addDefault(const JsonTree &tree, const DefaultedKey &key)
+{
+    static const QRegularExpression number(QStringLiteral("\\[[0-9]+\\]"));
+    const QString path = tree.path(key.first, key.key).replace(number, QStringLiteral("[*]"));
+    // Records of several forms in one list lack a key each for itself.
+    const auto same = std::find_if(m_defaults.begin(), m_defaults.end(),
+                                   [&](const Default &one) { return one.path == path && one.value == key.value; });
+    if (same == m_defaults.end())
+        m_defaults.push_back({path, key.value, key.count});
+    else
+        same->count += key.count;
 }
 
 void DocumentCheck::tell(const JsonTree &tree, std::vector<CheckFinding> findings)

@@ -63,6 +63,7 @@ private:
     void checkArchive(const QByteArray &bytes);
     void checkTree(const JsonTree &tree, const QByteArray &text, const DocumentKind *kind);
     void setKind(const DocumentKind &kind);
+    void addDefault(const JsonTree &tree, const DefaultedKey &key);
     void tell(const JsonTree &tree, std::vector<CheckFinding> findings);
     void tellUnusable(const QString &reason, const QString &place = {});
 

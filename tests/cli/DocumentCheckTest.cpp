@@ -45,6 +45,17 @@ TEST_F(DocumentCheckTest, missingKeysAreToldWithWhatTheyReadAs)
               "f: missing keys read as: eDoorWin.ElementsAndEdos[*].nHeightFromFloor (1) as 0");
 }
 
+TEST_F(DocumentCheckTest, keyThatRecordsOfSeveralFormsLackIsToldOnce)
+{
+    EXPECT_EQ(linesOf(R"({"eDoorWin": {"ElementsAndEdos": [
+        {"elementID": 1, "name": "M1", "nElementType": 4, "nSubElementType": 14, "nWidth": 900, "nHeight": 2100,
+         "floorName": "1", "regionName": "A"},
+        {"elementName": "M1", "X": 1, "Y": 2, "floorName": "1", "regionName": "A"},
+        {"elementName": "M1", "X": 5, "Y": 2, "floorName": "1", "regionName": "A"}]}})"),
+              "f: reply of doors and windows: clean\n"
+              "f: missing keys read as: eDoorWin.ElementsAndEdos[*].nHeightFromFloor (3) as 0");
+}
+
 TEST_F(DocumentCheckTest, whatApplyingAReplyWouldLeaveOutStandsBetweenTheFaults)
 {
     EXPECT_EQ(linesOf(R"({"eDoorWin": {"ElementsAndEdos": [

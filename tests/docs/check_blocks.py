@@ -26,13 +26,6 @@ from check_documents import validator_of
 
 # Page, first line of the block, and why it is not run.
 UNRUN = {
-    ("docs/cli.md", "$ orvcad project import broken.json -o house.hbxdb"): "shows the form of a message",
-    ("docs/cli.md", "$ orvcad column check reply.json"): "a reply with two faults in it, made up",
-    ("docs/cli.md", '$ orvcad copy house.hbxdb --floor "Level 1" --to-floor "Level 2" --roads wall,opening'):
-        "a house of its own, made up",
-    ("docs/cli.md", "$ orvcad draw house.hbxdb barn.hbxdb --floor 1 -o plans"): "buildings of their own, made up",
-    ("docs/cli.md", "$ orvcad diff before.hbxdb after.hbxdb"): "buildings of their own, made up",
-    ("docs/cli.md", "$ orvcad check reply.json"): "a reply with two faults in it, made up",
     ("docs/at-scale.md", "$ find buildings -name '*.json' -print0 |"): "needs other machines",
     ("docs/linking.md", 'cmake --install build/release --prefix "$HOME/orvcad"'): "run by tests/package",
     ("docs/linking.md", 'cmake -S examples/floors_reader -B build/floors_reader -D CMAKE_PREFIX_PATH="$HOME/orvcad"'): "run by tests/package",

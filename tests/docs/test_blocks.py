@@ -131,7 +131,7 @@ class OtherBlocks(unittest.TestCase):
         self.assertIn("docs/a.md: not run, and no reason is told: x", unrun_problems([block("x\n", "sh", "unrun")]))
 
     def test_reasonWithoutABlockIsFound(self):
-        self.assertIn("docs/cli.md: no such block is marked unrun: $ orvcad column check reply.json",
+        self.assertIn("docs/at-scale.md: no such block is marked unrun: $ find buildings -name '*.json' -print0 |",
                       unrun_problems([]))
 
 
