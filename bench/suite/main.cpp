@@ -76,12 +76,11 @@ std::vector<bench::Measurement> measuredOnce(const bench::Road &road, const Opti
  *  @param all  measurements of the same sizes */
 std::vector<bench::Measurement> mediansOf(const std::vector<std::vector<bench::Measurement>> &all)
 {
-    std::vector<bench::Measurement> medians;
-    for (std::size_t size = 0; size < all.front().size(); ++size) {
-        std::vector<bench::Measurement> ofSize;
-        for (const std::vector<bench::Measurement> &sizes : all)
-            ofSize.push_back(sizes[size]);
-        medians.push_back(bench::medianOf(ofSize));
+    std::vector<bench::Measurement> medians(all.front().size());
+    for (std::size_t size = 0; size < medians.size(); ++size) {
+        std::vector<bench::Measurement> ofSize(all.size());
+        std::transform(all.begin(), all.end(), ofSize.begin(), [size](const auto &sizes) { return sizes[size]; });
+        medians[size] = bench::medianOf(ofSize);
     }
     return medians;
 }
