@@ -2851,6 +2851,10 @@
         <translation>此处无法理解 &quot;%1&quot;</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; is not understood here; &quot;%2&quot; may be meant</source>
+        <translation>此处无法理解 &quot;%1&quot;; 可能应为 &quot;%2&quot;</translation>
+    </message>
+    <message>
         <source>a text</source>
         <translation>文字</translation>
     </message>
