@@ -57,7 +57,7 @@ public:
 
 CommandLine::CommandLine()
     : m_app(std::make_unique<CLI::App>(
-          Message::help("Moves buildings between a host model, recognition payloads and replies."), "orvcad"))
+          Message::help("Moves buildings between a host model, recognition payloads and replies"), "orvcad"))
 {
     m_app->formatter(std::make_shared<HelpFormatter>());
     m_app->group(Message::help("Subcommands"));

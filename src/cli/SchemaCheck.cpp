@@ -33,13 +33,16 @@ struct Applied
     bool isUndecided = false; ///< its case is unknown, and with it the keys that it may have
 };
 
-/** First description on the way through references. */
+/** First description on the way through references, without a full stop, since it stands in brackets. */
 QString meaningOf(const JsonSchema &schema)
 {
     const JsonSchema *one = &schema;
     while (one && one->description.isEmpty())
         one = one->reference;
-    return one ? one->description : QString();
+    QString meaning = one ? one->description : QString();
+    if (meaning.endsWith(u'.'))
+        meaning.chop(1);
+    return meaning;
 }
 
 QString meaningOf(const Schemas &schemas)

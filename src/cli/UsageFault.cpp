@@ -1,6 +1,7 @@
 #include "cli/UsageFault.h"
 
 #include "cli/Message.h"
+#include "cli/NearestName.h"
 
 #include <CLI/CLI.hpp>
 
@@ -46,14 +47,40 @@ QString translated(QString text)
     return text;
 }
 
+/** What might stand in the place of a word that nothing took: the options there, or the verbs. */
+QStringList namesFor(const QString &word, const CLI::App &program)
+{
+    const CLI::App *verb = &program;
+    while (!verb->get_subcommands().empty())
+        verb = verb->get_subcommands().front();
+    QStringList names;
+    if (!word.startsWith(u'-')) {
+        for (const CLI::App *below : verb->get_subcommands([](const CLI::App *) { return true; }))
+            if (!below->get_group().empty()) // shown in the help
+                names.append(QString::fromStdString(below->get_name()));
+        return names;
+    }
+    for (; verb; verb = verb->get_parent())
+        for (const CLI::Option *option : verb->get_options())
+            for (const std::string &name : option->get_lnames())
+                names.append(QStringLiteral("--") + QString::fromStdString(name));
+    return names;
+}
+
+QString notUnderstood(const std::string &argument, const CLI::App &program)
+{
+    const QString word = QString::fromStdString(argument);
+    const QString meant = nearestName(word.section(u'=', 0, 0), namesFor(word, program));
+    return meant.isEmpty() ? Message::tr("\"%1\" is not understood here").arg(word)
+                           : Message::tr("\"%1\" is not understood here; \"%2\" may be meant").arg(word, meant);
+}
+
 } // namespace
 
 UsageFault::UsageFault(const CLI::App &app, const CLI::ParseError &error)
 {
     const std::vector<std::string> notTaken = app.remaining(true);
-    m_message = notTaken.empty()
-                    ? translated(QString::fromUtf8(error.what()))
-                    : Message::tr("\"%1\" is not understood here").arg(QString::fromStdString(notTaken.front()));
+    m_message = notTaken.empty() ? translated(QString::fromUtf8(error.what())) : notUnderstood(notTaken.front(), app);
 }
 
 } // namespace orvcad

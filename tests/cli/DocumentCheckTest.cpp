@@ -25,7 +25,7 @@ TEST_F(DocumentCheckTest, cleanDocumentIsCalledSo)
 TEST_F(DocumentCheckTest, eachFaultHasLineAndColumnAndPlace)
 {
     EXPECT_EQ(linesOf("{\"AreaName\": 5,\n \"Floros\": []}"),
-              "f:1:14: AreaName: is the number 5; a text is expected (Name of the area.)\n"
+              "f:1:14: AreaName: is the number 5; a text is expected (Name of the area)\n"
               "f:2:2: Floros: is no key of this object; \"Floors\" is meant, which is missing\n"
               "f: floors document: faulty, 2 faults");
 }
@@ -109,7 +109,7 @@ TEST_F(DocumentCheckTest, summaryHoldsEverything)
                                       {"column", 14},
                                       {"value", "5"},
                                       {"expected", "a text"},
-                                      {"message", "is the number 5; a text is expected (Name of the area.)"}})});
+                                      {"message", "is the number 5; a text is expected (Name of the area)"}})});
     EXPECT_TRUE(json["ignored"].toArray().isEmpty());
 }
 

@@ -99,6 +99,21 @@ TEST(UsageFaultOfUnknownArgumentsTest, firstOneThatNothingTookIsToldBeforeWhatIs
     EXPECT_EQ(said("slab export a.hbxdb --storey 1"), "此处不识别 \"--storey\"");
 }
 
+TEST(UsageFaultOfUnknownArgumentsTest, verbOrOptionThatIsLikelyMeantIsTold)
+{
+    EXPECT_EQ(said("slab expotr a.hbxdb"), "\"expotr\" is not understood here; \"export\" may be meant");
+    EXPECT_EQ(said("drw a.hbxdb"), "\"drw\" is not understood here; \"draw\" may be meant");
+    EXPECT_EQ(said("slab export a.hbxdb --flor=1"), "\"--flor=1\" is not understood here; \"--floor\" may be meant");
+    EXPECT_EQ(said("slab export a.hbxdb --floor 1 --quite"),
+              "\"--quite\" is not understood here; \"--quiet\" may be meant");
+}
+
+TEST(UsageFaultOfUnknownArgumentsTest, hiddenVerbsAndVerbsOfOtherGroupsAreNotTold)
+{
+    EXPECT_EQ(said("complet"), "\"complet\" is not understood here");
+    EXPECT_EQ(said("exprt a.hbxdb"), "\"exprt\" is not understood here");
+}
+
 TEST(UsageFaultOfUnknownSentencesTest, staysAsItIs)
 {
     const GivenMessages chinese({{"%1 is required", "缺少 %1"}});

@@ -1043,8 +1043,8 @@
         <translation>互斥</translation>
     </message>
     <message>
-        <source>Moves buildings between a host model, recognition payloads and replies.</source>
-        <translation>在宿主模型, 识别数据和回复之间传递建筑。</translation>
+        <source>Moves buildings between a host model, recognition payloads and replies</source>
+        <translation>在宿主模型、识别数据和回复之间传递建筑</translation>
     </message>
     <message>
         <source>Subcommands</source>
@@ -2360,11 +2360,11 @@
     </message>
     <message>
         <source>%1 is expected</source>
-        <translation>应为 %1</translation>
+        <translation>应为%1</translation>
     </message>
     <message>
         <source>is %1</source>
-        <translation>是 %1</translation>
+        <translation>是%1</translation>
     </message>
     <message>
         <source>is more than the form has</source>
@@ -2436,7 +2436,7 @@
     </message>
     <message>
         <source>is %1, which %2</source>
-        <translation>是 %1, 它%2</translation>
+        <translation>是%1, %2</translation>
     </message>
     <message>
         <source>at least %1</source>
@@ -2851,6 +2851,10 @@
         <translation>此处无法理解 &quot;%1&quot;</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; is not understood here; &quot;%2&quot; may be meant</source>
+        <translation>此处无法理解 &quot;%1&quot;; 可能应为 &quot;%2&quot;</translation>
+    </message>
+    <message>
         <source>a text</source>
         <translation>文字</translation>
     </message>
@@ -3064,7 +3068,7 @@
     </message>
     <message>
         <source>the host made %1 of its %2</source>
-        <translation>宿主新建了它的 %2中的 %1 个</translation>
+        <translation>宿主新建了它的 %2 中的 %1 个</translation>
     </message>
     <message>
         <source>made as %1</source>
