@@ -1455,12 +1455,12 @@
         <translation>已在 %2绘制 %1。%3</translation>
     </message>
     <message>
-        <source>is for png pictures</source>
-        <translation>仅用于 png 图片</translation>
+        <source>is for png pictures, which a name ending in .png asks for</source>
+        <translation>仅用于 png 图片, 由以 .png 结尾的文件名指定</translation>
     </message>
     <message>
-        <source>is for html pages</source>
-        <translation>仅用于 html 页面</translation>
+        <source>is for html pages, which a name ending in .html asks for</source>
+        <translation>仅用于 html 页面, 由以 .html 结尾的文件名指定</translation>
     </message>
     <message>
         <source>takes all floors, without --region and --floor</source>
