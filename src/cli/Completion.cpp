@@ -2,7 +2,9 @@
 
 #include "cli/Arguments.h"
 #include "cli/Command.h"
+#include "cli/DocumentKinds.h"
 #include "cli/FloorLookup.h"
+#include "cli/Message.h"
 #include "cli/ProjectFiles.h"
 #include "platform/host/IHBXFloor.h"
 #include "platform/host/IHBXRegion.h"
@@ -53,6 +55,8 @@ public:
                 return option;
         return nullptr;
     }
+    /** How many positional arguments there have been. */
+    std::size_t positionals() const { return m_positionals; }
     const std::string &project() const { return m_project; }
     const std::string &region() const { return m_region; }
 
@@ -197,8 +201,12 @@ private:
         for (const CLI::App *verb : verbs)
             add(verb->get_name(), verb->get_description());
         const CLI::Option *positional = m_line.nextPositional();
-        if (positional)
-            addValues(*positional);
+        if (!positional)
+            return;
+        if (positional->check_name("[KIND] FILE") && m_line.positionals() == 0)
+            for (const DocumentKind &kind : documentKinds())
+                add(kind.name, Message::tr(kind.title).toStdString());
+        addValues(*positional);
     }
 
     const Line &m_line;

@@ -88,15 +88,15 @@ Summary draw(const Arguments &arguments)
 void checkOptions(const Arguments &arguments, bool hasWidth)
 {
     const std::string format = formatOf(arguments);
+    if (format != kHtml && !arguments.against.empty())
+        throw CLI::ValidationError("--against",
+                                   Message::help("is for html pages, which a name ending in .html asks for"));
     if (format != kHtml && arguments.floor.empty())
         throw CLI::RequiredError("--floor");
     if (hasWidth && format != kPng)
-        throw CLI::ValidationError("--width", Message::help("is for png pictures"));
-    if (arguments.against.empty())
-        return;
-    if (format != kHtml)
-        throw CLI::ValidationError("--against", Message::help("is for html pages"));
-    if (!arguments.floor.empty() || !arguments.region.empty())
+        throw CLI::ValidationError("--width",
+                                   Message::help("is for png pictures, which a name ending in .png asks for"));
+    if (!arguments.against.empty() && (!arguments.floor.empty() || !arguments.region.empty()))
         throw CLI::ValidationError("--against", Message::help("takes all floors, without --region and --floor"));
 }
 

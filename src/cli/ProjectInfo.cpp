@@ -89,7 +89,8 @@ void appendFloorLines(const ProjectInfo::Floor &floor, QStringList &lines)
                      .arg(floor.name, floor.code, QString::number(floor.bottomElev), QString::number(floor.height)));
     for (auto type = floor.types.cbegin(); type != floor.types.cend(); ++type)
         lines.append(
-            Message::tr("    %1 %2 elements %3 placed")
+            (type->elements == 1 ? Message::tr("    %1 %2 element  %3 placed")
+                                 : Message::tr("    %1 %2 elements %3 placed"))
                 .arg(TextTable::padded(QStringLiteral("%1 (%2)").arg(shownTypeTitle(type.key())).arg(type.key()), 26,
                                        TextTable::Align::Left))
                 .arg(type->elements, 5)

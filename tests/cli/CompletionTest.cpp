@@ -71,6 +71,13 @@ TEST_F(CompletionTest, filesAreAskedForWithTheEndingThatTheVerbTakes)
     EXPECT_EQ(told({"slab", "export", "--parts", ""}), "");
 }
 
+TEST_F(CompletionTest, kindOfDocumentMayStandBeforeTheFilesToCheck)
+{
+    EXPECT_EQ(told({"check", "slab-"}), "slab-io slab-model :files");
+    EXPECT_EQ(told({"check", "slab-io", "slab-"}), ":files");
+    EXPECT_EQ(of({"check", "floors"}).candidates.at(0).description, "floors document");
+}
+
 TEST_F(CompletionTest, regionsAndFloorsAreThoseOfTheProject)
 {
     const std::string project = house();

@@ -81,6 +81,17 @@ TEST_F(DrawCommandTest, widthIsForPngPicturesAndHasLimits)
     EXPECT_FALSE(exists("a.png"));
 }
 
+TEST_F(DrawCommandTest, comparisonIsForPagesAndSaysSoBeforeItAsksForAFloor)
+{
+    importSmallHouse();
+    const Result picture = run({"draw", "house.hbxdb", "--against", "house.hbxdb", "-o", "plan.svg"});
+    EXPECT_EQ(picture.exitCode, 1);
+    EXPECT_TRUE(picture.err.startsWith("orvcad: --against: is for html pages, which a name ending in .html asks for\n"))
+        << picture.err.toStdString();
+    EXPECT_EQ(run({"draw", "house.hbxdb", "--against", "house.hbxdb", "--floor", "1", "-o", "p.html"}).exitCode, 1);
+    EXPECT_EQ(run({"draw", "house.hbxdb", "--against", "house.hbxdb", "-o", "page.html"}).exitCode, 0);
+}
+
 TEST_F(DrawCommandTest, missingPainterIsTold)
 {
     importSmallHouse();

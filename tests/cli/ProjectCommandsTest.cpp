@@ -81,7 +81,7 @@ TEST_F(ProjectCommandsTest, infoPrintsATableForPeople)
     EXPECT_EQ(lines[0], "Small house: 1 region, 1 floor, 1 element, 1 placed object");
     EXPECT_EQ(lines[1], "Region House");
     EXPECT_EQ(lines[2], "  Level 1 (code 1): bottom 0 m, height 3 m");
-    EXPECT_EQ(lines[3].simplified(), "brick wall (1003) 1 elements 1 placed");
+    EXPECT_EQ(lines[3].simplified(), "brick wall (1003) 1 element 1 placed");
 }
 
 TEST_F(ProjectCommandsTest, infoCountsTheDuplexApartment)

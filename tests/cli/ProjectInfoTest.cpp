@@ -57,7 +57,7 @@ TEST(ProjectInfoTest, numbersStandBelowOneAnotherBehindWideTitles)
     ProjectInfo info;
     info.regions = {{"R", {floor}}};
     EXPECT_EQ(info.table().split('\n').last(),
-              QStringLiteral("文    文beam (15)                    1 elements     20 placed"));
+              QStringLiteral("文    文beam (15)                    1 element      20 placed"));
 }
 
 TEST(ProjectInfoTest, placeholdersInNamesAreLeftAlone)

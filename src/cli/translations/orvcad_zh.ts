@@ -197,7 +197,7 @@
     </message>
     <message>
         <source>belongs to doors, windows and holes only</source>
-        <translation>只属于门, 窗和洞口</translation>
+        <translation>只属于门、窗和洞口</translation>
     </message>
     <message>
         <source>names no draw object of &quot;%1&quot;</source>
@@ -624,7 +624,7 @@
     </message>
     <message>
         <source>Foundations, pile caps, piles and tie beams under beams</source>
-        <translation>梁下的基础, 桩承台, 桩和拉梁</translation>
+        <translation>梁下的基础、桩承台、桩和拉梁</translation>
     </message>
     <message>
         <source>Write the seats that can be made anew</source>
@@ -932,7 +932,7 @@
     </message>
     <message>
         <source>missing keys, read as 0, false or empty: %1</source>
-        <translation>缺失的键 (读作 0, false 或空): %1</translation>
+        <translation>缺失的键 (读作 0、false 或空): %1</translation>
     </message>
     <message>
         <source>column record</source>
@@ -952,7 +952,7 @@
     </message>
     <message>
         <source>Order to identify or check columns, or results</source>
-        <translation>柱的识别任务, 校核任务或结果</translation>
+        <translation>柱的识别任务、校核任务或结果</translation>
     </message>
     <message>
         <source>is written as &quot;%1&quot;: geometry has one form and six digits</source>
@@ -1455,12 +1455,12 @@
         <translation>已在 %2绘制 %1。%3</translation>
     </message>
     <message>
-        <source>is for png pictures</source>
-        <translation>仅用于 png 图片</translation>
+        <source>is for png pictures, which a name ending in .png asks for</source>
+        <translation>仅用于 png 图片, 由以 .png 结尾的文件名指定</translation>
     </message>
     <message>
-        <source>is for html pages</source>
-        <translation>仅用于 html 页面</translation>
+        <source>is for html pages, which a name ending in .html asks for</source>
+        <translation>仅用于 html 页面, 由以 .html 结尾的文件名指定</translation>
     </message>
     <message>
         <source>takes all floors, without --region and --floor</source>
@@ -2335,6 +2335,10 @@
         <translation>  %1 (编码 %2): 底标高 %3 m, 层高 %4 m</translation>
     </message>
     <message>
+        <source>    %1 %2 element  %3 placed</source>
+        <translation>    %1 %2 个构件 %3 个已布置</translation>
+    </message>
+    <message>
         <source>    %1 %2 elements %3 placed</source>
         <translation>    %1 %2 个构件 %3 个已布置</translation>
     </message>
@@ -2552,7 +2556,7 @@
     </message>
     <message>
         <source>Slabs, rafts, their holes and bars</source>
-        <translation>板, 筏板及其板洞和钢筋</translation>
+        <translation>板、筏板及其板洞和钢筋</translation>
     </message>
     <message>
         <source>hole</source>
@@ -2572,7 +2576,7 @@
     </message>
     <message>
         <source>nothing lost, added or moved</source>
-        <translation>无丢失, 增加或移动</translation>
+        <translation>无丢失、增加或移动</translation>
     </message>
     <message>
         <source>lost: %1</source>
@@ -2620,7 +2624,7 @@
     </message>
     <message>
         <source>has neither &quot;model&quot; nor an array of slabs, rafts, holes or bars: no reply of slabs</source>
-        <translation>既没有 &quot;model&quot;, 也没有板, 筏板, 板洞或钢筋的数组: 不是板的回复</translation>
+        <translation>既没有 &quot;model&quot;, 也没有板、筏板、板洞或钢筋的数组: 不是板的回复</translation>
     </message>
     <message>
         <source>is no identity</source>
@@ -2932,7 +2936,7 @@
     </message>
     <message>
         <source>Form of the document: json, xml or cloud (brick only)</source>
-        <translation>文档的格式: json, xml 或 cloud (仅 brick)</translation>
+        <translation>文档的格式: json、xml 或 cloud (仅 brick)</translation>
     </message>
     <message>
         <source>Drawing of the floor (.cadi2), whose lines and texts are added</source>
