@@ -19,7 +19,7 @@ QString Language::chosen(const QStringList &wanted)
 {
     const QStringList there{kOfSources, QStringLiteral("zh")};
     for (const QString &language : wanted) {
-        const QString name = language.section(QLatin1Char('-'), 0, 0);
+        QString name = language.section(QLatin1Char('-'), 0, 0);
         if (there.contains(name))
             return name;
     }
