@@ -50,7 +50,7 @@ TEST_F(TerminalTest, whatWasLeftOutIsYellowOnATerminal)
     importSmallHouse();
     writeReply({1});
     EXPECT_TRUE(shownOfReply("en").contains("\n  \033[33mleft out:\033[0m "));
-    EXPECT_TRUE(shownOfReply("zh").contains("\n  \033[33m"));
+    EXPECT_TRUE(shownOfReply("zh").contains(u8"\n  \033[33m略去:\033[0m "));
 }
 
 TEST_F(TerminalTest, streamThatIsNoTerminalShowsNothing)
