@@ -77,7 +77,7 @@ std::vector<CheckFinding> readingOf(const DocumentKind &kind, const JsonTree &tr
                                     const FaultyValues &faults)
 {
     if (kind.memberReading)
-        return kind.memberReading(tree, text, faults);
+        return kind.memberReading(tree, tree.textThatCounts(), faults);
     return kind.reading && faults.isEmpty() ? kind.reading(tree, text) : std::vector<CheckFinding>();
 }
 

@@ -46,12 +46,12 @@ void requireStrictJson(const QByteArray &text, const QString &path, LargeNumbers
 
 QJsonDocument parseJson(const QByteArray &text, const QString &path, LargeNumbers large)
 {
+    requireStrictJson(text, path, large); // first, since Qt's reader leaks what it drops of two members of one name
     QJsonParseError error;
     QJsonDocument document = QJsonDocument::fromJson(text, &error);
-    if (error.error != QJsonParseError::NoError)
+    if (error.error != QJsonParseError::NoError) // nested deeper than it follows
         throw CommandFailure(kBadInput, path, dwgx::lineAndColumn(text, error.offset),
                              Message::tr("not JSON: %1").arg(error.errorString()));
-    requireStrictJson(text, path, large);
     return document;
 }
 

@@ -213,6 +213,21 @@ void JsonTree::noteRepeated(Index object)
     }
 }
 
+QByteArray JsonTree::textThatCounts() const
+{
+    if (std::none_of(m_nodes.begin(), m_nodes.end(), [](const Node &one) { return one.isShadowed; }))
+        return m_text;
+    QByteArray text;
+    int from = 0;
+    for (const Node &one : m_nodes) {
+        if (!one.isShadowed || one.keyOffset < from)
+            continue;
+        text += m_text.mid(from, one.keyOffset - from);
+        from = node(one.next).keyOffset; // of the member behind it, and be it the one of its key
+    }
+    return text + m_text.mid(from);
+}
+
 JsonTree::Index JsonTree::member(Index object, std::string_view key) const
 {
     Index child = node(object).firstChild;

@@ -71,6 +71,9 @@ public:
     const std::vector<TextFault> &textFaults() const { return m_faults; }
     bool isBroken() const { return m_isBroken; }
 
+    /** The text without the members that stand once more behind: Qt's reader drops them, and leaks what they hold. */
+    QByteArray textThatCounts() const;
+
     /** The member that is read; kNone without one. */
     Index member(Index object, std::string_view key) const;
     double number(Index index) const;

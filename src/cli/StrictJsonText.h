@@ -15,9 +15,9 @@ enum class LargeNumbers {
     Taken ///< for verbs that tell themselves how it is read and written
 };
 
-/** The first fault of a JSON text, its place told as line and column. The library's own reader accepts texts that are no JSON, keeps the last of two members
- *  of one name, and rounds whole numbers beyond 2^53: whoever wrote such a document did not mean what would be read. So a
- *  text is read once more here, by the letter of the standard:
+/** The first fault of a JSON text, its place told as line and column. The library's own reader accepts texts that are no
+ *  JSON, keeps the last of two members of one name, and rounds whole numbers beyond 2^53: whoever wrote such a document
+ *  did not mean what would be read. So a text is read once more here, by the letter of the standard:
  *    - syntax, numbers, escapes, control characters and UTF-8 are as JSON has them,
  *    - an object has each member once,
  *    - a number is finite, and a whole one is kept to its last digit, unless large ones are taken.

@@ -87,7 +87,8 @@ TEST_F(ColumnCommandsTest, fileThatIsNoColumnRecordIsRefused)
                     {"[]", "", "no column record: its top is no object"},
                     {"{}", "", "no column record: it has none of the keys of one"},
                     {R"({"AreaName": "A", "Floors": []})", "", "no column record: it has none of the keys of one"},
-                    {"{\n  \"drawing\" \"A\"\n}", "line 2, column 14", "not JSON: missing name separator"}});
+                    {"{\n  \"drawing\" \"A\"\n}", "line 2, column 13",
+                     "not JSON: Missing a colon after a name of object member."}});
     refusal({"column", "check", "nowhere.json"}, "nowhere.json");
     EXPECT_EQ(refusal({"column", "check", "."}, ".")["reason"], "is a directory");
 }

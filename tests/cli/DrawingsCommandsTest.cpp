@@ -127,7 +127,8 @@ TEST_F(DrawingsCommandsTest, setThatIsNoneIsRefusedWithItsPlace)
                     {R"({"format": "hbx-project", "version": 1})", "", foreign},
                     {R"({"SPLITDRAWING": {}})", "", foreign},
                     {R"({"splitDrawing": {}})", "parseDrawing", "is missing"},
-                    {"{\n  \"splitDrawing\" {}\n}", "line 2, column 19", "not JSON: missing name separator"}});
+                    {"{\n  \"splitDrawing\" {}\n}", "line 2, column 18",
+                     "not JSON: Missing a colon after a name of object member."}});
     EXPECT_EQ(refusal({"drawings", "show", kExchange}, kExchange)["reason"], foreign);
     EXPECT_EQ(refusal({"drawings", "show", "."}, ".")["reason"], "is a directory");
     refusal({"drawings", "show", "nowhere.json"}, "nowhere.json");

@@ -173,8 +173,9 @@ TEST_F(FloorsCommandsTest, documentThatIsNoFloorsDocumentIsRefusedWithItsPlace)
          {R"({"AreaName": "A"})", "", lacking},
          {R"({"Floors": []})", "", lacking},
          {R"({"AreaName": "A", "Floors": {}})", "Floors", "is no array"},
-         {"{\n  \"AreaName\" \"A\"\n}", "line 2, column 15", "not JSON: missing name separator"},
-         {"{\n  \"AreaName\": \"A\",\n  \"Floors\": [x]\n}", "line 3, column 14", "not JSON: illegal number"}});
+         {"{\n  \"AreaName\" \"A\"\n}", "line 2, column 14",
+          "not JSON: Missing a colon after a name of object member."},
+         {"{\n  \"AreaName\": \"A\",\n  \"Floors\": [x]\n}", "line 3, column 14", "not JSON: Invalid value."}});
 }
 
 TEST_F(FloorsCommandsTest, truncatedDocumentIsRefusedWhereverItIsCut)

@@ -68,6 +68,16 @@ TEST(JsonTreeTest, byteOrderMarkIsPassedOver)
     EXPECT_EQ(tree.number(tree.find("a")), 5.0);
 }
 
+TEST(JsonTreeTest, textThatCountsLacksWhatStandsOnceMore)
+{
+    const auto counting = [](const char *text) { return JsonTree(text).textThatCounts().toStdString(); };
+    EXPECT_EQ(counting(R"({"a": {"a": 1}, "b": [{"a": 2}]})"), R"({"a": {"a": 1}, "b": [{"a": 2}]})");
+    EXPECT_EQ(counting(R"({"a": {"b": 1}, "c": 2, "a": 3, "d": 4})"), R"({"c": 2, "a": 3, "d": 4})");
+    EXPECT_EQ(counting(R"({"a": 1, "a": 2, "a": 3})"), R"({"a": 3})");
+    EXPECT_EQ(counting(R"([{"a": {"b": 1, "b": 2}, "a": {"c": 3, "c": 4}}])"), R"([{"a": {"c": 4}}])");
+    EXPECT_EQ(counting("{\"\\u0061\": [1], \"a\": \"楼\"}"), "{\"a\": \"楼\"}");
+}
+
 TEST(JsonTreeTest, everyMemberThatStandsTwiceIsTold)
 {
     EXPECT_EQ(faultsOf("{\"a\": 1, \"b\": 2,\n \"a\": 3, \"b\": 4}"),
