@@ -92,12 +92,12 @@ struct Doubtful
     std::vector<std::vector<bench::Measurement>> measured;
 };
 
-/** A road beyond a bound is measured four times more when all others are done, and the medians of the five count: a machine
+/** A road beyond a bound is measured six times more when all others are done, and the medians of the seven count: a machine
  *  that had something else to do for a while, or gave a process slow memory, is not taken for a slow road, and a slow road
  *  stays one. */
 void measureAgain(std::vector<Doubtful> &doubtful, const Options &options)
 {
-    constexpr int kTimes = 4;
+    constexpr int kTimes = 6;
     for (int i = 0; i < kTimes; ++i)
         for (Doubtful &each : doubtful)
             each.measured.push_back(measuredOnce(each.road, options));

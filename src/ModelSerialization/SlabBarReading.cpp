@@ -1,8 +1,8 @@
 #include "ModelSerialization/SlabBarReading.h"
 
+#include "ModelSerialization/NewSlabElements.h"
 #include "ModelSerialization/SlabBarGeometry.h"
 #include "ModelSerialization/SlabNumbers.h"
-#include "slab/ORVCADBoardLocalModel_Sample.h"
 
 #include <utility>
 
@@ -47,14 +47,12 @@ template <typename Bar> void addDistribution(const Bar &bar, SlabBarRecord &reco
     record.saddleBarlineCount = bar.saddleBarlineCount;
 }
 
-/** Reads the bars of a class that are new. */
+/** Reads the bars of a class. */
 template <typename Bar, typename Read>
-SlabBarRecords newRecords(const std::vector<const Bar *> &bars, const SlabBarKind &kind, const Read &read)
+SlabBarRecords recordsOf(const std::vector<const Bar *> &bars, const SlabBarKind &kind, const Read &read)
 {
     SlabBarRecords records;
     for (const Bar *bar : bars) {
-        if (bar->elementId > 0)
-            continue;
         SlabBarRecord record = commonRecord(*bar, kind);
         read(*bar, record);
         records.push_back(std::move(record));
@@ -75,9 +73,9 @@ void addArea(const Model::AbstractForcedBar &bar, const StartOf &startOf, SlabBa
     record.curve = barThrough(*record.area, start, bar.direction);
 }
 
-template <typename Bar> SlabBarRecords newMainBars(const std::vector<const Bar *> &bars, const SlabBarKind &kind)
+template <typename Bar> SlabBarRecords mainBarsOf(const std::vector<const Bar *> &bars, const SlabBarKind &kind)
 {
-    return newRecords(bars, kind, [&kind](const Bar &bar, SlabBarRecord &record) {
+    return recordsOf(bars, kind, [&kind](const Bar &bar, SlabBarRecord &record) {
         record.position = bar.forcedType;
         const double part = calcIndex(bar.rowNumber) + kind.places.of(bar.forcedType);
         const auto start = [&](const vks::CPolygon &area) { return spanPoint(area, bar.direction, part); };
@@ -135,41 +133,44 @@ template <typename Bar> void addLine(const Bar &bar, SlabBarRecord &record)
 
 } // namespace
 
-SlabBarRecords newForcedBars(const Model &local) { return newMainBars(local.forcedBars(), forcedBarKind()); }
-
-SlabBarRecords newRaftMainForcedBars(const Model &local)
+SlabBarRecords forcedBarsOf(const NewSlabElements &elements)
 {
-    return newMainBars(local.raftMainForcedBars(), raftMainForcedBarKind());
+    return mainBarsOf(elements.forcedBars, forcedBarKind());
 }
 
-SlabBarRecords newStraddleForcedBars(const Model &local)
+SlabBarRecords raftMainForcedBarsOf(const NewSlabElements &elements)
+{
+    return mainBarsOf(elements.raftMainForcedBars, raftMainForcedBarKind());
+}
+
+SlabBarRecords straddleForcedBarsOf(const NewSlabElements &elements)
 {
     const auto read = [](const Model::StraddleForcedBar &bar, SlabBarRecord &record) {
         addDistribution(bar, record);
         addStraddle(bar, record);
     };
-    return newRecords(local.straddleForcedBars(), straddleForcedBarKind(), read);
+    return recordsOf(elements.straddleForcedBars, straddleForcedBarKind(), read);
 }
 
-SlabBarRecords newRaftMainStraddleForcedBars(const Model &local)
+SlabBarRecords raftMainStraddleForcedBarsOf(const NewSlabElements &elements)
 {
-    return newRecords(local.raftMainStraddleForcedBars(), raftMainStraddleForcedBarKind(),
-                      addStraddle<Model::RaftMainStraddleForcedBar>);
+    return recordsOf(elements.raftMainStraddleForcedBars, raftMainStraddleForcedBarKind(),
+                     addStraddle<Model::RaftMainStraddleForcedBar>);
 }
 
-SlabBarRecords newNegativeForcedBars(const Model &local)
+SlabBarRecords negativeForcedBarsOf(const NewSlabElements &elements)
 {
     const auto read = [](const Model::NegativeForcedBar &bar, SlabBarRecord &record) {
         addDistribution(bar, record);
         addLine(bar, record);
     };
-    return newRecords(local.negativeForcedBars(), negativeForcedBarKind(), read);
+    return recordsOf(elements.negativeForcedBars, negativeForcedBarKind(), read);
 }
 
-SlabBarRecords newRaftNegativeForcedBars(const Model &local)
+SlabBarRecords raftNegativeForcedBarsOf(const NewSlabElements &elements)
 {
-    return newRecords(local.raftNegativeForcedBars(), raftNegativeForcedBarKind(),
-                      addLine<Model::RaftNegativeForcedBar>);
+    return recordsOf(elements.raftNegativeForcedBars, raftNegativeForcedBarKind(),
+                     addLine<Model::RaftNegativeForcedBar>);
 }
 
 } // namespace slabhost

@@ -4,18 +4,18 @@
 
 #include <vector>
 
-class ORVCADBoardLocalModel_Sample;
-
-/** The bars of a local model that are not in the host yet, as the host gets them. */
+/** The new bars of a local model as the host gets them. */
 namespace slabhost {
+
+struct NewSlabElements;
 
 using SlabBarRecords = std::vector<SlabBarRecord>;
 
-SlabBarRecords newForcedBars(const ORVCADBoardLocalModel_Sample &local);
-SlabBarRecords newStraddleForcedBars(const ORVCADBoardLocalModel_Sample &local);
-SlabBarRecords newNegativeForcedBars(const ORVCADBoardLocalModel_Sample &local);
-SlabBarRecords newRaftMainForcedBars(const ORVCADBoardLocalModel_Sample &local);
-SlabBarRecords newRaftMainStraddleForcedBars(const ORVCADBoardLocalModel_Sample &local);
-SlabBarRecords newRaftNegativeForcedBars(const ORVCADBoardLocalModel_Sample &local);
+SlabBarRecords forcedBarsOf(const NewSlabElements &elements);
+SlabBarRecords straddleForcedBarsOf(const NewSlabElements &elements);
+SlabBarRecords negativeForcedBarsOf(const NewSlabElements &elements);
+SlabBarRecords raftMainForcedBarsOf(const NewSlabElements &elements);
+SlabBarRecords raftMainStraddleForcedBarsOf(const NewSlabElements &elements);
+SlabBarRecords raftNegativeForcedBarsOf(const NewSlabElements &elements);
 
 } // namespace slabhost

@@ -1,5 +1,6 @@
 #include "ModelSerialization/SlabHoleWriting.h"
 
+#include "ModelSerialization/NewSlabElements.h"
 #include "ModelSerialization/SectionInfoText.h"
 #include "ModelSerialization/SlabHostKeys.h"
 #include "ModelSerialization/SlabHostWriting.h"
@@ -17,7 +18,6 @@
 #include "platform/services/NormalAngle.h"
 #include "platform/services/ORVFindSlabHoleParentUtils.h"
 #include "platform/services/PolyIsCongruent.h"
-#include "slab/ORVCADBoardLocalModel_Sample.h"
 
 #include <cmath>
 #include <tuple>
@@ -94,12 +94,11 @@ HoleRecord recordOf(const Model::BoardHole &hole)
     return record;
 }
 
-std::vector<HoleRecord> newRecords(const Model &local)
+std::vector<HoleRecord> recordsOf(const std::vector<const Model::BoardHole *> &holes)
 {
     std::vector<HoleRecord> records;
-    for (const Model::BoardHole *hole : local.boardHoles())
-        if (hole->elementId < 1)
-            records.push_back(recordOf(*hole));
+    for (const Model::BoardHole *hole : holes)
+        records.push_back(recordOf(*hole));
     return records;
 }
 
@@ -249,13 +248,13 @@ void fillAlienHoleProp(const vks::CPolygon *polygon, IHBXElement *const &element
     properties->setInt(property::length, dwgx::round(box.Width()), kSizeFlag);
 }
 
-void writeBoardHoles(const SlabTarget &target, const Model &local)
+void writeBoardHoles(const SlabTarget &target, const NewSlabElements &elements)
 {
     const auto keyOf = [](const HoleRecord &record) {
         return std::tuple(record.name, record.barInfo, record.width, record.length, record.radius, record.kind);
     };
     writeGroups(
-        target, grouped(newRecords(local), keyOf),
+        target, grouped(recordsOf(elements.holes), keyOf),
         [](const std::vector<HoleRecord> &group) { return ruleOf(group.front()); },
         [&target](IHBXElement &element, const HoleRecord &record) { return writeHole(target, element, record); });
 }

@@ -6,11 +6,11 @@ namespace vks {
 class CPolygon;
 }
 class IHBXElement;
-class ORVCADBoardLocalModel_Sample;
 
 /** Holes on their way into the host. */
 namespace slabhost {
 
+struct NewSlabElements;
 struct SlabTarget;
 
 /** Writes the new holes: rectangles along the axes, circles, and any other outline. Those of one name, edge bar text, size
@@ -18,7 +18,7 @@ struct SlabTarget;
  *  for all. A hole that lies in no slab or raft is left out.
  *
  *  Meant: the bars at the edge of a hole, along its spans and across its corners are not written. */
-void writeBoardHoles(const SlabTarget &target, const ORVCADBoardLocalModel_Sample &local);
+void writeBoardHoles(const SlabTarget &target, const NewSlabElements &elements);
 
 /** Gives the element of a hole its outline: "SectionPoly", told from the lower left corner of its box, half the box as
  *  "InsertPt", "SectionInfo" as "100*a;100*b" with the whole steps of 50 mm in half the box plus one, and the box as

@@ -1,5 +1,6 @@
 #include "ModelSerialization/SlabPlateWriting.h"
 
+#include "ModelSerialization/NewSlabElements.h"
 #include "ModelSerialization/SlabHostKeys.h"
 #include "ModelSerialization/SlabHostWriting.h"
 #include "ModelSerialization/SlabNumbers.h"
@@ -11,7 +12,6 @@
 #include "platform/host/IHBXModel.h"
 #include "platform/host/IHBXProperties.h"
 #include "platform/services/HbxTolerance.h"
-#include "slab/ORVCADBoardLocalModel_Sample.h"
 
 #include <QVarLengthArray>
 
@@ -71,12 +71,11 @@ template <typename Plate> PlateRecord recordOf(const Plate &plate, const PlateKi
 }
 
 template <typename Plate>
-std::vector<PlateRecord> newRecords(const std::vector<const Plate *> &plates, const PlateKind &kind)
+std::vector<PlateRecord> recordsOf(const std::vector<const Plate *> &plates, const PlateKind &kind)
 {
     std::vector<PlateRecord> records;
     for (const Plate *plate : plates)
-        if (plate->elementId < 1)
-            records.push_back(recordOf(*plate, kind));
+        records.push_back(recordOf(*plate, kind));
     return records;
 }
 
@@ -138,14 +137,14 @@ QString elevationText(const char *baseWord, double metresAboveBase)
     return word + QLatin1Char(isAbove ? '+' : '-') + QString::number(std::fabs(metresAboveBase), 'g', 6);
 }
 
-void writeBoards(const SlabTarget &target, const Model &local)
+void writeBoards(const SlabTarget &target, const NewSlabElements &elements)
 {
-    writePlates(target, kBoard, newRecords(local.boards(), kBoard));
+    writePlates(target, kBoard, recordsOf(elements.boards, kBoard));
 }
 
-void writeRafts(const SlabTarget &target, const Model &local)
+void writeRafts(const SlabTarget &target, const NewSlabElements &elements)
 {
-    writePlates(target, kRaft, newRecords(local.rafts(), kRaft));
+    writePlates(target, kRaft, recordsOf(elements.rafts, kRaft));
 }
 
 } // namespace slabhost

@@ -2,90 +2,26 @@
 
 #include "slab/BoardLocalModelBars.h"
 #include "slab/BoardLocalModelElements.h"
+#include "slab/ElementWalk.h"
 
 #include <algorithm>
-#include <cstddef>
-#include <iterator>
 #include <type_traits>
-#include <typeinfo>
-#include <utility>
 
 namespace {
 
 using Model = ORVCADBoardLocalModel_Sample;
-using Tree = gp::TreeNode<cv::Object_AI *>;
+using Tree = slab::Tree;
 
-constexpr std::size_t kAhead = 12; // nodes between one that is asked for and the one that is looked at
-
-/** Whether a node of a tree was made as an Element: a dynamic cast, but asked once for each class met. */
-template <typename Element> class MadeAs
-{
-public:
-    bool operator()(const Tree::ChildNode *node)
-    {
-        const std::type_info *made = &typeid(*node);
-        if constexpr (std::is_final_v<Element>)
-            return made == &typeid(Element); // the library alone defines the class, so there is one address
-        else
-            return made == m_last.made ? m_last.isElement : (m_last = verdictOn(made, node)).isElement;
-    }
-
-private:
-    struct Verdict
-    {
-        const std::type_info *made = nullptr;
-        bool isElement = false;
-    };
-
-    Verdict verdictOn(const std::type_info *made, const Tree::ChildNode *node)
-    {
-        const auto known = std::find_if(m_known.begin(), m_known.end(),
-                                        [made](const Verdict &verdict) { return verdict.made == made; });
-        if (known != m_known.end())
-            return *known;
-        m_known.push_back({made, dynamic_cast<const Element *>(node) != nullptr});
-        return m_known.back();
-    }
-
-    std::vector<Verdict> m_known;
-    Verdict m_last;
-};
-
-/** Asks for the memory of a node that will soon be looked at: a large model lies out of the caches, and the nodes of a list
- *  come from anywhere. */
-void askFor([[maybe_unused]] const Tree::ChildNode *node)
-{
-#if defined(__GNUC__)
-    constexpr int lineSize = 64; // bytes
-    __builtin_prefetch(node);
-    __builtin_prefetch(reinterpret_cast<const char *>(node) + lineSize); // where its children are counted
-#endif
-}
-
-/** What findChildren_if gives for the whole subtree, at a fraction of its cost: elements hardly have children. */
 template <typename Element> std::vector<const Element *> allOf(const Tree &model)
 {
     std::vector<const Element *> found;
     if constexpr (std::is_same_v<Element, Model::Object>)
         found.reserve(model.childCount());
-    std::vector<const Tree *> waiting{&model};
-    MadeAs<Element> madeAs;
-    while (!waiting.empty()) {
-        const Tree *parent = waiting.back();
-        waiting.pop_back();
-        const auto firstBelow = static_cast<std::ptrdiff_t>(waiting.size());
-        const auto &nodes = parent->childNodes();
-        for (std::size_t i = 0; i < nodes.size(); ++i) {
-            const Tree::ChildNode *node = nodes[i];
-            askFor(nodes[std::min(i + kAhead, nodes.size() - 1)]);
-            if (madeAs(node))
-                found.push_back(static_cast<const Element *>(node));
-            const auto *child = static_cast<const Tree *>(node);
-            if (child->childCount() != 0)
-                waiting.push_back(child);
-        }
-        std::reverse(waiting.begin() + firstBelow, waiting.end());
-    }
+    slab::MadeAs<Element> madeAs;
+    slab::forEachBelow(model, [&](const Tree::ChildNode *node) {
+        if (madeAs(node))
+            found.push_back(static_cast<const Element *>(node));
+    });
     return found;
 }
 
