@@ -26,7 +26,7 @@ struct Road
     bool writes() const { return !makes.isEmpty(); }
     /** How many elements may suffer when one call fails: those that stand on what fails go with it. */
     std::size_t mostSuffering = 1;
-    std::size_t thinnedBy = 1; ///< a long journey is taken so much less often, but over the small building
+    std::size_t thinnedBy = 1; ///< a long journey is taken so much less often, but for each call in the small building
     QByteArray building;       ///< exchange text of what the host has at the start
     std::function<Journey(IHBXService &)> start; ///< what has to be there before the journey is got here
     QSet<QByteArray> caught = {};                ///< operations of which no exception may reach the caller
