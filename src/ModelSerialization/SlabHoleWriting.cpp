@@ -97,6 +97,7 @@ HoleRecord recordOf(const Model::BoardHole &hole)
 std::vector<HoleRecord> recordsOf(const std::vector<const Model::BoardHole *> &holes)
 {
     std::vector<HoleRecord> records;
+    records.reserve(holes.size());
     for (const Model::BoardHole *hole : holes)
         records.push_back(recordOf(*hole));
     return records;

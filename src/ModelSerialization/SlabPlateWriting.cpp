@@ -74,6 +74,7 @@ template <typename Plate>
 std::vector<PlateRecord> recordsOf(const std::vector<const Plate *> &plates, const PlateKind &kind)
 {
     std::vector<PlateRecord> records;
+    records.reserve(plates.size());
     for (const Plate *plate : plates)
         records.push_back(recordOf(*plate, kind));
     return records;

@@ -81,7 +81,7 @@ TEST(NewSlabElementsTest, supportsAxisNetsAndOtherObjectsArePassedOver)
 TEST(NewSlabElementsTest, elementsBelowOthersStandBehindThose)
 {
     Model local;
-    Model::Board *slab = add<Model::Board>(local, 1);
+    auto *slab = add<Model::Board>(local, 1);
     add<Model::Board>(*slab, 2);
     add<Model::Board>(local, 3);
     EXPECT_EQ(numbersOf(NewSlabElements(local).boards), "1 3 2 ");
