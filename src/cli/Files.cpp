@@ -40,6 +40,8 @@ QByteArray readFile(const QString &path)
 
 void requireStrictJson(const QByteArray &text, const QString &path, LargeNumbers large)
 {
+    if (text.trimmed().isEmpty())
+        throw CommandFailure(kBadInput, path, {}, Message::tr("the file is empty"));
     if (const auto fault = firstTextFault(text, large))
         throw CommandFailure(kBadInput, path, fault->place, fault->reason);
 }
@@ -55,13 +57,7 @@ QJsonDocument parseJson(const QByteArray &text, const QString &path, LargeNumber
     return document;
 }
 
-QJsonDocument readJsonFile(const QString &path, LargeNumbers large)
-{
-    const QByteArray bytes = readFile(path);
-    if (bytes.trimmed().isEmpty())
-        throw CommandFailure(kBadInput, path, {}, Message::tr("the file is empty"));
-    return parseJson(bytes, path, large);
-}
+QJsonDocument readJsonFile(const QString &path, LargeNumbers large) { return parseJson(readFile(path), path, large); }
 
 QJsonObject readJsonObject(const QString &path, const QString &what, LargeNumbers large)
 {

@@ -16,7 +16,7 @@ namespace orvcad {
 
 /** All bytes of a file; throws CommandFailure when it is missing or cannot be read. */
 QByteArray readFile(const QString &path);
-/** Throws CommandFailure with line, column and reason for a JSON text that the library would not read as it stands: see
+/** Throws CommandFailure for an empty text, and with line, column and reason for one that is not read as it stands: see
  *  StrictJsonText.h. The path is only told. */
 void requireStrictJson(const QByteArray &text, const QString &path, LargeNumbers large = LargeNumbers::Refused);
 /** The JSON document of a text; throws CommandFailure with line and column when it is none, or none by the letter. */

@@ -27,10 +27,10 @@ std::unique_ptr<HBXProject> required(std::unique_ptr<HBXProject> project, const 
 
 std::unique_ptr<HBXProject> projectOfBuilding(const QByteArray &building, const QString &file)
 {
-    ProjectError error;
-    auto project = required(HBXProject::fromJson(building, file, error), error);
     requireStrictJson(building, file);
-    return project;
+    ProjectError error;
+    auto project = HBXProject::fromJson(building, file, error);
+    return required(std::move(project), error);
 }
 
 std::unique_ptr<HBXProject> openProject(const QString &path)

@@ -47,7 +47,7 @@ TEST_F(LanguageTest, errorNamesFilePlaceAndReasonInTheLanguageOfTheUser)
 {
     write("empty.json", QByteArray());
     EXPECT_EQ(run({"project", "import", "empty.json", "-o", "house.hbxdb"}).err,
-              QByteArray(u8"orvcad: empty.json: 为空\n"));
+              QByteArray(u8"orvcad: empty.json: 文件为空\n"));
     EXPECT_EQ(run({"project", "info", "gone.hbxdb"}).err, QByteArray(u8"orvcad: gone.hbxdb: 不存在\n"));
     EXPECT_EQ(run({"project", "info", "gone.hbxdb"}).exitCode, 2);
 }

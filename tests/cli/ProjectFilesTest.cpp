@@ -28,7 +28,7 @@ TEST_F(ProjectFilesTest, buildingThatBreaksARuleIsToldWithFileAndPlace)
 TEST_F(ProjectFilesTest, buildingWithAMemberThatStandsTwiceIsRefused)
 {
     QByteArray building(exchangetest::kSmallBuilding);
-    building.replace("\"version\": 1,", "\"version\": 1, \"name\": \"Other\",");
+    building.replace("\"version\": 1,", "\"version\": 1, \"name\": {\"a\":1},");
     EXPECT_EQ(failureOf([&] { projectOfBuilding(building, "house.json"); }),
               "house.json: line 2, column 65: \"name\" stands twice in one object");
 }
