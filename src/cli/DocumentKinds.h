@@ -17,7 +17,7 @@ struct DocumentKind
 {
     /** What the reader of the format says of a document that is sound by its schema. */
     using Reading = std::vector<CheckFinding> (*)(const JsonTree &document, const QByteArray &text);
-    /** What it says of the members that are, whatever the others look like. */
+    /** What it says of the members that are, whatever the others look like. The text has each member once. */
     using MemberReading = std::vector<CheckFinding> (*)(const JsonTree &document, const QByteArray &text,
                                                         const FaultyValues &faults);
 

@@ -72,10 +72,10 @@ TEST(NewSlabElementsTest, supportsAxisNetsAndOtherObjectsArePassedOver)
     add<Model::AxisNet>(local, 4);
     new cv::Object_AI(&local);
     const NewSlabElements elements(local);
-    EXPECT_TRUE(elements.boards.empty());
-    EXPECT_TRUE(elements.rafts.empty());
-    EXPECT_TRUE(elements.holes.empty());
-    EXPECT_TRUE(elements.forcedBars.empty());
+    EXPECT_TRUE(elements.boards.empty() && elements.rafts.empty() && elements.holes.empty());
+    EXPECT_TRUE(elements.forcedBars.empty() && elements.straddleForcedBars.empty());
+    EXPECT_TRUE(elements.negativeForcedBars.empty() && elements.raftMainForcedBars.empty());
+    EXPECT_TRUE(elements.raftMainStraddleForcedBars.empty() && elements.raftNegativeForcedBars.empty());
 }
 
 TEST(NewSlabElementsTest, elementsBelowOthersStandBehindThose)

@@ -32,6 +32,15 @@ TEST_F(FilesTest, fileThatIsNoJsonIsToldWithLineAndColumn)
               first.toStdString() + ": line 1, column 2: not JSON: Missing a name for object member.");
 }
 
+TEST_F(FilesTest, documentNestedDeeperThanQtFollowsIsToldWithThePlaceWhereItStops)
+{
+    const auto nested = [](int depth) { return QByteArray(depth, '[') + QByteArray(depth, ']'); };
+    EXPECT_TRUE(readJsonFile(fileOf("a.json", nested(1024))).isArray());
+    const QString file = fileOf("b.json", nested(1025));
+    EXPECT_EQ(failureOf([&] { readJsonFile(file); }),
+              file.toStdString() + ": line 1, column 1026: not JSON: too deeply nested document");
+}
+
 TEST_F(FilesTest, documentThatWouldBeReadOtherwiseThanItStandsIsRefused)
 {
     const QString twice = fileOf("a.json", "{\"a\": {\"b\": 1},\n \"a\": 2}");

@@ -134,6 +134,7 @@ private:
             return kAreLongJourneysThinned ? m_road.thinnedBy : 1;
         return std::max<std::size_t>(1, m_calls * m_road.thinnedBy / most);
     }
+
     void open()
     {
         if (!m_project || m_road.writes())
